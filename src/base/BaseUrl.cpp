@@ -1,0 +1,56 @@
+#include "base/BaseUrl.h"
+
+#include <QHostAddress>
+
+namespace kiv {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isLoopback(const QString &host) {
+    return host == u"localhost"_s || QHostAddress(host).isLoopback();
+}
+
+[[noreturn]] void refuse(const QString &text, const char *why) {
+    throw BaseUrlError("Cannot use the address \"" + text.toStdString() + "\": " + why);
+}
+
+} // namespace
+
+QUrl parseBaseUrl(const QString &text) {
+    QUrl url(text.trimmed(), QUrl::StrictMode);
+    if (!url.isValid() || url.host().isEmpty())
+        refuse(text, "it is not a complete web address.");
+    if (url.scheme() != u"https"_s && url.scheme() != u"http"_s)
+        refuse(text, "it must begin with https:// (or http:// on this computer).");
+    if (url.scheme() == u"http"_s && !isLoopback(url.host()))
+        refuse(text, "plain http is only allowed on this computer; use https.");
+    if (!url.userInfo().isEmpty())
+        refuse(text, "it must not carry a name or a password.");
+    url.setQuery(QString());
+    url.setFragment(QString());
+    QString path = url.path();
+    while (path.endsWith(u'/'))
+        path.chop(1);
+    url.setPath(path);
+    return url;
+}
+
+QUrl appendPath(const QUrl &base, const QString &path) {
+    return QUrl(base.toString(QUrl::FullyEncoded | QUrl::StripTrailingSlash) + u'/' + path,
+                QUrl::StrictMode);
+}
+
+QString pathSegment(const QString &text) {
+    if (text == u"."_s || text == u".."_s)
+        return u"%2E"_s.repeated(text.size());
+    return QString::fromLatin1(QUrl::toPercentEncoding(text));
+}
+
+QString originOf(const QUrl &url) {
+    return url.toString(QUrl::FullyEncoded | QUrl::RemovePath | QUrl::RemoveQuery |
+                        QUrl::RemoveFragment | QUrl::RemoveUserInfo);
+}
+
+} // namespace kiv

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+#include <stdexcept>
+
+namespace kiv {
+
+/// A base URL that the program refuses to talk to; `what()` is a line for the person.
+class BaseUrlError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads a backend address: https anywhere, plain http on loopback only. The result has no
+/// trailing slash, query or fragment, so that paths are appended to it.
+/// Throws BaseUrlError.
+QUrl parseBaseUrl(const QString &text);
+
+/// `base` with the relative `path` appended as further path components.
+/// `path` is taken as written: a caller percent-encodes what it inserts (see pathSegment).
+QUrl appendPath(const QUrl &base, const QString &path);
+
+/// One path component, percent-encoded so that it can neither climb nor add a query.
+QString pathSegment(const QString &text);
+
+/// The origin of a URL as the Origin header writes it: scheme, host and an explicit port.
+QString originOf(const QUrl &url);
+
+} // namespace kiv

@@ -1,0 +1,122 @@
+#include "base/Json.h"
+
+#include <QJsonDocument>
+
+namespace kiv {
+
+namespace {
+
+QString fromUtf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// simdjson refuses numbers beyond its types (2^64, 1e400). Qt's parser takes those it can hold as
+/// doubles; writing the document out again gives text that simdjson reads.
+QByteArray withNumbersInRange(QByteArrayView utf8) {
+    return QJsonDocument::fromJson(utf8.toByteArray()).toJson(QJsonDocument::Compact);
+}
+
+} // namespace
+
+JsonDocument::JsonDocument(QByteArrayView utf8)
+    : m_parser(std::make_unique<simdjson::dom::parser>()) {
+    auto parse = [this](QByteArrayView text) {
+        return m_parser->parse(text.data(), static_cast<size_t>(text.size())).get(m_root);
+    };
+    auto error = parse(utf8);
+    if (error == simdjson::NUMBER_ERROR) {
+        const QByteArray readable = withNumbersInRange(utf8);
+        if (!readable.isEmpty())
+            error = parse(readable);
+    }
+    if (error != simdjson::SUCCESS)
+        throw DecodingError(std::string("The reply is not valid JSON: ") +
+                            simdjson::error_message(error));
+}
+
+std::optional<QString> JsonValue::string() const {
+    std::string_view text;
+    if (m_element.get_string().get(text) != simdjson::SUCCESS)
+        return std::nullopt;
+    return fromUtf8(text);
+}
+
+std::optional<bool> JsonValue::boolean() const {
+    bool value = false;
+    if (m_element.get_bool().get(value) != simdjson::SUCCESS)
+        return std::nullopt;
+    return value;
+}
+
+std::optional<qint64> JsonValue::integer() const {
+    if (!m_element.is_int64())
+        return std::nullopt;
+    return m_element.get_int64().value_unsafe();
+}
+
+std::optional<double> JsonValue::number() const {
+    double value = 0;
+    if (m_element.get_double().get(value) != simdjson::SUCCESS)
+        return std::nullopt;
+    return value;
+}
+
+std::optional<JsonObject> JsonValue::object() const {
+    simdjson::dom::object object;
+    if (m_element.get_object().get(object) != simdjson::SUCCESS)
+        return std::nullopt;
+    return JsonObject(object);
+}
+
+std::optional<JsonArray> JsonValue::array() const {
+    simdjson::dom::array array;
+    if (m_element.get_array().get(array) != simdjson::SUCCESS)
+        return std::nullopt;
+    return JsonArray(array);
+}
+
+JVal JsonValue::toJVal() const {
+    switch (m_element.type()) {
+    case simdjson::dom::element_type::STRING:
+        return JVal::str(*string());
+    case simdjson::dom::element_type::INT64:
+    case simdjson::dom::element_type::UINT64:
+    case simdjson::dom::element_type::DOUBLE:
+        return JVal::num(*number());
+    case simdjson::dom::element_type::BOOL:
+        return JVal::num(*boolean() ? 1 : 0);
+    case simdjson::dom::element_type::ARRAY: {
+        JVal::Array values;
+        simdjson::dom::array array;
+        if (m_element.get_array().get(array) == simdjson::SUCCESS) {
+            for (const auto element : array)
+                values.append(JsonValue(element).toJVal());
+        }
+        return JVal::arr(std::move(values));
+    }
+    case simdjson::dom::element_type::OBJECT: {
+        JVal::Object members;
+        simdjson::dom::object object;
+        if (m_element.get_object().get(object) == simdjson::SUCCESS) {
+            for (const auto member : object) {
+                const QString key = fromUtf8(member.key);
+                if (!members.contains(key))
+                    members.insert(key, JsonValue(member.value).toJVal());
+            }
+        }
+        return JVal::obj(std::move(members));
+    }
+    case simdjson::dom::element_type::NULL_VALUE:
+        break;
+    }
+    return JVal();
+}
+
+std::optional<JsonValue> JsonObject::find(std::string_view key) const {
+    simdjson::dom::element element;
+    if (m_object.at_key(key).get(element) != simdjson::SUCCESS)
+        return std::nullopt;
+    return JsonValue(element);
+}
+
+} // namespace kiv
