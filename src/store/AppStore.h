@@ -1,0 +1,74 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "net/APIClient.h"
+#include "net/ChatStreamClient.h"
+#include "store/CanvasRoom.h"
+#include "store/ChatRoom.h"
+#include "store/EventsRoom.h"
+#include "store/LayoutRoom.h"
+#include "store/ScopeRoom.h"
+#include "store/SessionRoom.h"
+
+#include <QObject>
+#include <QTimeZone>
+
+class QSettings;
+
+namespace kiv::store {
+
+/// All state of the window and every action of the person: one room per concern. Lives on the main
+/// thread. Views read fields and call operations; nothing else writes.
+class AppStore : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the application")
+    Q_PROPERTY(kiv::store::ScopeRoom *scope READ scope CONSTANT)
+    Q_PROPERTY(kiv::store::LayoutRoom *layout READ layout CONSTANT)
+    Q_PROPERTY(kiv::store::ChatRoom *chat READ chat CONSTANT)
+    Q_PROPERTY(kiv::store::CanvasRoom *canvas READ canvas CONSTANT)
+    Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
+    Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
+public:
+    enum class Mode { Normal, Snapshot };
+
+    /// The clock, the client and the settings outlive the store.
+    AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode mode = Mode::Normal,
+             QObject *parent = nullptr);
+    ~AppStore() override;
+
+    ScopeRoom *scope() { return &m_scope; }
+    LayoutRoom *layout() { return &m_layout; }
+    ChatRoom *chat() { return &m_chat; }
+    CanvasRoom *canvas() { return &m_canvas; }
+    SessionRoom *session() { return &m_session; }
+    EventsRoom *events() { return &m_events; }
+
+    Clock &clock() { return m_clock; }
+    net::APIClient &net() { return m_net; }
+    net::ChatStreamClient &chatStream() { return m_chatStream; }
+    QSettings &settings() { return m_settings; }
+    bool isSnapshot() const { return m_mode == Mode::Snapshot; }
+
+    /// Asks the backend who is signed in; called once when the window is there.
+    Q_INVOKABLE void boot() { m_session.boot(); }
+    /// Closes what lies over the chat before the scope changes.
+    void resetSurfaces();
+    /// The current local time as HH:MM.
+    QString stamp() const;
+
+private:
+    Clock &m_clock;
+    net::APIClient &m_net;
+    QSettings &m_settings;
+    Mode m_mode;
+    net::ChatStreamClient m_chatStream;
+    ScopeRoom m_scope;
+    LayoutRoom m_layout;
+    ChatRoom m_chat;
+    CanvasRoom m_canvas;
+    EventsRoom m_events;
+    SessionRoom m_session;
+};
+
+} // namespace kiv::store

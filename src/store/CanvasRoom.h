@@ -1,0 +1,161 @@
+#pragma once
+
+#include "base/Cancel.h"
+#include "base/Work.h"
+#include "canvas/ArtInfo.h"
+#include "canvas/CanvasEngine.h"
+#include "canvas/SceneOut.h"
+#include "canvas/SurfaceMatcher.h"
+#include "canvas/ViewSpec.h"
+#include "store/Enums.h"
+#include "store/HistoryModel.h"
+#include "store/Msg.h"
+
+#include <QObject>
+#include <QProperty>
+#include <QSet>
+
+namespace kiv::store {
+
+class AppStore;
+
+/// The canvas: when an answer is final enough to draw, what to draw, and how the canvas moves
+/// through its states.
+class CanvasRoom : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(kiv::store::Phase phase READ phase NOTIFY phaseChanged)
+    Q_PROPERTY(kiv::store::CanvasState state READ state NOTIFY stateChanged)
+    Q_PROPERTY(QString art READ art NOTIFY artChanged)
+    Q_PROPERTY(kiv::canvas::SceneOut artScene READ artScene NOTIFY artSceneChanged)
+    Q_PROPERTY(kiv::canvas::ArtInfo artInfo READ artInfo NOTIFY artInfoChanged)
+    Q_PROPERTY(QString canvasTitle READ canvasTitle NOTIFY artInfoChanged)
+    Q_PROPERTY(QString canvasHint READ canvasHint NOTIFY canvasHintChanged)
+    Q_PROPERTY(bool artSkeleton READ artSkeleton NOTIFY artSkeletonChanged)
+    Q_PROPERTY(
+        kiv::store::SkeletonShape skeletonShape READ skeletonShape NOTIFY skeletonShapeChanged)
+    Q_PROPERTY(QString query READ query NOTIFY queryChanged)
+    Q_PROPERTY(int vis READ vis NOTIFY visChanged)
+    Q_PROPERTY(bool animated READ animated NOTIFY animatedChanged)
+    Q_PROPERTY(int thinkingSeconds READ thinkingSeconds NOTIFY thinkingSecondsChanged)
+    Q_PROPERTY(QString sourceTime READ sourceTime NOTIFY sourceTimeChanged)
+    Q_PROPERTY(QString sourceMessageId READ sourceMessageId NOTIFY sourceMessageIdChanged)
+    Q_PROPERTY(kiv::store::HistoryModel *history READ history CONSTANT)
+public:
+    explicit CanvasRoom(AppStore &store);
+
+    Phase phase() const { return m_phase; }
+    /// What the view shows: a scene only in the phases building and done.
+    CanvasState state() const { return m_state; }
+    QString art() const { return m_art; }
+    canvas::SceneOut artScene() const { return m_artScene; }
+    canvas::ArtInfo artInfo() const { return m_artInfo; }
+    QString canvasTitle() const { return m_artInfo.value().title; }
+    QString canvasHint() const { return m_canvasHint; }
+    bool artSkeleton() const { return m_artSkeleton; }
+    SkeletonShape skeletonShape() const { return m_skeletonShape; }
+    /// The question that the canvas answers.
+    QString query() const { return m_lastQuery; }
+    /// Grows by one each time a scene becomes visible.
+    int vis() const { return m_vis; }
+    /// Whether the scene on screen came with its entrance.
+    bool animated() const { return m_animated; }
+    int thinkingSeconds() const { return m_thinkingSeconds; }
+    /// When the answer on the canvas was written, such as "22 Nov, 09:42".
+    QString sourceTime() const { return m_sourceTime; }
+    QString sourceMessageId() const { return m_sourceMessageId; }
+    HistoryModel *history() { return &m_history; }
+
+    bool awaitingAnswer() const { return m_awaitingAnswer; }
+    bool isKnown(qint64 id) const { return m_knownIds.contains(id); }
+
+    Q_INVOKABLE void openHistory(int row);
+    Q_INVOKABLE void refinePoint(const QString &label);
+    /// Draws what a message carries once more.
+    Q_INVOKABLE void showMessageCanvas(const QString &messageId);
+    Q_INVOKABLE void clearCanvas();
+
+    /// A question was sent: the old scene goes, the skeleton comes.
+    void beginTurn(const QString &question, QSet<qint64> knownIds);
+    /// The turn ended without a scene: the canvas goes back to what is idle.
+    void abandonTurn();
+    /// As abandonTurn, and the canvas says that no answer came.
+    void failTurn();
+    /// The connection is new: nothing of the old chat is waited for.
+    void resetTurn();
+    /// Ends the phase without touching what was drawn.
+    void setIdle();
+    void scheduleScenario(int gen, const Msg &message);
+    void applyRestoredCanvas(const canvas::RestoredCanvas &canvas);
+    /// Signed out: canvas and history go.
+    void forgetAll();
+
+Q_SIGNALS:
+    void phaseChanged();
+    void stateChanged();
+    void artChanged();
+    void artSceneChanged();
+    void artInfoChanged();
+    void canvasHintChanged();
+    void artSkeletonChanged();
+    void skeletonShapeChanged();
+    void queryChanged();
+    void visChanged();
+    void animatedChanged();
+    void failedChanged();
+    void thinkingSecondsChanged();
+    void sourceTimeChanged();
+    void sourceMessageIdChanged();
+
+private:
+    enum class Entrance { Animated, Still };
+    enum class Record { New, Amend, None };
+
+    QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);
+    QCoro::Task<void> finishBuilding(Cancel cancel);
+    QCoro::Task<void> countSeconds(Cancel cancel);
+    void runScenario(const Msg &message, Record record, bool openLinks);
+    void drawScenario(const canvas::ViewSpec &spec, Entrance entrance, Record record);
+    void showHint();
+    void clearDrawnArt();
+    void openSurface(const canvas::SurfaceLink &link);
+    void nameSource(const Msg &message);
+
+    AppStore &m_store;
+    HistoryModel m_history;
+    bool m_awaitingAnswer = false;
+    QSet<qint64> m_knownIds;
+    QSet<qint64> m_scenarioDone;
+    QSet<qint64> m_earlyDrawnFor;
+    std::optional<QString> m_drawnSpecKey;
+    std::optional<QString> m_lastIntent;
+
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
+                                         &CanvasRoom::phaseChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, CanvasState, m_state, CanvasState::Empty,
+                                         &CanvasRoom::stateChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_art, &CanvasRoom::artChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, canvas::SceneOut, m_artScene,
+                               &CanvasRoom::artSceneChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, canvas::ArtInfo, m_artInfo, &CanvasRoom::artInfoChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_canvasHint, &CanvasRoom::canvasHintChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_artSkeleton, &CanvasRoom::artSkeletonChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, SkeletonShape, m_skeletonShape,
+                                         SkeletonShape::Cards, &CanvasRoom::skeletonShapeChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_lastQuery, &CanvasRoom::queryChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_vis, &CanvasRoom::visChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_animated, &CanvasRoom::animatedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed, &CanvasRoom::failedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
+                               &CanvasRoom::thinkingSecondsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceTime, &CanvasRoom::sourceTimeChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceMessageId,
+                               &CanvasRoom::sourceMessageIdChanged)
+
+    Work m_scenarioTask;
+    Work m_buildTask;
+    Work m_seconds;
+};
+
+} // namespace kiv::store

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "base/Cancel.h"
+#include "base/Work.h"
+#include "net/ChatTarget.h"
+#include "store/MessageModel.h"
+
+#include <QObject>
+#include <QProperty>
+
+namespace kiv::store {
+
+class AppStore;
+
+/// The conversation with the current scope: opening it, sending, receiving, stopping.
+class ChatRoom : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(kiv::store::MessageModel *msgs READ msgs CONSTANT)
+    Q_PROPERTY(kiv::store::FeedModel *feedMsgs READ feedMsgs CONSTANT)
+    Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged)
+    Q_PROPERTY(int unseenMsgs READ unseenMsgs NOTIFY unseenMsgsChanged)
+    Q_PROPERTY(bool liveWaiting READ liveWaiting NOTIFY liveWaitingChanged)
+    Q_PROPERTY(bool canStop READ canStop NOTIFY canStopChanged)
+    Q_PROPERTY(bool historyLoading READ historyLoading NOTIFY historyLoadingChanged)
+    Q_PROPERTY(QString chatNote READ chatNote NOTIFY chatNoteChanged)
+    Q_PROPERTY(QString lastPrompt READ lastPrompt NOTIFY lastPromptChanged)
+public:
+    explicit ChatRoom(AppStore &store);
+
+    MessageModel *msgs() { return &m_msgs; }
+    FeedModel *feedMsgs() { return &m_feed; }
+    QString draft() const { return m_draft; }
+    void setDraft(const QString &draft) { m_draft = draft; }
+    int seenMsgs() const { return m_seenMsgs; }
+    int unseenMsgs() const { return m_unseenMsgs; }
+    bool liveWaiting() const { return m_liveWaiting; }
+    /// A running answer of an agent can be stopped; a project room's cannot.
+    bool canStop() const { return m_canStop; }
+    bool historyLoading() const { return m_historyLoading; }
+    QString chatNote() const { return m_chatNote; }
+    QString lastPrompt() const { return m_lastPrompt; }
+    int chatGen() const { return m_chatGen; }
+
+    Q_INVOKABLE void send(const QString &text);
+    Q_INVOKABLE void stopLive();
+    Q_INVOKABLE void newChat();
+    /// Sends a message that had failed once more, in its place.
+    Q_INVOKABLE void retry(const QString &messageId);
+
+    void connectChat();
+    void onLiveInsert(int gen, const net::ChatRow &row);
+    /// Drops the connection for good: later rows and loads of it are ignored.
+    void disconnectChat();
+    void markSeen();
+    /// The answer is no longer waited for; the canvas says so when it settled or gave up.
+    void answerSettled();
+    /// Gives the text of a send that met an expired session back, once the same person is in again.
+    void returnTypedText();
+
+Q_SIGNALS:
+    void draftChanged();
+    void seenMsgsChanged();
+    void unseenMsgsChanged();
+    void liveWaitingChanged();
+    void canStopChanged();
+    void historyLoadingChanged();
+    void chatNoteChanged();
+    void lastPromptChanged();
+
+private:
+    struct Post {
+        net::ChatTarget target;
+        QUuid message;
+        QString requestID;
+        QString text;
+    };
+    struct Returned {
+        QString email;
+        QString text;
+    };
+
+    void sendLive(const QString &text);
+    void startTurn(const QString &text);
+    QCoro::Task<void> post(Post post, Cancel cancel);
+    void confirmPost(const Post &post, const net::ChatSendResult &result);
+    void failPost(const Post &post, const std::exception &error);
+    QCoro::Task<void> watchAnswer(Cancel cancel);
+    QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, bool reconnected, Cancel cancel);
+    void showHistory(const QList<net::ChatRow> &rows, bool reconnected);
+    void endWaiting();
+    void keepUnsent();
+    Msg liveGreeting() const;
+    Msg *unsentOf(const net::ChatTarget &target, const QUuid &message);
+
+    AppStore &m_store;
+    MessageModel m_msgs;
+    FeedModel m_feed;
+    int m_chatGen = 0;
+    std::optional<net::ChatTarget> m_connected;
+    /// Messages of other scopes that the server has not stored, by the path of their chat.
+    QHash<QString, QList<Msg>> m_unsent;
+    /// Rows that the stream brought since the connection began: newer than a history page under
+    /// way.
+    QHash<qint64, Msg> m_live;
+    std::optional<Returned> m_returned;
+
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_draft, &ChatRoom::draftChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_seenMsgs, &ChatRoom::seenMsgsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_unseenMsgs, &ChatRoom::unseenMsgsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_liveWaiting, &ChatRoom::liveWaitingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_canStop, &ChatRoom::canStopChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_historyLoading, &ChatRoom::historyLoadingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_chatNote, &ChatRoom::chatNoteChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_lastPrompt, &ChatRoom::lastPromptChanged)
+
+    Work m_connection;
+    Work m_posts;
+    Work m_watchdog;
+};
+
+} // namespace kiv::store

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QObject>
+#include <QtQmlIntegration/qqmlintegration.h>
+
+/// The closed sets of the store, under one name for the views: Store.SignedIn, Store.Thinking, …
+namespace kiv::store {
+
+Q_NAMESPACE
+QML_NAMED_ELEMENT(Store)
+
+/// Whether somebody is signed in; unknown until the session check at start has answered.
+enum class AuthPhase { Unknown, Anon, SignedIn };
+Q_ENUM_NS(AuthPhase)
+
+/// Which form the sign-in sheet shows; Closed while there is no sheet.
+enum class AuthSheetMode { Closed, Login, Signup };
+Q_ENUM_NS(AuthSheetMode)
+
+/// The canvas state of a chat turn.
+enum class Phase { Idle, Thinking, Building, Done };
+Q_ENUM_NS(Phase)
+
+/// What the canvas shows.
+enum class CanvasState { Empty, SignedOut, ThinkingSkeleton, BuildingScene, Scene, Hint, Failed };
+Q_ENUM_NS(CanvasState)
+
+/// The shape of the skeleton: what the question's intent makes likely.
+enum class SkeletonShape { Cards, Rows, Board, Plot };
+Q_ENUM_NS(SkeletonShape)
+
+/// Who a conversation is with.
+enum class ScopeKind { Kiv, Project, Agent };
+Q_ENUM_NS(ScopeKind)
+
+/// Which side wrote a message.
+enum class Who { You, Agent };
+Q_ENUM_NS(Who)
+
+/// How far a message of ours has come.
+enum class Delivery { Stored, Pending, Failed };
+Q_ENUM_NS(Delivery)
+
+/// What a row of the rail stands for.
+enum class RailRow { Kiv, SectionLabel, Project, Agent };
+Q_ENUM_NS(RailRow)
+
+} // namespace kiv::store

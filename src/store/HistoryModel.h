@@ -1,0 +1,54 @@
+#pragma once
+
+#include "canvas/ViewSpec.h"
+
+#include <QAbstractListModel>
+#include <QUuid>
+#include <QtQmlIntegration/qqmlintegration.h>
+
+#include <optional>
+
+namespace kiv::store {
+
+/// A drawn canvas, kept for reopening.
+struct HistoryEntry {
+    QUuid id = QUuid::createUuid();
+    QString art;
+    QString query; ///< the question that produced it
+    QString time;  ///< local time of drawing, hours:minutes
+    std::optional<canvas::ViewSpec> spec;
+    std::optional<QString> intent;
+    QString title;
+};
+
+/// The canvases drawn in this run, newest first.
+class HistoryModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+public:
+    static constexpr int limit = 20;
+    enum Role { ArtRole = Qt::UserRole + 1, TitleRole, QueryRole, TimeRole };
+
+    explicit HistoryModel(QObject *parent = nullptr) : QAbstractListModel(parent) {}
+
+    int count() const { return static_cast<int>(m_entries.size()); }
+    const HistoryEntry &at(int row) const { return m_entries.at(row); }
+    void record(HistoryEntry entry);
+    /// Puts a later state of the newest canvas in its place.
+    void amendNewest(HistoryEntry entry);
+    void clear();
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void countChanged();
+
+private:
+    QList<HistoryEntry> m_entries;
+};
+
+} // namespace kiv::store

@@ -1,0 +1,126 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "store/Enums.h"
+
+#include <QObject>
+#include <QProperty>
+
+class QSettings;
+
+namespace kiv::store {
+
+class AppStore;
+
+/// Panels and popovers: what the person set, what is saved of it, and what fits the window.
+/// Widths are device-independent pixels.
+class LayoutRoom : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(double railW READ railW NOTIFY railWChanged)
+    Q_PROPERTY(double dockW READ dockW NOTIFY dockWChanged)
+    Q_PROPERTY(bool railCollapsed READ railCollapsed NOTIFY railCollapsedChanged)
+    Q_PROPERTY(bool dockOpen READ dockOpen NOTIFY dockOpenChanged)
+    Q_PROPERTY(bool scopeOpen READ scopeOpen NOTIFY scopeOpenChanged)
+    Q_PROPERTY(bool topScopeOpen READ topScopeOpen NOTIFY topScopeOpenChanged)
+    Q_PROPERTY(bool histOpen READ histOpen NOTIFY histOpenChanged)
+    Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY profileOpenChanged)
+    Q_PROPERTY(QString account READ account NOTIFY accountChanged)
+    Q_PROPERTY(QString creating READ creating NOTIFY creatingChanged)
+    Q_PROPERTY(double shownRailW READ shownRailW NOTIFY shownRailWChanged)
+    Q_PROPERTY(double shownDockW READ shownDockW NOTIFY shownDockWChanged)
+    Q_PROPERTY(bool railShown READ railShown NOTIFY railShownChanged)
+public:
+    static constexpr double stripW = 56;
+    static constexpr double canvasMinW = 360;
+    static constexpr double railMinW = 280, railMaxW = 640, railFirstW = 360;
+    static constexpr double dockMinW = 480, dockMaxW = 1100, dockFirstW = 760;
+
+    LayoutRoom(AppStore &store, QSettings &settings, Clock &clock);
+
+    double railW() const { return m_railW; }
+    double dockW() const { return m_dockW; }
+    bool railCollapsed() const { return m_railCollapsed; }
+    bool dockOpen() const { return m_dockOpen; }
+    bool scopeOpen() const { return m_scopeOpen; }
+    bool topScopeOpen() const { return m_topScopeOpen; }
+    bool histOpen() const { return m_histOpen; }
+    bool profileOpen() const { return m_profileOpen; }
+    QString account() const { return m_account; }
+    QString creating() const { return m_creating; }
+    bool isAccount() const { return !m_account.value().isEmpty(); }
+    bool isCreating() const { return !m_creating.value().isEmpty(); }
+    bool isFeed() const { return !isAccount() && !isCreating(); }
+
+    /// What fits the window now; narrowness never changes what the person set.
+    double shownRailW() const { return m_shownRailW; }
+    double shownDockW() const { return m_shownDockW; }
+    bool railShown() const { return m_railShown; }
+
+    Q_INVOKABLE void setWindowWidth(double width);
+    Q_INVOKABLE void dragRail(double width);
+    Q_INVOKABLE void dragDock(double width);
+    Q_INVOKABLE void resetRail() { dragRail(railFirstW); }
+    Q_INVOKABLE void toggleRail();
+    Q_INVOKABLE void toggleDock();
+    Q_INVOKABLE void dockToRail();
+    Q_INVOKABLE void toggleScope();
+    Q_INVOKABLE void toggleTopScope();
+    Q_INVOKABLE void toggleHist();
+    Q_INVOKABLE void toggleProfile();
+    Q_INVOKABLE void closePopovers();
+
+    /// Closes account, wizard and scope popovers before the scope changes.
+    void closeSurfaces();
+    void closePages();
+    void closeProfile();
+    void closeHistory();
+    void closeDock();
+
+    void restoreChrome();
+    void startPersisting();
+
+Q_SIGNALS:
+    void railWChanged();
+    void dockWChanged();
+    void railCollapsedChanged();
+    void dockOpenChanged();
+    void scopeOpenChanged();
+    void topScopeOpenChanged();
+    void histOpenChanged();
+    void profileOpenChanged();
+    void accountChanged();
+    void creatingChanged();
+    void windowWidthChanged();
+    void shownRailWChanged();
+    void shownDockWChanged();
+    void railShownChanged();
+
+private:
+    AppStore &m_store;
+    QSettings &m_settings;
+    Clock &m_clock;
+    Clock::Timer m_saveRailW;
+    Clock::Timer m_saveDockW;
+
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_railW, railFirstW,
+                                         &LayoutRoom::railWChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_dockW, dockFirstW,
+                                         &LayoutRoom::dockWChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railCollapsed, &LayoutRoom::railCollapsedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_dockOpen, &LayoutRoom::dockOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_scopeOpen, &LayoutRoom::scopeOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_topScopeOpen, &LayoutRoom::topScopeOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_histOpen, &LayoutRoom::histOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_profileOpen, &LayoutRoom::profileOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_account, &LayoutRoom::accountChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_creating, &LayoutRoom::creatingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_windowWidth, 1440,
+                                         &LayoutRoom::windowWidthChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownRailW, &LayoutRoom::shownRailWChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownDockW, &LayoutRoom::shownDockWChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railShown, &LayoutRoom::railShownChanged)
+};
+
+} // namespace kiv::store

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "base/JVal.h"
+#include "net/ChatRecords.h"
+#include "store/Enums.h"
+
+#include <QDateTime>
+#include <QUuid>
+
+#include <optional>
+
+namespace kiv::store {
+
+/// A file under a message.
+struct MsgFile {
+    QUuid id = QUuid::createUuid();
+    QString name;
+    QString url;
+    friend bool operator==(const MsgFile &, const MsgFile &) = default;
+};
+
+/// One line of the conversation.
+struct Msg {
+    QUuid id = QUuid::createUuid();
+    Who who = Who::Agent;
+    QString text;  ///< the row's own text
+    QString shown; ///< what the bubble shows of it: without the block that the canvas draws
+    QString title; ///< heading of what the canvas can draw of it
+    QString art;   ///< the scene the canvas can draw of it; empty when there is none
+    std::optional<qint64> serverID;
+    /// The request id of a message sent from here that the server has not confirmed.
+    QString pendingID;
+    bool failed = false;
+    QList<MsgFile> files;
+    std::optional<JVal> view;
+    QString memberLabel;
+    bool fromCall = false;
+    std::optional<QDateTime> at; ///< server time of the row
+
+    bool isUnsent() const { return !pendingID.isEmpty() && !serverID; }
+};
+
+/// A line of our own making: a greeting, a note, what the person typed.
+Msg localMsg(Who who, const QString &text);
+
+/// A server row as a message; nothing for a role that is neither side of the conversation.
+std::optional<Msg> rowToMsg(const net::ChatRow &row);
+
+/// Reads an ISO 8601 time with or without fractional seconds; one without a zone is UTC.
+std::optional<QDateTime> parseDate(const QString &text);
+
+} // namespace kiv::store

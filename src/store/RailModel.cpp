@@ -1,0 +1,127 @@
+#include "store/RailModel.h"
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+RailModel::RailModel(QObject *parent) : QAbstractListModel(parent) {
+    setEntries({}, {});
+}
+
+void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents) {
+    beginResetModel();
+    m_rows = {{RailRow::Kiv, {}, {}, tr("KIV"), tr("Sees all projects and agents"), {}}};
+    if (!projects.isEmpty())
+        m_rows.append({RailRow::SectionLabel, {}, {}, tr("Projects"), {}, {}});
+    for (const Project &project : projects) {
+        m_rows.append({RailRow::Project, project.id, project.id, project.name, project.meta,
+                       project.colorHex});
+        for (const Agent &agent : project.agents)
+            m_rows.append(
+                {RailRow::Agent, agent.id, project.id, agent.name, agent.role, agent.colorHex});
+    }
+    if (!standaloneAgents.isEmpty())
+        m_rows.append({RailRow::SectionLabel, {}, {}, tr("Agents"), {}, {}});
+    for (const Agent &agent : standaloneAgents)
+        m_rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
+    endResetModel();
+}
+
+void RailModel::select(const QString &project, const QString &agent) {
+    m_project = project;
+    m_agent = agent;
+    if (!project.isEmpty())
+        m_expanded.insert(project);
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {SelectedRole, ExpandedRole});
+}
+
+void RailModel::toggleExpanded(const QString &project) {
+    if (!m_expanded.remove(project))
+        m_expanded.insert(project);
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {ExpandedRole});
+}
+
+bool RailModel::isSelected(const Row &row) const {
+    switch (row.kind) {
+    case RailRow::Kiv:
+        return m_project.isEmpty() && m_agent.isEmpty();
+    case RailRow::Project:
+        return m_agent.isEmpty() && row.id == m_project;
+    case RailRow::Agent:
+        return row.id == m_agent && row.project == m_project;
+    case RailRow::SectionLabel:
+        break;
+    }
+    return false;
+}
+
+int RailModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant RailModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row &row = m_rows.at(index.row());
+    switch (role) {
+    case KindRole:
+        return QVariant::fromValue(row.kind);
+    case EntryIdRole:
+        return row.id;
+    case ProjectIdRole:
+        return row.project;
+    case Qt::DisplayRole:
+    case NameRole:
+        return row.name;
+    case DetailRole:
+        return row.detail;
+    case ColorHexRole:
+        return row.colorHex;
+    case SelectedRole:
+        return isSelected(row);
+    case ExpandedRole:
+        return !row.project.isEmpty() && m_expanded.contains(row.project);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> RailModel::roleNames() const {
+    return {{KindRole, "kind"},         {EntryIdRole, "entryId"},  {ProjectIdRole, "projectId"},
+            {NameRole, "name"},         {DetailRole, "detail"},    {ColorHexRole, "colorHex"},
+            {SelectedRole, "selected"}, {ExpandedRole, "expanded"}};
+}
+
+RailView::RailView(RailModel *rail, QObject *parent) : QSortFilterProxyModel(parent), m_rail(rail) {
+    setSourceModel(rail);
+}
+
+bool RailView::filterAcceptsRow(int row, const QModelIndex &) const {
+    const QModelIndex index = m_rail->index(row);
+    const bool belowProject = index.data(RailModel::KindRole).value<RailRow>() == RailRow::Agent &&
+                              !index.data(RailModel::ProjectIdRole).toString().isEmpty();
+    return !belowProject || index.data(RailModel::ExpandedRole).toBool();
+}
+
+ScopeChoices::ScopeChoices(RailModel *rail, QObject *parent) : QSortFilterProxyModel(parent) {
+    setSourceModel(rail);
+}
+
+void ScopeChoices::setQuery(const QString &query) {
+    if (query == m_query)
+        return;
+    m_query = query;
+    invalidateFilter();
+    Q_EMIT queryChanged();
+}
+
+bool ScopeChoices::filterAcceptsRow(int row, const QModelIndex &) const {
+    const QModelIndex index = sourceModel()->index(row, 0);
+    if (index.data(RailModel::KindRole).value<RailRow>() == RailRow::SectionLabel)
+        return m_query.trimmed().isEmpty();
+    const QString words = index.data(RailModel::NameRole).toString() + u' ' +
+                          index.data(RailModel::DetailRole).toString();
+    return words.contains(m_query.trimmed(), Qt::CaseInsensitive);
+}
+
+} // namespace kiv::store

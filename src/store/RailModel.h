@@ -1,0 +1,94 @@
+#pragma once
+
+#include "store/Enums.h"
+#include "store/Scope.h"
+
+#include <QAbstractListModel>
+#include <QSet>
+#include <QSortFilterProxyModel>
+
+namespace kiv::store {
+
+/// Everything a person can talk to, one row each: KIV, then the projects with their agents below
+/// them, then the agents of no project, with a label row before each section.
+class RailModel : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+public:
+    enum Role {
+        KindRole = Qt::UserRole + 1, ///< RailRow, as `kind`
+        EntryIdRole,                 ///< project slug or agent id, as `entryId`
+        ProjectIdRole,               ///< the project an agent belongs to, or empty
+        NameRole,
+        DetailRole, ///< a project's subtitle, an agent's role
+        ColorHexRole,
+        SelectedRole,
+        ExpandedRole, ///< a project whose agents are listed
+    };
+
+    explicit RailModel(QObject *parent = nullptr);
+
+    void setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents);
+    /// Marks the current scope; the selected project and the project of the selected agent open.
+    void select(const QString &project, const QString &agent);
+    void toggleExpanded(const QString &project);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+private:
+    struct Row {
+        RailRow kind = RailRow::Kiv;
+        QString id;
+        QString project;
+        QString name;
+        QString detail;
+        QString colorHex;
+    };
+    bool isSelected(const Row &row) const;
+
+    QList<Row> m_rows;
+    QSet<QString> m_expanded;
+    QString m_project;
+    QString m_agent;
+};
+
+/// The rows of the rail that show: agents only below an expanded project.
+class RailView : public QSortFilterProxyModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+public:
+    explicit RailView(RailModel *rail, QObject *parent = nullptr);
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
+
+private:
+    RailModel *m_rail;
+};
+
+/// The rows of the scope popover: every entry whose name holds the typed words.
+class ScopeChoices : public QSortFilterProxyModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(QString query READ query WRITE setQuery NOTIFY queryChanged)
+public:
+    explicit ScopeChoices(RailModel *rail, QObject *parent = nullptr);
+    QString query() const { return m_query; }
+    void setQuery(const QString &query);
+
+Q_SIGNALS:
+    void queryChanged();
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
+
+private:
+    QString m_query;
+};
+
+} // namespace kiv::store

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "base/Cancel.h"
+#include "net/ChatTarget.h"
+#include "store/Enums.h"
+#include "store/RailModel.h"
+#include "store/Scope.h"
+
+#include <QCoroTask>
+#include <QObject>
+#include <QProperty>
+
+#include <optional>
+
+namespace kiv::net {
+struct MeUser;
+}
+
+namespace kiv::store {
+
+class AppStore;
+
+/// Who is signed in, what there is to talk to, and which of it is selected.
+/// Empty ids mean "none".
+class ScopeRoom : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(kiv::store::AuthPhase auth READ auth NOTIFY authChanged)
+    Q_PROPERTY(QString project READ project NOTIFY projectChanged)
+    Q_PROPERTY(QString agent READ agent NOTIFY agentChanged)
+    Q_PROPERTY(QString userName READ userName NOTIFY userNameChanged)
+    Q_PROPERTY(QString userEmail READ userEmail NOTIFY userEmailChanged)
+    Q_PROPERTY(QString userAvatarURL READ userAvatarURL NOTIFY userAvatarURLChanged)
+    Q_PROPERTY(QString userInitials READ userInitials NOTIFY userInitialsChanged)
+    Q_PROPERTY(bool avatarUploading READ avatarUploading NOTIFY avatarUploadingChanged)
+    Q_PROPERTY(QString scopeName READ scopeName NOTIFY scopeNameChanged)
+    Q_PROPERTY(QString scopeDetail READ scopeDetail NOTIFY scopeDetailChanged)
+    Q_PROPERTY(kiv::store::ScopeKind scopeKind READ scopeKind NOTIFY scopeKindChanged)
+    Q_PROPERTY(QString scopeColorHex READ scopeColorHex NOTIFY scopeColorHexChanged)
+    Q_PROPERTY(kiv::store::RailView *rail READ rail CONSTANT)
+    Q_PROPERTY(kiv::store::ScopeChoices *choices READ choices CONSTANT)
+public:
+    explicit ScopeRoom(AppStore &store);
+
+    AuthPhase auth() const { return m_auth; }
+    QList<Project> projects() const { return m_projects; }
+    QList<Agent> standaloneAgents() const { return m_standaloneAgents; }
+    QString project() const { return m_project; }
+    QString agent() const { return m_agent; }
+    QString kivID() const { return m_kivID; }
+    QString userName() const { return m_userName; }
+    QString userEmail() const { return m_userEmail; }
+    QString userAvatarURL() const { return m_userAvatarURL; }
+    QString userInitials() const { return m_userInitials; }
+    bool avatarUploading() const { return m_avatarUploading; }
+    RailView *rail() { return &m_railView; }
+    ScopeChoices *choices() { return &m_choices; }
+
+    std::optional<Project> currentProject() const;
+    std::optional<Agent> currentAgent() const;
+    QString scopeName() const { return m_scopeName; }
+    /// The line beside the scope's name: a count, a project's subtitle or an agent's role.
+    QString scopeDetail() const { return m_scopeDetail; }
+    ScopeKind scopeKind() const { return m_scopeKind; }
+    /// Empty for KIV.
+    QString scopeColorHex() const { return m_scopeColorHex; }
+    /// Where text is sent and which chat is streamed; nothing while signed out.
+    std::optional<net::ChatTarget> chatTarget() const;
+
+    Q_INVOKABLE void pickGlobal();
+    /// Acts in a snapshot run only; see enterProject.
+    Q_INVOKABLE void pickProject(const QString &id);
+    /// The rail's own selection of a project room.
+    Q_INVOKABLE void enterProject(const QString &id);
+    Q_INVOKABLE void pickAgent(const QString &projectID, const QString &agentID);
+    Q_INVOKABLE void pickStandaloneAgent(const QString &id);
+    Q_INVOKABLE void toggleExpanded(const QString &projectID);
+
+    /// Takes the user over and empties the rail of the one before.
+    void adopt(const net::MeUser &user);
+    QCoro::Task<void> reloadRail(Cancel cancel);
+    QCoro::Task<void> resolveKiv(Cancel cancel);
+    QCoro::Task<void> refreshUserAvatarIfNeeded(Cancel cancel);
+    void restoreScope();
+    void clear();
+    /// Nobody is signed in (any more).
+    void setSignedOut();
+
+Q_SIGNALS:
+    void authChanged();
+    void projectsChanged();
+    void standaloneAgentsChanged();
+    void projectChanged();
+    void agentChanged();
+    void kivIDChanged();
+    void userNameChanged();
+    void userEmailChanged();
+    void userAvatarURLChanged();
+    void userInitialsChanged();
+    void avatarUploadingChanged();
+    void scopeNameChanged();
+    void scopeDetailChanged();
+    void scopeKindChanged();
+    void scopeColorHexChanged();
+
+private:
+    void select(const QString &project, const QString &agent);
+    QString describeScope() const;
+
+    AppStore &m_store;
+    RailModel m_rail;
+    RailView m_railView;
+    ScopeChoices m_choices;
+
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ScopeRoom, AuthPhase, m_auth, AuthPhase::Unknown,
+                                         &ScopeRoom::authChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Project>, m_projects, &ScopeRoom::projectsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Agent>, m_standaloneAgents,
+                               &ScopeRoom::standaloneAgentsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_project, &ScopeRoom::projectChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_agent, &ScopeRoom::agentChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_kivID, &ScopeRoom::kivIDChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_userName, &ScopeRoom::userNameChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_userEmail, &ScopeRoom::userEmailChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_userAvatarURL,
+                               &ScopeRoom::userAvatarURLChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_userInitials, &ScopeRoom::userInitialsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, bool, m_avatarUploading,
+                               &ScopeRoom::avatarUploadingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_scopeName, &ScopeRoom::scopeNameChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_scopeDetail, &ScopeRoom::scopeDetailChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ScopeRoom, ScopeKind, m_scopeKind, ScopeKind::Kiv,
+                                         &ScopeRoom::scopeKindChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_scopeColorHex,
+                               &ScopeRoom::scopeColorHexChanged)
+};
+
+} // namespace kiv::store

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "base/Cancel.h"
+#include "base/Work.h"
+#include "store/Enums.h"
+
+#include <QObject>
+#include <QProperty>
+
+namespace kiv::net {
+struct MeUser;
+}
+
+namespace kiv::store {
+
+class AppStore;
+
+/// An account that a workspace offers for a look around.
+struct SampleAccount {
+    QString email;
+    QString password;
+};
+
+/// Signing in, signing up and signing out.
+class SessionRoom : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(kiv::store::AuthSheetMode authSheet READ authSheet NOTIFY authSheetChanged)
+    Q_PROPERTY(QString authError READ authError NOTIFY authErrorChanged)
+    Q_PROPERTY(bool busy READ busy NOTIFY busyChanged)
+    Q_PROPERTY(bool sampleOffered READ sampleOffered NOTIFY sampleOfferedChanged)
+public:
+    explicit SessionRoom(AppStore &store);
+
+    AuthSheetMode authSheet() const { return m_authSheet; }
+    QString authError() const { return m_authError; }
+    /// A sign-in is under way.
+    bool busy() const { return m_busy; }
+    bool sampleOffered() const { return m_sampleOffered; }
+
+    Q_INVOKABLE void submitAuth(const QString &email, const QString &password, bool signup);
+    Q_INVOKABLE void trySample();
+    Q_INVOKABLE void openAuthSheet(kiv::store::AuthSheetMode mode);
+    Q_INVOKABLE void closeAuthSheet();
+    Q_INVOKABLE void logout();
+
+    /// Asks the backend who is signed in.
+    void boot();
+    void enterLive(const net::MeUser &user);
+    void resetToAnon();
+    void offerSample(const SampleAccount &account);
+
+Q_SIGNALS:
+    void authSheetChanged();
+    void authErrorChanged();
+    void busyChanged();
+    void sampleOfferedChanged();
+
+private:
+    QCoro::Task<void> checkSession(Cancel cancel);
+    QCoro::Task<void> bootLive(Cancel cancel);
+    QCoro::Task<void> authenticate(QString email, QString password, bool signup, Cancel cancel);
+    QCoro::Task<void> signOut(Cancel cancel);
+
+    AppStore &m_store;
+    SampleAccount m_sample;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SessionRoom, AuthSheetMode, m_authSheet,
+                                         AuthSheetMode::Closed, &SessionRoom::authSheetChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, QString, m_authError, &SessionRoom::authErrorChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_busy, &SessionRoom::busyChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_sampleOffered,
+                               &SessionRoom::sampleOfferedChanged)
+    Work m_auth;
+    Work m_live;
+};
+
+} // namespace kiv::store
