@@ -15,6 +15,7 @@ option(KIV_WERROR "Treat warnings as errors" ON)
 
 add_library(kiv_options INTERFACE)
 target_compile_options(kiv_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+    -Wno-missing-field-initializers # defaults of an aggregate are what they are for
     $<$<BOOL:${KIV_WERROR}>:-Werror>)
 target_compile_definitions(kiv_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
     QT_NO_FOREACH QT_NO_KEYWORDS QT_STRICT_ITERATORS)
