@@ -8,15 +8,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isLoopback(const QString &host) {
-    return host == u"localhost"_s || QHostAddress(host).isLoopback();
-}
-
 [[noreturn]] void refuse(const QString &text, const char *why) {
     throw BaseUrlError("Cannot use the address \"" + text.toStdString() + "\": " + why);
 }
 
 } // namespace
+
+bool isLoopback(const QString &host) {
+    return host == u"localhost"_s || QHostAddress(host).isLoopback();
+}
 
 QUrl parseBaseUrl(const QString &text) {
     QUrl url(text.trimmed(), QUrl::StrictMode);

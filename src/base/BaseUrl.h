@@ -18,6 +18,9 @@ public:
 /// Throws BaseUrlError.
 QUrl parseBaseUrl(const QString &text);
 
+/// Whether a URL's host is this computer, which needs no network and no encryption.
+bool isLoopback(const QString &host);
+
 /// `base` with the relative `path` appended as further path components.
 /// `path` is taken as written: a caller percent-encodes what it inserts (see pathSegment).
 QUrl appendPath(const QUrl &base, const QString &path);
