@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/Work.h"
+#include "net/APIClient.h"
+#include "net/ChatRecords.h"
+
+#include <functional>
+
+namespace kiv::net {
+
+/// The live stream of one chat. Reconnects by itself, more slowly each time, until it is stopped
+/// or the backend says that nobody is signed in. Callbacks come on the main thread; they may stop,
+/// restart or destroy the stream, and none comes after that.
+class ChatStreamClient : public QObject {
+    Q_OBJECT
+public:
+    using OnMessage = std::function<void(const ChatRow &)>;
+    using OnReconnect = std::function<void()>;
+
+    /// Reads from the client's backend with its cookies, over connections of its own.
+    explicit ChatStreamClient(APIClient &client, QObject *parent = nullptr);
+
+    /// Replaces the running stream. `onReconnect` is called before every attempt but the first.
+    void start(QString path, OnMessage onMessage, OnReconnect onReconnect);
+    void stop() { m_loop.cancel(); }
+    bool running() const { return m_loop.running(); }
+
+private:
+    APIClient &m_client;
+    HttpSession m_session;
+    Work m_loop;
+};
+
+} // namespace kiv::net

@@ -1,0 +1,32 @@
+#include "net/SessionRecords.h"
+
+#include "net/Decode.h"
+
+namespace kiv::net {
+
+std::optional<QString> MeUser::displayName() const {
+    const QString called = (name ? *name : fullName.value_or(QString())).trimmed();
+    return called.isEmpty() ? email : called;
+}
+
+MeUser MeUser::decode(JsonValue value, Place place) {
+    MeUser user = decodeByTable<MeUser>(value, place);
+    if (!user.avatarUrl) {
+        const Place picture{tableOf<MeUser>.name, "picture"};
+        user.avatarUrl = decodeMember<std::optional<QString>>(*value.object(), picture);
+    }
+    return user;
+}
+
+AuthResult AuthResult::decode(JsonValue value, Place place) {
+    try {
+        const Wrapper wrapper = decodeByTable<Wrapper>(value, place);
+        if (wrapper.user)
+            return {*wrapper.user};
+    } catch (const DecodingError &) {
+        // It may still be a bare user, whose own error tells more.
+    }
+    return {MeUser::decode(value, {tableOf<MeUser>.name})};
+}
+
+} // namespace kiv::net
