@@ -1,0 +1,95 @@
+#include "ChatStore.h"
+
+#include "Database.h"
+#include "Http.h"
+
+#include <QDateTime>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::sandbox {
+
+namespace {
+
+const QString columns = u"SELECT id, role, content, metadata, created_at FROM messages"
+                        u" WHERE account = ? AND chat = ?"_s;
+
+ChatMessage messageOf(const Row &row) {
+    return {row.whole(0), row.text(1), row.text(2),
+            QJsonDocument::fromJson(row.text(3).toUtf8()).object(), row.text(4)};
+}
+
+} // namespace
+
+QJsonObject ChatMessage::rowObject(const QString &origin) const {
+    QJsonObject shown = metadata;
+    QJsonArray attachments;
+    for (const QJsonValue &value : metadata.value(u"attachments"_s).toArray()) {
+        QJsonObject attachment = value.toObject();
+        const QString key = attachment.value(u"key"_s).toString();
+        if (!key.isEmpty()) {
+            attachment.insert(u"url"_s, u"%1/files/%2"_s.arg(origin, key));
+        }
+        attachments.append(attachment);
+    }
+    if (!attachments.isEmpty()) {
+        shown.insert(u"attachments"_s, attachments);
+    }
+    return {{u"id"_s, id},
+            {u"role"_s, role},
+            {u"content"_s, content},
+            {u"metadata"_s, shown.isEmpty() ? QJsonValue() : QJsonValue(shown)},
+            {u"created_at"_s, createdAt}};
+}
+
+QList<ChatMessage> ChatStore::history(const ChatKey &key, int limit) {
+    const auto rows = m_database.run([&](Sql &sql) {
+        return sql.rows(columns + u" ORDER BY id DESC LIMIT ?"_s, {key.account, key.chat, limit});
+    });
+    QList<ChatMessage> messages;
+    std::transform(rows.rbegin(), rows.rend(), std::back_inserter(messages), messageOf);
+    return messages;
+}
+
+ChatMessage ChatStore::append(const ChatKey &key, const QString &role, const QString &content,
+                              const QJsonObject &metadata, const QString &requestId) {
+    ChatMessage message{0, role, content, metadata,
+                        QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)};
+    message.id = m_database.run([&](Sql &sql) {
+        return sql.insert(
+            u"INSERT INTO messages (account, chat, role, content, metadata, request_id,"
+            u" created_at) VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
+            {key.account, key.chat, role, content, QString::fromUtf8(compact(metadata)),
+             requestId.isEmpty() ? QVariant(QMetaType(QMetaType::QString)) : QVariant(requestId),
+             message.createdAt});
+    });
+    return message;
+}
+
+std::optional<ChatMessage> ChatStore::byRequest(const ChatKey &key, const QString &requestId) {
+    const auto row = m_database.run([&](Sql &sql) {
+        return sql.row(columns + u" AND request_id = ?"_s, {key.account, key.chat, requestId});
+    });
+    return row ? std::optional(messageOf(*row)) : std::nullopt;
+}
+
+void ChatStore::update(const ChatMessage &message) {
+    m_database.run([&](Sql &sql) {
+        sql.exec(u"UPDATE messages SET content = ?, metadata = ? WHERE id = ?"_s,
+                 {message.content, QString::fromUtf8(compact(message.metadata)), message.id});
+    });
+}
+
+qint64 ChatStore::characters(const QString &account) {
+    const auto row = m_database.run([&](Sql &sql) {
+        return sql.row(
+            u"SELECT COALESCE(SUM(LENGTH(content)), 0) FROM messages WHERE account = ?"_s,
+            {account});
+    });
+    return row->whole(0);
+}
+
+} // namespace kiv::sandbox

@@ -1,0 +1,132 @@
+#include "Connection.h"
+
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+
+#include <algorithm>
+#include <cstring>
+#include <thread>
+
+namespace kiv::sandbox {
+
+namespace {
+
+constexpr Connection::Milliseconds ioPatience{30'000};
+/// Not a divisor of anything: slow bytes cut events and characters at ever new places.
+constexpr size_t slowPiece = 7;
+
+thread_local Connection *servedHere = nullptr;
+
+} // namespace
+
+Connection::Connection(socket_t socket) : m_socket(socket) {
+    const int on = 1;
+    ::setsockopt(m_socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+    servedHere = this;
+}
+
+Connection::~Connection() {
+    servedHere = nullptr;
+    ::shutdown(m_socket, SHUT_RDWR);
+    ::close(m_socket);
+}
+
+Connection *Connection::current() {
+    return servedHere;
+}
+
+bool Connection::waitFor(short events, Milliseconds patience) const {
+    pollfd watched{m_socket, events, 0};
+    int ready = 0;
+    do {
+        ready = ::poll(&watched, 1, static_cast<int>(patience.count()));
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0 && (watched.revents & (events | POLLHUP)) != 0;
+}
+
+bool Connection::waitForRequest(Milliseconds patience) {
+    if (m_begin < m_end) {
+        return true;
+    }
+    return waitFor(POLLIN, patience) && !peerGone();
+}
+
+bool Connection::peerGone() const {
+    char next = 0;
+    const ssize_t size = ::recv(m_socket, &next, 1, MSG_PEEK | MSG_DONTWAIT);
+    return size == 0 || (size < 0 && errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR);
+}
+
+void Connection::abort() {
+    ::shutdown(m_socket, SHUT_RDWR);
+}
+
+bool Connection::is_readable() const {
+    return m_begin < m_end || waitFor(POLLIN, ioPatience);
+}
+
+bool Connection::is_writable() const {
+    return waitFor(POLLOUT, ioPatience) && !peerGone();
+}
+
+ssize_t Connection::read(char *data, size_t size) {
+    if (m_begin == m_end) {
+        if (!waitFor(POLLIN, ioPatience)) {
+            return -1;
+        }
+        const ssize_t got = ::recv(m_socket, m_buffer.data(), m_buffer.size(), 0);
+        if (got <= 0) {
+            return got;
+        }
+        m_begin = 0;
+        m_end = static_cast<size_t>(got);
+    }
+    const size_t taken = std::min(size, m_end - m_begin);
+    std::memcpy(data, m_buffer.data() + m_begin, taken);
+    m_begin += taken;
+    return static_cast<ssize_t>(taken);
+}
+
+ssize_t Connection::write(const char *data, size_t size) {
+    const size_t piece = m_pause.count() > 0 ? slowPiece : size;
+    for (size_t sent = 0; sent < size; sent += piece) {
+        if (!sendAll(data + sent, std::min(piece, size - sent))) {
+            return -1;
+        }
+        if (m_pause.count() > 0) {
+            std::this_thread::sleep_for(m_pause);
+        }
+    }
+    return static_cast<ssize_t>(size);
+}
+
+bool Connection::sendAll(const char *data, size_t size) {
+    while (size > 0) {
+        if (!waitFor(POLLOUT, ioPatience)) {
+            return false;
+        }
+        const ssize_t sent = ::send(m_socket, data, size, MSG_NOSIGNAL);
+        if (sent < 0 && errno == EINTR) {
+            continue;
+        }
+        if (sent <= 0) {
+            return false;
+        }
+        data += sent;
+        size -= static_cast<size_t>(sent);
+    }
+    return true;
+}
+
+void Connection::get_remote_ip_and_port(std::string &address, int &port) const {
+    address = "127.0.0.1"; // nobody else can connect
+    port = 0;
+}
+
+void Connection::get_local_ip_and_port(std::string &address, int &port) const {
+    address = "127.0.0.1";
+    port = 0;
+}
+
+} // namespace kiv::sandbox

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace kiv::sandbox {
+
+class Database;
+
+struct StoredFile {
+    QString key;
+    QString name;
+    QString mime;
+    qint64 size = 0;
+};
+
+/// Uploaded files: bytes in the data folder, the rest in the database. A file is reached by its
+/// random key alone, so that a picture can be shown without a session.
+class Files {
+public:
+    Files(Database &database, const QString &dataDir);
+
+    StoredFile store(const QString &account, const QString &name, const QString &mime,
+                     const QByteArray &content);
+    std::optional<StoredFile> find(const QString &key);
+    QByteArray content(const StoredFile &file) const;
+
+private:
+    Database &m_database;
+    QString m_folder;
+};
+
+} // namespace kiv::sandbox

@@ -1,0 +1,66 @@
+#include "LoopbackServer.h"
+
+#include "Connection.h"
+#include "ConnectionThreads.h"
+
+#include <sys/socket.h>
+
+namespace kiv::sandbox {
+
+namespace {
+
+constexpr Connection::Milliseconds keepAlivePatience{15'000};
+constexpr size_t requestsPerConnection = 200;
+constexpr size_t mostConnections = 256;
+
+} // namespace
+
+LoopbackServer::LoopbackServer() {
+    set_keep_alive_timeout(keepAlivePatience / std::chrono::seconds(1));
+    set_keep_alive_max_count(requestsPerConnection);
+    new_task_queue = [] { return new ConnectionThreads(mostConnections); };
+}
+
+void LoopbackServer::stopNow() {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stopping = true;
+        for (socket_t socket : m_open) {
+            ::shutdown(socket, SHUT_RDWR);
+        }
+    }
+    stop();
+}
+
+bool LoopbackServer::process_and_close_socket(socket_t socket) {
+    Connection connection(socket);
+    if (!enlist(socket)) {
+        return false;
+    }
+    bool served = true;
+    bool closed = false;
+    for (size_t left = requestsPerConnection; left > 0 && served && !closed; --left) {
+        if (!connection.waitForRequest(keepAlivePatience)) {
+            break;
+        }
+        served = process_request(connection, left == 1, closed, nullptr);
+    }
+    delist(socket);
+    return served;
+}
+
+bool LoopbackServer::enlist(socket_t socket) {
+    const std::lock_guard lock(m_mutex);
+    if (m_stopping) {
+        return false;
+    }
+    m_open.insert(socket);
+    return true;
+}
+
+void LoopbackServer::delist(socket_t socket) {
+    const std::lock_guard lock(m_mutex);
+    m_open.erase(socket);
+}
+
+} // namespace kiv::sandbox

@@ -1,0 +1,68 @@
+#include "Server.h"
+
+#include "LoopbackServer.h"
+#include "Router.h"
+#include "Services.h"
+#include "routes/Routes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::sandbox {
+
+namespace {
+
+/// The largest upload and the multipart frame around it.
+constexpr size_t largestBody = 25 * 1024 * 1024 + 64 * 1024;
+const char *const loopback = "127.0.0.1";
+
+} // namespace
+
+Server::Server(const Options &options)
+    : m_services(std::make_unique<Services>(options)),
+      m_http(std::make_unique<LoopbackServer>()),
+      m_router(std::make_unique<Router>(*m_http, m_services->sessions, m_services->faults)) {
+    m_http->set_payload_max_length(largestBody);
+    addAuthRoutes(*m_router, *m_services);
+    addWorkspaceRoutes(*m_router, *m_services);
+    addChatRoutes(*m_router, *m_services);
+    addFileRoutes(*m_router, *m_services);
+    addAccountRoutes(*m_router, *m_services);
+    addVoiceRoutes(*m_router, *m_services);
+    addPageRoutes(*m_router, *m_services);
+    if (options.control) {
+        addControlRoutes(*m_router, *m_services);
+    }
+    m_port = options.port;
+    if (m_port == 0) {
+        m_port = m_http->bind_to_any_port(loopback);
+    } else if (!m_http->bind_to_port(loopback, m_port)) {
+        m_port = -1;
+    }
+    if (m_port <= 0) {
+        throw std::runtime_error("the port cannot be had");
+    }
+    m_router->setPort(m_port);
+    m_thread = std::thread([this] { m_http->listen_after_bind(); });
+}
+
+Server::~Server() {
+    m_services->faults.release();
+    m_services->answerer.close();
+    m_services->hub.close();
+    m_http->stopNow();
+    m_thread.join();
+}
+
+QString Server::url() const {
+    return u"http://127.0.0.1:%1"_s.arg(m_port);
+}
+
+QString Server::sampleEmail() const {
+    return m_services->sample.email();
+}
+
+QString Server::samplePassword() const {
+    return m_services->sample.password();
+}
+
+} // namespace kiv::sandbox

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Options.h"
+
+#include <QString>
+
+#include <memory>
+#include <thread>
+
+namespace kiv::sandbox {
+
+class LoopbackServer;
+class Router;
+struct Services;
+
+/// The running server: listens from construction to destruction, on a thread of its own.
+class Server {
+public:
+    /// Throws std::runtime_error when the port cannot be had.
+    explicit Server(const Options &options);
+    /// Lets every stream and answer go, then waits for the threads.
+    ~Server();
+
+    QString url() const;
+    QString sampleEmail() const;
+    QString samplePassword() const;
+
+private:
+    std::unique_ptr<Services> m_services;
+    std::unique_ptr<LoopbackServer> m_http;
+    std::unique_ptr<Router> m_router;
+    int m_port = 0;
+    std::thread m_thread;
+};
+
+} // namespace kiv::sandbox

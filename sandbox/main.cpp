@@ -1,0 +1,99 @@
+// kiv-sandbox: the workspace server that the client brings along.
+
+#include "Http.h"
+#include "Options.h"
+#include "Secrets.h"
+#include "Server.h"
+#include "base/Version.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonObject>
+#include <QLockFile>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <cstdio>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+using namespace kiv::sandbox;
+
+namespace {
+
+int signalEnds[2];
+
+void onSignal(int) {
+    const char byte = 0;
+    [[maybe_unused]] const ssize_t written = ::write(signalEnds[0], &byte, 1);
+}
+
+/// Ends the event loop on SIGTERM and SIGINT.
+void quitOnSignals(QCoreApplication &application) {
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalEnds) != 0) {
+        qFatal("No socket pair for signals");
+    }
+    auto *notifier = new QSocketNotifier(signalEnds[1], QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+    std::signal(SIGTERM, onSignal);
+    std::signal(SIGINT, onSignal);
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+/// Ends the event loop when the parent, which holds the other end, is gone.
+void quitWithStandardInput(QCoreApplication &application) {
+    auto *notifier = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, [notifier] {
+        char ignored[256];
+        if (::read(STDIN_FILENO, ignored, sizeof ignored) <= 0) {
+            notifier->setEnabled(false);
+            QCoreApplication::quit();
+        }
+    });
+}
+
+void announce(const Server &server) {
+    const QJsonObject sample{{u"email"_s, server.sampleEmail()},
+                             {u"password"_s, server.samplePassword()}};
+    const QByteArray line = compact({{u"url"_s, server.url()}, {u"sample"_s, sample}});
+    std::printf("%s\n", line.constData());
+    std::fflush(stdout);
+}
+
+int fail(const char *why) {
+    std::fprintf(stderr, "kiv-sandbox: %s\n", why);
+    return 2;
+}
+
+int run(QCoreApplication &application) {
+    const Options options = parseOptions(QCoreApplication::arguments());
+    if (!QDir().mkpath(options.dataDir)) {
+        return fail("the data folder cannot be made");
+    }
+    QLockFile lock(options.dataDir + u"/lock"_s);
+    if (!lock.tryLock(2000)) {
+        return fail("another server works in this data folder");
+    }
+    startSecrets();
+    Server server(options);
+    quitOnSignals(application);
+    if (!options.stay) {
+        quitWithStandardInput(application);
+    }
+    announce(server);
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"kiv-sandbox"_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(KIV_VERSION));
+    try {
+        return run(application);
+    } catch (const std::runtime_error &error) {
+        return fail(error.what());
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+namespace kiv::sandbox {
+
+class Router;
+struct Services;
+
+// Each puts one concern's routes on the router. Both arguments outlive the server's threads.
+void addAuthRoutes(Router &router, Services &services);
+void addWorkspaceRoutes(Router &router, Services &services);
+void addChatRoutes(Router &router, Services &services);
+void addFileRoutes(Router &router, Services &services);
+void addAccountRoutes(Router &router, Services &services);
+void addVoiceRoutes(Router &router, Services &services);
+void addPageRoutes(Router &router, Services &services);
+void addControlRoutes(Router &router, Services &services);
+
+} // namespace kiv::sandbox
