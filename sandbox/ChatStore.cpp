@@ -63,8 +63,7 @@ ChatMessage ChatStore::append(const ChatKey &key, const QString &role, const QSt
             u"INSERT INTO messages (account, chat, role, content, metadata, request_id,"
             u" created_at) VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
             {key.account, key.chat, role, content, QString::fromUtf8(compact(metadata)),
-             requestId.isEmpty() ? QVariant(QMetaType(QMetaType::QString)) : QVariant(requestId),
-             message.createdAt});
+             requestId.isEmpty() ? QVariant() : QVariant(requestId), message.createdAt});
     });
     return message;
 }

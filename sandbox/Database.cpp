@@ -50,7 +50,10 @@ QSqlQuery &Sql::run(const QString &statement, const QVariantList &values) {
     }
     QSqlQuery &query = found->second;
     for (qsizetype i = 0; i < values.size(); ++i) {
-        query.bindValue(static_cast<int>(i), values.at(i));
+        // Qt takes a null string for NULL; here only an invalid value is.
+        const QVariant &value = values.at(i);
+        const bool emptyText = value.typeId() == QMetaType::QString && value.toString().isNull();
+        query.bindValue(static_cast<int>(i), emptyText ? QVariant(u""_s) : value);
     }
     if (!query.exec()) {
         fail(query.lastError(), statement);

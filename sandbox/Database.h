@@ -40,7 +40,8 @@ private:
     QVariantList m_values;
 };
 
-/// Statements on the open database; used on the database's own thread only.
+/// Statements on the open database; an invalid QVariant among the values is NULL. Used on the
+/// database's own thread only.
 class Sql {
 public:
     explicit Sql(const QString &path);

@@ -105,7 +105,7 @@ public:
         m_sql.exec(u"INSERT INTO tasks (account, slug, agent, title, state, created, due, closed)"
                    u" VALUES (?, ?, ?, ?, ?, ?, ?, ?)"_s,
                    {m_account, text(slug), text(agent), title, state, day(created), day(due),
-                    closed ? QVariant(day(*closed)) : QVariant(QMetaType(QMetaType::QString))});
+                    closed ? QVariant(day(*closed)) : QVariant()});
     }
 
 private:
