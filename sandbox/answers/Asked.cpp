@@ -30,15 +30,35 @@ QString namedProject(Sql &sql, const Question &question) {
     return {};
 }
 
+/// An agent's name and project.
+std::optional<Row> namedAgent(Sql &sql, const Question &question) {
+    const auto rows = sql.rows(u"SELECT a.name, COALESCE(m.slug, '') FROM agents a"
+                               u" LEFT JOIN members m ON m.agent = a.id"
+                               u" WHERE a.account = ? AND a.kind = 'agent'"_s,
+                               {question.scope.account});
+    for (const Row &row : rows) {
+        if (question.text.contains(row.text(0), Qt::CaseInsensitive)) {
+            return row;
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 Asked::Asked(Sql &sql, const Question &question)
     : m_sql(sql),
       m_question(question),
       m_slug(question.scope.slug),
+      m_agent(question.scope.agent),
       m_russian(hasCyrillic(question.text)) {
-    if (m_slug.isEmpty()) {
+    if (m_slug.isEmpty() && m_agent.isEmpty()) {
         m_slug = namedProject(sql, question);
+        const auto named = m_slug.isEmpty() ? namedAgent(sql, question) : std::nullopt;
+        if (named) {
+            m_agent = named->text(0);
+            m_slug = named->text(1);
+        }
     }
     const auto row =
         sql.row(u"SELECT as_of FROM accounts WHERE id = ?"_s, {question.scope.account});
@@ -56,6 +76,9 @@ QString Asked::projectLabel(const QString &slug) const {
 }
 
 QString Asked::subject() const {
+    if (!m_agent.isEmpty()) {
+        return m_agent;
+    }
     return m_slug.isEmpty() ? say(u"all projects"_s, u"все проекты"_s) : projectLabel(m_slug);
 }
 
@@ -68,6 +91,14 @@ QList<Row> Asked::rows(const QString &columns, const QString &table, const QStri
         values.append(m_slug);
     }
     return m_sql.rows(statement + rest, values + more);
+}
+
+QList<Row> Asked::tasks(const QString &columns, const QString &rest,
+                        const QVariantList &more) const {
+    if (m_agent.isEmpty()) {
+        return rows(columns, u"tasks"_s, rest, more);
+    }
+    return rows(columns, u"tasks"_s, u"AND agent = ? "_s + rest, QVariantList{m_agent} + more);
 }
 
 QString Asked::projectWith(const QString &table) const {

@@ -20,19 +20,25 @@ public:
     const QString &account() const { return m_question.scope.account; }
     /// The one project that is asked about; empty for all.
     const QString &slug() const { return m_slug; }
+    /// The agent whose own work is asked about: the one who answers, or one that is named; empty
+    /// for none.
+    const QString &agent() const { return m_agent; }
     /// The day on which the workspace's figures were taken.
     QDate asOf() const { return m_asOf; }
 
     /// The text in the language of the question.
     QString say(const QString &english, const QString &russian) const;
     QString projectLabel(const QString &slug) const;
-    /// What the answer is about: the project's name, or all projects.
+    /// What the answer is about: an agent's name, a project's, or all projects.
     QString subject() const;
 
     /// Rows of `SELECT <columns> FROM <table>` within the scope; `rest` follows the condition and
     /// begins with AND, GROUP BY or ORDER BY.
     QList<Row> rows(const QString &columns, const QString &table, const QString &rest = {},
                     const QVariantList &more = {}) const;
+    /// Rows of `tasks` within the scope; of an agent, its own.
+    QList<Row> tasks(const QString &columns, const QString &rest = {},
+                     const QVariantList &more = {}) const;
     /// The scope's project that has rows in `table`; empty when none has.
     QString projectWith(const QString &table) const;
 
@@ -40,6 +46,7 @@ private:
     Sql &m_sql;
     const Question &m_question;
     QString m_slug;
+    QString m_agent;
     QDate m_asOf;
     bool m_russian;
 };
@@ -73,6 +80,12 @@ std::optional<Answer> unitCost(const Asked &asked);
 std::optional<Answer> costs(const Asked &asked);
 std::optional<Answer> budget(const Asked &asked);
 std::optional<Answer> cashFlow(const Asked &asked);
+std::optional<Answer> rankedRevenue(const Asked &asked);
+std::optional<Answer> revenueTrend(const Asked &asked);
+std::optional<Answer> spendByProject(const Asked &asked);
+std::optional<Answer> highlightCards(const Asked &asked);
+std::optional<Answer> headline(const Asked &asked);
+std::optional<Answer> choices(const Asked &asked);
 std::optional<Answer> projectTable(const Asked &asked);
 std::optional<Answer> taskCounts(const Asked &asked);
 std::optional<Answer> openTaskList(const Asked &asked);

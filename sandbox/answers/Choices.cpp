@@ -97,7 +97,8 @@ std::optional<Answer> trialFunnel(const Asked &asked) {
             .arg(through, 0, 'f', 1),
         {{u"kind"_s, u"funnel"_s},
          {u"title"_s, u"Trial to paid, "_s + asked.projectLabel(slug)},
-         {u"points"_s, points}});
+         {u"points"_s, points}},
+        {}, u"chart"_s);
 }
 
 } // namespace kiv::sandbox

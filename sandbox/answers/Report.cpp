@@ -57,7 +57,8 @@ QJsonObject item(const QString &label, double value, const QString &display, con
 }
 
 QString openSpots(const Asked &asked) {
-    const auto rows = asked.rows(u"slug, note"_s, u"progress"_s, u"AND done < target"_s);
+    const auto rows =
+        asked.rows(u"slug, note"_s, u"progress"_s, u"AND done < target ORDER BY rowid"_s);
     QStringList spots;
     for (const Row &row : rows) {
         spots.append(u"**%1** (%2)"_s.arg(asked.projectLabel(row.text(0)), row.text(1)));
@@ -85,7 +86,7 @@ std::optional<Answer> weeklyReport(const Asked &asked) {
     const qint64 open = openTasks(asked, asked.asOf());
     const qint64 overdue = overdueTasks(asked, asked.asOf());
     const Row spend = asked.rows(u"SUM(plan), SUM(actual)"_s, u"spend"_s).constFirst();
-    const double used = spend.number(1) / std::max(1.0, spend.number(0)) * 100;
+    const int used = qRound(spend.number(1) / std::max(1.0, spend.number(0)) * 100);
 
     const QJsonArray items{
         item(u"Recognised revenue"_s, static_cast<double>(now->revenue), euros(now->revenue),
@@ -95,7 +96,7 @@ std::optional<Answer> weeklyReport(const Asked &asked) {
              signedWhole(open - openTasks(asked, lastWeek))),
         item(u"Overdue tasks"_s, static_cast<double>(overdue), grouped(overdue),
              signedWhole(overdue - overdueTasks(asked, lastWeek))),
-        item(u"Spend against plan"_s, used, u"%1%"_s.arg(qRound(used)),
+        item(u"Spend against plan"_s, used, u"%1%"_s.arg(used),
              u"plan %1"_s.arg(euros(spend.whole(0)))),
         item(u"Releases shipped"_s, static_cast<double>(now->releases), grouped(now->releases),
              signedWhole(now->releases - before->releases)),

@@ -12,10 +12,11 @@ const QString openCount = u"SUM(CASE WHEN closed IS NULL THEN 1 ELSE 0 END)"_s;
 
 /// Project slug, open tasks, overdue tasks and blocked tasks, a row for each project.
 QList<Row> taskFigures(const Asked &asked) {
-    return asked.rows(u"slug, %1, SUM(CASE WHEN closed IS NULL AND due < ? THEN 1 ELSE 0 END),"
-                      u" SUM(CASE WHEN state = 'blocked' THEN 1 ELSE 0 END)"_s.arg(openCount)
-                          .replace(u'?', u"'%1'"_s.arg(asked.asOf().toString(Qt::ISODate))),
-                      u"tasks"_s, u"GROUP BY slug ORDER BY 2 DESC"_s);
+    const QString overdue = u"SUM(CASE WHEN closed IS NULL AND due < '%1' THEN 1 ELSE 0 END)"_s.arg(
+        asked.asOf().toString(Qt::ISODate));
+    const QString blocked = u"SUM(CASE WHEN state = 'blocked' THEN 1 ELSE 0 END)"_s;
+    return asked.tasks(u"slug, %1, %2, %3"_s.arg(openCount, overdue, blocked),
+                       u"GROUP BY slug ORDER BY 2 DESC"_s);
 }
 
 } // namespace
@@ -121,6 +122,18 @@ std::optional<Answer> nextSteps(const Asked &asked) {
         "ВАРИАНТЫ: Что заблокировано? | Сравни варианты хостинга | Какой у нас бюджет?"_s)};
 }
 
+/// The same offer, but beside the text.
+std::optional<Answer> choices(const Asked &asked) {
+    const QStringList options{asked.say(u"Weekly report"_s, u"Отчёт за неделю"_s),
+                              asked.say(u"Where does the money go?"_s, u"Куда уходят деньги?"_s),
+                              asked.say(u"Who is overloaded?"_s, u"Кто перегружен?"_s)};
+    return Answer{asked
+                      .say(u"I can look at %1 from three sides. Which one helps you now?"_s,
+                           u"Могу показать (%1) с трёх сторон. Что сейчас нужнее?"_s)
+                      .arg(asked.subject()),
+                  {{u"choice_options"_s, strings(options)}}};
+}
+
 std::optional<Answer> goAhead(const Asked &asked) {
     return Answer{asked
                       .say(u"I can start that for **%1** now. It will use the agents' time for "
@@ -178,7 +191,7 @@ std::optional<Answer> greeting(const Asked &asked) {
 }
 
 Answer plainAnswer(const Asked &asked) {
-    const auto rows = asked.rows(openCount + u", COUNT(*)"_s, u"tasks"_s);
+    const auto rows = asked.tasks(openCount + u", COUNT(*)"_s);
     const Row &row = rows.constFirst();
     const QString files =
         asked.question().attachments == 0

@@ -24,7 +24,7 @@ QString place(const Asked &asked, const Row &task) {
 } // namespace
 
 std::optional<Answer> projectStatus(const Asked &asked) {
-    const auto rows = asked.rows(u"slug, done, target, note"_s, u"progress"_s);
+    const auto rows = asked.rows(u"slug, done, target, note"_s, u"progress"_s, u"ORDER BY rowid"_s);
     if (rows.isEmpty()) {
         return std::nullopt;
     }
@@ -38,7 +38,9 @@ std::optional<Answer> projectStatus(const Asked &asked) {
                                   {u"display"_s, u"%1%"_s.arg(row.whole(1))},
                                   {u"hint"_s, row.text(3)}});
         if (row.whole(1) < row.whole(2)) {
-            behind.append(u"**%1** by %2 points"_s.arg(label).arg(row.whole(2) - row.whole(1)));
+            behind.append(asked.say(u"**%1** by %2 points"_s, u"**%1** на %2 пунктов"_s)
+                              .arg(label)
+                              .arg(row.whole(2) - row.whole(1)));
         }
     }
     QJsonObject progress = view(u"progress"_s, u"Where %1 stand"_s.arg(asked.subject()), points);
@@ -52,12 +54,13 @@ std::optional<Answer> projectStatus(const Asked &asked) {
 }
 
 std::optional<Answer> releasePlan(const Asked &asked) {
-    const bool own = asked.question().scope.kind == Scope::Agent;
-    const auto rows =
-        own ? asked.rows(u"agent, title, state, slug"_s, u"plan"_s,
-                         u"AND agent LIKE ? || ' ·%' ORDER BY position"_s,
-                         {asked.question().scope.agent})
-            : asked.rows(u"agent, title, state, slug"_s, u"plan"_s, u"ORDER BY position"_s);
+    QString rest = u"ORDER BY position"_s;
+    QVariantList more;
+    if (!asked.agent().isEmpty()) {
+        rest.prepend(u"AND agent LIKE ? || ' ·%' "_s);
+        more.append(asked.agent());
+    }
+    const auto rows = asked.rows(u"agent, title, state, slug"_s, u"plan"_s, rest, more);
     if (rows.isEmpty()) {
         return std::nullopt;
     }
@@ -79,10 +82,12 @@ std::optional<Answer> releasePlan(const Asked &asked) {
 
 std::optional<Answer> todaysBrief(const Asked &asked) {
     const QString columns = u"title, state, slug, agent"_s;
-    auto rows =
-        asked.rows(columns, u"tasks"_s, u"AND state = 'done' ORDER BY closed DESC, id LIMIT 2"_s);
-    rows += asked.rows(columns, u"tasks"_s, u"AND state = 'doing' ORDER BY due, id LIMIT 4"_s);
-    rows += asked.rows(columns, u"tasks"_s, u"AND state = 'todo' ORDER BY due, id LIMIT 3"_s);
+    const QString today = asked.asOf().toString(Qt::ISODate);
+    auto rows = asked.tasks(columns, u"AND state = 'done' ORDER BY closed DESC, id DESC LIMIT 2"_s);
+    rows += asked.tasks(columns, u"AND state = 'doing' AND due >= ? ORDER BY due, id LIMIT 4"_s,
+                        {today});
+    rows += asked.tasks(columns, u"AND state = 'todo' AND due >= ? ORDER BY due, id LIMIT 3"_s,
+                        {today});
     if (rows.isEmpty()) {
         return std::nullopt;
     }
@@ -90,23 +95,33 @@ std::optional<Answer> todaysBrief(const Asked &asked) {
     for (const Row &row : rows) {
         points.append(statusPoint(row.text(0), row.text(1), place(asked, row)));
     }
+    const qint64 overdue = asked.tasks(u"COUNT(*)"_s, u"AND closed IS NULL AND due < ?"_s, {today})
+                               .constFirst()
+                               .whole(0);
     return withBlock(
         asked
-            .say(u"These %1 need a look today; the nearest due dates come first."_s,
-                 u"Сегодня стоит посмотреть на %1 задач, сначала самые срочные."_s)
-            .arg(rows.size()),
+            .say(u"What was finished, what is under way and what comes next, the nearest due "
+                 "dates first. %1 more are overdue."_s,
+                 u"Что сделано, что в работе и что дальше, сначала самые срочные. "
+                 "Просрочено ещё: %1."_s)
+            .arg(overdue),
         view(u"checklist"_s, u"Brief for %1"_s.arg(asked.asOf().toString(u"d MMMM"_s)), points));
 }
 
 std::optional<Answer> blockedTasks(const Asked &asked) {
-    const auto rows = asked.rows(u"title, state, slug, agent, due"_s, u"tasks"_s,
-                                 u"AND state = 'blocked' ORDER BY due, id LIMIT 8"_s);
+    const auto rows = asked.tasks(u"title, state, slug, agent, due"_s,
+                                  u"AND state = 'blocked' ORDER BY due, id LIMIT 8"_s);
     if (rows.isEmpty()) {
-        return std::nullopt;
+        return Answer{asked
+                          .say(u"Nothing is blocked for **%1** right now."_s,
+                               u"Сейчас ничего не заблокировано: **%1**."_s)
+                          .arg(asked.subject())};
     }
     QString list;
-    for (const Row &row : rows) {
-        list += u"1. **%1**, %2, due %3\n"_s.arg(row.text(0), place(asked, row), row.text(4));
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        const Row &row = rows.at(i);
+        list += u"%1. **%2**, %3, "_s.arg(i + 1).arg(row.text(0), place(asked, row)) +
+                asked.say(u"due %1\n"_s, u"срок %1\n"_s).arg(row.text(4));
     }
     return Answer{
         asked.say(u"%1 tasks wait for something:\n\n%2"_s, u"Ждут решения задач: %1\n\n%2"_s)
