@@ -15,12 +15,18 @@ namespace {
 
 /// A request body that can be read once only. When a kept-alive connection turns out to be dead,
 /// the network layer rewinds the body and sends the request again behind our back, though the
-/// server may have acted on the first one; a body that cannot be rewound fails the request.
+/// server may have acted on the first one; a body that refuses fails the request instead. Once
+/// there is an answer it may be rewound, which is done for redirects whether followed or not.
 class SinglePassBody : public QIODevice {
 public:
     explicit SinglePassBody(QByteArray bytes) : m_bytes(std::move(bytes)) { open(ReadOnly); }
     bool isSequential() const override { return true; }
-    bool reset() override { return false; }
+    void setAnswered() { m_answered = true; }
+    bool reset() override {
+        if (m_answered)
+            m_read = 0;
+        return m_answered;
+    }
     qint64 bytesAvailable() const override {
         return m_bytes.size() - m_read + QIODevice::bytesAvailable();
     }
@@ -39,6 +45,7 @@ protected:
 private:
     QByteArray m_bytes;
     qsizetype m_read = 0;
+    bool m_answered = false;
 };
 
 QNetworkRequest wireForm(const HttpRequest &request, HttpSession::Credentials credentials) {
@@ -87,6 +94,7 @@ QNetworkReply *HttpSession::begin(const HttpRequest &request, Credentials creden
     auto *body = new SinglePassBody(request.body);
     QNetworkReply *reply = m_network.sendCustomRequest(wire, request.method, body);
     body->setParent(reply);
+    QObject::connect(reply, &QNetworkReply::metaDataChanged, body, [body] { body->setAnswered(); });
     return reply;
 }
 
