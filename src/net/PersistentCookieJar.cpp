@@ -74,9 +74,10 @@ QList<QNetworkCookie> PersistentCookieJar::cookiesForUrl(const QUrl &url) const 
 bool PersistentCookieJar::setCookiesFromUrl(const QList<QNetworkCookie> &cookies, const QUrl &url) {
     const QList<QNetworkCookie> before = allCookies();
     for (QNetworkCookie cookie : cookies) {
-        cookie.setDomain(QString());
-        cookie.normalize(url);
-        insertCookie(cookie); // one that has expired removes its namesake
+        cookie.setDomain(url.host());
+        if (cookie.path().isEmpty())
+            cookie.setPath(u"/"_s); // one session for the whole host, wherever it signed in
+        insertCookie(cookie);       // one that has expired removes its namesake
     }
     if (allCookies() == before)
         return false;

@@ -6,7 +6,8 @@ namespace kiv::net {
 
 /// The session's credentials: every cookie the backend sets, kept across restarts in a file that
 /// only its owner can read. A cookie goes back to exactly the host that set it, whatever its
-/// Domain says. A file that cannot be read counts as empty.
+/// Domain says, and to all of that host unless it names a path. A file that cannot be read counts
+/// as empty.
 class PersistentCookieJar : public QNetworkCookieJar {
     Q_OBJECT
 public:
