@@ -1,0 +1,26 @@
+import QtQuick
+import Kiv.Tokens
+
+// An agent's figure: letters on a disc tinted in the agent's colour.
+Rectangle {
+    id: disc
+
+    property int size: 24
+    required property string letters
+    property color base: Tokens.blue.base
+
+    implicitWidth: size
+    implicitHeight: size
+    radius: size / 2
+    color: Tint.ground(base, Tokens.dark)
+
+    Text {
+        anchors.centerIn: parent
+        text: disc.letters
+        color: Tint.text(disc.base, Tokens.dark)
+        font.pixelSize: Math.max(10, Math.round(disc.size * 0.38))
+        font.weight: Font.DemiBold
+        textFormat: Text.PlainText
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,62 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Icons
+import Kiv.Tokens
+
+// A button that is an icon: its text is the tooltip and the accessible name.
+T.Button {
+    id: button
+
+    required property string iconName
+    property int size: 36
+    property int iconSize: 20
+    property bool active: false
+    property string keys: ""
+    property int badge: 0
+    property color color: active ? Tokens.accentText : hovered ? Tokens.t1 : Tokens.t2
+
+    implicitWidth: size
+    implicitHeight: size
+    Accessible.name: text
+
+    contentItem: Item {
+        Icon {
+            anchors.centerIn: parent
+            name: button.iconName
+            size: button.iconSize
+            color: button.color
+        }
+    }
+    background: Rectangle {
+        radius: Math.min(Tokens.radiusControl, button.size / 4)
+        color: button.active ? Tokens.accentTint
+            : button.down ? Tokens.press
+            : button.hovered ? Tokens.hover
+            : "transparent"
+
+        FocusRing {
+            visible: button.visualFocus
+            targetRadius: Math.min(Tokens.radiusControl, button.size / 4)
+        }
+    }
+
+    Badge {
+        anchors.top: parent.top
+        anchors.right: parent.right
+        anchors.topMargin: -1
+        anchors.rightMargin: -2
+        count: button.badge
+    }
+    Loader {
+        active: button.hovered && !button.down
+
+        sourceComponent: Tip {
+            parent: button
+            visible: true
+            text: button.text
+            keys: button.keys
+        }
+    }
+}

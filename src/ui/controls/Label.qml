@@ -1,0 +1,22 @@
+import QtQuick
+import Kiv.Tokens
+
+// Text in one of the styles, with the style's line height. Long text elides at its end.
+Text {
+    id: label
+
+    property TypeStyle style: Tokens.type.body
+
+    font.pixelSize: style.size
+    font.weight: style.weight
+    font.letterSpacing: style.tracking
+    lineHeight: style.line
+    lineHeightMode: Text.FixedHeight
+    topPadding: style.lead
+    bottomPadding: -style.lead
+    color: Tokens.t1
+    textFormat: Text.PlainText
+    elide: Text.ElideRight
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Icons
+import Kiv.Tokens
+
+// One command of a menu.
+T.Button {
+    id: row
+
+    property string iconName: ""
+    property string hint: ""
+    property bool destructive: false
+
+    implicitWidth: 200
+    implicitHeight: 36
+    Accessible.name: text
+    Accessible.role: Accessible.MenuItem
+
+    background: Rectangle {
+        radius: Tokens.radiusControl
+        color: row.hovered || row.down || row.visualFocus ? Tokens.hoverRaised : "transparent"
+
+        FocusRing {
+            anchors.margins: 0
+            targetRadius: 4
+            visible: row.visualFocus
+        }
+    }
+
+    Icon {
+        id: sign
+
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.iconName
+        color: row.destructive ? Tokens.dangerText : Tokens.t2
+    }
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        x: 40
+        width: trailing.x - x - 8
+        style: Tokens.type.line
+        color: row.destructive ? Tokens.dangerText : Tokens.t1
+        text: row.text
+        Accessible.ignored: true
+    }
+    Label {
+        id: trailing
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: row.width - width - 10
+        style: Tokens.type.caption
+        color: Tokens.t3
+        text: row.hint
+    }
+}

@@ -1,0 +1,40 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Tokens
+
+// A panel that opens below its button, right edges aligned, and closes on Escape or an outside press.
+T.Popup {
+    id: popover
+
+    property bool alignLeft: false
+
+    x: alignLeft ? 0 : parent.width - width
+    y: parent.height + 6
+    padding: 6
+    margins: 8
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    transformOrigin: alignLeft ? T.Popup.TopLeft : T.Popup.TopRight
+
+    background: Item {
+        Shadow {
+            level: Shadow.Floating
+            targetRadius: Tokens.radiusPopover
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: Tokens.radiusPopover
+            color: Tokens.raised
+            border.width: 1
+            border.color: Tokens.line2
+        }
+    }
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
+        NumberAnimation { property: "scale"; from: Tokens.reducedMotion ? 1 : 0.98; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
+    }
+    exit: Transition {
+        NumberAnimation { property: "opacity"; to: 0; duration: Tokens.instant }
+    }
+}

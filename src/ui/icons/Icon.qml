@@ -1,0 +1,17 @@
+import QtQuick
+
+// A line icon of our own set, by the name of its file, in any colour.
+Image {
+    id: icon
+
+    required property string name
+    property int size: 20
+    property color color: "black"
+
+    sourceSize.width: size
+    sourceSize.height: size
+    width: size
+    height: size
+    source: name === "" ? "" : "image://icon/" + name + "/" + size + "/" + color
+    Accessible.ignored: true
+}

@@ -1,0 +1,105 @@
+pragma Singleton
+
+import QtQuick
+import Kiv.Tokens
+
+// The colours, lengths and durations of every view. Lengths are device-independent pixels,
+// durations milliseconds.
+QtObject {
+    id: tokens
+
+    readonly property bool dark: Appearance.dark
+    readonly property bool reducedMotion: Appearance.reducedMotion
+
+    readonly property color bg: dark ? "#0e1016" : "#f3f4f8"
+    readonly property color rail: dark ? "#12141c" : "#fafbfd"
+    readonly property color surface: dark ? "#181b25" : "#ffffff"
+    readonly property color raised: dark ? "#1f2330" : "#ffffff"
+    readonly property color inset: dark ? "#1d212d" : "#f7f8fb"
+    readonly property color sunken: dark ? "#262b39" : "#eceef4"
+    readonly property color skeleton: dark ? "#222735" : "#eceef4"
+    readonly property color code: dark ? "#12141c" : "#f4f5f9"
+    readonly property color hover: dark ? "#1f2330" : "#eff0f6"
+    readonly property color hoverRaised: dark ? "#2a3041" : "#eff0f6"
+    readonly property color press: dark ? "#272c3b" : "#e6e8f0"
+    readonly property color line: dark ? "#272b38" : "#e4e6ee"
+    readonly property color line2: dark ? "#3a4052" : "#d0d4df"
+    readonly property color control: dark ? "#727a92" : "#868da1"
+    readonly property color t1: dark ? "#f1f2f7" : "#141722"
+    readonly property color t2: dark ? "#b6bccb" : "#474d5f"
+    readonly property color t3: dark ? "#949bb0" : "#616880"
+    readonly property color tDisabled: dark ? "#646b80" : "#9aa0b1"
+    readonly property color accent: dark ? "#6b4af2" : "#6644e6"
+    readonly property color accentHover: dark ? "#7857fb" : "#5936d6"
+    readonly property color accentInk: "#ffffff"
+    readonly property color accentText: dark ? "#b3a3ff" : "#5a38d6"
+    readonly property color accentTint: dark ? "#2a274c" : "#f1edff"
+    readonly property color accentLine: dark ? "#453c86" : "#d6ccfb"
+    readonly property color focus: dark ? "#a996ff" : "#6644e6"
+    readonly property color selection: dark ? "#473a8f" : "#d9d0ff"
+    readonly property color danger: dark ? "#cc3336" : "#c9282f"
+    readonly property color dangerText: dark ? "#ff8f90" : "#b91f28"
+    readonly property color dangerTint: dark ? "#3c232c" : "#fdecec"
+    readonly property color scrim: dark ? "#9905060a" : "#5c141722"
+    readonly property color tip: dark ? "#e9ebf2" : "#232735"
+    readonly property color tipInk: dark ? "#141722" : "#ffffff"
+
+    readonly property DataColor violet: DataColor {
+        base: "#7c5cff"; solid: "#6b4af2"; solidInk: "#ffffff"
+        text: tokens.dark ? "#b3a3ff" : "#5b3ad6"
+        tint: tokens.dark ? "#2a274c" : "#f1edff"
+        line: tokens.dark ? "#463e86" : "#d5ccff"
+    }
+    readonly property DataColor blue: DataColor {
+        base: "#1f6ff2"; solid: "#1f6ff2"; solidInk: "#ffffff"
+        text: tokens.dark ? "#82b1ff" : "#1457c9"
+        tint: tokens.dark ? "#192a4a" : "#e6effe"
+        line: tokens.dark ? "#24447f" : "#bcd4fb"
+    }
+    readonly property DataColor green: DataColor {
+        base: "#0f9f7a"; solid: "#0b7d60"; solidInk: "#ffffff"
+        text: tokens.dark ? "#4fd1ae" : "#08705a"
+        tint: tokens.dark ? "#163334" : "#e5f4f0"
+        line: tokens.dark ? "#1b5650" : "#b5e0d5"
+    }
+    readonly property DataColor amber: DataColor {
+        base: "#f59e0b"; solid: "#f59e0b"; solidInk: "#141722"
+        text: tokens.dark ? "#fbbf4a" : "#8a5200"
+        tint: tokens.dark ? "#403320" : "#fef4e4"
+        line: tokens.dark ? "#6a5023" : "#fbd9a0"
+    }
+    readonly property DataColor red: DataColor {
+        base: "#e0484a"; solid: "#cc3336"; solidInk: "#ffffff"
+        text: tokens.dark ? "#ff9293" : "#b4262a"
+        tint: tokens.dark ? "#3c232c" : "#fcebeb"
+        line: tokens.dark ? "#66323a" : "#f5c3c4"
+    }
+
+    readonly property TypeScale type: TypeScale {}
+
+    readonly property int radiusSmall: 4
+    readonly property int radiusChip: 6
+    readonly property int radiusControl: 8
+    readonly property int radiusBlock: 10
+    readonly property int radiusCard: 12
+    readonly property int radiusPopover: 14
+    readonly property int radiusSheet: 16
+    readonly property int radiusFloat: 18
+    readonly property int radiusDialog: 20
+
+    readonly property int topBarHeight: 52
+    readonly property int stripWidth: 56
+    readonly property int wideBody: 880
+    readonly property int mediumBody: 600
+    /// A view follows the end of what grows while it is within this of it.
+    readonly property int followDistance: 48
+
+    readonly property int instant: 80
+    readonly property int quick: reducedMotion ? 100 : 140
+    readonly property int base: reducedMotion ? 0 : 200
+    readonly property int slide: reducedMotion ? 0 : 280
+    readonly property int draw: reducedMotion ? 0 : 420
+    readonly property int breathe: 1200
+    readonly property int orbit: 1600
+    readonly property int tipDelay: 500
+}

@@ -1,0 +1,68 @@
+#include "ui/Gallery.h"
+#include "ui/icons/IconProvider.h"
+#include "ui/tokens/Tint.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::ui {
+
+class ControlsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pictures();
+    void iconTakesColour();
+    void wordsOnTint_data();
+    void wordsOnTint();
+
+private:
+    Gallery m_gallery;
+};
+
+void ControlsTest::pictures() {
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
+    m_gallery.show(u"ControlsPage.qml"_s, {1120, 760});
+    m_gallery.save(u"controls-light"_s);
+    m_gallery.appearance().setDark(true);
+    m_gallery.save(u"controls-dark"_s);
+    m_gallery.appearance().setDark(false);
+}
+
+void ControlsTest::iconTakesColour() {
+    IconProvider icons;
+    const QImage wide = icons.requestImage(u"stop/20/#c9282f"_s, nullptr, {40, 40});
+    QCOMPARE(wide.size(), QSize(40, 40));
+    QCOMPARE(wide.pixelColor(20, 20), QColor(0xc9282f));
+    QCOMPARE(wide.pixelColor(2, 2).alpha(), 0);
+    QVERIFY(icons.requestImage(u"nothing/20/#000000"_s, nullptr, {}).isNull());
+}
+
+void ControlsTest::wordsOnTint_data() {
+    QTest::addColumn<QColor>("base");
+    for (const char *hex : {"#1f6ff2", "#0f9f7a", "#7c5cff", "#f59e0b", "#e0484a", "#0ea5e9",
+                            "#ffffff", "#000000", "#ffff00"})
+        QTest::newRow(hex) << QColor(QLatin1StringView(hex));
+}
+
+void ControlsTest::wordsOnTint() {
+    QFETCH(QColor, base);
+    const auto luminance = [](const QColor &color) {
+        const auto linear = [](double c) {
+            return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+               0.0722 * linear(color.blueF());
+    };
+    for (const bool dark : {false, true}) {
+        const double ground = luminance(Tint::ground(base, dark));
+        const double text = luminance(Tint::text(base, dark));
+        QVERIFY((std::max(ground, text) + 0.05) / (std::min(ground, text) + 0.05) >= 4.5);
+    }
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::ControlsTest)
+#include "ControlsTest.moc"
