@@ -17,7 +17,7 @@ T.TextField {
     leftPadding: iconName === "" ? 12 : 38
     rightPadding: 12 + trailing
     verticalAlignment: TextInput.AlignVCenter
-    font.family: Qt.application.font.family
+    font.family: Tokens.family
     font.pixelSize: Tokens.type.body.size
     color: enabled ? Tokens.t1 : Tokens.tDisabled
     placeholderTextColor: Tokens.t3

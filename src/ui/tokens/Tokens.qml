@@ -75,6 +75,8 @@ QtObject {
         line: tokens.dark ? "#66323a" : "#f5c3c4"
     }
 
+    // For the fields that do not take the type face of the application by themselves.
+    readonly property string family: "Inter"
     readonly property TypeScale type: TypeScale {}
 
     readonly property int radiusSmall: 4
