@@ -98,9 +98,23 @@ QCoro::Task<QByteArray> HttpExchange::read() {
     Arrival bytes{this, Stage::Bytes};
     co_await waitFor(bytes);
     const QByteArray piece = m_reply->readAll();
-    if (piece.isEmpty() && isBroken(m_reply->error(), status()))
-        throw APIError::transport(m_reply->errorString());
+    m_received += piece.size();
+    if (piece.isEmpty()) {
+        if (isBroken(m_reply->error(), status()))
+            throw APIError::transport(m_reply->errorString());
+        if (isCutShort())
+            throw APIError::transport(text("The connection ended before the answer did."));
+    }
     co_return piece;
+}
+
+/// The network layer takes a connection that ends early for the end of the body.
+bool HttpExchange::isCutShort() const {
+    bool announced = false;
+    const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&announced);
+    const bool isBare = status() == 204 || status() == 304;
+    return announced && !isBare && !m_reply->hasRawHeader("Content-Encoding") &&
+           m_received < length;
 }
 
 bool HttpExchange::reached(Stage stage) const {

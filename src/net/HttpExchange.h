@@ -34,6 +34,7 @@ private:
 
     bool reached(Stage stage) const;
     int status() const;
+    bool isCutShort() const;
     void begin();
     void redirect(const QUrl &target);
     std::optional<QUrl> redirectTarget() const;
@@ -48,6 +49,7 @@ private:
     const QUrl m_origin;
     HttpSession::Credentials m_credentials = HttpSession::Credentials::Carry;
     qint64 m_readBufferSize = 0;
+    qint64 m_received = 0;
     QPointer<QNetworkReply> m_reply;
     std::optional<APIError> m_failure;
     QObject m_context;
