@@ -22,6 +22,17 @@ ChatMessage messageOf(const Row &row) {
             QJsonDocument::fromJson(row.text(3).toUtf8()).object(), row.text(4)};
 }
 
+ChatMessage insert(Sql &sql, const ChatKey &key, const QString &role, const QString &content,
+                   const QJsonObject &metadata, const QVariant &requestId) {
+    const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs);
+    const qint64 id = sql.insert(
+        u"INSERT INTO messages (account, chat, role, content, metadata, request_id, created_at)"
+        u" VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
+        {key.account, key.chat, role, content, QString::fromUtf8(compact(metadata)), requestId,
+         now});
+    return {id, role, content, metadata, now};
+}
+
 } // namespace
 
 QJsonObject ChatMessage::rowObject(const QString &origin) const {
@@ -55,24 +66,23 @@ QList<ChatMessage> ChatStore::history(const ChatKey &key, int limit) {
 }
 
 ChatMessage ChatStore::append(const ChatKey &key, const QString &role, const QString &content,
-                              const QJsonObject &metadata, const QString &requestId) {
-    ChatMessage message{0, role, content, metadata,
-                        QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)};
-    message.id = m_database.run([&](Sql &sql) {
-        return sql.insert(
-            u"INSERT INTO messages (account, chat, role, content, metadata, request_id,"
-            u" created_at) VALUES (?, ?, ?, ?, ?, ?, ?)"_s,
-            {key.account, key.chat, role, content, QString::fromUtf8(compact(metadata)),
-             requestId.isEmpty() ? QVariant() : QVariant(requestId), message.createdAt});
-    });
-    return message;
+                              const QJsonObject &metadata) {
+    return m_database.run(
+        [&](Sql &sql) { return insert(sql, key, role, content, metadata, QVariant()); });
 }
 
-std::optional<ChatMessage> ChatStore::byRequest(const ChatKey &key, const QString &requestId) {
-    const auto row = m_database.run([&](Sql &sql) {
-        return sql.row(columns + u" AND request_id = ?"_s, {key.account, key.chat, requestId});
+std::pair<ChatMessage, bool> ChatStore::appendOnce(const ChatKey &key, const QString &content,
+                                                   const QJsonObject &metadata,
+                                                   const QString &requestId) {
+    return m_database.run([&](Sql &sql) {
+        if (requestId.isEmpty()) {
+            return std::pair(insert(sql, key, u"user"_s, content, metadata, QVariant()), true);
+        }
+        const auto earlier =
+            sql.row(columns + u" AND request_id = ?"_s, {key.account, key.chat, requestId});
+        return earlier ? std::pair(messageOf(*earlier), false)
+                       : std::pair(insert(sql, key, u"user"_s, content, metadata, requestId), true);
     });
-    return row ? std::optional(messageOf(*row)) : std::nullopt;
 }
 
 void ChatStore::update(const ChatMessage &message) {

@@ -40,9 +40,11 @@ public:
     /// The last `limit` messages, oldest first.
     QList<ChatMessage> history(const ChatKey &key, int limit);
     ChatMessage append(const ChatKey &key, const QString &role, const QString &content,
-                       const QJsonObject &metadata, const QString &requestId = {});
-    /// The message that an earlier request with this id stored.
-    std::optional<ChatMessage> byRequest(const ChatKey &key, const QString &requestId);
+                       const QJsonObject &metadata);
+    /// Stores a person's message, unless an earlier request with the same id (empty for none) did.
+    /// The result is the stored message, and whether it is new.
+    std::pair<ChatMessage, bool> appendOnce(const ChatKey &key, const QString &content,
+                                            const QJsonObject &metadata, const QString &requestId);
     /// Replaces what an answer says so far.
     void update(const ChatMessage &message);
     /// How many characters the account's conversations hold.

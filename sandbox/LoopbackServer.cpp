@@ -12,6 +12,7 @@ namespace {
 constexpr Connection::Milliseconds keepAlivePatience{15'000};
 constexpr size_t requestsPerConnection = 200;
 constexpr size_t mostConnections = 256;
+constexpr int backlog = 128;
 
 } // namespace
 
@@ -19,6 +20,19 @@ LoopbackServer::LoopbackServer() {
     set_keep_alive_timeout(keepAlivePatience / std::chrono::seconds(1));
     set_keep_alive_max_count(requestsPerConnection);
     new_task_queue = [] { return new ConnectionThreads(mostConnections); };
+}
+
+int LoopbackServer::bindLoopback(int port) {
+    const char *const loopback = "127.0.0.1";
+    if (port == 0) {
+        port = bind_to_any_port(loopback);
+    } else if (!bind_to_port(loopback, port)) {
+        port = -1;
+    }
+    if (port > 0) {
+        ::listen(svr_sock_, backlog); // the library's own five drop a client that starts up
+    }
+    return port;
 }
 
 void LoopbackServer::stopNow() {

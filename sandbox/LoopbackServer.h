@@ -13,6 +13,8 @@ class LoopbackServer : public httplib::Server {
 public:
     LoopbackServer();
 
+    /// Takes a port of 127.0.0.1, a free one for 0. Returns it, or -1 when it cannot be had.
+    int bindLoopback(int port);
     /// Stops accepting and closes every connection; `listen_after_bind` then returns.
     void stopNow();
 

@@ -13,7 +13,6 @@ namespace {
 
 /// The largest upload and the multipart frame around it.
 constexpr size_t largestBody = 25 * 1024 * 1024 + 64 * 1024;
-const char *const loopback = "127.0.0.1";
 
 } // namespace
 
@@ -29,15 +28,11 @@ Server::Server(const Options &options)
     addAccountRoutes(*m_router, *m_services);
     addVoiceRoutes(*m_router, *m_services);
     addPageRoutes(*m_router, *m_services);
+    addSurfaceRoutes(*m_router, *m_services);
     if (options.control) {
         addControlRoutes(*m_router, *m_services);
     }
-    m_port = options.port;
-    if (m_port == 0) {
-        m_port = m_http->bind_to_any_port(loopback);
-    } else if (!m_http->bind_to_port(loopback, m_port)) {
-        m_port = -1;
-    }
+    m_port = m_http->bindLoopback(options.port);
     if (m_port <= 0) {
         throw std::runtime_error("the port cannot be had");
     }

@@ -2,6 +2,8 @@
 #include "Routes.h"
 #include "Services.h"
 
+#include <QTimeZone>
+
 using namespace Qt::StringLiterals;
 
 namespace kiv::sandbox {
@@ -52,8 +54,11 @@ Reply signup(Services &services, const Call &call) {
     const QJsonObject body = call.json();
     const QString email = stringMember(body, "email"_L1);
     services.sample.ensure(email);
-    const QJsonObject profile =
-        checkedProfile({{u"time_zone"_s, stringMember(body, "time_zone"_L1)}});
+    QJsonObject profile;
+    const QString zone = stringMember(body, "time_zone"_L1);
+    if (QTimeZone(zone.toUtf8()).isValid()) { // a zone unknown here is no reason to refuse
+        profile.insert(u"time_zone"_s, zone);
+    }
     return signedIn(services, call,
                     services.accounts.create(email, stringMember(body, "password"_L1), profile));
 }

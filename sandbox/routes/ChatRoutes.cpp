@@ -89,17 +89,14 @@ Reply send(Services &services, const Call &call, FindTarget find) {
     if (target.stopped) {
         throw Refusal(409, u"%1 is stopped."_s.arg(target.scope.name), u"work_halted"_s);
     }
-    if (!requestId.isEmpty()) {
-        if (const auto earlier = services.chats.byRequest(target.key, requestId)) {
-            return sent(*earlier, call);
-        }
-    }
     QJsonObject metadata;
     if (!attachments.isEmpty()) {
         metadata.insert(u"attachments"_s, attachments);
     }
-    const ChatMessage message =
-        services.chats.append(target.key, u"user"_s, text, metadata, requestId);
+    const auto [message, isNew] = services.chats.appendOnce(target.key, text, metadata, requestId);
+    if (!isNew) {
+        return sent(message, call);
+    }
     services.hub.publish(target.key, rowEvent(message.rowObject(call.origin)));
     const Question question{text, target.scope, attachments.size()};
     services.answerer.begin(target.key, call.origin, [&services, question, label = target.label] {
@@ -137,21 +134,16 @@ Reply stop(Services &services, const Call &call) {
 
 void addChatRoutes(Router &router, Services &services) {
     using Access = Router::Access;
-    const std::pair<std::string, FindTarget> targets[] = {
-        {"/api/v2/projects/([^/]+)/chat", projectTarget},
-        {"/api/v2/custom-agents/([^/]+)/chat", agentTarget},
+    const auto add = [&](const std::string &path, FindTarget find) {
+        router.get(path, Access::SignedIn,
+                   [&services, find](const Call &call) { return history(services, call, find); });
+        router.post(path, Access::SignedIn,
+                    [&services, find](const Call &call) { return send(services, call, find); });
+        router.get(path + "/stream", Access::SignedIn,
+                   [&services, find](const Call &call) { return stream(services, call, find); });
     };
-    for (const auto &[path, find] : targets) {
-        router.get(path, Access::SignedIn, [&services, find = find](const Call &call) {
-            return history(services, call, find);
-        });
-        router.post(path, Access::SignedIn, [&services, find = find](const Call &call) {
-            return send(services, call, find);
-        });
-        router.get(path + "/stream", Access::SignedIn, [&services, find = find](const Call &call) {
-            return stream(services, call, find);
-        });
-    }
+    add("/api/v2/projects/([^/]+)/chat", projectTarget);
+    add("/api/v2/custom-agents/([^/]+)/chat", agentTarget);
     router.post("/api/v2/custom-agents/([^/]+)/chat/stop", Access::SignedIn,
                 [&services](const Call &call) { return stop(services, call); });
 }

@@ -13,6 +13,7 @@ void addFileRoutes(Router &router, Services &services);
 void addAccountRoutes(Router &router, Services &services);
 void addVoiceRoutes(Router &router, Services &services);
 void addPageRoutes(Router &router, Services &services);
+void addSurfaceRoutes(Router &router, Services &services);
 void addControlRoutes(Router &router, Services &services);
 
 } // namespace kiv::sandbox

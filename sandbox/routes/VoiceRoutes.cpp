@@ -17,6 +17,9 @@ void addVoiceRoutes(Router &router, Services &services) {
         services.workspace.agent(call.account, agent);
         return Reply::json({{u"calls"_s, QJsonArray()}});
     });
+    router.post("/api/v2/voice/session", Access::SignedIn, [](const Call &) -> Reply {
+        throw Refusal(503, u"Voice calls are not set up on this server."_s, u"voice_unavailable"_s);
+    });
 }
 
 } // namespace kiv::sandbox

@@ -138,6 +138,20 @@ private Q_SLOTS:
         QVERIFY2(wanted.match(answer.content).hasMatch(), qPrintable(answer.content));
     }
 
+    /// A link that an answer gives opens a page of this server, for its owner only.
+    void linksLeadSomewhere() {
+        for (const QString &question : {u"Open the Orchard page"_s, u"Dashboard of Orchard"_s}) {
+            const QString content = ask(question).content;
+            const qsizetype from = content.indexOf(u"]("_s) + 2;
+            const QString path = content.mid(from, content.indexOf(u')', from) - from);
+            const Response page = m_client->get(path);
+            QCOMPARE(page.status, 200);
+            QVERIFY(page.body.contains("<h1>Orchard</h1>"));
+            QVERIFY(page.body.contains("Confirm the new tax code"));
+            QCOMPARE(Client(m_sandbox->port()).get(path).status, 401);
+        }
+    }
+
     void besideTheText() {
         QCOMPARE(ask(u"How many tasks are open?"_s)
                      .metadata.value(u"view"_s)

@@ -164,6 +164,21 @@ private Q_SLOTS:
         QCOMPARE(content(rows.at(1).toObject()), stood);
     }
 
+    void streamsAreLimited() {
+        std::vector<std::unique_ptr<Stream>> streams;
+        for (int i = 0; i < 64; ++i) {
+            streams.push_back(std::make_unique<Stream>(*m_client, room + u"/stream"_s));
+            QVERIFY(streams.back()->waitFor("event: ready\n"));
+        }
+        QCOMPARE(m_client->get(room + u"/stream"_s).code(), u"too_many_streams"_s);
+        QCOMPARE(m_client->get(room).status, 200); // the rest of the server goes on
+        streams.clear();
+        const auto open = [this] {
+            return Stream(*m_client, room + u"/stream"_s).waitFor("event: ready\n");
+        };
+        QTRY_VERIFY(open()); // places are free again when the peers are gone
+    }
+
     void accountsDoNotMeet() {
         Client other(m_sandbox->port());
         other.signUp(u"other@example.com"_s);

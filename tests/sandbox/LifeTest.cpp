@@ -33,8 +33,14 @@ private Q_SLOTS:
         QVERIFY(stream.waitFor("event: ready\n"));
         client.post(chat, {{u"text"_s, u"status?"_s}});
         client.post(u"/_control/faults"_s,
-                    {{u"faults"_s, QJsonArray{u"latency=60000,path=/projects"_s}}});
+                    {{u"faults"_s, QJsonArray{u"latency=60000,path=/projects,times=1"_s,
+                                              u"slow=60000,path=/custom-agents,times=1"_s}}});
         Stream late(client, u"/api/v2/projects"_s);
+        Stream slow(client, u"/api/v2/custom-agents"_s);
+        const auto struck = [&client] {
+            return client.get(u"/_control/faults"_s).body.count("times=0");
+        };
+        QTRY_COMPARE(struck(), 2);
 
         QElapsedTimer timer;
         timer.start();
@@ -48,6 +54,7 @@ private Q_SLOTS:
         QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(stream.waitForEnd());
         QVERIFY(late.waitForEnd());
+        QVERIFY(slow.waitForEnd());
         QCOMPARE(sandbox.complaints(), QByteArray());
     }
 

@@ -58,7 +58,8 @@ Stream::~Stream() {
 template <typename Condition>
 bool Stream::waitUntil(Condition condition) {
     std::unique_lock lock(m_mutex);
-    return m_wake.wait_for(lock, patience, condition);
+    m_wake.wait_for(lock, patience, [&] { return m_ended || condition(); });
+    return condition();
 }
 
 bool Stream::waitFor(const QByteArray &text) {
