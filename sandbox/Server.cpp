@@ -37,6 +37,7 @@ Server::Server(const Options &options)
         throw std::runtime_error("the port cannot be had");
     }
     m_router->setPort(m_port);
+    m_services->database.run([](Sql &) {}); // throws when it cannot be opened
     m_thread = std::thread([this] { m_http->listen_after_bind(); });
 }
 

@@ -16,7 +16,7 @@ struct Services;
 /// The running server: listens from construction to destruction, on a thread of its own.
 class Server {
 public:
-    /// Throws std::runtime_error when the port cannot be had.
+    /// Throws std::runtime_error when the port cannot be had or the database cannot be opened.
     explicit Server(const Options &options);
     /// Lets every stream and answer go, then waits for the threads.
     ~Server();

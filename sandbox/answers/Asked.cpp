@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <cmath>
 
@@ -18,12 +19,20 @@ bool hasCyrillic(const QString &text) {
                        [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
 }
 
+/// Whether the text names something by this whole word or words.
+bool names(const QString &text, const QString &name) {
+    const QRegularExpression word(u"\\b%1\\b"_s.arg(QRegularExpression::escape(name)),
+                                  QRegularExpression::CaseInsensitiveOption |
+                                      QRegularExpression::UseUnicodePropertiesOption);
+    return word.match(text).hasMatch();
+}
+
 /// The project that a question to everybody names, so that "What blocks Orchard?" is about one.
 QString namedProject(Sql &sql, const Question &question) {
     const auto rows =
         sql.rows(u"SELECT slug, label FROM projects WHERE account = ?"_s, {question.scope.account});
     for (const Row &row : rows) {
-        if (question.text.contains(row.text(1), Qt::CaseInsensitive)) {
+        if (names(question.text, row.text(1))) {
             return row.text(0);
         }
     }
@@ -37,7 +46,7 @@ std::optional<Row> namedAgent(Sql &sql, const Question &question) {
                                u" WHERE a.account = ? AND a.kind = 'agent'"_s,
                                {question.scope.account});
     for (const Row &row : rows) {
-        if (question.text.contains(row.text(0), Qt::CaseInsensitive)) {
+        if (names(question.text, row.text(0))) {
             return row;
         }
     }
