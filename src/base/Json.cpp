@@ -21,7 +21,8 @@ QByteArray withNumbersInRange(QByteArrayView utf8) {
 JsonDocument::JsonDocument(QByteArrayView utf8)
     : m_parser(std::make_unique<simdjson::dom::parser>()) {
     auto parse = [this](QByteArrayView text) {
-        return m_parser->parse(text.data(), static_cast<size_t>(text.size())).get(m_root);
+        const char *data = text.isEmpty() ? "" : text.data(); // simdjson copies even nothing
+        return m_parser->parse(data, static_cast<size_t>(text.size())).get(m_root);
     };
     auto error = parse(utf8);
     if (error == simdjson::NUMBER_ERROR) {
