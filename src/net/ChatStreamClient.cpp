@@ -43,6 +43,8 @@ struct Stream {
 QCoro::Task<void> connectOnce(const Stream *stream, Cancel cancel) {
     HttpRequest request = stream->client->request("GET"_ba, stream->path);
     request.headers.insert("Accept"_ba, "text/event-stream"_ba);
+    // A compressing proxy would hold events back until they fill a block.
+    request.headers.insert("Accept-Encoding"_ba, "identity"_ba);
     request.timeout = silenceLimit;
     HttpExchange exchange(stream->session, std::move(request), cancel);
     exchange.setReadBufferSize(readBufferSize);

@@ -17,7 +17,8 @@ public:
     using OnMessage = std::function<void(const ChatRow &)>;
     using OnReconnect = std::function<void()>;
 
-    /// Reads from the client's backend with its cookies, over connections of its own.
+    /// Reads from the client's backend with its cookies, over connections of its own. The client
+    /// outlives the stream.
     explicit ChatStreamClient(APIClient &client, QObject *parent = nullptr);
 
     /// Replaces the running stream. `onReconnect` is called before every attempt but the first.

@@ -2,8 +2,6 @@
 
 #include "base/Await.h"
 
-#include <QCoreApplication>
-
 #include <utility>
 
 namespace kiv::net {
@@ -13,10 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int redirectLimit = 10;
-
-QString text(const char *english) {
-    return QCoreApplication::translate("HttpExchange", english);
-}
 
 bool sameOrigin(const QUrl &a, const QUrl &b) {
     const auto port = [](const QUrl &url) {
@@ -89,7 +83,7 @@ QCoro::Task<int> HttpExchange::open() {
         if (!target)
             co_return status();
         if (redirects == redirectLimit)
-            throw APIError::transport(text("The server redirected the request too many times."));
+            throw APIError::transport(tr("The server redirected the request too many times."));
         redirect(*target);
     }
 }
@@ -103,7 +97,7 @@ QCoro::Task<QByteArray> HttpExchange::read() {
         if (isBroken(m_reply->error(), status()))
             throw APIError::transport(m_reply->errorString());
         if (isCutShort())
-            throw APIError::transport(text("The connection ended before the answer did."));
+            throw APIError::transport(tr("The connection ended before the answer did."));
     }
     co_return piece;
 }
@@ -170,7 +164,7 @@ std::optional<QUrl> HttpExchange::redirectTarget() const {
 void HttpExchange::redirect(const QUrl &target) {
     const bool secured = target.scheme() == u"https"_s;
     if (!secured && (target.scheme() != u"http"_s || m_origin.scheme() == u"https"_s))
-        throw APIError::transport(text("The server redirected the request to an unsafe address."));
+        throw APIError::transport(tr("The server redirected the request to an unsafe address."));
     if (!sameOrigin(m_origin, target))
         m_credentials = HttpSession::Credentials::Omit;
     const bool repeats =
@@ -187,8 +181,8 @@ void HttpExchange::stirred() {
     if (m_failure)
         return;
     m_silence = m_session->environment().clock->after(m_request.timeout, [this] {
-        fail(APIError::transport(m_reply ? text("The server did not answer in time.")
-                                         : text("There is no network connection.")));
+        fail(APIError::transport(m_reply ? tr("The server did not answer in time.")
+                                         : tr("There is no network connection.")));
     });
 }
 

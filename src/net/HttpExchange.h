@@ -3,6 +3,7 @@
 #include "net/APIError.h"
 #include "net/HttpSession.h"
 
+#include <QCoreApplication>
 #include <QNetworkReply>
 #include <QPointer>
 
@@ -14,6 +15,7 @@ namespace kiv::net {
 /// for silence. Lives in the frame of the coroutine that reads it; destroying it aborts the
 /// request. Everything throws APIError (transport, cancelled).
 class HttpExchange {
+    Q_DECLARE_TR_FUNCTIONS(HttpExchange)
 public:
     HttpExchange(HttpSession *session, HttpRequest request, Cancel cancel);
     HttpExchange(const HttpExchange &) = delete;

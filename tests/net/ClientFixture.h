@@ -102,10 +102,4 @@ private:
     Work m_work;
 };
 
-/// A call without a result, as one with an empty result.
-inline QCoro::Task<QByteArray> valued(QCoro::Task<void> task) {
-    co_await task;
-    co_return QByteArray();
-}
-
 } // namespace kiv::test

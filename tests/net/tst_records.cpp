@@ -98,7 +98,7 @@ QList<QJsonValue> wrongFor() {
     } else if constexpr (std::is_same_v<T, JVal>) {
         return {};
     } else {
-        QList<QJsonValue> values{QJsonArray{QJsonArray()}, QJsonArray{QJsonValue()}};
+        QList<QJsonValue> values{QJsonArray{QJsonValue(QJsonArray())}, QJsonArray{QJsonValue()}};
         if constexpr (!std::is_same_v<T, QString>)
             values += {u""_s, u"1"_s, u"true"_s};
         if constexpr (!std::is_same_v<T, bool>)
@@ -179,8 +179,7 @@ void checkRecord() {
 
 template <typename... Records>
 void addRecords() {
-    (QTest::newRow(std::string(tableOf<Records>.name).c_str()) << Check(&checkRecord<Records>),
-     ...);
+    ((QTest::newRow(tableOf<Records>.name.data()) << Check(&checkRecord<Records>)), ...);
 }
 
 } // namespace

@@ -124,7 +124,7 @@ private Q_SLOTS:
         at.server.answer(200, "<html>");
         Call<Ack> call([&](Cancel cancel) { return at.client->get<Ack>(u"x"_s, {}, cancel); });
         QVERIFY(call.finish());
-        QVERIFY_EXCEPTION_THROWN(std::rethrow_exception(call.error()), DecodingError);
+        QVERIFY_THROWS_EXCEPTION(DecodingError, std::rethrow_exception(call.error()));
         QVERIFY(!call.errorText().isEmpty());
     }
 

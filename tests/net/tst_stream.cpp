@@ -80,6 +80,7 @@ private Q_SLOTS:
         QCOMPARE(at.server.last().method, "GET"_ba);
         QCOMPARE(at.server.last().target, "/api/v2/projects/a%2Fb/chat/stream"_ba);
         QCOMPARE(at.server.last().headers["accept"], "text/event-stream"_ba);
+        QCOMPARE(at.server.last().headers["accept-encoding"], "identity"_ba);
         QCOMPARE(at.server.last().headers["origin"], at.server.url().toEncoded());
         QCOMPARE(at.server.last().headers["cookie"], "sid=1"_ba);
         QCOMPARE(at.reconnects, 0);

@@ -101,7 +101,7 @@ private Q_SLOTS:
         QFETCH(QByteArrayList, pieces);
         QFETCH(bool, breaks);
         if (breaks)
-            QVERIFY_EXCEPTION_THROWN(eventsOf(pieces), APIError);
+            QVERIFY_THROWS_EXCEPTION(APIError, eventsOf(pieces));
         else
             QVERIFY(!eventsOf(pieces).isEmpty());
     }
