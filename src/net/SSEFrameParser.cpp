@@ -8,9 +8,11 @@
 
 namespace kiv::net {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-constexpr QByteArrayView defaultEvent = "message";
+const QByteArray defaultEvent = "message"_ba;
 
 /// What stands after `name` and, if there is one, a space; nothing for a line of another field.
 std::optional<QByteArrayView> fieldValue(QByteArrayView line, QByteArrayView name) {
@@ -39,8 +41,7 @@ std::optional<SSERawEvent> SSEFrameParser::feed(QByteArrayView line) {
 
 /// A blank line after a named event yields it even without data; stray blank lines yield nothing.
 std::optional<SSERawEvent> SSEFrameParser::dispatch() {
-    SSERawEvent frame{std::exchange(m_event, defaultEvent.toByteArray()),
-                      std::exchange(m_data, QByteArray())};
+    SSERawEvent frame{std::exchange(m_event, defaultEvent), std::exchange(m_data, QByteArray())};
     m_hasData = false;
     if (frame.data.isEmpty() && frame.event == defaultEvent)
         return std::nullopt;
