@@ -2,6 +2,7 @@
 
 #include "base/Json.h"
 
+#include <charconv>
 #include <cmath>
 
 namespace kiv {
@@ -17,9 +18,16 @@ std::optional<JVal> JVal::parse(QByteArrayView utf8) {
 }
 
 QString decimalDescription(double value) {
-    QString text = QString::number(value, 'g', QLocale::FloatingPointShortest);
-    const bool bareInteger = std::isfinite(value) && !text.contains(u'.') && !text.contains(u'e');
-    return bareInteger ? text + u".0"_s : text;
+    // Up to here every whole number is written out; past it the digits would be padding.
+    constexpr double longest = 0x1p54;
+    const double size = std::abs(value);
+    const bool plain = value == 0 || (size >= 1e-4 && size <= longest);
+    char digits[64];
+    const auto end = std::to_chars(digits, digits + sizeof digits, value,
+                                   plain ? std::chars_format::fixed : std::chars_format::scientific)
+                         .ptr;
+    const QString text = QString::fromLatin1(digits, end - digits);
+    return plain && !text.contains(u'.') ? text + u".0"_s : text;
 }
 
 namespace {

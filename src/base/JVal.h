@@ -46,7 +46,7 @@ private:
 };
 
 /// The shortest decimal text that reads back as `value`, a whole number with ".0": 1.0, 2.5,
-/// 1e+300.
+/// 1000000.0. An exponent is written below 1e-4 and past 2^54 only: 1e-05, 1e+300.
 QString decimalDescription(double value);
 
 } // namespace kiv

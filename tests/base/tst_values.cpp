@@ -105,6 +105,9 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("json");
         QTest::addColumn<QString>("canonical");
         QTest::newRow("numbers") << QByteArray("[1,2.5,-0.5,1e300]") << u"[1.0,2.5,-0.5,1e+300]"_s;
+        QTest::newRow("round and small numbers")
+            << QByteArray("[1000000,1200000,1e15,1e20,0.0001,0.00001]")
+            << u"[1000000.0,1200000.0,1000000000000000.0,1e+20,0.0001,1e-05]"_s;
         QTest::newRow("keys sorted")
             << QByteArray(R"({"b":null,"a":"x\"y"})") << u"{\"a\":\"x\"y\",\"b\":null}"_s;
         QTest::newRow("booleans are numbers") << QByteArray("[true,false]") << u"[1.0,0.0]"_s;
