@@ -1,0 +1,16 @@
+#include "canvas/ArtInfo.h"
+
+#include "canvas/SceneText.h"
+
+namespace kiv::canvas {
+
+ArtInfo ArtInfoFactory::make(const QString &art, const ViewSpec &spec,
+                             const std::optional<SceneOut> &scene, const QList<ReplyChip> &chips) {
+    return {.art = art,
+            .word = artWord(art),
+            .title = scene ? scene->title : sceneTitle(spec, art),
+            .countLine = scene ? scene->countLine : QString(),
+            .chips = chips};
+}
+
+} // namespace kiv::canvas

@@ -1,0 +1,49 @@
+#include "canvas/SceneBuilders.h"
+#include "canvas/SceneText.h"
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Lines that a block carries beside its key figures, as rows or as points.
+QStringList highlightsOf(const ViewSpec &spec, const QString &unit) {
+    QStringList lines;
+    for (const QStringList &row : spec.rows) {
+        QStringList cells = row;
+        cells.removeIf([](const QString &cell) { return cell.trimmed().isEmpty(); });
+        lines.append(cells.join(u" · "));
+    }
+    for (const ViewSpec::Point &point : spec.points) {
+        const QString value = valueText(point, unit);
+        const bool both = !point.label.isEmpty() && !value.isEmpty();
+        lines.append(both ? point.label + u": "_s + value : point.label + value);
+    }
+    lines.removeAll(QString());
+    return lines;
+}
+
+} // namespace
+
+std::optional<SceneOut> buildReport(const ViewSpec &spec) {
+    const QString unit = spec.unit.value_or(QString());
+    SceneOut scene;
+    for (const ViewSpec::Item &item : spec.items) {
+        const QString value = valueText(item, unit);
+        const QString delta = item.delta.value_or(QString()).trimmed();
+        if (!value.isEmpty())
+            scene.kpiCards.append({item.label, value, delta, isGoodDelta(delta)});
+        else if (!item.label.trimmed().isEmpty())
+            scene.highlights.append(item.label);
+    }
+    scene.highlights += highlightsOf(spec, unit);
+    const qsizetype count =
+        scene.kpiCards.isEmpty() ? scene.highlights.size() : scene.kpiCards.size();
+    if (count == 0)
+        return std::nullopt;
+    scene.countLine = QString::number(count) + u" · from the answer"_s;
+    return scene;
+}
+
+} // namespace kiv::canvas

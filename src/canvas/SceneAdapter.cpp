@@ -1,0 +1,49 @@
+#include "canvas/SceneAdapter.h"
+
+#include "canvas/ArtChoice.h"
+#include "canvas/SceneBuilders.h"
+#include "canvas/SceneText.h"
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Builder = std::optional<SceneOut> (*)(const ViewSpec &);
+
+const QHash<QString, Builder> &builders() {
+    static const QHash<QString, Builder> table{
+        {u"report"_s, &buildReport},
+        {u"compare"_s, &buildCompare},
+    };
+    return table;
+}
+
+} // namespace
+
+const QList<SceneColor> &SceneAdapter::palette() {
+    static const QList<SceneColor> colors{SceneColor::Violet, SceneColor::Blue, SceneColor::Green,
+                                          SceneColor::Amber, SceneColor::Red};
+    return colors;
+}
+
+std::optional<SceneOut> SceneAdapter::build(const ViewSpec &spec,
+                                            const std::optional<QString> &intent,
+                                            const std::optional<QString> &forceArt) {
+    const auto art = forceArt ? forceArt : CanvasEngine::artForSpec(spec, intent);
+    const Builder builder = art ? builders().value(*art) : nullptr;
+    auto scene = builder ? builder(spec) : std::nullopt;
+    if (scene) {
+        scene->art = *art;
+        scene->title = sceneTitle(spec, *art);
+    }
+    return scene;
+}
+
+std::optional<SceneOut> SceneAdapter::vals(const ViewSpec &spec,
+                                           const std::optional<QString> &intent) {
+    return build(spec, intent);
+}
+
+} // namespace kiv::canvas

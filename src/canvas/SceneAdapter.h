@@ -1,0 +1,22 @@
+#pragma once
+
+#include "canvas/SceneOut.h"
+#include "canvas/ViewSpec.h"
+
+#include <optional>
+
+/// Turns a specification into a scene. Every figure of a scene is in the answer or follows from its
+/// figures; what the answer lacks stays empty.
+namespace kiv::canvas::SceneAdapter {
+
+/// The colours that rows and series take in turn.
+const QList<SceneColor> &palette();
+
+/// The scene of `forceArt`, or of the art that fits the specification and the question's intent.
+/// Nothing when there is no such art or the specification lacks what the art needs.
+std::optional<SceneOut> build(const ViewSpec &spec, const std::optional<QString> &intent,
+                              const std::optional<QString> &forceArt = {});
+
+std::optional<SceneOut> vals(const ViewSpec &spec, const std::optional<QString> &intent);
+
+} // namespace kiv::canvas::SceneAdapter

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QMetaType>
+#include <qobjectdefs.h>
+
+namespace kiv::canvas {
+Q_NAMESPACE
+
+/// The colours that a scene names; the views give them their shades.
+enum class SceneColor { Violet, Blue, Green, Amber, Red };
+Q_ENUM_NS(SceneColor)
+
+/// How a change is meant: as a view reads an optional "is it good".
+enum class Tone { Neutral, Good, Bad };
+Q_ENUM_NS(Tone)
+
+} // namespace kiv::canvas

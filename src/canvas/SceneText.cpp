@@ -1,0 +1,70 @@
+#include "canvas/SceneText.h"
+
+#include "canvas/CanvasNum.h"
+
+#include <QHash>
+
+#include <cmath>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString valueOf(const std::optional<QString> &display, std::optional<double> value,
+                const QString &unit) {
+    if (display && !display->trimmed().isEmpty())
+        return display->trimmed();
+    return value && std::isfinite(*value) ? figureText(*value, unit) : QString();
+}
+
+} // namespace
+
+QString figureText(double value, const QString &unit) {
+    const QString number = CanvasNum::out(CanvasNum::decimal(std::abs(value)));
+    const QString sign = value < 0 ? u"-"_s : QString();
+    const QString sort = unit.trimmed();
+    if (sort == u"$" || sort == u"€" || sort == u"£" || sort == u"¥")
+        return sign + sort + number;
+    if (sort.isEmpty() || sort == u"%" || sort.startsWith(u'°'))
+        return sign + number + sort;
+    return sign + number + u'\u00a0' + sort;
+}
+
+QString valueText(const ViewSpec::Point &point, const QString &unit) {
+    return valueOf(point.display, point.value, unit);
+}
+
+QString valueText(const ViewSpec::Item &item, const QString &unit) {
+    return valueOf(item.display, item.value, unit);
+}
+
+QString artWord(const QString &art) {
+    static const QHash<QString, QString> words{
+        {u"report"_s, u"Report"_s},      {u"compare"_s, u"Comparison"_s},
+        {u"decision"_s, u"Decision"_s},  {u"agents"_s, u"Agents"_s},
+        {u"status"_s, u"Status"_s},      {u"funnel"_s, u"Funnel"_s},
+        {u"unit"_s, u"Parts"_s},         {u"brief"_s, u"Brief"_s},
+        {u"retro"_s, u"Retro"_s},        {u"costs"_s, u"Costs"_s},
+        {u"cashflow"_s, u"Cash flow"_s}, {u"okr"_s, u"Objectives"_s},
+        {u"workload"_s, u"Workload"_s},  {u"budget"_s, u"Budget"_s},
+    };
+    return words.value(art, art);
+}
+
+QString sceneTitle(const ViewSpec &spec, const QString &art) {
+    const QString title = spec.title.value_or(QString()).trimmed();
+    return title.isEmpty() ? artWord(art) : title;
+}
+
+std::optional<bool> isGoodDelta(const QString &delta) {
+    const QString written = delta.trimmed();
+    if (written.startsWith(u'+'))
+        return true;
+    if (written.startsWith(u'-') || written.startsWith(u'−'))
+        return false;
+    return std::nullopt;
+}
+
+} // namespace kiv::canvas
