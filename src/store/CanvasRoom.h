@@ -104,18 +104,21 @@ Q_SIGNALS:
     void visChanged();
     void animatedChanged();
     void failedChanged();
+    void signedOutChanged();
     void thinkingSecondsChanged();
     void sourceTimeChanged();
     void sourceMessageIdChanged();
 
 private:
     enum class Entrance { Animated, Still };
+    /// Whether a drawn canvas becomes a new entry of the history, replaces the newest, or neither.
     enum class Record { New, Amend, None };
+    enum class LinkOpening { Open, Leave };
 
     QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);
     QCoro::Task<void> finishBuilding(Cancel cancel);
     QCoro::Task<void> countSeconds(Cancel cancel);
-    void runScenario(const Msg &message, Record record, bool openLinks);
+    void runScenario(const Msg &message, Record record, LinkOpening links);
     void drawScenario(const canvas::ViewSpec &spec, Entrance entrance, Record record);
     void showHint();
     void clearDrawnArt();
@@ -130,6 +133,8 @@ private:
     QSet<qint64> m_earlyDrawnFor;
     std::optional<QString> m_drawnSpecKey;
     std::optional<QString> m_lastIntent;
+    QString m_panel;
+    std::optional<canvas::SurfaceLink> m_pageView;
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
                                          &CanvasRoom::phaseChanged)
@@ -147,6 +152,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_vis, &CanvasRoom::visChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_animated, &CanvasRoom::animatedChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed, &CanvasRoom::failedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, bool, m_signedOut, true,
+                                         &CanvasRoom::signedOutChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
                                &CanvasRoom::thinkingSecondsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceTime, &CanvasRoom::sourceTimeChanged)

@@ -82,7 +82,7 @@ private:
     };
 
     void sendLive(const QString &text);
-    void startTurn(const QString &text);
+    void startTurn(const Post &post);
     QCoro::Task<void> post(Post post, Cancel cancel);
     void confirmPost(const Post &post, const net::ChatSendResult &result);
     void failPost(const Post &post, const std::exception &error);
@@ -91,13 +91,14 @@ private:
     void showHistory(const QList<net::ChatRow> &rows, bool reconnected);
     void endWaiting();
     void keepUnsent();
+    void keepTypedText();
     Msg liveGreeting() const;
-    Msg *unsentOf(const net::ChatTarget &target, const QUuid &message);
 
     AppStore &m_store;
     MessageModel m_msgs;
     FeedModel m_feed;
     int m_chatGen = 0;
+    QUuid m_turn; ///< the message whose answer is waited for
     std::optional<net::ChatTarget> m_connected;
     /// Messages of other scopes that the server has not stored, by the path of their chat.
     QHash<QString, QList<Msg>> m_unsent;

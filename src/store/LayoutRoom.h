@@ -74,6 +74,7 @@ public:
     /// Closes account, wizard and scope popovers before the scope changes.
     void closeSurfaces();
     void closePages();
+    void closeAccount();
     void closeProfile();
     void closeHistory();
     void closeDock();

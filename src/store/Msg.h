@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/JVal.h"
+#include "canvas/ViewSpec.h"
 #include "net/ChatRecords.h"
 #include "store/Enums.h"
 
@@ -25,8 +26,9 @@ struct Msg {
     Who who = Who::Agent;
     QString text;  ///< the row's own text
     QString shown; ///< what the bubble shows of it: without the block that the canvas draws
-    QString title; ///< heading of what the canvas can draw of it
-    QString art;   ///< the scene the canvas can draw of it; empty when there is none
+    std::optional<canvas::ViewSpec> spec; ///< what the canvas can read in it
+    QString title;                        ///< heading of what the canvas can draw of it
+    QString art; ///< the scene the canvas can draw of it; empty when there is none
     std::optional<qint64> serverID;
     /// The request id of a message sent from here that the server has not confirmed.
     QString pendingID;

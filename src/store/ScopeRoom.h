@@ -83,6 +83,8 @@ public:
     QCoro::Task<void> resolveKiv(Cancel cancel);
     QCoro::Task<void> refreshUserAvatarIfNeeded(Cancel cancel);
     void restoreScope();
+    void startPersisting();
+    /// Forgets the signed-in person and everything of theirs; the saved scope stays.
     void clear();
     /// Nobody is signed in (any more).
     void setSignedOut();

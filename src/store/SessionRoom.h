@@ -50,6 +50,8 @@ public:
     void enterLive(const net::MeUser &user);
     void resetToAnon();
     void offerSample(const SampleAccount &account);
+    /// There is no backend to talk to; says why in the conversation.
+    void reportUnavailable(const QString &why);
 
 Q_SIGNALS:
     void authSheetChanged();

@@ -1,0 +1,41 @@
+#include "store/AppStore.h"
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode mode,
+                   QObject *parent)
+    : QObject(parent),
+      m_clock(clock),
+      m_net(net),
+      m_settings(settings),
+      m_mode(mode),
+      m_chatStream(net),
+      m_scope(*this),
+      m_layout(*this, settings, clock),
+      m_chat(*this),
+      m_canvas(*this),
+      m_events(*this),
+      m_session(*this) {
+    if (isSnapshot())
+        return;
+    m_layout.restoreChrome();
+    m_layout.startPersisting();
+    m_scope.startPersisting();
+}
+
+AppStore::~AppStore() {
+    m_chatStream.stop();
+}
+
+void AppStore::resetSurfaces() {
+    m_layout.closeSurfaces();
+    m_canvas.setIdle();
+}
+
+QString AppStore::stamp() const {
+    return m_clock.now().toLocalTime().toString(u"HH:mm"_s);
+}
+
+} // namespace kiv::store

@@ -1,0 +1,267 @@
+#include "store/ChatRoom.h"
+
+#include "net/KivAPI.h"
+#include "store/AppStore.h"
+
+#include <algorithm>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int feedWindow = 30;
+constexpr auto answerPatience = 180s;
+
+const QString signedOutGreeting =
+    u"Sign in to talk to your agents, projects and KIV — everything here is real."_s;
+
+/// What the conversation says of a send that failed.
+QString liveSendNote(const std::exception &error) {
+    if (const auto *api = dynamic_cast<const net::APIError *>(&error)) {
+        if (api->code() == u"work_halted"_s)
+            return u"This agent is stopped. Resume it in the dashboard to continue."_s;
+        if (api->code() == u"insufficient_funds"_s)
+            return u"⚠ Not enough tokens to run this agent."_s;
+    }
+    return net::errorText(error);
+}
+
+bool isUnauthorized(const std::exception &error) {
+    const auto *api = dynamic_cast<const net::APIError *>(&error);
+    return api && api->kind() == net::APIError::Kind::Unauthorized;
+}
+
+} // namespace
+
+ChatRoom::ChatRoom(AppStore &store) : m_store(store), m_feed(&m_msgs) {
+    m_feed.setWindow(feedWindow);
+    m_msgs.append(localMsg(Who::Agent, signedOutGreeting));
+    connect(&m_msgs, &MessageModel::countChanged, this, [this] {
+        const LayoutRoom *layout = m_store.layout();
+        if (layout->dockOpen() || layout->railShown())
+            markSeen();
+        m_unseenMsgs = std::max(m_msgs.count() - m_seenMsgs, 0);
+    });
+}
+
+void ChatRoom::markSeen() {
+    m_seenMsgs = m_msgs.count();
+    m_unseenMsgs = 0;
+}
+
+void ChatRoom::send(const QString &text) {
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty())
+        return;
+    switch (m_store.scope()->auth()) {
+    case AuthPhase::Unknown:
+        return;
+    case AuthPhase::Anon:
+        m_store.session()->openAuthSheet(AuthSheetMode::Login);
+        return;
+    case AuthPhase::SignedIn:
+        sendLive(trimmed);
+    }
+}
+
+void ChatRoom::sendLive(const QString &text) {
+    const auto target = m_store.scope()->chatTarget();
+    if (!target) {
+        m_msgs.append(localMsg(Who::You, text));
+        m_msgs.append(localMsg(Who::Agent, u"This one exists only in the prototype so far — pick a "
+                                           "real project or agent to chat."_s));
+        m_draft = QString();
+        return;
+    }
+    Msg message = localMsg(Who::You, text);
+    message.pendingID = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    message.at = m_store.clock().now();
+    const Post sent{*target, message.id, message.pendingID, text};
+    m_msgs.append(std::move(message));
+    m_draft = QString();
+    startTurn(sent);
+    m_posts.start([this, sent](Cancel cancel) { return post(sent, std::move(cancel)); });
+}
+
+void ChatRoom::retry(const QString &messageId) {
+    const qsizetype row = m_msgs.rowOf(QUuid::fromString(messageId));
+    const auto target = m_store.scope()->chatTarget();
+    if (row < 0 || !target || !m_msgs.messages().at(row).failed)
+        return;
+    Msg message = m_msgs.messages().at(row);
+    message.failed = false;
+    const Post again{*target, message.id, message.pendingID, message.text};
+    m_msgs.update(row, std::move(message));
+    startTurn(again);
+    m_posts.start([this, again](Cancel cancel) { return post(again, std::move(cancel)); });
+}
+
+void ChatRoom::startTurn(const Post &post) {
+    m_turn = post.message;
+    m_lastPrompt = post.text;
+    m_chatNote = QString();
+    m_liveWaiting = true;
+    m_canStop = m_connected && m_connected->isAgent();
+    m_store.layout()->closeAccount();
+    m_store.layout()->closeProfile();
+    QSet<qint64> known;
+    for (const Msg &message : m_msgs.messages()) {
+        if (message.serverID)
+            known.insert(*message.serverID);
+    }
+    m_store.canvas()->beginTurn(post.text, known);
+    m_watchdog.restart([this](Cancel cancel) { return watchAnswer(std::move(cancel)); });
+}
+
+QCoro::Task<void> ChatRoom::watchAnswer(Cancel cancel) {
+    co_await m_store.clock().sleep(answerPatience, std::move(cancel));
+    if (!m_store.canvas()->awaitingAnswer())
+        co_return;
+    endWaiting();
+    m_store.canvas()->failTurn();
+}
+
+QCoro::Task<void> ChatRoom::post(Post post, Cancel cancel) {
+    net::APIClient *client = &m_store.net();
+    try {
+        net::ChatSendResult result;
+        if (post.target.isAgent())
+            result = co_await net::KivAPI::sendAgentChat(client, post.target.id(), post.text,
+                                                         post.requestID, QJsonArray(), cancel);
+        else
+            result = co_await net::KivAPI::sendProjectChat(client, post.target.id(), post.text,
+                                                           QJsonArray(), cancel);
+        confirmPost(post, result);
+    } catch (const std::exception &error) {
+        cancel.throwIfRequested();
+        failPost(post, error);
+    }
+}
+
+void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) {
+    if (!result.message || !result.message->id)
+        return;
+    const qint64 id = *result.message->id;
+    const qsizetype row = m_msgs.rowOf(post.message);
+    if (row < 0) {
+        // The person went elsewhere meanwhile; the row comes with that chat's history.
+        m_unsent[post.target.streamPath()].removeIf(
+            [&](const Msg &message) { return message.id == post.message; });
+        return;
+    }
+    const qsizetype shown = m_msgs.rowOfServerID(id);
+    if (shown == row)
+        return;
+    if (shown >= 0) {
+        // The stream was faster and its text differs from what was typed: one row is enough.
+        m_msgs.remove(row);
+        return;
+    }
+    Msg confirmed = m_msgs.messages().at(row);
+    confirmed.serverID = id;
+    confirmed.pendingID.clear();
+    confirmed.failed = false;
+    m_msgs.update(row, std::move(confirmed));
+}
+
+void ChatRoom::failPost(const Post &post, const std::exception &error) {
+    if (isUnauthorized(error)) {
+        keepTypedText();
+        m_store.session()->resetToAnon();
+        m_store.session()->openAuthSheet(AuthSheetMode::Login);
+        return;
+    }
+    const qsizetype row = m_msgs.rowOf(post.message);
+    if (row < 0) {
+        for (Msg &message : m_unsent[post.target.streamPath()]) {
+            if (message.id == post.message)
+                message.failed = true;
+        }
+        return;
+    }
+    Msg failed = m_msgs.messages().at(row);
+    if (failed.serverID)
+        return; // the stream confirmed it: only the reply was lost
+    failed.failed = true;
+    m_msgs.update(row, std::move(failed));
+    if (post.message == m_turn) {
+        endWaiting();
+        m_store.canvas()->failTurn();
+    }
+    m_msgs.append(localMsg(Who::Agent, liveSendNote(error)));
+}
+
+void ChatRoom::endWaiting() {
+    m_watchdog.cancel();
+    m_liveWaiting = false;
+    m_canStop = false;
+    m_msgs.setGrowing({});
+}
+
+void ChatRoom::answerSettled() {
+    m_watchdog.cancel();
+    m_canStop = false;
+    m_msgs.setGrowing({});
+}
+
+void ChatRoom::stopLive() {
+    const auto target = m_store.scope()->chatTarget();
+    if (!target || !target->isAgent())
+        return;
+    endWaiting();
+    m_store.canvas()->abandonTurn();
+    m_posts.start([client = &m_store.net(), id = target->id()](Cancel cancel) {
+        return net::KivAPI::stopAgentChat(client, id, std::move(cancel));
+    });
+}
+
+void ChatRoom::newChat() {
+    m_chatNote = QString();
+    m_store.canvas()->setIdle();
+    m_store.layout()->closeAccount();
+    m_store.layout()->closeHistory();
+    m_store.layout()->closeDock();
+    m_liveWaiting = false;
+    m_canStop = false;
+    const bool signedIn = m_store.scope()->auth() == AuthPhase::SignedIn;
+    m_msgs.replaceAll({signedIn ? liveGreeting() : localMsg(Who::Agent, signedOutGreeting)});
+    m_feed.setWindow(feedWindow);
+    m_seenMsgs = 1;
+    m_unseenMsgs = 0;
+    m_draft = QString();
+}
+
+Msg ChatRoom::liveGreeting() const {
+    const ScopeRoom *scope = m_store.scope();
+    if (const auto agent = scope->currentAgent())
+        return localMsg(Who::Agent, agent->name + u" here. I only answer for my own work."_s);
+    if (const auto project = scope->currentProject())
+        return localMsg(Who::Agent,
+                        project->name +
+                            u" — project room here. Ask about anything in this project."_s);
+    return localMsg(Who::Agent, u"KIV here. I see all projects and every agent under them."_s);
+}
+
+void ChatRoom::keepTypedText() {
+    QStringList texts;
+    for (const Msg &message : m_msgs.messages()) {
+        if (message.isUnsent())
+            texts.append(message.text);
+    }
+    if (!m_draft.value().isEmpty())
+        texts.append(m_draft);
+    m_returned = Returned{m_store.scope()->userEmail(), texts.join(u'\n')};
+}
+
+void ChatRoom::returnTypedText() {
+    if (!m_returned || m_returned->email != m_store.scope()->userEmail())
+        return;
+    if (m_draft.value().isEmpty())
+        m_draft = m_returned->text;
+    m_returned.reset();
+}
+
+} // namespace kiv::store

@@ -1,0 +1,40 @@
+#include "store/EventsRoom.h"
+
+#include "net/KivAPI.h"
+#include "store/AppStore.h"
+
+namespace kiv::store {
+
+namespace {
+constexpr int eventLimit = 50;
+}
+
+EventsRoom::EventsRoom(AppStore &store) : m_store(store) {}
+
+void EventsRoom::loadEvents() {
+    const auto project = m_store.scope()->currentProject();
+    if (m_store.isSnapshot() || !project)
+        return;
+    m_load.restart([this, id = project->id](Cancel cancel) { return load(id, std::move(cancel)); });
+}
+
+QCoro::Task<void> EventsRoom::load(QString project, Cancel cancel) {
+    m_eventsLoading = true;
+    try {
+        m_events = co_await net::KivAPI::projectEvents(&m_store.net(), project, eventLimit, cancel);
+        Q_EMIT eventsChanged();
+    } catch (const std::exception &) {
+        // The events of before stay.
+        cancel.throwIfRequested();
+    }
+    m_eventsLoading = false;
+}
+
+void EventsRoom::clear() {
+    m_load.cancel();
+    m_eventsLoading = false;
+    m_events.clear();
+    Q_EMIT eventsChanged();
+}
+
+} // namespace kiv::store

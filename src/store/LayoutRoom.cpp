@@ -1,0 +1,161 @@
+#include "store/LayoutRoom.h"
+
+#include "store/AppStore.h"
+
+#include <QSettings>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString railWKey = u"zandor.railW"_s;
+const QString dockWKey = u"zandor.dockW"_s;
+const QString railCollapsedKey = u"zandor.railCollapsed"_s;
+const QString dockOpenKey = u"zandor.dockOpen"_s;
+constexpr auto saveDelay = 200ms;
+
+/// A saved width within its limits; nothing when there is none or it is no number.
+std::optional<double> savedWidth(const QSettings &settings, const QString &key, double least,
+                                 double most) {
+    bool isNumber = false;
+    const double width = settings.value(key).toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(width))
+        return std::nullopt;
+    return std::clamp(width, least, most);
+}
+
+} // namespace
+
+LayoutRoom::LayoutRoom(AppStore &store, QSettings &settings, Clock &clock)
+    : m_store(store), m_settings(settings), m_clock(clock) {
+    m_railShown.setBinding(
+        [this] { return !m_railCollapsed && m_windowWidth >= railMinW + canvasMinW; });
+    m_shownRailW.setBinding([this] {
+        return std::clamp(m_railW.value(), railMinW,
+                          std::max(railMinW, m_windowWidth - canvasMinW));
+    });
+    m_shownDockW.setBinding([this] {
+        const double beside = m_windowWidth - stripW;
+        return std::clamp(m_dockW.value(), dockMinW, std::max(dockMinW, beside));
+    });
+}
+
+void LayoutRoom::setWindowWidth(double width) {
+    m_windowWidth = width;
+}
+
+void LayoutRoom::dragRail(double width) {
+    if (std::isfinite(width))
+        m_railW = std::clamp(width, railMinW, railMaxW);
+}
+
+void LayoutRoom::dragDock(double width) {
+    if (std::isfinite(width))
+        m_dockW = std::clamp(width, dockMinW, dockMaxW);
+}
+
+void LayoutRoom::toggleRail() {
+    m_railCollapsed = !m_railCollapsed;
+    m_dockOpen = false;
+    m_topScopeOpen = false;
+    m_store.chat()->markSeen();
+}
+
+void LayoutRoom::toggleDock() {
+    m_dockOpen = !m_dockOpen;
+    m_store.chat()->markSeen();
+}
+
+void LayoutRoom::dockToRail() {
+    m_dockOpen = false;
+    m_railCollapsed = false;
+    m_store.chat()->markSeen();
+}
+
+void LayoutRoom::toggleScope() {
+    const bool open = !m_scopeOpen;
+    closePopovers();
+    m_scopeOpen = open;
+}
+
+void LayoutRoom::toggleTopScope() {
+    const bool open = !m_topScopeOpen;
+    closePopovers();
+    m_topScopeOpen = open;
+}
+
+void LayoutRoom::toggleHist() {
+    const bool open = !m_histOpen;
+    closePopovers();
+    m_histOpen = open;
+}
+
+void LayoutRoom::toggleProfile() {
+    const bool open = !m_profileOpen;
+    closePopovers();
+    m_profileOpen = open;
+}
+
+void LayoutRoom::closePopovers() {
+    m_profileOpen = false;
+    m_histOpen = false;
+    m_scopeOpen = false;
+    m_topScopeOpen = false;
+}
+
+void LayoutRoom::closeSurfaces() {
+    m_account = QString();
+    m_scopeOpen = false;
+    m_topScopeOpen = false;
+}
+
+void LayoutRoom::closePages() {
+    m_account = QString();
+    m_creating = QString();
+}
+
+void LayoutRoom::closeAccount() {
+    m_account = QString();
+}
+
+void LayoutRoom::closeProfile() {
+    m_profileOpen = false;
+}
+
+void LayoutRoom::closeHistory() {
+    m_histOpen = false;
+}
+
+void LayoutRoom::closeDock() {
+    m_dockOpen = false;
+}
+
+void LayoutRoom::restoreChrome() {
+    if (const auto width = savedWidth(m_settings, railWKey, railMinW, railMaxW))
+        m_railW = *width;
+    if (const auto width = savedWidth(m_settings, dockWKey, dockMinW, dockMaxW))
+        m_dockW = *width;
+    m_railCollapsed = m_settings.value(railCollapsedKey).toBool();
+    m_dockOpen = m_settings.value(dockOpenKey).toBool();
+}
+
+void LayoutRoom::startPersisting() {
+    connect(this, &LayoutRoom::railWChanged, this, [this] {
+        m_saveRailW = m_clock.after(saveDelay, [this] { m_settings.setValue(railWKey, railW()); });
+    });
+    connect(this, &LayoutRoom::dockWChanged, this, [this] {
+        m_saveDockW = m_clock.after(saveDelay, [this] { m_settings.setValue(dockWKey, dockW()); });
+    });
+    connect(this, &LayoutRoom::railCollapsedChanged, this,
+            [this] { m_settings.setValue(railCollapsedKey, railCollapsed()); });
+    connect(this, &LayoutRoom::dockOpenChanged, this,
+            [this] { m_settings.setValue(dockOpenKey, dockOpen()); });
+}
+
+} // namespace kiv::store

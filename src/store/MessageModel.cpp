@@ -1,0 +1,166 @@
+#include "store/MessageModel.h"
+
+#include <QLocale>
+
+#include <algorithm>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+void MessageModel::append(Msg message) {
+    const int row = count();
+    beginInsertRows({}, row, row);
+    m_messages.append(std::move(message));
+    endInsertRows();
+    Q_EMIT countChanged();
+}
+
+void MessageModel::replaceAll(QList<Msg> messages) {
+    // A reload usually brings back what is shown: only the rows from the first new one on change.
+    qsizetype same = 0;
+    while (same < m_messages.size() && same < messages.size() && m_messages.at(same).serverID &&
+           m_messages.at(same).serverID == messages.at(same).serverID)
+        ++same;
+    for (qsizetype row = 0; row < same; ++row)
+        update(row, messages.at(row));
+    if (same < m_messages.size()) {
+        beginRemoveRows({}, static_cast<int>(same), count() - 1);
+        m_messages.resize(same);
+        endRemoveRows();
+    }
+    if (same < messages.size()) {
+        beginInsertRows({}, static_cast<int>(same), static_cast<int>(messages.size()) - 1);
+        m_messages.append(messages.sliced(same));
+        endInsertRows();
+    }
+    Q_EMIT countChanged();
+}
+
+void MessageModel::update(qsizetype row, Msg message) {
+    Msg &shown = m_messages[row];
+    message.id = shown.id;
+    shown = std::move(message);
+    const QModelIndex changed = index(static_cast<int>(row));
+    Q_EMIT dataChanged(changed, changed,
+                       {BodyRole, RawTextRole, TimeRole, MemberLabelRole, DeliveryRole,
+                        CardTitleRole, CardArtRole});
+}
+
+void MessageModel::remove(qsizetype row) {
+    beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
+    m_messages.removeAt(row);
+    endRemoveRows();
+    Q_EMIT countChanged();
+}
+
+qsizetype MessageModel::find(const std::function<bool(const Msg &)> &matches) const {
+    const auto found = std::ranges::find_if(m_messages, matches);
+    return found == m_messages.end() ? -1 : found - m_messages.begin();
+}
+
+qsizetype MessageModel::rowOfServerID(qint64 id) const {
+    return find([id](const Msg &message) { return message.serverID == id; });
+}
+
+qsizetype MessageModel::rowOf(const QUuid &id) const {
+    return find([id](const Msg &message) { return message.id == id; });
+}
+
+void MessageModel::touch(const QUuid &id, Role role) {
+    const qsizetype row = id.isNull() ? -1 : rowOf(id);
+    if (row < 0)
+        return;
+    const QModelIndex changed = index(static_cast<int>(row));
+    Q_EMIT dataChanged(changed, changed, {role});
+}
+
+void MessageModel::setGrowing(const QUuid &id) {
+    if (id == m_growing)
+        return;
+    const QUuid before = std::exchange(m_growing, id);
+    touch(before, GrowingRole);
+    touch(id, GrowingRole);
+}
+
+void MessageModel::setOnCanvas(const QUuid &id) {
+    if (id == m_onCanvas)
+        return;
+    const QUuid before = std::exchange(m_onCanvas, id);
+    touch(before, OnCanvasRole);
+    touch(id, OnCanvasRole);
+}
+
+int MessageModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant MessageModel::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Msg &message = m_messages.at(index.row());
+    switch (role) {
+    case MessageIdRole:
+        return message.id.toString(QUuid::WithoutBraces);
+    case WhoRole:
+        return QVariant::fromValue(message.who);
+    case Qt::DisplayRole:
+    case BodyRole:
+        return message.shown;
+    case RawTextRole:
+        return message.text;
+    case TimeRole:
+        return message.at ? message.at->toLocalTime().toString(u"HH:mm"_s) : QString();
+    case MemberLabelRole:
+        return message.memberLabel;
+    case DeliveryRole:
+        if (!message.isUnsent())
+            return QVariant::fromValue(Delivery::Stored);
+        return QVariant::fromValue(message.failed ? Delivery::Failed : Delivery::Pending);
+    case GrowingRole:
+        return message.id == m_growing;
+    case CardTitleRole:
+        return message.title;
+    case CardArtRole:
+        return message.art;
+    case OnCanvasRole:
+        return message.id == m_onCanvas;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> MessageModel::roleNames() const {
+    return {
+        {MessageIdRole, "messageId"}, {WhoRole, "who"},          {BodyRole, "body"},
+        {RawTextRole, "rawText"},     {TimeRole, "time"},        {MemberLabelRole, "memberLabel"},
+        {DeliveryRole, "delivery"},   {GrowingRole, "growing"},  {CardTitleRole, "cardTitle"},
+        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}};
+}
+
+FeedModel::FeedModel(MessageModel *messages, QObject *parent) : QSortFilterProxyModel(parent) {
+    setSourceModel(messages);
+    connect(messages, &MessageModel::countChanged, this, &FeedModel::follow);
+}
+
+void FeedModel::setWindow(int window) {
+    m_window = window;
+    follow();
+}
+
+void FeedModel::follow() {
+    const bool older = sourceModel()->rowCount() > m_window;
+    // Rows leave the window only once there are more than it holds.
+    if (older || m_hasOlder)
+        invalidateFilter();
+    if (older != m_hasOlder) {
+        m_hasOlder = older;
+        Q_EMIT hasOlderChanged();
+    }
+}
+
+bool FeedModel::filterAcceptsRow(int row, const QModelIndex &) const {
+    return row >= sourceModel()->rowCount() - m_window;
+}
+
+} // namespace kiv::store

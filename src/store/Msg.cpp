@@ -1,0 +1,99 @@
+#include "store/Msg.h"
+
+#include "canvas/CanvasEngine.h"
+#include "canvas/SceneAdapter.h"
+
+#include <QRegularExpression>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QList<MsgFile> msgFiles(const net::ChatRow &row) {
+    QList<MsgFile> files;
+    if (!row.metadata || !row.metadata->attachments)
+        return files;
+    for (const auto &attachment : *row.metadata->attachments) {
+        const QString url = attachment.url.value_or(attachment.publicUrl.value_or(QString()));
+        if (!url.startsWith(u"http://"_s) && !url.startsWith(u"https://"_s))
+            continue;
+        MsgFile file;
+        file.name = attachment.name.value_or(attachment.filename.value_or(url));
+        file.url = url;
+        files.append(file);
+    }
+    return files;
+}
+
+/// While an answer grows, a block that has begun and not ended is not yet for reading.
+QString withoutOpenBlock(const QString &text) {
+    static const QRegularExpression opening(
+        u"(?:^|\\n)```[ \\t]*(?:view|chart|kpi)[ \\t]*(?:\\r?\\n|$)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = opening.match(text);
+    if (!match.hasMatch() || text.indexOf(u"```"_s, match.capturedEnd()) >= 0)
+        return text;
+    return text.first(match.capturedStart()).trimmed();
+}
+
+/// What bubble and canvas make of an answer.
+void readAnswer(Msg &message) {
+    const auto extracted = canvas::CanvasEngine::extractViewSpec(message.text, message.view);
+    message.shown = withoutOpenBlock(extracted.text);
+    message.spec = extracted.spec;
+    if (!extracted.spec)
+        return;
+    const auto scene = canvas::SceneAdapter::vals(*extracted.spec, std::nullopt);
+    if (scene) {
+        message.art = scene->art;
+        message.title = scene->title;
+    }
+}
+
+} // namespace
+
+Msg localMsg(Who who, const QString &text) {
+    Msg message;
+    message.who = who;
+    message.text = text;
+    message.shown = text;
+    return message;
+}
+
+std::optional<Msg> rowToMsg(const net::ChatRow &row) {
+    Msg message;
+    if (row.role == u"user"_s)
+        message.who = Who::You;
+    else if (row.role == u"assistant"_s || row.role == u"agent"_s)
+        message.who = Who::Agent;
+    else
+        return std::nullopt;
+    message.text = row.content;
+    message.shown = row.content;
+    message.serverID = row.id;
+    message.files = msgFiles(row);
+    if (row.createdAt)
+        message.at = parseDate(*row.createdAt);
+    if (row.metadata) {
+        message.view = row.metadata->view;
+        message.memberLabel = row.metadata->memberLabel.value_or(QString());
+    }
+    if (message.who == Who::Agent)
+        readAnswer(message);
+    return message;
+}
+
+std::optional<QDateTime> parseDate(const QString &text) {
+    static const QRegularExpression zone(u"(?:[zZ]|[+-]\\d{2}:?\\d{2})$"_s);
+    QString zoned = text.trimmed();
+    if (!zoned.contains(zone))
+        zoned += u"+00:00"_s;
+    const QDateTime time = QDateTime::fromString(zoned, Qt::ISODateWithMs);
+    if (!time.isValid())
+        return std::nullopt;
+    return time.toUTC();
+}
+
+} // namespace kiv::store

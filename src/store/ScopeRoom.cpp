@@ -1,0 +1,291 @@
+#include "store/ScopeRoom.h"
+
+#include "net/KivAPI.h"
+#include "store/AppStore.h"
+
+#include <QSettings>
+
+#include <algorithm>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString projectKey = u"zandor.project"_s;
+const QString agentKey = u"zandor.agent"_s;
+
+bool isGone(const std::optional<QString> &status) {
+    return status == u"archived"_s || status == u"hidden"_s;
+}
+
+Agent agentAt(qsizetype position, const QString &id, const std::optional<QString> &name,
+              const std::optional<QString> &role) {
+    return {id, name.value_or(u"Agent"_s), role.value_or(u"agent"_s), railColor(position)};
+}
+
+/// The agents of a roster that show, each once, in the roster's order.
+QList<Agent> visibleMembers(const QList<net::ProjectMember> &roster) {
+    QList<Agent> agents;
+    QSet<QString> seen;
+    for (const net::ProjectMember &member : roster) {
+        if (member.memberKind == u"team"_s || !member.agent)
+            continue;
+        const auto &agent = *member.agent;
+        if ((!agent.id.isEmpty() && isGone(agent.status)) || seen.contains(agent.id))
+            continue;
+        seen.insert(agent.id);
+        agents.append(agentAt(agents.size(), agent.id, agent.name, agent.role));
+    }
+    return agents;
+}
+
+QString initialsOf(const QString &name, const QString &email) {
+    const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
+    if (words.isEmpty() || name == email)
+        return email.first(std::min<qsizetype>(2, email.size())).toUpper();
+    const QString last = words.size() > 1 ? words.last().first(1) : QString();
+    return (words.first().first(1) + last).toUpper();
+}
+
+const Agent *findAgent(const QList<Agent> &agents, const QString &id) {
+    const auto found = std::ranges::find(agents, id, &Agent::id);
+    return found == agents.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_choices(&m_rail) {
+    m_scopeName.setBinding([this] {
+        if (const auto agent = currentAgent())
+            return agent->name;
+        const auto project = currentProject();
+        return project ? project->name : u"KIV"_s;
+    });
+    m_scopeKind.setBinding([this] {
+        if (currentAgent())
+            return ScopeKind::Agent;
+        return currentProject() ? ScopeKind::Project : ScopeKind::Kiv;
+    });
+    m_scopeColorHex.setBinding([this] {
+        if (const auto agent = currentAgent())
+            return agent->colorHex;
+        const auto project = currentProject();
+        return project ? project->colorHex : QString();
+    });
+    m_scopeDetail.setBinding([this] { return describeScope(); });
+    m_userInitials.setBinding([this] { return initialsOf(m_userName, m_userEmail); });
+}
+
+std::optional<Project> ScopeRoom::currentProject() const {
+    const QString id = m_project;
+    const QList<Project> projects = m_projects;
+    const auto found = std::ranges::find(projects, id, &Project::id);
+    if (id.isEmpty() || found == projects.end())
+        return std::nullopt;
+    return *found;
+}
+
+std::optional<Agent> ScopeRoom::currentAgent() const {
+    const QString id = m_agent;
+    const QList<Agent> standalone = m_standaloneAgents;
+    if (id.isEmpty())
+        return std::nullopt;
+    const auto project = currentProject();
+    if (project) {
+        if (const Agent *agent = findAgent(project->agents, id))
+            return *agent;
+    }
+    if (const Agent *agent = findAgent(standalone, id))
+        return *agent;
+    return std::nullopt;
+}
+
+QString ScopeRoom::describeScope() const {
+    if (const auto agent = currentAgent())
+        return agent->role;
+    if (const auto project = currentProject())
+        return project->meta;
+    const QList<Project> projects = m_projects;
+    qsizetype agents = m_standaloneAgents.value().size();
+    for (const Project &project : projects)
+        agents += project.agents.size();
+    if (projects.isEmpty() && agents == 0)
+        return {};
+    return tr("%n project(s)", nullptr, static_cast<int>(projects.size())) + u", "_s +
+           tr("%n agent(s)", nullptr, static_cast<int>(agents));
+}
+
+std::optional<net::ChatTarget> ScopeRoom::chatTarget() const {
+    if (m_auth.value() != AuthPhase::SignedIn)
+        return std::nullopt;
+    if (!m_agent.value().isEmpty())
+        return net::ChatTarget::agent(m_agent);
+    if (!m_project.value().isEmpty())
+        return net::ChatTarget::project(m_project);
+    if (!m_kivID.value().isEmpty())
+        return net::ChatTarget::agent(m_kivID);
+    return std::nullopt;
+}
+
+void ScopeRoom::pickGlobal() {
+    select({}, {});
+}
+
+void ScopeRoom::pickProject(const QString &id) {
+    if (m_store.isSnapshot())
+        select(id, {});
+}
+
+void ScopeRoom::enterProject(const QString &id) {
+    select(id, {});
+}
+
+void ScopeRoom::pickAgent(const QString &projectID, const QString &agentID) {
+    select(projectID, agentID);
+}
+
+void ScopeRoom::pickStandaloneAgent(const QString &id) {
+    select({}, id);
+}
+
+void ScopeRoom::select(const QString &project, const QString &agent) {
+    m_store.resetSurfaces();
+    Qt::beginPropertyUpdateGroup();
+    m_project = project;
+    m_agent = agent;
+    Qt::endPropertyUpdateGroup();
+    m_rail.select(project, agent);
+    if (m_auth.value() == AuthPhase::SignedIn)
+        m_store.chat()->connectChat();
+}
+
+void ScopeRoom::toggleExpanded(const QString &projectID) {
+    m_rail.toggleExpanded(projectID);
+}
+
+void ScopeRoom::adopt(const net::MeUser &user) {
+    m_userName = user.displayName().value_or(QString());
+    m_userEmail = user.email.value_or(QString());
+    m_userAvatarURL = user.avatarUrl.value_or(QString());
+    m_projects = QList<Project>();
+    m_standaloneAgents = QList<Agent>();
+    m_rail.setEntries({}, {});
+    m_auth = AuthPhase::SignedIn;
+}
+
+QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
+    net::APIClient *client = &m_store.net();
+    const net::ProjectsList list = co_await net::KivAPI::projects(client, cancel);
+    std::vector<QCoro::Task<QList<net::ProjectMember>>> rosters;
+    for (const net::ProjectSummary &summary : list.projects)
+        rosters.push_back(net::KivAPI::projectRoster(client, summary.slug, cancel));
+
+    QList<Project> projects;
+    QSet<QString> placed;
+    for (size_t position = 0; position < rosters.size(); ++position) {
+        const QList<net::ProjectMember> roster = co_await rosters[position];
+        const auto &summary = list.projects.at(static_cast<qsizetype>(position));
+        Project project;
+        project.id = summary.slug;
+        project.name = summary.label.value_or(summary.name.value_or(summary.slug));
+        project.agents = visibleMembers(roster);
+        project.meta = QString::number(project.agents.size()) + u" agents · active"_s;
+        project.colorHex = railColor(static_cast<qsizetype>(position));
+        for (const Agent &agent : project.agents)
+            placed.insert(agent.id);
+        projects.append(project);
+    }
+
+    const net::AgentsList agents = co_await net::KivAPI::agents(client, cancel);
+    QList<Agent> standalone;
+    for (const net::AgentSummary &agent : agents.agents) {
+        if (!isGone(agent.status) && !placed.contains(agent.id))
+            standalone.append(agentAt(standalone.size(), agent.id, agent.name, agent.role));
+    }
+    Qt::beginPropertyUpdateGroup();
+    m_projects = projects;
+    m_standaloneAgents = standalone;
+    Qt::endPropertyUpdateGroup();
+    m_rail.setEntries(projects, standalone);
+}
+
+QCoro::Task<void> ScopeRoom::resolveKiv(Cancel cancel) {
+    const net::OrchestratorInfo info =
+        co_await net::KivAPI::orchestrator(&m_store.net(), std::move(cancel));
+    m_kivID = info.agentID.value_or(QString());
+}
+
+QCoro::Task<void> ScopeRoom::refreshUserAvatarIfNeeded(Cancel cancel) {
+    if (!m_userAvatarURL.value().isEmpty())
+        co_return;
+    try {
+        const auto profile = co_await net::KivAPI::profile(&m_store.net(), cancel);
+        m_userAvatarURL = profile.avatarUrl.value_or(QString());
+    } catch (const std::exception &) {
+        // The initials stay in its place.
+        cancel.throwIfRequested();
+    }
+}
+
+void ScopeRoom::restoreScope() {
+    if (m_store.isSnapshot())
+        return;
+    const QString storedProject = m_store.settings().value(projectKey).toString();
+    const QString storedAgent = m_store.settings().value(agentKey).toString();
+    QString project;
+    QString agent;
+    const QList<Project> projects = m_projects;
+    if (!storedAgent.isEmpty()) {
+        for (const Project &candidate : projects) {
+            if (findAgent(candidate.agents, storedAgent)) {
+                project = candidate.id;
+                agent = storedAgent;
+                break;
+            }
+        }
+        if (agent.isEmpty() && findAgent(m_standaloneAgents, storedAgent))
+            agent = storedAgent;
+    }
+    if (agent.isEmpty() &&
+        std::ranges::find(projects, storedProject, &Project::id) != projects.end())
+        project = storedProject;
+    m_project = project;
+    m_agent = agent;
+    m_rail.select(project, agent);
+}
+
+void ScopeRoom::startPersisting() {
+    auto save = [this](const QString &key, const QString &value) {
+        if (m_auth.value() != AuthPhase::SignedIn)
+            return;
+        if (value.isEmpty())
+            m_store.settings().remove(key);
+        else
+            m_store.settings().setValue(key, value);
+    };
+    connect(this, &ScopeRoom::projectChanged, this, [this, save] { save(projectKey, m_project); });
+    connect(this, &ScopeRoom::agentChanged, this, [this, save] { save(agentKey, m_agent); });
+}
+
+void ScopeRoom::setSignedOut() {
+    m_auth = AuthPhase::Anon;
+}
+
+void ScopeRoom::clear() {
+    m_auth = AuthPhase::Anon;
+    m_userName = QString();
+    m_userEmail = QString();
+    m_userAvatarURL = QString();
+    m_avatarUploading = false;
+    m_kivID = QString();
+    m_projects = QList<Project>();
+    m_standaloneAgents = QList<Agent>();
+    m_project = QString();
+    m_agent = QString();
+    m_rail.setEntries({}, {});
+    m_rail.select({}, {});
+}
+
+} // namespace kiv::store

@@ -1,0 +1,144 @@
+#include "store/SessionRoom.h"
+
+#include "net/KivAPI.h"
+#include "store/AppStore.h"
+
+#include <QTimeZone>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr qsizetype leastPassword = 8;
+}
+
+SessionRoom::SessionRoom(AppStore &store) : m_store(store) {}
+
+void SessionRoom::boot() {
+    m_auth.restart([this](Cancel cancel) { return checkSession(std::move(cancel)); });
+}
+
+QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
+    std::optional<net::MeUser> user;
+    try {
+        user = co_await net::KivAPI::currentUser(&m_store.net(), cancel);
+    } catch (const std::exception &) {
+        cancel.throwIfRequested();
+    }
+    if (user)
+        enterLive(*user);
+    else
+        m_store.scope()->setSignedOut();
+}
+
+void SessionRoom::enterLive(const net::MeUser &user) {
+    m_store.scope()->adopt(user);
+    m_live.restart([this](Cancel cancel) { return bootLive(std::move(cancel)); });
+}
+
+QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
+    ScopeRoom *scope = m_store.scope();
+    try {
+        co_await scope->reloadRail(cancel);
+    } catch (const std::exception &) {
+        // The rail of before stays.
+        cancel.throwIfRequested();
+    }
+    try {
+        co_await scope->resolveKiv(cancel);
+    } catch (const std::exception &) {
+        // Without it the global scope has nobody to talk to; everything else works.
+        cancel.throwIfRequested();
+    }
+    scope->restoreScope();
+    if (scope->auth() == AuthPhase::SignedIn) {
+        m_store.chat()->connectChat();
+        m_store.chat()->returnTypedText();
+    }
+    co_await scope->refreshUserAvatarIfNeeded(cancel);
+}
+
+void SessionRoom::submitAuth(const QString &email, const QString &password, bool signup) {
+    const QString address = email.trimmed();
+    if (address.isEmpty() || password.size() < leastPassword) {
+        m_authError = u"Enter a valid email and a password of at least 8 characters."_s;
+        return;
+    }
+    m_auth.restart([this, address, password, signup](Cancel cancel) {
+        return authenticate(address, password, signup, std::move(cancel));
+    });
+}
+
+QCoro::Task<void> SessionRoom::authenticate(QString email, QString password, bool signup,
+                                            Cancel cancel) {
+    m_busy = true;
+    m_authError = QString();
+    net::APIClient *client = &m_store.net();
+    try {
+        const QString zone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
+        net::AuthResult result;
+        if (signup)
+            result = co_await net::KivAPI::signup(client, email, password, zone, cancel);
+        else
+            result = co_await net::KivAPI::login(client, email, password, cancel);
+        enterLive(result.user);
+        m_authSheet = AuthSheetMode::Closed;
+    } catch (const std::exception &error) {
+        const QString text = net::errorText(error);
+        m_authError = text.isEmpty() ? u"Sign in failed."_s : text;
+    }
+    m_busy = false;
+}
+
+void SessionRoom::trySample() {
+    if (m_sampleOffered)
+        submitAuth(m_sample.email, m_sample.password, false);
+}
+
+void SessionRoom::offerSample(const SampleAccount &account) {
+    m_sample = account;
+    m_sampleOffered = !account.email.isEmpty();
+}
+
+void SessionRoom::openAuthSheet(AuthSheetMode mode) {
+    m_store.layout()->closePopovers();
+    m_authError = QString();
+    m_authSheet = mode;
+}
+
+void SessionRoom::closeAuthSheet() {
+    m_auth.cancel();
+    m_authError = QString();
+    m_authSheet = AuthSheetMode::Closed;
+}
+
+void SessionRoom::reportUnavailable(const QString &why) {
+    m_store.scope()->setSignedOut();
+    m_store.chat()->msgs()->append(localMsg(Who::Agent, why));
+}
+
+void SessionRoom::logout() {
+    m_auth.restart([this](Cancel cancel) { return signOut(std::move(cancel)); });
+}
+
+QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
+    try {
+        co_await net::KivAPI::logout(&m_store.net(), cancel);
+    } catch (const std::exception &) {
+        // Signing out here does not depend on the server.
+        cancel.throwIfRequested();
+    }
+    resetToAnon();
+}
+
+void SessionRoom::resetToAnon() {
+    m_live.cancel();
+    m_store.chat()->disconnectChat();
+    m_store.scope()->clear();
+    m_store.events()->clear();
+    m_store.canvas()->forgetAll();
+    m_store.chat()->newChat();
+}
+
+} // namespace kiv::store

@@ -1,0 +1,128 @@
+#include "ScriptedBackend.h"
+
+#include <QJsonDocument>
+
+namespace kiv::test {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString routeOf(const ScriptedBackend::Request &request) {
+    return request.method + u' ' + request.path;
+}
+
+} // namespace
+
+ScriptedBackend::ScriptedBackend() {
+    m_server.listen(QHostAddress::LocalHost);
+    connect(&m_server, &QTcpServer::newConnection, this, [this] {
+        while (QTcpSocket *socket = m_server.nextPendingConnection()) {
+            connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(socket); });
+            connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+                m_received.remove(socket);
+                socket->deleteLater();
+            });
+        }
+    });
+}
+
+QUrl ScriptedBackend::url() const {
+    return QUrl(u"http://127.0.0.1:%1"_s.arg(m_server.serverPort()));
+}
+
+void ScriptedBackend::answer(const QString &route, const QByteArray &json, int status) {
+    m_answers[route] = {status, json};
+}
+
+void ScriptedBackend::hold(const QString &route) {
+    m_answers[route].held = true;
+}
+
+void ScriptedBackend::release(const QString &route) {
+    Answer &answer = m_answers[route];
+    answer.held = false;
+    for (const auto &socket : m_held.take(route)) {
+        if (socket)
+            reply(socket, answer);
+    }
+}
+
+void ScriptedBackend::breakOff(const QString &route) {
+    m_answers[route].broken = true;
+}
+
+QList<ScriptedBackend::Request> ScriptedBackend::requests(const QString &route) const {
+    QList<Request> found;
+    for (const Request &request : m_requests) {
+        if (routeOf(request) == route)
+            found.append(request);
+    }
+    return found;
+}
+
+bool ScriptedBackend::isStreaming(const QString &path) const {
+    const auto stream = m_streams.value(path);
+    return stream && stream->state() == QAbstractSocket::ConnectedState;
+}
+
+void ScriptedBackend::sendRow(const QString &path, const QByteArray &row) {
+    if (const auto stream = m_streams.value(path)) {
+        stream->write("event: message-insert\ndata: " + row + "\n\n");
+        stream->flush();
+    }
+}
+
+void ScriptedBackend::dropStream(const QString &path) {
+    if (const auto stream = m_streams.take(path))
+        stream->disconnectFromHost();
+}
+
+void ScriptedBackend::read(QTcpSocket *socket) {
+    QByteArray &received = m_received[socket];
+    received += socket->readAll();
+    const qsizetype head = received.indexOf("\r\n\r\n");
+    if (head < 0)
+        return;
+    const QList<QByteArray> lines = received.first(head).split('\n');
+    qsizetype length = 0;
+    for (const QByteArray &line : lines) {
+        if (line.toLower().startsWith("content-length:"))
+            length = line.mid(15).trimmed().toLongLong();
+    }
+    if (received.size() < head + 4 + length)
+        return;
+    const QList<QByteArray> words = lines.first().split(' ');
+    const QUrl target = QUrl::fromEncoded(words.value(1));
+    Request request{QString::fromLatin1(words.value(0)), target.path().mid(1), target.query(),
+                    QJsonDocument::fromJson(received.sliced(head + 4, length)).object()};
+    received.remove(0, head + 4 + length);
+    m_requests.append(request);
+    serve(socket, request);
+}
+
+void ScriptedBackend::serve(QTcpSocket *socket, const Request &request) {
+    const QString route = routeOf(request);
+    const Answer answer = m_answers.value(route);
+    if (answer.broken) {
+        socket->abort();
+    } else if (answer.held) {
+        m_held[route].append(socket);
+    } else if (request.path.endsWith(u"/chat/stream"_s) && !m_answers.contains(route)) {
+        m_streams[request.path] = socket;
+        socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/event-stream\r\n\r\n"
+                      "event: ready\ndata: {}\n\n");
+        socket->flush();
+    } else {
+        reply(socket, answer);
+    }
+}
+
+void ScriptedBackend::reply(QTcpSocket *socket, const Answer &answer) {
+    socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
+                  " Scripted\r\nContent-Type: application/json\r\nContent-Length: " +
+                  QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
+    socket->flush();
+}
+
+} // namespace kiv::test

@@ -1,0 +1,91 @@
+#include "StoreFixture.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+namespace kiv::test {
+
+using namespace Qt::StringLiterals;
+
+QByteArray rowJson(qint64 id, const QString &role, const QString &text) {
+    return QJsonDocument(QJsonObject{{u"id"_s, id},
+                                     {u"role"_s, role},
+                                     {u"content"_s, text},
+                                     {u"created_at"_s, u"2026-03-02T09:42:00.5Z"_s}})
+        .toJson(QJsonDocument::Compact);
+}
+
+StoreFixture::StoreFixture() {
+    backend.answer(u"GET api/v2/auth/me"_s,
+                   R"({"id":"u1","email":"ada@example.org","name":"Ada Byron"})");
+    backend.answer(u"POST api/v2/auth/logout"_s, "{}");
+    backend.answer(u"GET api/v2/projects"_s,
+                   R"({"projects":[{"slug":"ferry","label":"Night Ferry"},{"slug":"lantern"}]})");
+    backend.answer(u"GET api/v2/projects/ferry/members"_s, R"([
+        {"member_kind":"team","agent":{"id":"all"}},
+        {"member_kind":"agent","agent":{"id":"scout","name":"Scout","role":"Research"}},
+        {"member_kind":"agent","agent":{"id":"old","name":"Old","status":"archived"}},
+        {"member_kind":"agent","agent":{"id":"scout","name":"Scout again"}},
+        {"member_kind":"agent","agent":{"id":"loom"}},
+        {"member_kind":"person"}])");
+    backend.answer(u"GET api/v2/projects/lantern/members"_s, "[]");
+    backend.answer(u"GET api/v2/custom-agents"_s, R"({"agents":[
+        {"id":"scout","name":"Scout"},{"id":"ledger","name":"Ledger","role":"Finance"},
+        {"id":"gone","name":"Gone","status":"hidden"}]})");
+    backend.answer(u"GET api/v2/orchestrator"_s, R"({"agent_id":"kiv"})");
+    backend.answer(u"GET api/v2/user/profile"_s, "{}");
+    backend.answer(u"POST api/v2/rum"_s, "{}");
+    for (const QString &chat :
+         {kivChat, ferryChat, u"api/v2/projects/lantern/chat"_s,
+          u"api/v2/custom-agents/scout/chat"_s, u"api/v2/custom-agents/loom/chat"_s,
+          u"api/v2/custom-agents/ledger/chat"_s}) {
+        history(chat, "[]");
+        backend.answer(u"POST "_s + chat, "{}");
+        backend.answer(u"POST "_s + chat + u"/stop"_s, "{}");
+    }
+    backend.answer(u"GET api/v2/projects/ferry/events"_s,
+                   R"({"events":[{"id":1,"title":"Built"}]})");
+    backend.answer(u"GET api/v2/projects/lantern/events"_s, "{}");
+    restart();
+}
+
+void StoreFixture::restart(store::AppStore::Mode mode) {
+    store.reset();
+    client.reset();
+    settings = std::make_unique<QSettings>(folder.filePath(u"kiv.conf"_s), QSettings::IniFormat);
+    client = std::make_unique<net::APIClient>(clock, connectivity, folder.filePath(u"cookies"_s));
+    client->setBaseUrl(backend.url());
+    store = std::make_unique<store::AppStore>(clock, *client, *settings, mode);
+}
+
+bool StoreFixture::signIn() {
+    store->boot();
+    return QTest::qWaitFor([this] {
+        const auto target = store->scope()->chatTarget();
+        return target && backend.isStreaming(target->streamPath()) &&
+               !store->chat()->historyLoading() && store->chat()->msgs()->count() > 0;
+    });
+}
+
+bool StoreFixture::bootSignedOut() {
+    backend.answer(u"GET api/v2/auth/me"_s, R"({"error":"Not signed in"})", 401);
+    store->boot();
+    return QTest::qWaitFor([this] { return store->scope()->auth() == store::AuthPhase::Anon; });
+}
+
+void StoreFixture::row(qint64 id, const QString &text, const QString &role) {
+    backend.sendRow(store->scope()->chatTarget()->streamPath(), rowJson(id, role, text));
+}
+
+void StoreFixture::history(const QString &chat, const QByteArray &rows) {
+    backend.answer(u"GET "_s + chat, R"({"messages":)" + rows + "}");
+}
+
+QStringList StoreFixture::textsOf(const store::MessageModel &model) {
+    QStringList texts;
+    for (const store::Msg &message : model.messages())
+        texts.append(message.text);
+    return texts;
+}
+
+} // namespace kiv::test

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ScriptedBackend.h"
+
+#include "net/Connectivity.h"
+#include "store/AppStore.h"
+#include "support/ManualClock.h"
+
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+namespace kiv::test {
+
+/// A store over a scripted backend, a clock that stands still and settings of its own. The backend
+/// knows ada@example.org, two projects ("ferry" with the agents scout and loom, "lantern" with
+/// none), a standalone agent "ledger" and the orchestrator "kiv".
+class StoreFixture {
+public:
+    StoreFixture();
+
+    /// A store as a fresh start of the program makes it.
+    void restart(store::AppStore::Mode mode = store::AppStore::Mode::Normal);
+    /// Boots into the signed-in state; true when the chat of the scope is connected.
+    bool signIn();
+    /// Makes the session check find nobody and boots.
+    bool bootSignedOut();
+
+    /// The stream of the current chat sends this row: an answer, or what `role` says.
+    void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
+    /// Answers a history request of the chat at `chat` with these rows.
+    void history(const QString &chat, const QByteArray &rows);
+
+    store::MessageModel &msgs() { return *store->chat()->msgs(); }
+    QStringList texts() { return textsOf(msgs()); }
+    static QStringList textsOf(const store::MessageModel &model);
+
+    ScriptedBackend backend;
+    ManualClock clock;
+    QTemporaryDir folder;
+    net::SystemConnectivity connectivity;
+    std::unique_ptr<QSettings> settings;
+    std::unique_ptr<net::APIClient> client;
+    std::unique_ptr<store::AppStore> store;
+};
+
+/// A chat row as JSON.
+QByteArray rowJson(qint64 id, const QString &role, const QString &text);
+
+inline const QString kivChat = QStringLiteral("api/v2/custom-agents/kiv/chat");
+inline const QString ferryChat = QStringLiteral("api/v2/projects/ferry/chat");
+
+/// A closed block that is drawn as a report.
+inline const QString reportBlock =
+    QStringLiteral("```view\n{\"kind\":\"kpi\",\"title\":\"Week 47\",\"items\":["
+                   "{\"label\":\"Tasks\",\"value\":137,\"delta\":\"-12\"},"
+                   "{\"label\":\"Spend\",\"display\":\"96%\"}]}\n```");
+
+} // namespace kiv::test

@@ -1,0 +1,226 @@
+// From an answer to what the canvas shows, and when.
+
+#include "StoreFixture.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace kiv;
+using namespace kiv::store;
+using test::kivChat;
+using test::reportBlock;
+using test::rowJson;
+using test::StoreFixture;
+
+namespace {
+
+const QString hint = u"No data to draw in this answer — ask for the numbers as a table or a list"_s;
+
+QStringList usage(const StoreFixture &f) {
+    QStringList names;
+    for (const auto &request : f.backend.requests(u"POST api/v2/rum"_s))
+        names.append(request.body.value(u"name"_s).toString());
+    return names;
+}
+
+} // namespace
+
+class CanvasTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void drawnOnceItSettles() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"What did the agents do overnight?"_s));
+        CanvasRoom *canvas = f.store->canvas();
+        QCOMPARE(canvas->phase(), Phase::Thinking);
+        QCOMPARE(canvas->state(), CanvasState::ThinkingSkeleton);
+        QCOMPARE(canvas->skeletonShape(), SkeletonShape::Rows);
+        for (int piece = 1; piece <= 10; ++piece) {
+            f.row(9, u"word "_s.repeated(piece));
+            QTRY_COMPARE(f.msgs().messages().last().text.size(), 5 * piece);
+            f.clock.advance(300ms);
+            QCOMPARE(canvas->phase(), Phase::Thinking);
+        }
+        f.clock.advance(899ms);
+        QCOMPARE(canvas->phase(), Phase::Thinking);
+        f.clock.advance(1ms);
+        QCOMPARE(canvas->phase(), Phase::Idle);
+        QCOMPARE(canvas->state(), CanvasState::Hint);
+        QCOMPARE(canvas->canvasHint(), hint);
+        QTRY_COMPARE(usage(f), QStringList{u"canvas_no_data"_s});
+    }
+
+    void drawnEarlyAndOnce() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        CanvasRoom *canvas = f.store->canvas();
+        QCOMPARE(canvas->skeletonShape(), SkeletonShape::Cards);
+        f.row(9, u"Here it is:\n"_s + reportBlock.chopped(4));
+        QTRY_COMPARE(f.msgs().messages().last().shown, u"Here it is:"_s);
+        QCOMPARE(canvas->phase(), Phase::Thinking);
+
+        f.row(9, u"Here it is:\n"_s + reportBlock);
+        QTRY_COMPARE(canvas->phase(), Phase::Building);
+        QCOMPARE(canvas->state(), CanvasState::BuildingScene);
+        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
+        const int vis = canvas->vis();
+        f.clock.advance(500ms);
+        QCOMPARE(canvas->phase(), Phase::Done);
+        QCOMPARE(canvas->vis(), vis + 1);
+        QVERIFY(canvas->animated());
+
+        // Prose goes on, the canvas stands.
+        f.row(9, u"Here it is:\n"_s + reportBlock + u"\nThat was the week."_s);
+        QTRY_VERIFY(f.msgs().messages().last().text.endsWith(u"week."_s));
+        QSignalSpy drawn(canvas, &CanvasRoom::artSceneChanged);
+        f.clock.advance(5s);
+        QCOMPARE(drawn.count(), 0);
+        QCOMPARE(canvas->vis(), vis + 1);
+        QVERIFY(!canvas->awaitingAnswer());
+        QCOMPARE(canvas->history()->count(), 1);
+        QTRY_COMPARE(usage(f), QStringList{u"canvas_scenario"_s});
+        const auto context = f.backend.requests(u"POST api/v2/rum"_s).first().body.value(u"ctx"_s);
+        QCOMPARE(context.toObject().value(u"intent"_s).toString(), u"report"_s);
+        QVERIFY(f.msgs().index(f.msgs().count() - 1).data(MessageModel::OnCanvasRole).toBool());
+    }
+
+    void rowsOfBeforeAreNotTheAnswer() {
+        StoreFixture f;
+        f.history(kivChat, "[" + rowJson(5, u"assistant"_s, u"old"_s) + "]");
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.row(5, u"old, "_s + reportBlock);
+        QTRY_VERIFY(f.msgs().messages().first().text.startsWith(u"old,"_s));
+        f.clock.advance(10s);
+        QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
+    }
+
+    void viewOfTheServer() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.backend.sendRow(kivChat + u"/stream"_s,
+                          R"({"id":9,"role":"assistant","content":"See the canvas.","metadata":)"
+                          R"({"view":{"kind":"kpi","items":[{"label":"Tasks","value":4}]}}})");
+        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        QCOMPARE(f.store->canvas()->art(), u"report"_s);
+        QCOMPARE(f.msgs().messages().last().shown, u"See the canvas."_s);
+    }
+
+    void newQuestionClearsTheScene() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.row(9, reportBlock);
+        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        f.clock.advance(2s);
+        f.store->chat()->send(u"And now?"_s);
+        QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
+        QCOMPARE(f.store->canvas()->art(), QString());
+        QVERIFY(!f.msgs().index(2).data(MessageModel::OnCanvasRole).toBool());
+
+        // The same figures again are an answer too.
+        f.row(11, reportBlock);
+        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        QCOMPARE(f.store->canvas()->history()->count(), 2);
+    }
+
+    void sceneStaysWithItsScope() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.row(9, reportBlock);
+        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        f.store->scope()->enterProject(u"ferry"_s);
+        QVERIFY(f.store->canvas()->state() != CanvasState::BuildingScene);
+        f.clock.advance(10s);
+        QVERIFY(f.store->canvas()->state() != CanvasState::Scene);
+    }
+
+    void restored_data() {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<int>("state");
+        QTest::newRow("scene") << reportBlock << int(CanvasState::Scene);
+        QTest::newRow("nothing to draw") << u"All quiet."_s << int(CanvasState::Hint);
+        QTest::newRow("page") << u"[Board](/project/ferry)"_s << int(CanvasState::Empty);
+    }
+    void restored() {
+        QFETCH(QString, answer);
+        StoreFixture f;
+        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
+                               rowJson(2, u"assistant"_s, answer) + "]");
+        QVERIFY(f.signIn());
+        CanvasRoom *canvas = f.store->canvas();
+        QTEST(int(canvas->state()), "state");
+        QVERIFY(!canvas->animated());
+        QCOMPARE(canvas->history()->count(), 0);
+        if (canvas->state() == CanvasState::Scene)
+            QCOMPARE(canvas->query(), u"Weekly report"_s);
+    }
+
+    void linkedPage() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Where do I see it?"_s));
+        f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
+        QTRY_COMPARE(f.msgs().count(), 3);
+        f.clock.advance(1200ms);
+        QCOMPARE(f.store->canvas()->history()->count(), 1);
+        QCOMPARE(f.store->canvas()->history()->at(0).title, u"Project Work"_s);
+        QTRY_COMPARE(usage(f), QStringList{u"canvas_open"_s});
+    }
+
+    void historyKeepsTwenty() {
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        CanvasRoom *canvas = f.store->canvas();
+        for (int turn = 1; turn <= 22; ++turn) {
+            f.store->chat()->send(u"Question %1"_s.arg(turn));
+            f.row(100 + turn, QString(reportBlock).replace(u"Week 47"_s, u"Week %1"_s.arg(turn)));
+            QTRY_COMPARE(canvas->phase(), Phase::Building);
+            f.clock.advance(2s);
+        }
+        QCOMPARE(canvas->history()->count(), HistoryModel::limit);
+        QCOMPARE(canvas->history()->at(0).query, u"Question 22"_s);
+        QCOMPARE(canvas->history()->at(19).query, u"Question 3"_s);
+
+        canvas->openHistory(19);
+        QCOMPARE(canvas->phase(), Phase::Done);
+        QVERIFY(!canvas->animated());
+        QCOMPARE(canvas->query(), u"Question 3"_s);
+        QCOMPARE(canvas->canvasTitle(), u"Week 3"_s);
+        QCOMPARE(canvas->history()->count(), HistoryModel::limit);
+        QCOMPARE(canvas->history()->at(0).query, u"Question 3"_s);
+        canvas->openHistory(20);
+        canvas->openHistory(-1);
+        QCOMPARE(canvas->query(), u"Question 3"_s);
+    }
+
+    void messageLeadsToItsScene() {
+        StoreFixture f;
+        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
+                               rowJson(2, u"assistant"_s, reportBlock) + "," +
+                               rowJson(3, u"user"_s, u"Thanks"_s) + "," +
+                               rowJson(4, u"assistant"_s, u"Any time."_s) + "]");
+        QVERIFY(f.signIn());
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Hint);
+        const QModelIndex answer = f.msgs().index(1);
+        QCOMPARE(answer.data(MessageModel::CardTitleRole).toString(), u"Week 47"_s);
+        QCOMPARE(answer.data(MessageModel::CardArtRole).toString(), u"report"_s);
+        f.store->canvas()->showMessageCanvas(answer.data(MessageModel::MessageIdRole).toString());
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
+        QCOMPARE(f.store->canvas()->query(), u"Weekly report"_s);
+        QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
+    }
+
+private:
+    /// Signs in and asks; the question is stored as row 7.
+    bool ask(StoreFixture &f, const QString &question) {
+        if (!f.signIn())
+            return false;
+        const QString post = u"POST "_s + kivChat;
+        f.backend.answer(post, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
+        f.store->chat()->send(question);
+        return QTest::qWaitFor([&] { return f.msgs().rowOfServerID(7) >= 0; });
+    }
+};
+
+QTEST_GUILESS_MAIN(CanvasTest)
+#include "tst_canvas.moc"

@@ -1,0 +1,101 @@
+// Every list of the store keeps the promises of a list model while it changes.
+
+#include "store/HistoryModel.h"
+#include "store/MessageModel.h"
+#include "store/RailModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace kiv::store;
+
+namespace {
+
+Msg stored(qint64 id, const QString &text) {
+    Msg message = localMsg(Who::Agent, text);
+    message.serverID = id;
+    return message;
+}
+
+} // namespace
+
+class ModelsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void messages() {
+        MessageModel model;
+        FeedModel feed(&model);
+        feed.setWindow(3);
+        const QAbstractItemModelTester messagesTester(&model);
+        const QAbstractItemModelTester feedTester(&feed);
+        for (int id = 1; id <= 5; ++id)
+            model.append(stored(id, QString::number(id)));
+        QCOMPARE(feed.rowCount(), 3);
+        QVERIFY(feed.hasOlder());
+        QCOMPARE(feed.index(0, 0).data(MessageModel::BodyRole).toString(), u"3"_s);
+
+        // A reload that brings the same rows keeps their identity.
+        const QUuid second = model.messages().at(1).id;
+        model.replaceAll({stored(1, u"1"_s), stored(2, u"2, longer"_s), stored(6, u"6"_s)});
+        QCOMPARE(model.count(), 3);
+        QCOMPARE(model.messages().at(1).id, second);
+        QCOMPARE(model.messages().at(1).text, u"2, longer"_s);
+        QCOMPARE(feed.rowCount(), 3);
+        QVERIFY(!feed.hasOlder());
+        model.remove(0);
+        model.setGrowing(second);
+        model.setOnCanvas(second);
+        QVERIFY(model.index(0).data(MessageModel::GrowingRole).toBool());
+        model.replaceAll({});
+        QCOMPARE(feed.rowCount(), 0);
+    }
+
+    void history() {
+        HistoryModel model;
+        const QAbstractItemModelTester tester(&model);
+        for (int drawn = 0; drawn < 25; ++drawn)
+            model.record({.query = QString::number(drawn)});
+        QCOMPARE(model.count(), HistoryModel::limit);
+        QCOMPARE(model.at(0).query, u"24"_s);
+        model.amendNewest({.query = u"amended"_s});
+        QCOMPARE(model.count(), HistoryModel::limit);
+        QCOMPARE(model.index(0).data(HistoryModel::QueryRole).toString(), u"amended"_s);
+        model.clear();
+        QCOMPARE(model.count(), 0);
+    }
+
+    void rail() {
+        RailModel model;
+        RailView view(&model);
+        ScopeChoices choices(&model);
+        const QAbstractItemModelTester modelTester(&model);
+        const QAbstractItemModelTester viewTester(&view);
+        const QAbstractItemModelTester choicesTester(&choices);
+        model.setEntries({{u"ferry"_s,
+                           u"Night Ferry"_s,
+                           u"2 agents"_s,
+                           {},
+                           {{u"scout"_s, u"Scout"_s, u"Research"_s, {}},
+                            {u"loom"_s, u"Loom"_s, u"Design"_s, {}}}}},
+                         {{u"ledger"_s, u"Ledger"_s, u"Finance"_s, {}}});
+        QCOMPARE(view.rowCount(), 5); // KIV, label, project, label, agent
+        model.toggleExpanded(u"ferry"_s);
+        QCOMPARE(view.rowCount(), 7);
+        model.toggleExpanded(u"ferry"_s);
+        QCOMPARE(view.rowCount(), 5);
+        model.select(u"ferry"_s, u"loom"_s);
+        QCOMPARE(view.rowCount(), 7);
+        QCOMPARE(view.index(4, 0).data(RailModel::NameRole).toString(), u"Loom"_s);
+        QVERIFY(view.index(4, 0).data(RailModel::SelectedRole).toBool());
+        QVERIFY(!view.index(2, 0).data(RailModel::SelectedRole).toBool());
+        choices.setQuery(u" des"_s);
+        QCOMPARE(choices.rowCount(), 1);
+        choices.setQuery(QString());
+        QCOMPARE(choices.rowCount(), 7);
+    }
+};
+
+QTEST_GUILESS_MAIN(ModelsTest)
+#include "tst_models.moc"

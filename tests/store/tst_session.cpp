@@ -1,0 +1,147 @@
+// Signing in, up and out.
+
+#include "StoreFixture.h"
+
+using namespace Qt::StringLiterals;
+using namespace kiv;
+using namespace kiv::store;
+using test::StoreFixture;
+
+namespace {
+const QString signedOut =
+    u"Sign in to talk to your agents, projects and KIV — everything here is real."_s;
+}
+
+class SessionTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusedBeforeAsking_data() {
+        QTest::addColumn<QString>("email");
+        QTest::addColumn<QString>("password");
+        QTest::newRow("short password") << u"ada@example.org"_s << u"1234567"_s;
+        QTest::newRow("blank address") << u" \n\t"_s << u"12345678"_s;
+    }
+    void refusedBeforeAsking() {
+        QFETCH(QString, email);
+        QFETCH(QString, password);
+        StoreFixture f;
+        f.store->session()->submitAuth(email, password, false);
+        QCOMPARE(f.store->session()->authError(),
+                 u"Enter a valid email and a password of at least 8 characters."_s);
+        QVERIFY(!f.store->session()->busy());
+        QTest::qWait(0);
+        QCOMPARE(f.backend.count(u"POST api/v2/auth/login"_s), 0);
+    }
+
+    void signingIn_data() {
+        QTest::addColumn<bool>("signup");
+        QTest::addColumn<QString>("route");
+        QTest::newRow("in") << false << u"POST api/v2/auth/login"_s;
+        QTest::newRow("up") << true << u"POST api/v2/auth/signup"_s;
+    }
+    void signingIn() {
+        QFETCH(bool, signup);
+        QFETCH(QString, route);
+        StoreFixture f;
+        QVERIFY(f.bootSignedOut());
+        SessionRoom *session = f.store->session();
+        session->openAuthSheet(AuthSheetMode::Login);
+
+        f.backend.answer(route, R"({"error":"That password is not right."})", 401);
+        session->submitAuth(u"  ada@example.org "_s, u"12345678"_s, signup);
+        QVERIFY(session->busy());
+        QTRY_COMPARE(session->authError(), u"That password is not right."_s);
+        QVERIFY(!session->busy());
+        QCOMPARE(session->authSheet(), AuthSheetMode::Login);
+
+        f.backend.answer(route, R"({"user":{"email":"ada@example.org","name":"Ada"}})");
+        session->submitAuth(u"ada@example.org"_s, u"12345678"_s, signup);
+        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        QCOMPARE(session->authSheet(), AuthSheetMode::Closed);
+        QCOMPARE(session->authError(), QString());
+        const QJsonObject body = f.backend.requests(route).last().body;
+        QCOMPARE(body.value(u"email"_s).toString(), u"ada@example.org"_s);
+        QCOMPARE(body.contains(u"time_zone"_s), signup);
+        QTRY_COMPARE(f.store->scope()->projects().size(), 2);
+    }
+
+    void unreadableReply() {
+        StoreFixture f;
+        QVERIFY(f.bootSignedOut());
+        f.backend.answer(u"POST api/v2/auth/login"_s, "<html>");
+        f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
+        QTRY_VERIFY(!f.store->session()->authError().isEmpty());
+        QCOMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+    }
+
+    void signedOutActionsOpenTheSheet() {
+        StoreFixture f;
+        f.store->chat()->setDraft(u"hello"_s);
+        f.store->chat()->send(u"hello"_s); // nobody knows yet who is there
+        QCOMPARE(f.store->session()->authSheet(), AuthSheetMode::Closed);
+        QVERIFY(f.bootSignedOut());
+        f.store->layout()->toggleHist();
+        f.store->chat()->send(u"hello"_s);
+        QCOMPARE(f.store->session()->authSheet(), AuthSheetMode::Login);
+        QVERIFY(!f.store->layout()->histOpen());
+        QCOMPARE(f.texts(), QStringList{signedOut});
+        QCOMPARE(f.store->chat()->draft(), u"hello"_s);
+    }
+
+    void signingOutForgetsTheUser_data() {
+        QTest::addColumn<int>("status");
+        QTest::newRow("revoked") << 200;
+        QTest::newRow("server fails") << 500;
+    }
+    void signingOutForgetsTheUser() {
+        QFETCH(int, status);
+        StoreFixture f;
+        f.backend.answer(u"POST api/v2/auth/logout"_s, "{}", status);
+        f.history(test::kivChat, "[" + test::rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
+                                     test::rowJson(2, u"assistant"_s, test::reportBlock) + "]");
+        QVERIFY(f.signIn());
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
+        f.store->chat()->setDraft(u"half a thought"_s);
+        const int gen = f.store->chat()->chatGen();
+        f.store->session()->logout();
+        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+        QCOMPARE(f.texts(), QStringList{signedOut});
+        QVERIFY(f.store->scope()->projects().isEmpty());
+        QVERIFY(f.store->scope()->userEmail().isEmpty());
+        QVERIFY(f.store->scope()->kivID().isEmpty());
+        QCOMPARE(f.store->canvas()->state(), CanvasState::SignedOut);
+        QCOMPARE(f.store->canvas()->art(), QString());
+        // A row of the old session comes too late.
+        net::ChatRow late;
+        late.role = u"assistant"_s;
+        late.content = u"late"_s;
+        f.store->chat()->onLiveInsert(gen, late);
+        QCOMPARE(f.texts(), QStringList{signedOut});
+    }
+
+    void sampleWorkspace() {
+        StoreFixture f;
+        QVERIFY(f.bootSignedOut());
+        QVERIFY(!f.store->session()->sampleOffered());
+        f.store->session()->offerSample({u"sample@example.org"_s, u"long enough"_s});
+        f.backend.answer(u"POST api/v2/auth/login"_s, R"({"email":"sample@example.org"})");
+        f.store->session()->trySample();
+        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        QCOMPARE(f.store->scope()->userName(), u"sample@example.org"_s);
+    }
+
+    void goneInTheMiddle() {
+        StoreFixture f;
+        QVERIFY(f.bootSignedOut());
+        f.backend.hold(u"POST api/v2/auth/login"_s);
+        f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
+        QTRY_COMPARE(f.backend.count(u"POST api/v2/auth/login"_s), 1);
+        f.store.reset();
+        f.backend.release(u"POST api/v2/auth/login"_s);
+        QTest::qWait(10);
+    }
+};
+
+QTEST_GUILESS_MAIN(SessionTest)
+#include "tst_session.moc"
