@@ -206,9 +206,9 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
     using canvas::ConversationLine;
     QList<ConversationLine> lines;
     for (const Msg &message : m_msgs.messages())
-        lines.append({message.who == Who::You ? ConversationLine::Who::You
-                                              : ConversationLine::Who::Agent,
-                      message.text, message.view});
+        lines.append(
+            {message.who == Who::You ? ConversationLine::Who::You : ConversationLine::Who::Agent,
+             message.text, message.view});
     canvas->applyRestoredCanvas(
         canvas::CanvasEngine::latestDrawable(lines, m_store.net().baseUrl()));
 }

@@ -3,11 +3,12 @@
 #include <QObject>
 #include <QtQmlIntegration/qqmlintegration.h>
 
-/// The closed sets of the store, under one name for the views: Store.SignedIn, Store.Thinking, …
+/// The closed sets of the store, under one name for the views: Store.AuthPhase.SignedIn, …
 namespace kiv::store {
 
 Q_NAMESPACE
 QML_NAMED_ELEMENT(Store)
+Q_CLASSINFO("RegisterEnumClassesUnscoped", "false")
 
 /// Whether somebody is signed in; unknown until the session check at start has answered.
 enum class AuthPhase { Unknown, Anon, SignedIn };

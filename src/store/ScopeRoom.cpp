@@ -41,6 +41,10 @@ QList<Agent> visibleMembers(const QList<net::ProjectMember> &roster) {
     return agents;
 }
 
+QString counted(qsizetype count, const QString &one, const QString &many) {
+    return QString::number(count) + u' ' + (count == 1 ? one : many);
+}
+
 QString initialsOf(const QString &name, const QString &email) {
     const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     if (words.isEmpty() || name == email)
@@ -113,8 +117,8 @@ QString ScopeRoom::describeScope() const {
         agents += project.agents.size();
     if (projects.isEmpty() && agents == 0)
         return {};
-    return tr("%n project(s)", nullptr, static_cast<int>(projects.size())) + u", "_s +
-           tr("%n agent(s)", nullptr, static_cast<int>(agents));
+    return counted(projects.size(), tr("project"), tr("projects")) + u", "_s +
+           counted(agents, tr("agent"), tr("agents"));
 }
 
 std::optional<net::ChatTarget> ScopeRoom::chatTarget() const {
