@@ -99,13 +99,13 @@ struct CfMonth {
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(double inH MEMBER inH)
     Q_PROPERTY(double outH MEMBER outH)
-    Q_PROPERTY(int bal MEMBER bal)
+    Q_PROPERTY(qint64 bal MEMBER bal)
     Q_PROPERTY(double balY MEMBER balY)
 public:
     QString name;
-    double inH = 0; ///< height of the bar of what came in, a percentage of the plot's
+    double inH = 0; ///< length of the bar of what came in, a percentage of the plot's height
     double outH = 0;
-    int bal = 0;     ///< the balance, rounded
+    qint64 bal = 0;  ///< the balance, rounded
     double balY = 0; ///< the balance's height on the plot, a percentage from its foot
     friend bool operator==(const CfMonth &, const CfMonth &) = default;
 };

@@ -1,3 +1,4 @@
+#include "canvas/KpiCards.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneText.h"
 
@@ -29,12 +30,9 @@ QStringList highlightsOf(const ViewSpec &spec, const QString &unit) {
 std::optional<SceneOut> buildReport(const ViewSpec &spec) {
     const QString unit = spec.unit.value_or(QString());
     SceneOut scene;
+    scene.kpiCards = kpiCardsOf(spec);
     for (const ViewSpec::Item &item : spec.items) {
-        const QString value = valueText(item, unit);
-        const QString delta = item.delta.value_or(QString()).trimmed();
-        if (!value.isEmpty())
-            scene.kpiCards.append({item.label, value, delta, isGoodDelta(delta)});
-        else if (!item.label.trimmed().isEmpty())
+        if (valueText(item, unit).isEmpty() && !item.label.trimmed().isEmpty())
             scene.highlights.append(item.label);
     }
     scene.highlights += highlightsOf(spec, unit);

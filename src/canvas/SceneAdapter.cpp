@@ -14,8 +14,13 @@ using Builder = std::optional<SceneOut> (*)(const ViewSpec &);
 
 const QHash<QString, Builder> &builders() {
     static const QHash<QString, Builder> table{
-        {u"report"_s, &buildReport},
-        {u"compare"_s, &buildCompare},
+        {u"report"_s, &buildReport},     {u"compare"_s, &buildCompare},
+        {u"decision"_s, &buildDecision}, {u"agents"_s, &buildAgents},
+        {u"status"_s, &buildStatus},     {u"funnel"_s, &buildFunnel},
+        {u"unit"_s, &buildUnit},         {u"brief"_s, &buildBrief},
+        {u"retro"_s, &buildRetro},       {u"costs"_s, &buildCosts},
+        {u"cashflow"_s, &buildCashflow}, {u"okr"_s, &buildOkr},
+        {u"workload"_s, &buildWorkload}, {u"budget"_s, &buildBudget},
     };
     return table;
 }

@@ -39,6 +39,8 @@ struct SceneOut {
     Q_PROPERTY(QList<kiv::canvas::Seg> coSegs MEMBER coSegs)
     Q_PROPERTY(QList<kiv::canvas::CfMonth> cfMonths MEMBER cfMonths)
     Q_PROPERTY(QList<QPointF> cfLine MEMBER cfLine)
+    Q_PROPERTY(double cfLow MEMBER cfLow)
+    Q_PROPERTY(double cfHigh MEMBER cfHigh)
     Q_PROPERTY(QList<kiv::canvas::OkObj> okObjs MEMBER okObjs)
     Q_PROPERTY(QList<kiv::canvas::WlRow> wlRows MEMBER wlRows)
     Q_PROPERTY(QList<kiv::canvas::BgRow> bgRows MEMBER bgRows)
@@ -72,6 +74,8 @@ public:
     QList<Seg> coSegs;       ///< costs: the stacked bar
     QList<CfMonth> cfMonths; ///< cashflow
     QList<QPointF> cfLine; ///< cashflow: the balance line; x and y are percentages, y from the foot
+    double cfLow = 0;      ///< cashflow: the value at the foot of the plot, 0 or below
+    double cfHigh = 0;     ///< cashflow: the value at its top
     QList<OkObj> okObjs;   ///< okr
     QList<WlRow> wlRows;   ///< workload
     QList<BgRow> bgRows;   ///< budget

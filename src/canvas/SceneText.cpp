@@ -1,6 +1,7 @@
 #include "canvas/SceneText.h"
 
 #include "canvas/CanvasNum.h"
+#include "canvas/SceneFigures.h"
 
 #include <QHash>
 
@@ -16,7 +17,7 @@ QString valueOf(const std::optional<QString> &display, std::optional<double> val
                 const QString &unit) {
     if (display && !display->trimmed().isEmpty())
         return display->trimmed();
-    return value && std::isfinite(*value) ? figureText(*value, unit) : QString();
+    return isDrawable(value) ? figureText(*value, unit) : QString();
 }
 
 } // namespace
@@ -56,15 +57,6 @@ QString artWord(const QString &art) {
 QString sceneTitle(const ViewSpec &spec, const QString &art) {
     const QString title = spec.title.value_or(QString()).trimmed();
     return title.isEmpty() ? artWord(art) : title;
-}
-
-std::optional<bool> isGoodDelta(const QString &delta) {
-    const QString written = delta.trimmed();
-    if (written.startsWith(u'+'))
-        return true;
-    if (written.startsWith(u'-') || written.startsWith(u'−'))
-        return false;
-    return std::nullopt;
 }
 
 } // namespace kiv::canvas

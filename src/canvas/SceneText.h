@@ -20,7 +20,4 @@ QString artWord(const QString &art);
 /// The answer's heading, else the art's word.
 QString sceneTitle(const ViewSpec &spec, const QString &art);
 
-/// Whether a change written with its sign is an improvement; nothing without a leading + or −.
-std::optional<bool> isGoodDelta(const QString &delta);
-
 } // namespace kiv::canvas

@@ -1,0 +1,117 @@
+#include "canvas/SceneBuilders.h"
+#include "canvas/SceneText.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An event and the lane it belongs to.
+struct Event {
+    QString lane;
+    ViewSpec::Point point;
+};
+
+bool hasLabel(const ViewSpec::Point &point) {
+    return !point.label.trimmed().isEmpty();
+}
+
+/// Lanes in order of appearance.
+class Lanes {
+public:
+    void add(const QString &name, const LaneTask &task) {
+        const auto place = m_places.constFind(name);
+        if (place == m_places.cend()) {
+            m_places.insert(name, m_lanes.size());
+            m_lanes.append(Lane{.name = name, .tasks = {task}});
+        } else {
+            m_lanes[*place].tasks.append(task);
+        }
+    }
+    const QList<Lane> &all() const { return m_lanes; }
+
+private:
+    QList<Lane> m_lanes;
+    QHash<QString, qsizetype> m_places;
+};
+
+/// The owner of an event; a time or a number in its place belongs to the event itself.
+QString ownerOf(const ViewSpec::Point &point) {
+    const QString hint = point.hint.value_or(QString()).trimmed();
+    return hint.isEmpty() || hint.front().isDigit() ? QString() : hint;
+}
+
+QString titleOf(const ViewSpec::Point &point, const QString &unit) {
+    QStringList parts{point.label.trimmed(), valueText(point, unit)};
+    if (ownerOf(point).isEmpty())
+        parts.append(point.hint.value_or(QString()).trimmed());
+    parts.removeAll(QString());
+    return parts.join(u" · ");
+}
+
+/// Series and board columns are lanes already; plain points lie on the lanes of their owners.
+QList<Event> eventsOf(const ViewSpec &spec) {
+    QList<Event> events;
+    const auto add = [&events](const QString &lane, const QList<ViewSpec::Point> &points) {
+        for (const ViewSpec::Point &point : points) {
+            if (hasLabel(point))
+                events.append({lane, point});
+        }
+    };
+    if (!spec.points.isEmpty()) {
+        for (const ViewSpec::Point &point : spec.points)
+            add(ownerOf(point), {point});
+        return events;
+    }
+    for (const ViewSpec::Series &series : spec.series)
+        add(series.name, series.points);
+    for (const ViewSpec::BoardCol &column : spec.boardCols)
+        add(column.name, column.points);
+    return events;
+}
+
+QString summaryOf(const QList<Event> &events) {
+    QStringList parts;
+    for (const QString &status : {u"done"_s, u"doing"_s, u"blocked"_s, u"todo"_s}) {
+        const auto count =
+            std::count_if(events.begin(), events.end(),
+                          [&status](const Event &event) { return event.point.status == status; });
+        const QString word = status == u"todo" ? u"to do"_s : status;
+        if (count > 0)
+            parts.append(QString::number(count) + u' ' + word);
+    }
+    return parts.join(u" · ");
+}
+
+} // namespace
+
+std::optional<SceneOut> buildAgents(const ViewSpec &spec) {
+    const QList<Event> events = eventsOf(spec);
+    if (events.isEmpty())
+        return std::nullopt;
+    const QString unit = spec.unit.value_or(QString());
+    const auto count = static_cast<double>(events.size());
+    SceneOut scene;
+    Lanes lanes;
+    for (qsizetype i = 0; i < events.size(); ++i) {
+        const auto &[name, point] = events.at(i);
+        lanes.add(name.isEmpty() ? u"Events"_s : name,
+                  {.title = titleOf(point, unit),
+                   .left = static_cast<double>(i) / count,
+                   .width = 1 / count,
+                   .status = point.status.value_or(u"unknown"_s)});
+    }
+    scene.lanes = lanes.all();
+    scene.agentSummary = summaryOf(events);
+    scene.countLine = QString::number(events.size()) +
+                      (events.size() == 1 ? u" event"_s : u" events"_s) + u" · from the answer"_s;
+    scene.insight = u"Laid out from the agent's answer, in order."_s;
+    return scene;
+}
+
+} // namespace kiv::canvas

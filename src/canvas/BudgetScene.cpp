@@ -1,0 +1,111 @@
+#include "base/Regex.h"
+#include "canvas/SceneBuilders.h"
+#include "canvas/SceneFigures.h"
+#include "canvas/SceneText.h"
+#include "canvas/TableColumns.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Up to a tenth over plan still counts as good.
+constexpr double tolerance = 1.1;
+
+struct Line {
+    QString name;
+    std::optional<double> plan;
+    double actual = 0;
+    QString planText;
+    QString actualText;
+};
+
+bool isAmount(const std::optional<double> &value) {
+    return isDrawable(value) && *value >= 0;
+}
+
+/// A line needs what was spent; without a plan it has none to be measured against.
+void addLine(QList<Line> &lines, const ViewSpec::Point &point, const QString &planText,
+             const QString &actualText) {
+    const bool badPlan = point.target && !isAmount(point.target);
+    if (!point.label.trimmed().isEmpty() && isAmount(point.value) && !badPlan)
+        lines.append({point.label.trimmed(), point.target, *point.value, planText, actualText});
+}
+
+QList<Line> linesOfRows(const ViewSpec &spec) {
+    const TableColumns columns(spec, TableColumns::Order::PlanFirst);
+    QList<Line> lines;
+    for (const QStringList &row : spec.rows)
+        addLine(lines, columns.measured(row), columns.planText(row), columns.actualText(row));
+    return lines;
+}
+
+/// Two series, the plan and what was spent, matched by label.
+QList<ViewSpec::Point> pointsOfSeries(const QList<ViewSpec::Series> &series) {
+    static const Regex planned(u"plan|budget|target|план|бюджет", Regex::CaseInsensitive);
+    const bool firstIsPlan = !planned.contains(series.at(1).name);
+    const auto &plan = series.at(firstIsPlan ? 0 : 1).points;
+    QList<ViewSpec::Point> points = series.at(firstIsPlan ? 1 : 0).points;
+    QHash<QString, std::optional<double>> plans;
+    for (const ViewSpec::Point &point : plan)
+        plans.insert(point.label, point.value);
+    for (ViewSpec::Point &point : points)
+        point.target = plans.value(point.label);
+    return points;
+}
+
+QList<Line> linesOf(const ViewSpec &spec) {
+    const bool twoSeries = spec.points.isEmpty() && spec.series.size() == 2;
+    if (!twoSeries && !spec.rows.isEmpty() && TableColumns(spec).hasActual())
+        return linesOfRows(spec);
+    const auto points = twoSeries ? pointsOfSeries(spec.series) : pointsOf(spec);
+    const QString unit = unitOf(spec, points);
+    QList<Line> lines;
+    for (const ViewSpec::Point &point : points)
+        addLine(lines, point,
+                isDrawable(point.target) ? figureText(*point.target, unit) : QString(),
+                valueText(point, unit));
+    return lines;
+}
+
+std::optional<BgRow> rowOf(const Line &line, double scale) {
+    const double plan = line.plan.value_or(0);
+    const auto deviation = wholePercent(plan > 0 ? (line.actual - plan) / plan * 100 : 0);
+    if (!deviation)
+        return std::nullopt;
+    const bool over = line.plan && line.actual > plan * tolerance;
+    return BgRow{.name = line.name,
+                 .plan = line.planText,
+                 .actual = line.actualText,
+                 .planPct = scale > 0 ? plan / scale * 100 : 0,
+                 .actPct = scale > 0 ? line.actual / scale * 100 : 0,
+                 .fill = over ? SceneColor::Red : SceneColor::Blue,
+                 .delta =
+                     (*deviation >= 1 ? u"+"_s : QString()) + QString::number(*deviation) + u'%',
+                 .deltaGood = !over};
+}
+
+} // namespace
+
+std::optional<SceneOut> buildBudget(const ViewSpec &spec) {
+    const QList<Line> lines = linesOf(spec);
+    double scale = 0;
+    for (const Line &line : lines)
+        scale = std::max({scale, line.plan.value_or(0), line.actual});
+    SceneOut scene;
+    for (const Line &line : lines) {
+        if (const auto row = rowOf(line, scale))
+            scene.bgRows.append(*row);
+    }
+    if (scene.bgRows.isEmpty())
+        return std::nullopt;
+    scene.countLine = QString::number(scene.bgRows.size()) + u" lines · from the answer"_s;
+    scene.insight = u"Bars follow plan vs actual in the answer."_s;
+    return scene;
+}
+
+} // namespace kiv::canvas

@@ -1,0 +1,154 @@
+#include "canvas/CashflowSeries.h"
+
+#include "base/Regex.h"
+#include "canvas/SceneFigures.h"
+
+#include <QHash>
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Points = QList<ViewSpec::Point>;
+
+const Regex &inName() {
+    static const Regex words(
+        u"\\bin\\b|inflow|income|revenue|receipt|earn|приход|поступ|доход|выруч",
+        Regex::CaseInsensitive);
+    return words;
+}
+
+const Regex &outName() {
+    static const Regex words(u"\\bout\\b|outflow|expens|cost|spend|spent|burn|paid|payment|"
+                             u"расход|затрат|отток|трат|списан",
+                             Regex::CaseInsensitive);
+    return words;
+}
+
+const Regex &balanceName() {
+    static const Regex words(
+        u"balance|cash|\\bbank\\b|runway|остат|баланс|сальдо|денег|деньги|касс",
+        Regex::CaseInsensitive);
+    return words;
+}
+
+bool hasFigures(const ViewSpec::Series &series) {
+    return std::any_of(series.points.begin(), series.points.end(),
+                       [](const ViewSpec::Point &point) { return isDrawable(point.value); });
+}
+
+/// Takes the first series of that name out of `series`.
+std::optional<ViewSpec::Series> take(QList<ViewSpec::Series> &series, const Regex &name) {
+    for (qsizetype i = 0; i < series.size(); ++i) {
+        if (name.contains(series.at(i).name))
+            return series.takeAt(i);
+    }
+    return std::nullopt;
+}
+
+std::optional<double> valueOf(const ViewSpec::Point &point) {
+    return isDrawable(point.value) ? point.value : std::nullopt;
+}
+
+/// The value at a place of the range, found by its label or by its position.
+class Lookup {
+public:
+    Lookup(const Points &points, bool byLabel) : m_points(points), m_byLabel(byLabel) {
+        for (qsizetype i = 0; i < points.size() && byLabel; ++i)
+            m_places.insert(points.at(i).label, i);
+    }
+    std::optional<double> at(qsizetype position, const QString &label) const {
+        const qsizetype place = m_byLabel ? m_places.value(label, -1) : position;
+        return place >= 0 && place < m_points.size() ? valueOf(m_points.at(place)) : std::nullopt;
+    }
+
+private:
+    const Points &m_points;
+    bool m_byLabel;
+    QHash<QString, qsizetype> m_places;
+};
+
+} // namespace
+
+CashflowSeries::CashflowSeries(const ViewSpec &spec) {
+    QList<ViewSpec::Series> series = spec.series;
+    series.removeIf([](const ViewSpec::Series &one) { return !hasFigures(one); });
+    if (series.isEmpty() && !spec.points.isEmpty())
+        series.append({QString(), spec.points});
+    const bool severalGiven = series.size() > 1;
+    if (severalGiven) {
+        if (const auto in = take(series, inName()))
+            m_in = in->points;
+        if (const auto out = take(series, outName()))
+            m_out = out->points;
+    }
+    if (const auto balance = take(series, balanceName())) {
+        m_balance = balance->points;
+        if (severalGiven && m_in.isEmpty() && m_out.isEmpty())
+            m_soleLine = balance->name;
+    } else if (m_in.isEmpty() && m_out.isEmpty() && !series.isEmpty()) {
+        m_balance = series.first().points;
+        if (severalGiven)
+            m_soleLine = series.first().name;
+    }
+}
+
+QList<Period> CashflowSeries::periods() const {
+    const bool byLabel = matchByLabel();
+    const Lookup in(m_in, byLabel);
+    const Lookup out(m_out, byLabel);
+    const Lookup balance(m_balance, byLabel);
+    QList<Period> result;
+    const QStringList names = labels();
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        Period period{names.at(i), in.at(i, names.at(i)), out.at(i, names.at(i)),
+                      balance.at(i, names.at(i))};
+        if (period.out)
+            period.out = std::abs(*period.out);
+        if (period.in || period.out || period.balance)
+            result.append(period);
+    }
+    return result;
+}
+
+bool CashflowSeries::matchByLabel() const {
+    for (const Points *points : {&m_in, &m_out, &m_balance}) {
+        QSet<QString> seen;
+        for (const ViewSpec::Point &point : *points) {
+            if (point.label.trimmed().isEmpty() || seen.contains(point.label))
+                return false;
+            seen.insert(point.label);
+        }
+    }
+    return true;
+}
+
+/// The labels of every series in order of appearance, or those of the longest by position.
+QStringList CashflowSeries::labels() const {
+    QStringList result;
+    if (matchByLabel()) {
+        QSet<QString> seen;
+        for (const Points *points : {&m_in, &m_out, &m_balance}) {
+            for (const ViewSpec::Point &point : *points) {
+                if (!seen.contains(point.label))
+                    result.append(point.label);
+                seen.insert(point.label);
+            }
+        }
+        return result;
+    }
+    const Points &longest =
+        *std::max({&m_in, &m_out, &m_balance},
+                  [](const Points *a, const Points *b) { return a->size() < b->size(); });
+    for (const ViewSpec::Point &point : longest)
+        result.append(point.label);
+    return result;
+}
+
+} // namespace kiv::canvas

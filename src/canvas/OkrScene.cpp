@@ -1,0 +1,121 @@
+#include "canvas/Progress.h"
+#include "canvas/SceneBuilders.h"
+#include "canvas/SceneFigures.h"
+#include "canvas/TableColumns.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Objective {
+    QString name;
+    QString owner;
+    QList<ViewSpec::Point> results;
+};
+
+/// Objectives in order of appearance, found again by a key.
+class Objectives {
+public:
+    void add(const QString &key, const Objective &objective) {
+        const auto place = m_places.constFind(key);
+        if (place == m_places.cend()) {
+            m_places.insert(key, m_all.size());
+            m_all.append(objective);
+        } else {
+            m_all[*place].results += objective.results;
+        }
+    }
+    const QList<Objective> &all() const { return m_all; }
+
+private:
+    QList<Objective> m_all;
+    QHash<QString, qsizetype> m_places;
+};
+
+/// Rows of objective, key result, value and target; a table without a column of key results has
+/// one result per objective.
+QList<Objective> objectivesOfRows(const ViewSpec &spec) {
+    const TableColumns columns(spec);
+    Objectives objectives;
+    for (const QStringList &row : spec.rows) {
+        const QString name = row.value(0).trimmed();
+        objectives.add(name, {name, columns.owner(row), {columns.measured(row)}});
+    }
+    return objectives.all();
+}
+
+/// Series and board columns are objectives; plain points are the results of one, or of one for each
+/// owner.
+QList<Objective> objectivesOf(const ViewSpec &spec, const QString &title) {
+    QList<Objective> groups;
+    for (const ViewSpec::Series &series : spec.series)
+        groups.append({series.name, {}, series.points});
+    for (const ViewSpec::BoardCol &column : spec.boardCols)
+        groups.append({column.name, {}, column.points});
+    if (!groups.isEmpty())
+        return groups;
+    if (spec.points.isEmpty())
+        return objectivesOfRows(spec);
+    Objectives byOwner;
+    for (const ViewSpec::Point &point : spec.points) {
+        const QString owner = point.hint.value_or(QString()).trimmed();
+        byOwner.add(owner, {title, owner, {point}});
+    }
+    return byOwner.all();
+}
+
+/// Good from seven tenths, fair from a half.
+SceneColor colorOf(double tenths) {
+    return tenths >= 7 ? SceneColor::Green : tenths >= 5 ? SceneColor::Amber : SceneColor::Red;
+}
+
+std::optional<OkObj> scored(const Objective &objective, const QString &unit) {
+    OkObj result{.name = objective.name, .owner = objective.owner};
+    double sum = 0;
+    for (const ViewSpec::Point &point : objective.results) {
+        const auto progress = progressOf(point, unit);
+        if (!progress || point.label.trimmed().isEmpty())
+            continue;
+        const double target = progress->target.value_or(100);
+        const auto share = wholePercent(progress->percent / std::max(target, 1.0) * 100);
+        if (!share)
+            continue;
+        result.krs.append(
+            {.title = point.label.trimmed(), .pct = *share, .color = colorOf(*share / 10.0)});
+        sum += std::min(*share, 100);
+    }
+    if (result.krs.isEmpty())
+        return std::nullopt;
+    result.score = QString::number(sum / 100 / static_cast<double>(result.krs.size()), 'f', 1);
+    result.scoreColor = colorOf(result.score.toDouble() * 10);
+    return result;
+}
+
+} // namespace
+
+std::optional<SceneOut> buildOkr(const ViewSpec &spec) {
+    const QString title = spec.title.value_or(QString()).trimmed();
+    const QString unit = spec.unit.value_or(QString()).trimmed();
+    SceneOut scene;
+    qsizetype results = 0;
+    for (const Objective &objective :
+         objectivesOf(spec, title.isEmpty() ? u"Key results"_s : title)) {
+        if (const auto drawn = scored(objective, unit)) {
+            scene.okObjs.append(*drawn);
+            results += drawn->krs.size();
+        }
+    }
+    if (results == 0)
+        return std::nullopt;
+    scene.countLine = QString::number(results) + u" key results · from the answer"_s;
+    scene.insight = u"Scores follow value against target in the answer."_s;
+    return scene;
+}
+
+} // namespace kiv::canvas

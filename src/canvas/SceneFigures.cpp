@@ -1,0 +1,153 @@
+#include "canvas/SceneFigures.h"
+
+#include "base/Regex.h"
+#include "canvas/CanvasNum.h"
+#include "canvas/SceneText.h"
+#include "canvas/TextCues.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double largestFigure = 1e15;
+constexpr double smallestFigure = 1e-9;
+constexpr double largestPercent = 1e6;
+
+ViewSpec::Point pointOf(const ViewSpec::Item &item) {
+    return {.label = item.label, .value = item.value, .display = item.display};
+}
+
+/// What is written around the figure of a display text, a plural's s and words for thousands aside.
+QString unitWord(const QString &display) {
+    static const QStringList multipliers{u"k"_s, u"к"_s, u"m"_s, u"b"_s, u"млн"_s, u"млрд"_s};
+    QString word = display.toLower();
+    word.removeIf([](QChar c) { return c.isDigit() || c.isSpace() || u".,_+-−"_s.contains(c); });
+    for (const QString &multiplier : multipliers) {
+        if (word == multiplier ||
+            (word.size() > 1 && !word.front().isLetter() && word.sliced(1) == multiplier))
+            word.chop(multiplier.size());
+    }
+    return word.size() > 1 && word.endsWith(u's') ? word.chopped(1) : word;
+}
+
+int decimalsOf(double value) {
+    const QString text = CanvasNum::decimal(value);
+    const qsizetype point = text.indexOf(u'.');
+    return point < 0 || text.contains(u'e') ? 0 : static_cast<int>(text.size() - point - 1);
+}
+
+} // namespace
+
+bool isDrawable(const std::optional<double> &value) {
+    if (!value || !std::isfinite(*value))
+        return false;
+    const double size = std::abs(*value);
+    return size == 0 || (size >= smallestFigure && size <= largestFigure);
+}
+
+std::optional<int> wholePercent(double percent) {
+    if (!std::isfinite(percent) || std::abs(percent) > largestPercent)
+        return std::nullopt;
+    return static_cast<int>(std::round(percent));
+}
+
+QString shareText(double part, double whole) {
+    const double percent = part / whole * 100;
+    const bool extreme = (percent > 0 && percent < 1) || (percent > 99 && percent < 100);
+    const double tenths = std::round(percent * 10) / 10;
+    return CanvasNum::decimal(extreme ? tenths : std::round(percent)) + u'%';
+}
+
+QList<ViewSpec::Point> pointsOf(const ViewSpec &spec) {
+    if (!spec.points.isEmpty())
+        return spec.points;
+    if (spec.series.size() == 1)
+        return spec.series.first().points;
+    QList<ViewSpec::Point> points;
+    for (const ViewSpec::Item &item : spec.items)
+        points.append(pointOf(item));
+    if (!points.isEmpty())
+        return points;
+    for (const QStringList &row : spec.rows) {
+        if (row.size() == 2)
+            points.append(
+                {.label = row.at(0), .value = CanvasNum::parse(row.at(1)), .display = row.at(1)});
+    }
+    return points;
+}
+
+QString unitOf(const ViewSpec &spec, const QList<ViewSpec::Point> &points) {
+    if (spec.unit && !spec.unit->trimmed().isEmpty())
+        return spec.unit->trimmed();
+    QString common;
+    for (const ViewSpec::Point &point : points) {
+        const QString sign = CanvasEngine::unitToken(point.display.value_or(QString()));
+        if (sign.isEmpty() || (!common.isEmpty() && sign != common))
+            return {};
+        common = sign;
+    }
+    return common;
+}
+
+bool isPercentage(const ViewSpec::Point &point, const QString &unit) {
+    return unit == u"%" || point.display.value_or(QString()).contains(u'%');
+}
+
+double sumOf(const QList<double> &values) {
+    int decimals = 0;
+    for (const double value : values)
+        decimals = std::max(decimals, decimalsOf(value));
+    const double sum = std::accumulate(values.begin(), values.end(), 0.0);
+    const double scale = std::pow(10.0, std::min(decimals, 6));
+    return std::round(sum * scale) / scale;
+}
+
+bool addUp(const QStringList &labels) {
+    static const Regex contained(u"revenue|income|profit|margin|\\b(net|gross|balance|average|mean|"
+                                 u"median|total|rate|score)\\b|"
+                                 u"выручк|доход|прибыл|марж|чист|остат|баланс|средн|итог|всего",
+                                 Regex::CaseInsensitive);
+    return std::none_of(labels.begin(), labels.end(),
+                        [](const QString &label) { return contained.contains(label); });
+}
+
+QString totalText(const QList<ViewSpec::Point> &points, const QString &unit) {
+    QList<double> values;
+    QStringList labels;
+    QSet<QString> units;
+    for (const ViewSpec::Point &point : points) {
+        const bool isTemperature =
+            unit.contains(u'°') || point.display.value_or(QString()).contains(u'°');
+        if (!isDrawable(point.value) || *point.value < 0 || isPercentage(point, unit) ||
+            isTemperature)
+            return {};
+        values.append(*point.value);
+        labels.append(point.label);
+        units.insert(unitWord(point.display.value_or(QString())));
+    }
+    if (values.size() < 2 || units.size() > 1 || !addUp(labels))
+        return {};
+    return figureText(sumOf(values), unit);
+}
+
+bool isTotalName(const QString &name) {
+    static const QStringList words{u"total"_s,   u"totals"_s, u"grand total"_s, u"sum"_s,
+                                   u"overall"_s, u"итого"_s,  u"всего"_s,       u"сумма"_s};
+    constexpr qsizetype longest = 40;
+    if (name.size() > longest)
+        return false;
+    QString plain = CanvasEngine::stripInline(name).toLower();
+    while (plain.endsWith(u':') || plain.endsWith(u'.'))
+        plain.chop(1);
+    return words.contains(plain);
+}
+
+} // namespace kiv::canvas

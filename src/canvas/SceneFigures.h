@@ -1,0 +1,45 @@
+#pragma once
+
+#include "canvas/ViewSpec.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+/// What scenes may do with figures: nothing is drawn of one that has no sensible length.
+namespace kiv::canvas {
+
+/// Finite and of a size that a chart can show.
+bool isDrawable(const std::optional<double> &value);
+
+/// Rounded half away from zero; nothing past a million per cent.
+std::optional<int> wholePercent(double percent);
+
+/// "42%", below one per cent and above 99 with a decimal so that little does not read as nothing.
+QString shareText(double part, double whole);
+
+/// The specification's points; without any, those of its only series, its key figures or its
+/// two-column rows.
+QList<ViewSpec::Point> pointsOf(const ViewSpec &spec);
+
+/// The unit that is given, else the sign that all values carry.
+QString unitOf(const ViewSpec &spec, const QList<ViewSpec::Point> &points);
+
+/// Whether a value is written as a percentage.
+bool isPercentage(const ViewSpec::Point &point, const QString &unit);
+
+/// The sum with no more decimals than its parts have.
+double sumOf(const QList<double> &values);
+
+/// The sum as shown. Empty where it would mean nothing: of percentages, temperatures, amounts below
+/// zero, unlike units, or figures of which one contains another, such as revenue and profit.
+QString totalText(const QList<ViewSpec::Point> &points, const QString &unit);
+
+/// Whether figures under these labels add up to something.
+bool addUp(const QStringList &labels);
+
+/// Whether a row sums up the others: "Total", "Итого".
+bool isTotalName(const QString &name);
+
+} // namespace kiv::canvas

@@ -1,0 +1,79 @@
+#include "canvas/TableColumns.h"
+
+#include "base/Regex.h"
+#include "canvas/CanvasNum.h"
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+qsizetype columnNamed(const QStringList &columns, const Regex &name, qsizetype except = -1) {
+    for (qsizetype i = 1; i < columns.size(); ++i) {
+        if (i != except && name.contains(columns.at(i)))
+            return i;
+    }
+    return -1;
+}
+
+/// At least half of the filled cells are figures.
+bool isNumeric(const QList<QStringList> &rows, qsizetype column) {
+    qsizetype filled = 0;
+    qsizetype figures = 0;
+    for (const QStringList &row : rows) {
+        const QString cell = row.value(column).trimmed();
+        filled += cell.isEmpty() ? 0 : 1;
+        figures += CanvasNum::parse(cell) ? 1 : 0;
+    }
+    return figures > 0 && figures * 2 >= filled;
+}
+
+} // namespace
+
+TableColumns::TableColumns(const ViewSpec &spec, Order order) {
+    static const Regex plan(u"plan|budget|target|goal|limit|план|бюджет|цель|лимит",
+                            Regex::CaseInsensitive);
+    static const Regex actual(u"actual|fact|spen[dt]|used|current|value|now|result so far|progress|"
+                              u"факт|расход|потрачен|текущ|значени|сейчас",
+                              Regex::CaseInsensitive);
+    static const Regex owner(u"owner|lead|responsible|владел|ответствен", Regex::CaseInsensitive);
+    static const Regex title(u"key result|\\bkr\\b|result|metric|ключев|результат|метрик",
+                             Regex::CaseInsensitive);
+    m_plan = columnNamed(spec.columns, plan);
+    m_actual = columnNamed(spec.columns, actual, m_plan);
+    m_owner = columnNamed(spec.columns, owner);
+
+    qsizetype width = spec.columns.size();
+    for (const QStringList &row : spec.rows)
+        width = std::max(width, row.size());
+    QList<qsizetype> figures;
+    for (qsizetype i = 1; i < width; ++i) {
+        if (i != m_plan && i != m_actual && i != m_owner && isNumeric(spec.rows, i))
+            figures.append(i);
+    }
+    const bool planFirst = order == Order::PlanFirst && figures.size() > 1;
+    if (m_plan < 0 && planFirst)
+        m_plan = figures.takeFirst();
+    if (m_actual < 0 && !figures.isEmpty())
+        m_actual = figures.takeFirst();
+    if (m_plan < 0 && !figures.isEmpty())
+        m_plan = figures.takeFirst();
+    const qsizetype named = columnNamed(spec.columns, title);
+    if (named > 0 && named != m_plan && named != m_actual && named != m_owner)
+        m_title = named;
+}
+
+ViewSpec::Point TableColumns::measured(const QStringList &row) const {
+    ViewSpec::Point point{.label = row.value(m_title).trimmed()};
+    const QString actual = actualText(row);
+    point.value = CanvasNum::parse(actual);
+    if (!actual.isEmpty())
+        point.display = actual;
+    point.target = CanvasNum::parse(planText(row));
+    return point;
+}
+
+} // namespace kiv::canvas

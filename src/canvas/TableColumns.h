@@ -1,0 +1,31 @@
+#pragma once
+
+#include "canvas/ViewSpec.h"
+
+#include <QStringList>
+
+namespace kiv::canvas {
+
+/// Which columns of a table hold what was planned and what came of it. They are told by their
+/// names; else they are the first two columns of figures, in the order that `order` names.
+class TableColumns {
+public:
+    enum class Order { PlanFirst, ActualFirst };
+    explicit TableColumns(const ViewSpec &spec, Order order = Order::ActualFirst);
+
+    bool hasActual() const { return m_actual > 0; }
+    /// The row as a point: value is what came of it, target what was planned.
+    ViewSpec::Point measured(const QStringList &row) const;
+    /// The cells as written.
+    QString planText(const QStringList &row) const { return row.value(m_plan).trimmed(); }
+    QString actualText(const QStringList &row) const { return row.value(m_actual).trimmed(); }
+    QString owner(const QStringList &row) const { return row.value(m_owner).trimmed(); }
+
+private:
+    qsizetype m_plan = -1;
+    qsizetype m_actual = -1;
+    qsizetype m_owner = -1;
+    qsizetype m_title = 0;
+};
+
+} // namespace kiv::canvas
