@@ -4,6 +4,8 @@
 #include "canvas/SceneOut.h"
 #include "canvas/ViewSpec.h"
 
+#include <QtQmlIntegration/qqmlintegration.h>
+
 #include <optional>
 
 namespace kiv::canvas {
@@ -11,6 +13,7 @@ namespace kiv::canvas {
 /// The canvas caption over a drawn scene.
 struct ArtInfo {
     Q_GADGET
+    QML_VALUE_TYPE(artInfo)
     Q_PROPERTY(QString art MEMBER art)
     Q_PROPERTY(QString word MEMBER word)
     Q_PROPERTY(QString title MEMBER title)

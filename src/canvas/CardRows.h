@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 
@@ -17,6 +18,7 @@ namespace kiv::canvas {
 /// A headline figure.
 struct KpiCard {
     Q_GADGET
+    QML_VALUE_TYPE(kpiCard)
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(QString value MEMBER value)
     Q_PROPERTY(QString delta MEMBER delta)
@@ -36,6 +38,7 @@ public:
 /// A row of a comparison table; `numeric` says of each cell whether it is a figure.
 struct CpRow {
     Q_GADGET
+    QML_VALUE_TYPE(cpRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QStringList cells MEMBER cells)
     Q_PROPERTY(QList<bool> numeric MEMBER numeric)
@@ -49,6 +52,7 @@ public:
 /// A decision criterion with the scores of the two options.
 struct CritRow {
     Q_GADGET
+    QML_VALUE_TYPE(critRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(int a MEMBER a)
     Q_PROPERTY(int b MEMBER b)
@@ -62,6 +66,7 @@ public:
 /// A piece of work on a lane; position and length are fractions of the lane.
 struct LaneTask {
     Q_GADGET
+    QML_VALUE_TYPE(laneTask)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(double left MEMBER left)
     Q_PROPERTY(double width MEMBER width)
@@ -77,6 +82,7 @@ public:
 /// An agent and its work, in order.
 struct Lane {
     Q_GADGET
+    QML_VALUE_TYPE(lane)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString role MEMBER role)
     Q_PROPERTY(QList<kiv::canvas::LaneTask> tasks MEMBER tasks)
@@ -91,6 +97,7 @@ public:
 /// A card.
 struct BriefItem {
     Q_GADGET
+    QML_VALUE_TYPE(briefItem)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(QString meta MEMBER meta)
 public:
@@ -102,6 +109,7 @@ public:
 /// A column of cards.
 struct BriefCol {
     Q_GADGET
+    QML_VALUE_TYPE(briefCol)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(kiv::canvas::SceneColor color MEMBER color)
     Q_PROPERTY(int count MEMBER count)
@@ -117,6 +125,7 @@ public:
 /// A key result.
 struct KeyResult {
     Q_GADGET
+    QML_VALUE_TYPE(keyResult)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(int pct MEMBER pct)
     Q_PROPERTY(kiv::canvas::SceneColor color MEMBER color)
@@ -130,6 +139,7 @@ public:
 /// An objective with its key results.
 struct OkObj {
     Q_GADGET
+    QML_VALUE_TYPE(okObj)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString owner MEMBER owner)
     Q_PROPERTY(QString score MEMBER score)

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 /// The rows of scenes made of bars and lines. Texts are what is shown; percentages and lengths have
 /// been worked out. Each is a gadget, so that a view reads its fields by name.
@@ -13,6 +14,7 @@ namespace kiv::canvas {
 /// A stream of work, value against target.
 struct Stream {
     Q_GADGET
+    QML_VALUE_TYPE(stream)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(int pct MEMBER pct)
     Q_PROPERTY(QString note MEMBER note)
@@ -30,6 +32,7 @@ public:
 /// A stage of a funnel.
 struct FnStage {
     Q_GADGET
+    QML_VALUE_TYPE(fnStage)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString n MEMBER n)
     Q_PROPERTY(double w MEMBER w)
@@ -49,6 +52,7 @@ public:
 /// A part of a whole; position and width are percentages of it.
 struct UeRow {
     Q_GADGET
+    QML_VALUE_TYPE(ueRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(double left MEMBER left)
     Q_PROPERTY(double w MEMBER w)
@@ -66,6 +70,7 @@ public:
 /// A cost row; `pct` is relative to the largest amount, negative for an amount below zero.
 struct CoRow {
     Q_GADGET
+    QML_VALUE_TYPE(coRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString sub MEMBER sub)
     Q_PROPERTY(QString amount MEMBER amount)
@@ -83,6 +88,7 @@ public:
 /// A segment of a stacked bar; `w` is a percentage of it.
 struct Seg {
     Q_GADGET
+    QML_VALUE_TYPE(seg)
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(double w MEMBER w)
     Q_PROPERTY(kiv::canvas::SceneColor bg MEMBER bg)
@@ -96,6 +102,7 @@ public:
 /// A period of a cash-flow chart.
 struct CfMonth {
     Q_GADGET
+    QML_VALUE_TYPE(cfMonth)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(double inH MEMBER inH)
     Q_PROPERTY(double outH MEMBER outH)
@@ -113,6 +120,7 @@ public:
 /// A person and their load. `pct` is the real figure; a bar ends at 100.
 struct WlRow {
     Q_GADGET
+    QML_VALUE_TYPE(wlRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString role MEMBER role)
     Q_PROPERTY(int pct MEMBER pct)
@@ -128,6 +136,7 @@ public:
 /// A budget line; both lengths are percentages of the largest figure of the scene.
 struct BgRow {
     Q_GADGET
+    QML_VALUE_TYPE(bgRow)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString plan MEMBER plan)
     Q_PROPERTY(QString actual MEMBER actual)

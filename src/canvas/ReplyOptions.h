@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <QUuid>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 
@@ -13,6 +14,7 @@ namespace kiv::canvas {
 /// A reply offered under an answer.
 struct ReplyChip {
     Q_GADGET
+    QML_VALUE_TYPE(replyChip)
     Q_PROPERTY(QUuid id MEMBER id)
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(QString send MEMBER send)

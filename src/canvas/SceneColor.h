@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QMetaType>
+#include <QtQmlIntegration/qqmlintegration.h>
 #include <qobjectdefs.h>
 
 namespace kiv::canvas {
 Q_NAMESPACE
+QML_NAMED_ELEMENT(Scene)
 
 /// The colours that a scene names; the views give them their shades.
 enum class SceneColor { Violet, Blue, Green, Amber, Red };

@@ -4,12 +4,14 @@
 #include "canvas/ChartRows.h"
 
 #include <QPointF>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 namespace kiv::canvas {
 
 /// One scene, complete and ready to draw. What a scene does not use stays empty.
 struct SceneOut {
     Q_GADGET
+    QML_VALUE_TYPE(sceneOut)
     Q_PROPERTY(QString art MEMBER art)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString sub MEMBER sub)

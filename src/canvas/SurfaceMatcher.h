@@ -3,6 +3,7 @@
 #include <QMetaType>
 #include <QString>
 #include <QUrl>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <optional>
 
@@ -11,6 +12,7 @@ namespace kiv::canvas {
 /// A page of the platform that the canvas can open.
 struct SurfaceLink {
     Q_GADGET
+    QML_VALUE_TYPE(surfaceLink)
     Q_PROPERTY(QUrl url MEMBER url)
     Q_PROPERTY(QString title MEMBER title)
 public:

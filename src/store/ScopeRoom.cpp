@@ -165,6 +165,19 @@ void ScopeRoom::select(const QString &project, const QString &agent) {
         m_store.chat()->connectChat();
 }
 
+void ScopeRoom::pickEntry(RailRow kind, const QString &projectID, const QString &entryID) {
+    switch (kind) {
+    case RailRow::Kiv:
+        return pickGlobal();
+    case RailRow::Project:
+        return enterProject(entryID);
+    case RailRow::Agent:
+        return projectID.isEmpty() ? pickStandaloneAgent(entryID) : pickAgent(projectID, entryID);
+    case RailRow::SectionLabel:
+        return;
+    }
+}
+
 void ScopeRoom::toggleExpanded(const QString &projectID) {
     m_rail.toggleExpanded(projectID);
 }

@@ -75,6 +75,9 @@ public:
     Q_INVOKABLE void enterProject(const QString &id);
     Q_INVOKABLE void pickAgent(const QString &projectID, const QString &agentID);
     Q_INVOKABLE void pickStandaloneAgent(const QString &id);
+    /// Selects what a row of the rail stands for.
+    Q_INVOKABLE void pickEntry(kiv::store::RailRow kind, const QString &projectID,
+                               const QString &entryID);
     Q_INVOKABLE void toggleExpanded(const QString &projectID);
 
     /// Takes the user over and empties the rail of the one before.

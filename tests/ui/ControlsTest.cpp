@@ -25,9 +25,9 @@ void ControlsTest::pictures() {
     QTest::failOnWarning(QRegularExpression(u".*"_s));
     m_gallery.show(u"ControlsPage.qml"_s, {1120, 760});
     m_gallery.save(u"controls-light"_s);
-    m_gallery.appearance().setDark(true);
+    m_gallery.setDark(true);
     m_gallery.save(u"controls-dark"_s);
-    m_gallery.appearance().setDark(false);
+    m_gallery.setDark(false);
 }
 
 void ControlsTest::iconTakesColour() {

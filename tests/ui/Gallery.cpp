@@ -1,7 +1,5 @@
 #include "ui/Gallery.h"
 
-#include "ui/Views.h"
-
 #include <QDir>
 #include <QQmlComponent>
 #include <QtTest>
@@ -10,29 +8,84 @@ using namespace Qt::StringLiterals;
 
 namespace kiv::ui {
 
-Gallery::Gallery() : m_appearance(registerViews(m_engine)) {}
+namespace {
+
+/// Longer than the longest entrance.
+constexpr int entrance = 500;
+
+QQuickItem *findBelow(QQuickItem *item, const QString &name) {
+    if (!item->isVisible())
+        return nullptr;
+    if (item->objectName() == name)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findBelow(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+Gallery::Gallery() = default;
+
+Gallery::~Gallery() {
+    close();
+}
+
+void Gallery::close() {
+    m_shown.reset();
+    m_own.reset();
+    m_window = nullptr;
+    m_engine.reset();
+}
 
 QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariantMap &properties) {
-    m_shown.reset();
-    m_window = std::make_unique<QQuickWindow>();
-    m_window->resize(size);
-    QQmlComponent component(&m_engine, QStringLiteral(KIV_PAGES "/") + page);
+    close();
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    registerModules(*m_engine).setDark(m_dark);
+    QQmlComponent component(m_engine.get(), QStringLiteral(KIV_PAGES "/") + page);
     if (component.isError())
         qFatal("%s", qPrintable(component.errorString()));
     m_shown.reset(component.createWithInitialProperties(properties));
     auto *item = qobject_cast<QQuickItem *>(m_shown.get());
     if (!item)
         qFatal("%s", qPrintable(component.errorString()));
+    m_own = std::make_unique<QQuickWindow>();
+    m_window = m_own.get();
     item->setParentItem(m_window->contentItem());
     item->setSize(size);
-    m_window->show();
-    m_window->requestActivate();
-    if (!QTest::qWaitForWindowActive(m_window.get()))
-        qFatal("The window does not show");
+    present(size);
     return item;
 }
 
+void Gallery::open(store::AppStore &store, const QSize &size) {
+    close();
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    showMainWindow(*m_engine, store, m_dark ? Appearance::Dark : Appearance::Light);
+    if (m_engine->rootObjects().isEmpty())
+        qFatal("The window cannot be made");
+    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
+    present(size);
+}
+
+void Gallery::present(const QSize &size) {
+    m_window->resize(size);
+    m_window->show();
+    m_window->requestActivate();
+    if (!QTest::qWaitForWindowActive(m_window))
+        qFatal("The window does not show");
+}
+
+void Gallery::setDark(bool dark) {
+    m_dark = dark;
+    if (m_engine)
+        m_engine->findChild<Appearance *>()->setDark(dark);
+}
+
 QImage Gallery::save(const QString &name) {
+    QTest::qWait(entrance);
     const QDir folder(QStringLiteral(KIV_PICTURES));
     folder.mkpath(u"."_s);
     const QImage picture = m_window->grabWindow();
@@ -40,21 +93,35 @@ QImage Gallery::save(const QString &name) {
     return picture;
 }
 
-QQuickItem *Gallery::item(const char *name) {
-    auto *found = m_window->contentItem()->findChild<QQuickItem *>(QLatin1StringView(name));
-    if (!found)
-        qFatal("No item named %s", name);
+QQuickItem *Gallery::find(const QString &name) const {
+    return findBelow(m_window->contentItem(), name);
+}
+
+QQuickItem *Gallery::item(const QString &name) const {
+    QQuickItem *found = nullptr;
+    if (!QTest::qWaitFor([&] { return (found = find(name)) != nullptr; }, 2000))
+        qFatal("No item named %s shows", qPrintable(name));
     return found;
 }
 
-void Gallery::click(QQuickItem *item) {
-    const QPointF middle = item->mapToScene(item->boundingRect().center());
-    QTest::mouseClick(m_window.get(), Qt::LeftButton, {}, middle.toPoint());
+void Gallery::click(const QString &name) {
+    QQuickItem *target = item(name);
+    const QPointF middle = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
+    QTest::mouseClick(m_window, Qt::LeftButton, {}, middle.toPoint());
 }
 
 void Gallery::type(const QString &text) {
-    for (const QChar &letter : text)
-        QTest::sendKeyEvent(QTest::Click, m_window.get(), Qt::Key_unknown, letter, Qt::NoModifier);
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, m_window, Qt::Key_unknown, QString(letter), {});
+}
+
+void Gallery::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(m_window, key, modifiers);
+}
+
+bool Gallery::hasFocus(const QString &name) const {
+    const QQuickItem *target = find(name);
+    return target && target->hasActiveFocus();
 }
 
 } // namespace kiv::ui

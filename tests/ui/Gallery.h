@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ui/tokens/Appearance.h"
+#include "ui/Modules.h"
 
-#include <QQmlEngine>
+#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -10,31 +10,41 @@
 
 namespace kiv::ui {
 
-/// An off-screen window that shows one QML component and saves what it looks like.
+/// A window off screen, used by key and mouse events: the program's own, or one that shows a page
+/// of the folder `pages`.
 class Gallery {
 public:
     Gallery();
+    ~Gallery();
 
-    /// Shows a page of the folder `pages`, filling a window of `size`. A page with an error ends
-    /// the test.
+    /// Shows a page, filling a window of `size`. A page with an error ends the test.
     QQuickItem *show(const QString &page, const QSize &size, const QVariantMap &properties = {});
-    Appearance &appearance() { return m_appearance; }
-    /// Saves the window below the build's folder of pictures and gives the picture.
+    /// Shows the program's window on `store`.
+    void open(store::AppStore &store, const QSize &size);
+    void close();
+    void setDark(bool dark);
+
+    /// Saves the window below the build's folder of pictures, once what moves has come to rest.
     QImage save(const QString &name);
 
-    QQmlEngine &engine() { return m_engine; }
     QQuickWindow &window() { return *m_window; }
-    /// The item with this objectName, which must be there.
-    QQuickItem *item(const char *name);
+    /// The visible item with this objectName; null without one.
+    QQuickItem *find(const QString &name) const;
+    QQuickItem *item(const QString &name) const;
     /// Clicks into the middle of an item.
-    void click(QQuickItem *item);
+    void click(const QString &name);
     void type(const QString &text);
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    bool hasFocus(const QString &name) const;
 
 private:
-    QQmlEngine m_engine;
-    Appearance &m_appearance;
-    std::unique_ptr<QQuickWindow> m_window;
+    void present(const QSize &size);
+
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+    std::unique_ptr<QQuickWindow> m_own;
     std::unique_ptr<QObject> m_shown;
+    bool m_dark = false;
 };
 
 } // namespace kiv::ui

@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Templates as T
 import Kiv.Icons
@@ -49,14 +47,9 @@ T.Button {
         anchors.rightMargin: -2
         count: button.badge
     }
-    Loader {
+    TipLoader {
         active: button.hovered && !button.down
-
-        sourceComponent: Tip {
-            parent: button
-            visible: true
-            text: button.text
-            keys: button.keys
-        }
+        text: button.text
+        keys: button.keys
     }
 }

@@ -16,7 +16,7 @@ T.ScrollBar {
         implicitHeight: 6
         radius: 3
         color: bar.pressed ? Tokens.control : Tokens.line2
-        opacity: bar.active ? 1 : 0
+        opacity: bar.active || bar.policy === T.ScrollBar.AlwaysOn ? 1 : 0
 
         Behavior on opacity {
             NumberAnimation { duration: Tokens.quick }

@@ -7,8 +7,6 @@ T.ToolTip {
 
     property string keys: ""
 
-    x: Math.round((parent.width - implicitWidth) / 2)
-    y: parent.height + 6
     implicitWidth: contentItem.implicitWidth + leftPadding + rightPadding
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     horizontalPadding: 8

@@ -18,6 +18,8 @@ class Appearance : public QObject {
     Q_PROPERTY(
         bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
 public:
+    enum Theme { Light, Dark };
+
     /// Belongs to `engine`, which finds it by itself.
     explicit Appearance(QQmlEngine &engine);
     static Appearance *create(QQmlEngine *engine, QJSEngine *scripts);

@@ -1,0 +1,54 @@
+#include "ui/Modules.h"
+
+#include "store/AppStore.h"
+#include "ui/controls/ShadowProvider.h"
+#include "ui/icons/IconProvider.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+
+using namespace Qt::StringLiterals;
+
+// The registrations of the static modules. Naming them keeps the linker from dropping them.
+void qml_register_types_Kiv_Scene();
+void qml_register_types_Kiv_Store();
+void qml_register_types_Kiv_Tokens();
+void qml_register_types_Kiv_Icons();
+void qml_register_types_Kiv_Controls();
+void qml_register_types_Kiv_Chat();
+void qml_register_types_Kiv_Canvas();
+void qml_register_types_Kiv_Shell();
+
+namespace kiv::ui {
+
+Appearance &registerModules(QQmlEngine &engine) {
+    static void (*volatile const registrations[])() = {
+        qml_register_types_Kiv_Scene,    qml_register_types_Kiv_Store,
+        qml_register_types_Kiv_Tokens,   qml_register_types_Kiv_Icons,
+        qml_register_types_Kiv_Controls, qml_register_types_Kiv_Chat,
+        qml_register_types_Kiv_Canvas,   qml_register_types_Kiv_Shell,
+    };
+    Q_UNUSED(registrations)
+
+    engine.addImportPath(u"qrc:/qt/qml"_s);
+    engine.addImageProvider(u"icon"_s, new IconProvider);
+    engine.addImageProvider(u"shadow"_s, new ShadowProvider);
+
+    QFont font;
+    font.setFamilies(
+        {u"Inter"_s, u"Segoe UI"_s, u"SF Pro Text"_s, u"Noto Sans"_s, u"sans-serif"_s});
+    font.setPixelSize(14);
+    QGuiApplication::setFont(font);
+
+    return *new Appearance(engine);
+}
+
+void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store,
+                    Appearance::Theme theme) {
+    registerModules(engine).setDark(theme == Appearance::Dark);
+    engine.setInitialProperties({{u"store"_s, QVariant::fromValue(&store)}});
+    engine.load(QUrl(u"qrc:/qt/qml/Kiv/Shell/MainWindow.qml"_s));
+}
+
+} // namespace kiv::ui

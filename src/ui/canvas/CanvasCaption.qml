@@ -1,0 +1,104 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Scene
+import Kiv.Store
+import Kiv.Tokens
+
+// The line above the sheet: what is drawn and which question it answers, or how far the answer is.
+Item {
+    id: caption
+
+    required property CanvasRoom canvas
+    required property ChatRoom chat
+    required property ScopeRoom scope
+
+    readonly property bool thinking: canvas.state === Store.CanvasState.ThinkingSkeleton
+    readonly property bool building: canvas.state === Store.CanvasState.BuildingScene
+    readonly property bool drawn: canvas.state === Store.CanvasState.Scene
+
+    implicitHeight: 36
+
+    Item {
+        id: sign
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: caption.drawn ? 32 : 20
+        height: 32
+
+        Rectangle {
+            anchors.fill: parent
+            visible: caption.drawn
+            radius: Tokens.radiusControl
+            color: Tokens.surface
+            border.width: 1
+            border.color: Tokens.line
+
+            Icon {
+                anchors.centerIn: parent
+                name: caption.canvas.art
+                size: 18
+                color: Tokens.accentText
+            }
+        }
+        Mark {
+            anchors.centerIn: parent
+            visible: !caption.drawn
+            size: 20
+            thinking: caption.thinking
+        }
+    }
+    Label {
+        id: word
+
+        anchors.left: sign.right
+        anchors.leftMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.strong
+        text: caption.thinking ? qsTr("%1 is thinking").arg(caption.scope.scopeName)
+            : caption.building ? qsTr("Drawing the %1").arg(caption.canvas.artInfo.word.toLowerCase())
+            : caption.canvas.artInfo.word
+    }
+    Label {
+        anchors.left: word.right
+        anchors.leftMargin: 10
+        anchors.right: actions.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.small
+        color: Tokens.t3
+        text: caption.thinking ? qsTr("%1 s").arg(caption.canvas.thinkingSeconds)
+            : caption.drawn && caption.canvas.query !== "" ? qsTr("Answer to “%1”").arg(caption.canvas.query)
+            : ""
+    }
+    Row {
+        id: actions
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 10
+
+        Button {
+            visible: caption.thinking && caption.chat.canStop
+            size: Button.Small
+            iconName: "stop"
+            text: qsTr("Stop")
+            onClicked: caption.chat.stopLive()
+        }
+        Button {
+            objectName: "refineButton"
+            visible: caption.drawn
+            size: Button.Small
+            iconName: "refine"
+            text: qsTr("Refine")
+            onClicked: refine.open()
+
+            RefinePopover {
+                id: refine
+
+                onSubmitted: text => caption.chat.send(text)
+            }
+        }
+    }
+}

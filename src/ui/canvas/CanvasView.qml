@@ -1,0 +1,87 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// The canvas: the scene of the newest answer, or what leads to one.
+FocusScope {
+    id: view
+
+    required property AppStore store
+    /// Room kept free at the bottom for what floats there.
+    property int reserved: 0
+
+    readonly property CanvasRoom canvas: store.canvas
+    readonly property bool framed: canvas.state === Store.CanvasState.ThinkingSkeleton
+        || canvas.state === Store.CanvasState.BuildingScene || canvas.state === Store.CanvasState.Scene
+
+    signal messageRequested(messageId: string)
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Canvas")
+
+    CanvasCaption {
+        id: caption
+
+        x: 24
+        y: 16
+        width: parent.width - 48
+        visible: view.framed
+        canvas: view.canvas
+        chat: view.store.chat
+        scope: view.store.scope
+    }
+    BuildingBar {
+        x: 24
+        y: 56
+        width: parent.width - 48
+        visible: view.canvas.state === Store.CanvasState.BuildingScene
+        running: visible
+    }
+    SkeletonSheet {
+        anchors.fill: frame
+        visible: view.canvas.state === Store.CanvasState.ThinkingSkeleton || view.canvas.state === Store.CanvasState.BuildingScene
+        shape: view.canvas.skeletonShape
+    }
+    SheetLoader {
+        anchors.fill: frame
+        active: view.canvas.state === Store.CanvasState.Scene
+        focus: true
+        store: view.store
+        onMessageRequested: view.messageRequested(view.canvas.sourceMessageId)
+    }
+    Item {
+        id: frame
+
+        x: 24
+        y: 64
+        width: parent.width - 48
+        height: parent.height - y - 24 - view.reserved
+    }
+    CanvasMessage {
+        anchors.fill: parent
+        anchors.bottomMargin: view.reserved
+        visible: view.canvas.state === Store.CanvasState.Empty || view.canvas.state === Store.CanvasState.SignedOut
+        heading: qsTr("Ask for something with numbers")
+        body: qsTr("The answer is drawn here, and the text stays in the conversation.")
+    }
+    CanvasMessage {
+        anchors.fill: parent
+        anchors.bottomMargin: view.reserved
+        visible: view.canvas.state === Store.CanvasState.Hint
+        iconName: "sheet"
+        heading: view.canvas.canvasHint
+        questions: [qsTr("As a table"), qsTr("As a list")]
+        onAsked: question => view.store.chat.send(question)
+    }
+    CanvasMessage {
+        anchors.fill: parent
+        anchors.bottomMargin: view.reserved
+        visible: view.canvas.state === Store.CanvasState.Failed
+        iconName: "alert"
+        heading: qsTr("No answer came")
+        questions: [qsTr("Try again")]
+        onAsked: view.store.chat.send(view.store.chat.lastPrompt)
+    }
+}

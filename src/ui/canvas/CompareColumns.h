@@ -1,0 +1,82 @@
+#pragma once
+
+#include "canvas/SceneOut.h"
+
+#include <QFont>
+#include <QObject>
+#include <QtQmlIntegration>
+
+namespace kiv::ui {
+
+/// A column of a comparison after the name column. Lengths are device-independent pixels.
+struct CompareColumn {
+    Q_GADGET
+    QML_VALUE_TYPE(compareColumn)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(int cell MEMBER cell)
+    Q_PROPERTY(double x MEMBER x)
+    Q_PROPERTY(double width MEMBER width)
+    Q_PROPERTY(double indent MEMBER indent)
+    Q_PROPERTY(bool numeric MEMBER numeric)
+public:
+    QString title;
+    int cell = 0; ///< index into the cells of a row
+    double x = 0; ///< from the right edge of the name column
+    double width = 0;
+    double indent = 0;    ///< room before a text column that follows figures
+    bool numeric = false; ///< all filled cells are figures: set right
+    friend bool operator==(const CompareColumn &, const CompareColumn &) = default;
+};
+
+/// How the columns of a comparison share a width: figures always get the room that they need, text
+/// columns give way, and what still does not fit scrolls sideways beside the name column.
+/// Columns that are only padding are left out.
+class CompareColumns : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(kiv::canvas::SceneOut scene READ scene WRITE setScene NOTIFY sceneChanged REQUIRED)
+    Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
+    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
+    Q_PROPERTY(QString nameTitle READ nameTitle NOTIFY changed)
+    Q_PROPERTY(double nameWidth READ nameWidth NOTIFY changed)
+    Q_PROPERTY(double cellsWidth READ cellsWidth NOTIFY changed)
+    Q_PROPERTY(QList<kiv::ui::CompareColumn> columns READ columns NOTIFY changed)
+public:
+    using QObject::QObject;
+
+    canvas::SceneOut scene() const { return m_scene; }
+    void setScene(const canvas::SceneOut &scene);
+    double width() const { return m_width; }
+    void setWidth(double width);
+    QFont font() const { return m_font; }
+    void setFont(const QFont &font);
+
+    QString nameTitle() const { return m_scene.cpCols.value(0); }
+    double nameWidth() const { return m_nameWidth; }
+    /// All columns together; more than what is left beside the name column when they scroll.
+    double cellsWidth() const { return m_cellsWidth; }
+    QList<CompareColumn> columns() const { return m_columns; }
+
+    /// A row as a screen reader says it: the name, then each filled cell after its column.
+    Q_INVOKABLE QString spoken(const kiv::canvas::CpRow &row) const;
+
+Q_SIGNALS:
+    void sceneChanged();
+    void widthChanged();
+    void fontChanged();
+    void changed();
+
+private:
+    void measure();
+    void layOut();
+
+    canvas::SceneOut m_scene;
+    double m_width = 0;
+    QFont m_font;
+    QList<CompareColumn> m_columns;
+    QList<double> m_natural; ///< the width each column would like to have
+    double m_nameWidth = 0;
+    double m_cellsWidth = 0;
+};
+
+} // namespace kiv::ui

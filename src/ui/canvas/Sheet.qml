@@ -1,0 +1,77 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Scene
+import Kiv.Store
+import Kiv.Tokens
+
+// The sheet that a scene is drawn on: head, scene, a sentence, foot.
+FocusScope {
+    id: sheet
+
+    required property sceneOut scene
+    required property ScopeRoom scope
+    required property string time
+    required property bool linked
+
+    /// Padding at the sides, by the width of the sheet.
+    readonly property int side: width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
+
+    signal messageRequested()
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.bottomMargin: -1
+        radius: Tokens.radiusSheet
+        visible: !Tokens.dark
+        color: Qt.alpha("#141722", 0.05)
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: Tokens.radiusSheet
+        color: Tokens.surface
+        border.width: 1
+        border.color: Tokens.line
+    }
+    SheetHead {
+        id: head
+
+        width: parent.width
+        title: sheet.scene.title
+        sub: sheet.scene.sub
+        side: sheet.side
+    }
+    SceneBody {
+        anchors.top: head.bottom
+        anchors.bottom: note.visible ? note.top : foot.top
+        width: parent.width
+        focus: true
+        scene: sheet.scene
+        side: sheet.side
+    }
+    Label {
+        id: note
+
+        anchors.bottom: foot.top
+        x: sheet.side
+        width: parent.width - 2 * sheet.side
+        bottomPadding: 16 - style.lead
+        visible: text !== ""
+        color: Tokens.t2
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        text: sheet.scene.insight
+    }
+    SheetFoot {
+        id: foot
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        countLine: sheet.scene.countLine
+        side: sheet.side
+        scope: sheet.scope
+        time: sheet.time
+        linked: sheet.linked
+        onMessageRequested: sheet.messageRequested()
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// How much the scene draws, and the message that it came from.
+Item {
+    id: foot
+
+    required property string countLine
+    required property int side
+    required property ScopeRoom scope
+    required property string time
+    required property bool linked
+
+    signal messageRequested()
+
+    implicitHeight: 44
+
+    Divider {
+        width: parent.width
+    }
+    Label {
+        x: foot.side
+        width: Math.max(0, source.x - x - 16)
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.caption
+        color: Tokens.t3
+        text: foot.countLine
+    }
+    Row {
+        id: source
+
+        x: parent.width - width - foot.side
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 8
+
+        Figure {
+            anchors.verticalCenter: parent.verticalCenter
+            kind: foot.scope.scopeKind
+            name: foot.scope.scopeName
+            colorHex: foot.scope.scopeColorHex
+            size: 18
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, foot.width / 2)
+            style: Tokens.type.caption
+            color: Tokens.t3
+            text: foot.time === "" ? foot.scope.scopeName : qsTr("%1, %2").arg(foot.scope.scopeName).arg(foot.time)
+        }
+        TextLink {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: foot.linked
+            text: qsTr("Show message")
+            onClicked: foot.messageRequested()
+        }
+    }
+}

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Scene
+import Kiv.Tokens
+
+// One row of a comparison: the name stays, the cells scroll sideways beside it.
+Item {
+    id: row
+
+    required property cpRow values
+    required property CompareColumns layout
+    required property real offset
+
+    Accessible.role: Accessible.Row
+    Accessible.name: layout.spoken(values)
+
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        width: row.layout.nameWidth - 16
+        style: Tokens.type.name
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        text: row.values.name
+        Accessible.ignored: true
+    }
+    Item {
+        x: row.layout.nameWidth
+        width: row.width - x
+        height: parent.height
+        clip: row.layout.cellsWidth > width
+
+        Repeater {
+            model: row.layout.columns
+
+            Label {
+                required property compareColumn modelData
+
+                readonly property string cell: row.values.cells[modelData.cell] ?? ""
+
+                x: modelData.x + 16 + modelData.indent - row.offset
+                width: modelData.width - 32 - modelData.indent
+                anchors.verticalCenter: parent.verticalCenter
+                horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
+                style: Tokens.type.line
+                color: modelData.numeric ? Tokens.t1 : Tokens.t2
+                text: cell === "" ? "—" : cell
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Tokens
+
+// Leads from a message to the scene that it carries.
+T.Button {
+    id: card
+
+    required property string title
+    required property string art
+    required property bool shown
+
+    implicitHeight: 44
+    text: shown ? qsTr("%1, on the canvas").arg(title) : qsTr("Show %1 on the canvas").arg(title)
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: Tokens.radiusBlock
+        color: card.hovered ? Tokens.hover : Tokens.surface
+        border.width: 1
+        border.color: card.shown ? Tokens.accentLine : Tokens.line
+
+        FocusRing {
+            visible: card.visualFocus
+            targetRadius: Tokens.radiusBlock
+        }
+    }
+
+    Rectangle {
+        id: ground
+
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: 28
+        height: 28
+        radius: Tokens.radiusControl
+        color: Tokens.accentTint
+
+        Icon {
+            anchors.centerIn: parent
+            name: card.art
+            size: 16
+            color: Tokens.accentText
+        }
+    }
+    Label {
+        anchors.verticalCenter: parent.verticalCenter
+        x: 46
+        width: state.x - x - 10
+        style: Tokens.type.smallMedium
+        text: card.title
+        Accessible.ignored: true
+    }
+    Label {
+        id: state
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: card.width - width - 12
+        style: Tokens.type.captionMedium
+        color: card.shown ? Tokens.t3 : Tokens.accentText
+        text: card.shown ? qsTr("On canvas") : qsTr("Show")
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// The conversation in full, over the canvas.
+FocusScope {
+    id: dock
+
+    required property AppStore store
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Conversation")
+    Keys.onEscapePressed: store.layout.toggleDock()
+
+    Shadow {
+        level: Shadow.High
+        targetRadius: 0
+    }
+    Rectangle {
+        anchors.fill: parent
+        color: Tokens.rail
+
+        Rectangle {
+            width: 1
+            height: parent.height
+            color: Tokens.line2
+        }
+    }
+    // What lies below stays where it is.
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        onWheel: wheel => wheel.accepted = true
+    }
+    Item {
+        id: head
+
+        width: parent.width
+        height: 56
+
+        Figure {
+            id: figure
+
+            x: 24
+            anchors.verticalCenter: parent.verticalCenter
+            kind: dock.store.scope.scopeKind
+            name: dock.store.scope.scopeName
+            colorHex: dock.store.scope.scopeColorHex
+            size: 28
+            thinking: dock.store.chat.liveWaiting
+        }
+        Column {
+            x: 64
+            width: close.x - x - 12
+            anchors.verticalCenter: parent.verticalCenter
+
+            Label {
+                width: parent.width
+                style: Tokens.type.strong
+                text: dock.store.scope.scopeName
+            }
+            Label {
+                width: parent.width
+                visible: text !== ""
+                style: Tokens.type.caption
+                color: Tokens.t3
+                text: dock.store.scope.scopeDetail
+            }
+        }
+        IconButton {
+            id: close
+
+            x: parent.width - width - 12
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "close"
+            text: qsTr("Close the conversation")
+            keys: "Ctrl J"
+            onClicked: dock.store.layout.toggleDock()
+        }
+        Divider {
+            anchors.bottom: parent.bottom
+            width: parent.width
+        }
+    }
+    Feed {
+        anchors.top: head.bottom
+        anchors.bottom: composer.top
+        width: parent.width
+        rows: dock.store.chat.msgs
+        scope: dock.store.scope
+        compact: false
+        onRetryRequested: messageId => dock.store.chat.retry(messageId)
+        onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
+    }
+    Composer {
+        id: composer
+
+        focus: true
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 10
+        x: 24
+        width: parent.width - 48
+        store: dock.store
+        hint: qsTr("Enter to send")
+        note: qsTr("Shift+Enter for a new line")
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Tokens
+
+// A command that looks like a link.
+T.Button {
+    id: link
+
+    property TypeStyle style: Tokens.type.captionMedium
+    property color color: Tokens.accentText
+
+    implicitWidth: caption.implicitWidth
+    implicitHeight: caption.implicitHeight + bottomPadding
+    Accessible.name: text
+    Accessible.role: Accessible.Link
+
+    Label {
+        id: caption
+
+        style: link.style
+        font.underline: link.hovered
+        color: link.color
+        text: link.text
+        Accessible.ignored: true
+    }
+    FocusRing {
+        visible: link.visualFocus
+        targetRadius: 2
+    }
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+}

@@ -1,0 +1,118 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Store
+import Kiv.Tokens
+
+// The canvases drawn in this run, newest first.
+Popover {
+    id: popover
+
+    required property CanvasRoom canvas
+    property real most: 600
+
+    width: 360
+    onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
+
+    contentItem: Item {
+        implicitHeight: 48 + (list.count === 0 ? 40 : list.height)
+    }
+
+    Label {
+        x: 12
+        y: 10
+        style: Tokens.type.strong
+        text: qsTr("History")
+        Accessible.role: Accessible.Heading
+    }
+    Label {
+        x: 12
+        y: 46
+        visible: list.count === 0
+        color: Tokens.t3
+        text: qsTr("Nothing drawn yet")
+    }
+    ListView {
+        id: list
+
+        objectName: "historyList"
+        y: 42
+        width: popover.availableWidth
+        height: Math.min(contentHeight, popover.most - 60)
+        model: popover.canvas.history
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("History")
+        Keys.onReturnPressed: popover.canvas.openHistory(currentIndex)
+        Keys.onEnterPressed: popover.canvas.openHistory(currentIndex)
+
+        T.ScrollBar.vertical: ScrollBar {}
+
+        delegate: T.ItemDelegate {
+            id: row
+
+            required property int index
+            required property string art
+            required property string title
+            required property string query
+            required property string time
+
+            width: list.width
+            height: 48
+            focusPolicy: Qt.NoFocus
+            text: title
+            highlighted: ListView.isCurrentItem && list.activeFocus
+            Accessible.name: qsTr("%1, %2, %3").arg(title).arg(query).arg(time)
+            Accessible.role: Accessible.ListItem
+            onClicked: popover.canvas.openHistory(index)
+
+            background: Rectangle {
+                radius: Tokens.radiusControl
+                color: row.hovered || row.highlighted ? Tokens.hoverRaised : "transparent"
+            }
+
+            Icon {
+                x: 12
+                anchors.verticalCenter: parent.verticalCenter
+                name: row.art
+                color: Tokens.t2
+            }
+            Column {
+                x: 44
+                width: stamp.x - x - 12
+                anchors.verticalCenter: parent.verticalCenter
+
+                Label {
+                    width: parent.width
+                    style: Tokens.type.name
+                    text: row.title
+                    Accessible.ignored: true
+                }
+                Label {
+                    width: parent.width
+                    style: Tokens.type.caption
+                    color: Tokens.t3
+                    text: row.query
+                    Accessible.ignored: true
+                }
+            }
+            Label {
+                id: stamp
+
+                x: parent.width - width - 12
+                anchors.verticalCenter: parent.verticalCenter
+                style: Tokens.type.caption
+                color: Tokens.t3
+                text: row.time
+                Accessible.ignored: true
+            }
+        }
+    }
+}

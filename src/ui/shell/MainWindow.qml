@@ -1,0 +1,23 @@
+import QtQuick
+import Kiv.Shell
+import Kiv.Store
+import Kiv.Tokens
+
+Window {
+    id: window
+
+    required property AppStore store
+
+    title: "KIV"
+    width: 1440
+    height: 900
+    minimumWidth: 1024
+    minimumHeight: 680
+    visible: true
+    color: Tokens.bg
+
+    MainView {
+        anchors.fill: parent
+        store: window.store
+    }
+}

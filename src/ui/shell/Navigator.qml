@@ -1,0 +1,49 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Shell
+import Kiv.Store
+import Kiv.Tokens
+
+// Everything that there is to talk to: one stop of the tab key, rows by the arrow keys.
+ListView {
+    id: list
+
+    required property ScopeRoom scope
+
+    objectName: "navigator"
+    model: scope.rail
+    topMargin: 12
+    bottomMargin: 8
+    leftMargin: 12
+    spacing: 2
+    clip: true
+    reuseItems: true
+    focus: true
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightMoveDuration: 0
+    Accessible.role: Accessible.List
+    Accessible.name: qsTr("Projects and agents")
+    Keys.onReturnPressed: (currentItem as NavigatorRow)?.clicked()
+    Keys.onEnterPressed: (currentItem as NavigatorRow)?.clicked()
+    Keys.onSpacePressed: (currentItem as NavigatorRow)?.clicked()
+    Keys.onRightPressed: (currentItem as NavigatorRow)?.toggled()
+    Keys.onLeftPressed: (currentItem as NavigatorRow)?.toggled()
+
+    T.ScrollBar.vertical: ScrollBar {}
+
+    delegate: NavigatorRow {
+        required property int index
+
+        width: list.width - 24
+        ringed: ListView.isCurrentItem && list.activeFocus
+        onClicked: {
+            list.currentIndex = index
+            list.scope.pickEntry(kind, projectId, entryId)
+        }
+        onToggled: if (project) list.scope.toggleExpanded(entryId)
+    }
+}

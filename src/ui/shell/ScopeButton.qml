@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Shell
+import Kiv.Store
+import Kiv.Tokens
+
+// Shows who the conversation is with and opens the list of everybody.
+T.Button {
+    id: button
+
+    required property AppStore store
+    required property real popoverHeight
+
+    readonly property ScopeRoom scope: store.scope
+
+    objectName: "scopeButton"
+    implicitWidth: row.implicitWidth + 18
+    implicitHeight: 36
+    enabled: scope.auth === Store.AuthPhase.SignedIn
+    text: scope.scopeDetail === "" ? scope.scopeName : qsTr("%1, %2").arg(scope.scopeName).arg(scope.scopeDetail)
+    Accessible.name: text
+    Accessible.role: Accessible.ButtonMenu
+    onClicked: store.layout.toggleTopScope()
+
+    background: Rectangle {
+        radius: Tokens.radiusControl
+        color: button.down ? Tokens.press : button.hovered ? Tokens.hover : Tokens.surface
+        border.width: 1
+        border.color: Tokens.line2
+
+        FocusRing {
+            visible: button.visualFocus
+        }
+    }
+
+    Row {
+        id: row
+
+        x: 8
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 8
+
+        Figure {
+            anchors.verticalCenter: parent.verticalCenter
+            kind: button.scope.scopeKind
+            name: button.scope.scopeName
+            colorHex: button.scope.scopeColorHex
+            size: 20
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, 220)
+            style: Tokens.type.name
+            text: button.scope.scopeName
+            Accessible.ignored: true
+        }
+        Label {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            width: Math.min(implicitWidth, 180)
+            style: Tokens.type.line
+            color: Tokens.t3
+            text: button.scope.scopeDetail
+            Accessible.ignored: true
+        }
+        Icon {
+            anchors.verticalCenter: parent.verticalCenter
+            name: "down"
+            size: 16
+            color: Tokens.t1
+        }
+    }
+    ScopePopover {
+        scope: button.scope
+        most: button.popoverHeight
+        visible: button.store.layout.topScopeOpen
+        onAboutToHide: button.store.layout.closePopovers()
+    }
+}

@@ -1,0 +1,80 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Store
+import Kiv.Tokens
+
+// One entry of the scope popover.
+T.ItemDelegate {
+    id: row
+
+    required property int kind
+    required property string name
+    required property string detail
+    required property string colorHex
+    required property bool selected
+
+    readonly property bool label: kind === Store.RailRow.SectionLabel
+
+    implicitHeight: label ? 28 : 48
+    enabled: !label
+    text: name
+    Accessible.name: detail === "" ? name : qsTr("%1, %2").arg(name).arg(detail)
+    Accessible.role: label ? Accessible.StaticText : Accessible.ListItem
+
+    background: Rectangle {
+        visible: !row.label
+        radius: Tokens.radiusControl
+        color: row.hovered || row.highlighted ? Tokens.hoverRaised : "transparent"
+    }
+
+    Label {
+        x: 12
+        y: 8
+        visible: row.label
+        style: Tokens.type.captionStrong
+        color: Tokens.t3
+        text: row.name
+        Accessible.ignored: true
+    }
+    Figure {
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !row.label
+        kind: row.kind === Store.RailRow.Kiv ? Store.ScopeKind.Kiv : row.kind === Store.RailRow.Project ? Store.ScopeKind.Project : Store.ScopeKind.Agent
+        name: row.name
+        colorHex: row.colorHex
+        size: 28
+    }
+    Column {
+        x: 52
+        width: parent.width - x - 40
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !row.label
+
+        Label {
+            width: parent.width
+            style: Tokens.type.name
+            text: row.name
+            Accessible.ignored: true
+        }
+        Label {
+            width: parent.width
+            visible: text !== ""
+            style: Tokens.type.caption
+            color: Tokens.t3
+            text: row.detail
+            Accessible.ignored: true
+        }
+    }
+    Icon {
+        x: parent.width - width - 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.selected && !row.label
+        name: "check"
+        size: 18
+        color: Tokens.accentText
+    }
+}

@@ -1,0 +1,186 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Store
+import Kiv.Tokens
+
+// Signing in, and making an account. What was typed stays through errors and through the switch
+// between the two.
+T.Popup {
+    id: sheet
+
+    required property SessionRoom session
+
+    readonly property bool signup: session.authSheet === Store.AuthSheetMode.Signup
+
+    function submit() {
+        if (!session.busy)
+            session.submitAuth(email.field.text, password.field.text, signup)
+    }
+
+    anchors.centerIn: T.Overlay.overlay
+    width: 424
+    padding: 36
+    bottomPadding: 28
+    modal: true
+    focus: true
+    closePolicy: T.Popup.CloseOnEscape
+    visible: session.authSheet !== Store.AuthSheetMode.Closed
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    onAboutToShow: email.field.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()
+    onClosed: password.field.clear()
+
+    T.Overlay.modal: Rectangle {
+        color: Tokens.scrim
+    }
+    background: Item {
+        Shadow {
+            level: Shadow.High
+            targetRadius: Tokens.radiusDialog
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: Tokens.radiusDialog
+            color: Tokens.surface
+        }
+    }
+    enter: Transition {
+        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
+    }
+    contentItem: Item {
+        implicitHeight: form.height
+    }
+
+    Column {
+        id: form
+
+        width: sheet.availableWidth
+        spacing: 18
+
+        Mark {
+            size: 44
+            thinking: sheet.session.busy
+        }
+        Column {
+            spacing: 4
+
+            Label {
+                style: Tokens.type.title
+                text: sheet.signup ? qsTr("Create your account") : qsTr("Sign in to KIV")
+                Accessible.role: Accessible.Heading
+            }
+            Label {
+                color: Tokens.t2
+                text: sheet.signup ? qsTr("Your first project is a question away.") : qsTr("Your projects and agents are waiting.")
+            }
+        }
+        Field {
+            id: email
+
+            width: parent.width
+            label: qsTr("Email")
+            field.objectName: "emailField"
+            field.enabled: !sheet.session.busy
+            field.failed: sheet.session.authError !== "" && field.text.trim() === ""
+            field.inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
+            field.onAccepted: sheet.submit()
+        }
+        Field {
+            id: password
+
+            width: parent.width
+            label: qsTr("Password")
+            field.objectName: "passwordField"
+            field.enabled: !sheet.session.busy
+            field.failed: sheet.session.authError !== "" && email.field.text.trim() !== ""
+            field.trailing: 32
+            field.echoMode: eye.checked ? TextInput.Normal : TextInput.Password
+            field.passwordCharacter: "•"
+            field.inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
+            field.onAccepted: sheet.submit()
+
+            IconButton {
+                id: eye
+
+                parent: password.field
+                x: parent.width - width - 4
+                anchors.verticalCenter: parent.verticalCenter
+                size: 32
+                checkable: true
+                iconName: "eye"
+                color: checked ? Tokens.accentText : Tokens.t3
+                text: checked ? qsTr("Hide the password") : qsTr("Show the password")
+            }
+        }
+        Row {
+            visible: sheet.session.authError !== ""
+            spacing: 8
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: sheet.session.authError
+
+            Icon {
+                name: "alert"
+                size: 16
+                color: Tokens.dangerText
+            }
+            Label {
+                objectName: "authError"
+                width: form.width - 24
+                style: Tokens.type.caption
+                color: Tokens.dangerText
+                wrapMode: Text.Wrap
+                text: sheet.session.authError
+            }
+        }
+        Column {
+            width: parent.width
+            spacing: 8
+
+            Button {
+                objectName: "submitAuth"
+                width: parent.width
+                kind: Button.Main
+                size: Button.Large
+                busy: sheet.session.busy
+                text: sheet.signup ? qsTr("Create the account") : qsTr("Sign in")
+                onClicked: sheet.submit()
+            }
+            Button {
+                objectName: "trySample"
+                width: parent.width
+                visible: sheet.session.sampleOffered && !sheet.signup
+                kind: Button.Quiet
+                size: Button.Large
+                enabled: !sheet.session.busy
+                labelColor: Tokens.t2
+                text: qsTr("Try the sample workspace")
+                onClicked: sheet.session.trySample()
+            }
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 4
+
+            Label {
+                style: Tokens.type.small
+                color: Tokens.t2
+                text: sheet.signup ? qsTr("Already have an account?") : qsTr("New here?")
+            }
+            TextLink {
+                objectName: "switchAuthMode"
+                style: Tokens.type.smallMedium
+                text: sheet.signup ? qsTr("Sign in") : qsTr("Create an account")
+                onClicked: sheet.session.openAuthSheet(sheet.signup ? Store.AuthSheetMode.Login : Store.AuthSheetMode.Signup)
+            }
+        }
+    }
+    IconButton {
+        x: sheet.availableWidth + sheet.rightPadding - width - 14
+        y: 14 - sheet.topPadding
+        iconName: "close"
+        text: qsTr("Close")
+        onClicked: sheet.session.closeAuthSheet()
+    }
+}

@@ -1,0 +1,146 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Shell
+import Kiv.Store
+import Kiv.Tokens
+
+// Rail button and word mark over the rail, the scope beside it, panels and person at the right.
+FocusScope {
+    id: bar
+
+    required property AppStore store
+    /// Where the rail ends, or 0 while it is collapsed.
+    required property real railWidth
+    required property real popoverHeight
+
+    readonly property bool signedIn: store.scope.auth === Store.AuthPhase.SignedIn
+
+    implicitHeight: Tokens.topBarHeight
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: qsTr("Window")
+
+    Rectangle {
+        anchors.fill: parent
+        color: Tokens.rail
+    }
+    Divider {
+        anchors.bottom: parent.bottom
+        width: parent.width
+    }
+    IconButton {
+        id: railButton
+
+        objectName: "railButton"
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        iconName: "rail"
+        text: bar.store.layout.railCollapsed ? qsTr("Show the rail") : qsTr("Hide the rail")
+        keys: "Ctrl \\"
+        onClicked: bar.store.layout.toggleRail()
+    }
+    Mark {
+        id: mark
+
+        anchors.left: railButton.right
+        anchors.leftMargin: 10
+        anchors.verticalCenter: parent.verticalCenter
+    }
+    Label {
+        id: word
+
+        anchors.left: mark.right
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.word
+        text: "KIV"
+    }
+    ScopeButton {
+        x: bar.railWidth > 0 ? bar.railWidth + 24 : word.x + word.width + 60
+        anchors.verticalCenter: parent.verticalCenter
+        store: bar.store
+        popoverHeight: bar.popoverHeight
+    }
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: bar.signedIn
+        spacing: 4
+
+        IconButton {
+            objectName: "historyButton"
+            iconName: "history"
+            text: qsTr("History")
+            keys: "Ctrl Y"
+            active: bar.store.layout.histOpen
+            onClicked: bar.store.layout.toggleHist()
+
+            HistoryPopover {
+                canvas: bar.store.canvas
+                most: bar.popoverHeight
+                visible: bar.store.layout.histOpen
+                onAboutToHide: bar.store.layout.closePopovers()
+            }
+        }
+        IconButton {
+            objectName: "dockButton"
+            iconName: "dock"
+            text: qsTr("Chat dock")
+            keys: "Ctrl J"
+            active: bar.store.layout.dockOpen
+            badge: active ? 0 : bar.store.chat.unseenMsgs
+            onClicked: bar.store.layout.toggleDock()
+        }
+        Item {
+            width: 13
+            height: 36
+
+            Rectangle {
+                anchors.centerIn: parent
+                width: 1
+                height: 20
+                color: Tokens.line
+            }
+        }
+        T.Button {
+            id: person
+
+            objectName: "profileButton"
+            implicitWidth: 32
+            implicitHeight: 36
+            text: qsTr("Profile of %1").arg(bar.store.scope.userName)
+            Accessible.name: text
+            onClicked: bar.store.layout.toggleProfile()
+
+            background: Item {
+                FocusRing {
+                    anchors.margins: 0
+                    targetRadius: 12
+                    visible: person.visualFocus
+                }
+            }
+
+            Avatar {
+                anchors.centerIn: parent
+                initials: bar.store.scope.userInitials
+            }
+            ProfilePopover {
+                store: bar.store
+                visible: bar.store.layout.profileOpen
+                onAboutToHide: bar.store.layout.closePopovers()
+            }
+        }
+    }
+    Button {
+        objectName: "signInButton"
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: bar.store.scope.auth === Store.AuthPhase.Anon
+        kind: Button.Main
+        size: Button.Small
+        text: qsTr("Sign in")
+        onClicked: bar.store.session.openAuthSheet(Store.AuthSheetMode.Login)
+    }
+}

@@ -1,0 +1,82 @@
+#include "ui/Gallery.h"
+#include "ui/Workspace.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+/// Leaves a picture of every state of the window, and fails when a view has something to complain
+/// of.
+class WindowPictures : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s)); }
+    void everyState_data();
+    void everyState();
+};
+
+void WindowPictures::everyState_data() {
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("wide-light") << false << QSize(1440, 900);
+    QTest::newRow("wide-dark") << true << QSize(1440, 900);
+    QTest::newRow("least-light") << false << QSize(1024, 680);
+    QTest::newRow("least-dark") << true << QSize(1024, 680);
+}
+
+void WindowPictures::everyState() {
+    QFETCH(bool, dark);
+    QFETCH(QSize, size);
+    const QString name = QLatin1StringView(QTest::currentDataTag());
+    const auto named = [&](const char *state) { return name + u'-' + QLatin1StringView(state); };
+
+    Workspace workspace;
+    Gallery gallery;
+    gallery.setDark(dark);
+    QVERIFY(workspace.bootSignedOut());
+    gallery.open(*workspace.store, size);
+    gallery.save(named("signed-out"));
+    gallery.click(u"signInButton"_s);
+    gallery.type(u"lead@night-ferry.example"_s);
+    gallery.press(Qt::Key_Tab);
+    gallery.type(u"short"_s);
+    gallery.press(Qt::Key_Return);
+    gallery.save(named("sign-in"));
+    gallery.press(Qt::Key_Escape);
+
+    workspace.backend.answer(
+        u"GET api/v2/auth/me"_s,
+        R"({"id":"u1","email":"lead@night-ferry.example","name":"Ona Lindqvist"})");
+    QVERIFY(workspace.signIn());
+    gallery.save(named("empty"));
+    workspace.store->chat()->send(u"How was the week?"_s);
+    gallery.save(named("thinking"));
+    QVERIFY(workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s));
+    gallery.save(named("report"));
+    QVERIFY(
+        workspace.ask(u"Compare the hosting options"_s, Workspace::compareAnswer(), u"compare"_s));
+    gallery.save(named("compare"));
+    gallery.click(u"historyButton"_s);
+    gallery.save(named("history"));
+    gallery.press(Qt::Key_Escape);
+    gallery.click(u"scopeButton"_s);
+    gallery.save(named("scope"));
+    gallery.press(Qt::Key_Escape);
+    gallery.click(u"profileButton"_s);
+    gallery.save(named("profile"));
+    gallery.press(Qt::Key_Escape);
+    gallery.press(Qt::Key_Backslash, Qt::ControlModifier);
+    gallery.type(u"x"_s);
+    gallery.save(named("float"));
+    gallery.press(Qt::Key_J, Qt::ControlModifier);
+    gallery.save(named("dock"));
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::WindowPictures)
+#include "WindowPictures.moc"

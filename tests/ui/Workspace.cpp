@@ -1,0 +1,103 @@
+#include "ui/Workspace.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+namespace {
+
+struct MadeUpAgent {
+    const char *id;
+    const char *name;
+    const char *role;
+};
+
+struct MadeUpProject {
+    const char *slug;
+    const char *label;
+    QList<MadeUpAgent> agents;
+};
+
+const QList<MadeUpProject> projects = {
+    {"ferry",
+     "Night Ferry",
+     {{"scout", "Scout", "Research"}, {"loom", "Loom", "Design"}, {"anvil", "Anvil", "Build"}}},
+    {"lantern", "Paper Lantern", {{"quill", "Quill", "Copy"}, {"ember", "Ember", "Launch"}}},
+    {"glass", "Glasshouse", {{"a", "Ada", "Data"}, {"b", "Bo", "Test"}, {"c", "Cy", "Support"}}},
+    {"orchard",
+     "Orchard",
+     {{"d", "Di", "Tax"}, {"e", "Ed", "Sales"}, {"f", "Fay", "Press"}, {"g", "Gus", "Legal"}}},
+    {"kettle", "Blue Kettle", {{"h", "Hal", "Ops"}, {"i", "Ivy", "People"}}},
+};
+
+} // namespace
+
+Workspace::Workspace() {
+    backend.answer(u"GET api/v2/auth/me"_s,
+                   R"({"id":"u1","email":"lead@night-ferry.example","name":"Ona Lindqvist"})");
+    QByteArray list;
+    for (const MadeUpProject &project : projects) {
+        list += QByteArray(list.isEmpty() ? "" : ",") + R"({"slug":")" + project.slug +
+                R"(","label":")" + project.label + R"("})";
+        QByteArray members;
+        for (const MadeUpAgent &agent : project.agents)
+            members += QByteArray(members.isEmpty() ? "" : ",") +
+                       R"({"member_kind":"agent","agent":{"id":")" + agent.id + R"(","name":")" +
+                       agent.name + R"(","role":")" + agent.role + R"("}})";
+        const QString slug = QLatin1StringView(project.slug);
+        backend.answer(u"GET api/v2/projects/%1/members"_s.arg(slug), '[' + members + ']');
+        backend.answer(u"GET api/v2/projects/%1/events"_s.arg(slug), "{}");
+        history(u"api/v2/projects/%1/chat"_s.arg(slug), "[]");
+        backend.answer(u"POST api/v2/projects/%1/chat"_s.arg(slug), "{}");
+    }
+    backend.answer(u"GET api/v2/projects"_s, R"({"projects":[)" + list + "]}");
+    backend.answer(u"GET api/v2/custom-agents"_s, R"({"agents":[]})");
+    restart();
+}
+
+bool Workspace::ask(const QString &question, const QString &answer, const QString &art) {
+    store->chat()->send(question);
+    row(++m_row, question, u"user"_s);
+    row(++m_row, answer);
+    return QTest::qWaitFor([&] {
+        clock.advance(100ms);
+        return store->canvas()->art() == art && store->canvas()->phase() == store::Phase::Done &&
+               !store->canvas()->awaitingAnswer();
+    });
+}
+
+QString Workspace::reportAnswer() {
+    return uR"(A good week with two open spots: Orchard is blocked by a missing tax field and Glasshouse runs above its capacity.
+
+```view
+{"kind":"kpi","title":"Portfolio report, week 47","display":"report","items":[
+ {"label":"Recognised revenue","display":"€418,200","delta":"+6.2% on last week"},
+ {"label":"Open tasks","value":137,"delta":"−12"},
+ {"label":"Overdue tasks","value":9,"delta":"+3"},
+ {"label":"Spend against plan","display":"96%","delta":"plan €71,500"},
+ {"label":"Releases shipped","value":23,"delta":"+5"},
+ {"label":"Median first reply","display":"2 h 14 m","delta":"+9 m"},
+ {"label":"Night Ferry shipped the guided sign-up two days early."},
+ {"label":"Orchard has two invoices blocked by a missing tax field."},
+ {"label":"Glasshouse runs at 118% load until the data agent is back."},
+ {"label":"Paper Lantern keeps its launch date, Thursday 3 December."}]}
+```)"_s;
+}
+
+QString Workspace::compareAnswer(const QString &firstName) {
+    return uR"(Six options, monthly figures at the current load.
+
+```view
+{"kind":"table","title":"Hosting options for Glasshouse","display":"compare",
+ "columns":["Option","Price per month","Uptime","Latency, p95","Backups"],"rows":[
+ ["%1","€1,240","99.90%","38 ms","Included"],
+ ["Dedicated small","€1,985","99.95%","24 ms","Included"],
+ ["Dedicated large","€3,410","99.99%","17 ms","Included"],
+ ["Edge network","€2,760","99.97%","11 ms","Extra €180"],
+ ["Own rack","€2,120","99.80%","29 ms","Not offered"],
+ ["Резервный кластер","€1,560","99.90%","41 ms","Included"]]}
+```)"_s.replace(u"%1"_s, firstName);
+}
+
+} // namespace kiv::ui

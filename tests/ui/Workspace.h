@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store/StoreFixture.h"
+
+namespace kiv::ui {
+
+/// A store with made-up projects, agents and conversations.
+class Workspace : public test::StoreFixture {
+public:
+    Workspace();
+
+    /// A question and its answer, as the stream brings them; true when the scene of `art` is drawn.
+    bool ask(const QString &question, const QString &answer, const QString &art);
+
+    static QString reportAnswer();
+    static QString compareAnswer(const QString &firstName = QStringLiteral("Shared cluster"));
+
+private:
+    qint64 m_row = 100;
+};
+
+} // namespace kiv::ui
