@@ -1,5 +1,6 @@
 #include "canvas/AnswerBlock.h"
 
+#include "canvas/ProseLifts.h"
 #include "canvas/SpecReader.h"
 
 namespace kiv::canvas {
@@ -64,6 +65,14 @@ CanvasEngine::DrawableAnswer CanvasEngine::extractViewSpec(const QString &text,
         answer.spec = spec(*view, view->canonical());
     if (!renderable(answer.spec))
         answer.spec.reset();
+    if (!answer.spec) {
+        if (DrawableAnswer lifted = liftGfmTable(answer.text); lifted.spec)
+            answer = lifted;
+    }
+    if (!answer.spec)
+        answer.spec = liftList(answer.text);
+    if (!answer.spec)
+        answer.spec = liftKv(answer.text);
     answer.text = answer.text.trimmed();
     return answer;
 }

@@ -10,7 +10,8 @@ ArtInfo ArtInfoFactory::make(const QString &art, const ViewSpec &spec,
             .word = artWord(art),
             .title = scene ? scene->title : sceneTitle(spec, art),
             .countLine = scene ? scene->countLine : QString(),
-            .chips = chips};
+            .chips = chips,
+            .followups = scene ? followupsOf(*scene) : QList<CanvasFollowup>()};
 }
 
 } // namespace kiv::canvas

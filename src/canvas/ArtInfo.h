@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/CanvasFollowup.h"
 #include "canvas/ReplyOptions.h"
 #include "canvas/SceneOut.h"
 #include "canvas/ViewSpec.h"
@@ -19,12 +20,14 @@ struct ArtInfo {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString countLine MEMBER countLine)
     Q_PROPERTY(QList<kiv::canvas::ReplyChip> chips MEMBER chips)
+    Q_PROPERTY(QList<kiv::canvas::CanvasFollowup> followups MEMBER followups)
 public:
     QString art;       ///< empty when nothing is drawn
     QString word;      ///< the art as a word, such as "Cash flow"
     QString title;     ///< the scene's heading
     QString countLine; ///< the scene's count line
     QList<ReplyChip> chips;
+    QList<CanvasFollowup> followups;
     friend bool operator==(const ArtInfo &, const ArtInfo &) = default;
 };
 

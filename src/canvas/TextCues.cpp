@@ -79,10 +79,9 @@ QString CanvasEngine::unitToken(QStringView text) {
 }
 
 QString CanvasEngine::stripInline(QStringView text) {
-    static const Regex whiteSpace(u"\\s+");
     QString plain = withoutLinkTargets(text);
     plain.removeIf([](QChar c) { return c == u'*' || c == u'_' || c == u'`'; });
-    return whiteSpace.replaceAll(plain, u" ").trimmed();
+    return plain.simplified();
 }
 
 bool CanvasEngine::looksTemp(const ViewSpec &spec) {

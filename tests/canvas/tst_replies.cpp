@@ -1,4 +1,5 @@
 #include "canvas/ReplyOptions.h"
+#include "canvas/Suggestions.h"
 #include "canvas/SurfaceMatcher.h"
 
 #include <QTest>
@@ -144,6 +145,13 @@ private Q_SLOTS:
         const auto link = SurfaceMatcher::match(text, QUrl(u"https://kiv.example"_s));
         QTEST(link ? link->url.toString() : QString(), "url");
         QTEST(link ? link->title : QString(), "title");
+    }
+
+    void suggestions() {
+        QCOMPARE(Suggestions::chips(u"P"_s, u"Ann"_s).at(1), u"Where is Ann stuck?"_s);
+        QCOMPARE(Suggestions::chips(u"P"_s, std::nullopt).at(1), u"What's blocked in P?"_s);
+        QCOMPARE(Suggestions::chips(u"P"_s, std::nullopt).size(), 4);
+        QCOMPARE(Suggestions::chips(std::nullopt, std::nullopt).size(), 3);
     }
 
     void linkKeepsThePort() {

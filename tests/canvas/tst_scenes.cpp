@@ -91,6 +91,24 @@ private Q_SLOTS:
                      .isValid());
     }
 
+    void followups() {
+        const auto ask = [](const char *json, const QString &art) {
+            QStringList questions;
+            for (const CanvasFollowup &one : followupsOf(*sceneOf(json, art)))
+                questions.append(one.send);
+            return questions.join(u' ');
+        };
+        const char *bars = R"({"kind":"bar","points":[{"label":"a","value":50,"target":100},
+            {"label":"b","value":150,"target":100}]})";
+        QCOMPARE(ask(bars, u"budget"_s), u"Why is b over plan?"_s);
+        QCOMPARE(ask(bars, u"status"_s), u"What is holding a back?"_s);
+        QCOMPARE(ask(bars, u"workload"_s), u"Who can take work from b?"_s);
+        QCOMPARE(ask(bars, u"costs"_s), u"Tell me about b"_s);
+        QCOMPARE(ask(R"({"kind":"funnel","points":["a: 9","b: 8","c: 1"]})", u"funnel"_s),
+                 u"Why do so few reach c?"_s);
+        QCOMPARE(ask(bars, u"compare"_s), QString());
+    }
+
     void caption() {
         const ViewSpec spec{.kind = u"kpi"_s, .title = u"Week"_s};
         const QList<ReplyChip> chips{{.label = u"a"_s, .send = u"b"_s}};

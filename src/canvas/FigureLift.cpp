@@ -1,0 +1,88 @@
+#include "canvas/FigureLift.h"
+
+#include "base/JVal.h"
+#include "canvas/SceneFigures.h"
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostBars = 12;
+
+bool shareAnAxis(const QList<LiftedLine> &lines) {
+    QStringList names;
+    for (const LiftedLine &line : lines) {
+        if (!line.figure || !line.figure->delta.isEmpty() ||
+            line.figure->unitKey() != lines.first().figure->unitKey())
+            return false;
+        if (!isTotalName(line.name))
+            names.append(line.name);
+    }
+    return lines.size() <= mostBars && addUp(names);
+}
+
+QString keyOf(const ViewSpec &spec, const QList<LiftedLine> &lines) {
+    JVal::Array texts{JVal::str(spec.kind)};
+    for (const LiftedLine &line : lines)
+        texts.append(JVal::str(line.name + u": "_s + line.text));
+    return JVal::arr(texts).canonical();
+}
+
+ViewSpec table(const QList<LiftedLine> &lines) {
+    ViewSpec spec{.kind = u"table"_s, .columns = {u"Name"_s, u"Value"_s}};
+    for (const LiftedLine &line : lines)
+        spec.rows.append({line.name, line.text});
+    spec.jsonKey = keyOf(spec, lines);
+    return spec;
+}
+
+} // namespace
+
+qsizetype figureCount(const QList<LiftedLine> &lines) {
+    return std::count_if(lines.begin(), lines.end(),
+                         [](const LiftedLine &line) { return line.figure.has_value(); });
+}
+
+ViewSpec barsOrCards(const QList<LiftedLine> &lines) {
+    if (!shareAnAxis(lines))
+        return cards(lines);
+    ViewSpec spec{.kind = u"hbar"_s};
+    for (const LiftedLine &line : lines) {
+        ViewSpec::Point point{
+            .label = line.name, .value = line.figure->value, .display = line.figure->display};
+        if (!line.figure->remark.isEmpty())
+            point.hint = line.figure->remark;
+        spec.points.append(point);
+    }
+    if (!lines.first().figure->unit.isEmpty())
+        spec.unit = lines.first().figure->unit;
+    spec.jsonKey = keyOf(spec, lines);
+    return spec;
+}
+
+ViewSpec cards(const QList<LiftedLine> &lines) {
+    if (lines.size() > mostBars)
+        return table(lines);
+    ViewSpec spec{.kind = u"kpi"_s};
+    for (const LiftedLine &line : lines) {
+        ViewSpec::Item item{.label = line.name};
+        if (!line.text.isEmpty())
+            item.display = line.text;
+        if (line.figure) {
+            item.value = line.figure->value;
+            if (!line.figure->delta.isEmpty()) {
+                item.display = line.figure->display;
+                item.delta = line.figure->delta;
+            }
+        }
+        spec.items.append(item);
+    }
+    spec.jsonKey = keyOf(spec, lines);
+    return spec;
+}
+
+} // namespace kiv::canvas

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "canvas/ProseFigure.h"
+#include "canvas/ViewSpec.h"
+
+#include <QList>
+
+#include <optional>
+
+namespace kiv::canvas {
+
+/// One line of prose that may name a figure.
+struct LiftedLine {
+    QString name;
+    QString text; ///< behind the name; empty when the line has no such part
+    std::optional<ProseFigure> figure;
+};
+
+qsizetype figureCount(const QList<LiftedLine> &lines);
+
+/// Bars when all lines are figures of one axis that add up, else cards; a table when there are too
+/// many for cards.
+ViewSpec barsOrCards(const QList<LiftedLine> &lines);
+
+/// Cards whatever the figures are.
+ViewSpec cards(const QList<LiftedLine> &lines);
+
+} // namespace kiv::canvas

@@ -1,0 +1,79 @@
+#include "canvas/FigureLift.h"
+#include "canvas/ProseLifts.h"
+#include "canvas/ProseLines.h"
+#include "canvas/TextCues.h"
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype deepestIndent = 3; // more is code, or an item of an item
+
+LiftedLine lineOf(QStringView item) {
+    const QString plain = CanvasEngine::stripInline(item);
+    for (const QString &separator : {u" — "_s, u" – "_s, u": "_s, u" - "_s}) {
+        const qsizetype at = plain.indexOf(separator);
+        if (at <= 0)
+            continue;
+        const QString name = plain.first(at).trimmed();
+        const QString text = plain.sliced(at + separator.size()).trimmed();
+        const auto figure = proseFigure(text);
+        if (figure && isFigureName(name) && !namesNoMeasure(name))
+            return {name, text, figure};
+    }
+    return {plain, {}, {}};
+}
+
+/// A list and the index behind it. Deeper items and continued lines belong to their item.
+struct List {
+    QList<LiftedLine> items;
+    qsizetype end;
+};
+
+List listAt(const QList<ProseLine> &lines, qsizetype first) {
+    List list{{}, first};
+    for (; list.end < lines.size(); ++list.end) {
+        const ProseLine &line = lines.at(list.end);
+        if (line.isCode)
+            break;
+        if (line.isBlank() || line.indent() > lines.at(first).indent() + 1)
+            continue;
+        const auto item = listItem(line.text);
+        if (!item)
+            break;
+        list.items.append(lineOf(*item));
+    }
+    return list;
+}
+
+/// Figures are what the list is about: at least two, and two of three items.
+bool isOfFigures(const QList<LiftedLine> &items) {
+    const qsizetype figures = figureCount(items);
+    return figures >= 2 && figures * 3 >= items.size() * 2;
+}
+
+} // namespace
+
+std::optional<ViewSpec> CanvasEngine::liftList(const QString &text) {
+    const QList<ProseLine> lines = proseLines(text);
+    qsizetype index = 0;
+    while (index < lines.size()) {
+        const ProseLine &line = lines.at(index);
+        if (line.isCode || line.indent() > deepestIndent || !listItem(line.text)) {
+            ++index;
+            continue;
+        }
+        const List list = listAt(lines, index);
+        if (isOfFigures(list.items)) {
+            ViewSpec spec = barsOrCards(list.items);
+            spec.title = headingOver(lines, index);
+            return spec;
+        }
+        index = list.end;
+    }
+    return std::nullopt;
+}
+
+} // namespace kiv::canvas

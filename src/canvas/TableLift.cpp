@@ -1,0 +1,221 @@
+#include "base/JVal.h"
+#include "base/Regex.h"
+#include "canvas/ProseFigure.h"
+#include "canvas/ProseLifts.h"
+#include "canvas/ProseLines.h"
+#include "canvas/SceneFigures.h"
+#include "canvas/TextCues.h"
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostBars = 12;
+constexpr qsizetype deepestIndent = 3; // more is code
+
+struct Table {
+    QStringList columns;
+    QList<QStringList> rows;
+    qsizetype first = 0; ///< lines of the answer, from the header
+    qsizetype last = 0;  ///< to behind the last row
+};
+
+/// Split at every bar that is not escaped; those at both ends only frame the row.
+QStringList cellsOf(QStringView line) {
+    QStringView row = line.trimmed();
+    if (row.startsWith(u'|'))
+        row = row.sliced(1);
+    if (row.endsWith(u'|') && !row.endsWith(u"\\|"))
+        row.chop(1);
+    QStringList cells{QString()};
+    for (qsizetype i = 0; i < row.size(); ++i) {
+        if (row.at(i) == u'\\' && i + 1 < row.size() && row.at(i + 1) == u'|')
+            cells.last() += row.at(++i);
+        else if (row.at(i) == u'|')
+            cells.append(QString());
+        else
+            cells.last() += row.at(i);
+    }
+    for (QString &cell : cells)
+        cell = CanvasEngine::stripInline(cell.replace(u"<br>"_s, u" "_s, Qt::CaseInsensitive));
+    return cells;
+}
+
+bool isDivider(const QString &cell) {
+    const QStringView dashes = QStringView(cell).sliced(cell.startsWith(u':') ? 1 : 0);
+    const QStringView bare = dashes.endsWith(u':') ? dashes.chopped(1) : dashes;
+    return !bare.isEmpty() &&
+           std::all_of(bare.begin(), bare.end(), [](QChar c) { return c == u'-'; });
+}
+
+/// A header and the divider under it with as many cells.
+std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype index) {
+    static const Regex dividerStart(u"^\\s*\\|?\\s*:?-{3,}");
+    const ProseLine &header = lines.at(index);
+    const ProseLine &divider = lines.at(index + 1);
+    if (header.isCode || divider.isCode || header.indent() > deepestIndent ||
+        !header.text.contains(u'|') || !dividerStart.contains(divider.text))
+        return std::nullopt;
+    const QStringList marks = cellsOf(divider.text);
+    if (!std::all_of(marks.begin(), marks.end(), isDivider))
+        return std::nullopt;
+    const QStringList names = cellsOf(header.text);
+    return names.size() == marks.size() && names.size() > 1 ? std::optional(names) : std::nullopt;
+}
+
+/// Rows take the header's width: missing cells are empty, those beyond it are dropped.
+std::optional<Table> tableAt(const QList<ProseLine> &lines, qsizetype index) {
+    const auto columns = headerAt(lines, index);
+    if (!columns)
+        return std::nullopt;
+    Table table{*columns, {}, index, index + 2};
+    for (; table.last < lines.size(); ++table.last) {
+        const ProseLine &line = lines.at(table.last);
+        if (line.isCode || line.isBlank() || !line.text.contains(u'|'))
+            break;
+        QStringList row = cellsOf(line.text).mid(0, columns->size());
+        while (row.size() < columns->size())
+            row.append(QString());
+        table.rows.append(row);
+    }
+    return table.rows.isEmpty() ? std::nullopt : std::optional(table);
+}
+
+std::optional<Table> firstTable(const QList<ProseLine> &lines) {
+    for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
+        if (auto table = tableAt(lines, i))
+            return table;
+    }
+    return std::nullopt;
+}
+
+/// The figures of a column when every cell is one and all share a unit.
+std::optional<QList<ProseFigure>> figuresOf(const Table &table, qsizetype column) {
+    QList<ProseFigure> figures;
+    for (const QStringList &row : table.rows) {
+        const auto figure = proseFigure(row.at(column));
+        if (!figure || (!figures.isEmpty() && figure->unitKey() != figures.first().unitKey()))
+            return std::nullopt;
+        figures.append(*figure);
+    }
+    return figures;
+}
+
+/// The only column of figures of a narrow table; the first column names the rows.
+std::optional<qsizetype> soleFigures(const Table &table) {
+    constexpr qsizetype widest = 3;
+    if (table.columns.size() > widest || table.rows.size() < 2 || table.rows.size() > mostBars)
+        return std::nullopt;
+    std::optional<qsizetype> sole;
+    for (qsizetype column = 1; column < table.columns.size(); ++column) {
+        const bool someFigure =
+            std::any_of(table.rows.begin(), table.rows.end(), [column](const QStringList &row) {
+                return proseFigure(row.at(column)).has_value();
+            });
+        if (someFigure && (sole || !figuresOf(table, column)))
+            return std::nullopt;
+        if (someFigure)
+            sole = column;
+    }
+    const bool named = std::none_of(table.rows.begin(), table.rows.end(),
+                                    [](const QStringList &row) { return row.first().isEmpty(); });
+    static const QStringList counters{u"#"_s, u"№"_s, u"no"_s, u"no."_s};
+    return named && !counters.contains(table.columns.first().toLower()) ? sole : std::nullopt;
+}
+
+QList<ViewSpec::Point> barsOf(const Table &table, qsizetype column) {
+    QList<ViewSpec::Point> points;
+    for (const QStringList &row : table.rows) {
+        const auto figure = proseFigure(row.at(column));
+        ViewSpec::Point point{
+            .label = row.first(), .value = figure->value, .display = row.at(column)};
+        const QString other = row.value(column == 1 ? 2 : 1);
+        if (!other.isEmpty())
+            point.hint = other;
+        points.append(point);
+    }
+    return points;
+}
+
+/// Two options scored by criteria: plain figures up to ten, or figures written as parts of a whole,
+/// under a first column that speaks of criteria or is not named.
+bool scoresTwoOptions(const Table &table) {
+    static const Regex criteria(u"^$|criteri|factor|aspect|score|dimension|критери|фактор|аспект|"
+                                u"оценк|параметр",
+                                Regex::CaseInsensitive);
+    if (table.columns.size() != 3 || table.rows.size() < 2 || table.columns.at(1).isEmpty() ||
+        table.columns.at(2).isEmpty())
+        return false;
+    bool ofWhole = true;
+    for (const QStringList &row : table.rows) {
+        for (const qsizetype column : {1, 2}) {
+            const auto score = proseFigure(row.at(column));
+            const bool part = score && score->unit.startsWith(u'/');
+            ofWhole = ofWhole && part;
+            constexpr double highest = 10;
+            const bool plain = score && score->unit.isEmpty() && score->value >= 0 &&
+                               (score->value <= highest || isTotalName(row.first()));
+            if (!part && !plain)
+                return false;
+        }
+    }
+    return ofWhole || criteria.contains(table.columns.first());
+}
+
+ViewSpec specOf(const Table &table) {
+    ViewSpec spec;
+    spec.columns = table.columns;
+    spec.rows = table.rows;
+    if (scoresTwoOptions(table)) {
+        spec.kind = u"compare"_s;
+    } else if (const auto column = soleFigures(table)) {
+        spec.kind = u"hbar"_s;
+        spec.points = barsOf(table, *column);
+        const QString unit = figuresOf(table, *column)->first().unit;
+        const QString named = CanvasEngine::unitToken(table.columns.at(*column));
+        spec.unit = unit.isEmpty() ? named : unit;
+        if (!table.columns.at(*column).isEmpty())
+            spec.title = table.columns.at(*column);
+    } else {
+        spec.kind = u"table"_s;
+    }
+    if (spec.unit && spec.unit->isEmpty())
+        spec.unit.reset();
+    return spec;
+}
+
+QString keyOf(const ViewSpec &spec) {
+    JVal::Array lines{JVal::str(spec.kind)};
+    for (const QStringList &row : QList<QStringList>{spec.columns} + spec.rows) {
+        JVal::Array cells;
+        for (const QString &cell : row)
+            cells.append(JVal::str(cell));
+        lines.append(JVal::arr(cells));
+    }
+    return JVal::arr(lines).canonical();
+}
+
+} // namespace
+
+CanvasEngine::DrawableAnswer CanvasEngine::liftGfmTable(const QString &text) {
+    static const Regex blankLines(u"\\n{3,}");
+    if (!text.contains(u"---"_s) || !text.contains(u'|'))
+        return {text, std::nullopt};
+    const QList<ProseLine> lines = proseLines(text);
+    const auto table = firstTable(lines);
+    if (!table)
+        return {text, std::nullopt};
+    ViewSpec spec = specOf(*table);
+    if (const auto heading = headingOver(lines, table->first))
+        spec.title = *heading;
+    spec.jsonKey = keyOf(spec);
+    const QString left =
+        text.first(lines.at(table->first).start) + text.sliced(lines.at(table->last - 1).end);
+    return {blankLines.replaceAll(left, u"\n\n"), spec};
+}
+
+} // namespace kiv::canvas
