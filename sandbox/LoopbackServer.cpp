@@ -43,6 +43,8 @@ void LoopbackServer::stopNow() {
             ::shutdown(socket, SHUT_RDWR);
         }
     }
+    // The library's own stop does nothing before its thread has come to listen.
+    ::shutdown(svr_sock_, SHUT_RDWR);
     stop();
 }
 

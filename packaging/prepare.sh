@@ -1,0 +1,62 @@
+# Sourced by ./run, ./test and .ci/run: installs what is missing, configures and builds. Says
+# something only when it does something.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build="$root/build/release"
+
+say() { printf '%s\n' "$*" >&2; }
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+missing_packages() {
+    local package
+    while read -r package; do
+        case "$package" in '' | '#'*) continue ;; esac
+        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+            printf '%s\n' "$package"
+    done <"$root/packaging/debian-packages.txt"
+}
+
+install_packages() {
+    local missing log
+    missing=$(missing_packages)
+    [ -n "$missing" ] || return 0
+    say "Installing $(wc -w <<<"$missing") Debian packages…"
+    mkdir -p "$root/build"
+    log="$root/build/packages.log"
+    # shellcheck disable=SC2086 # one word a package
+    if ! { as_root apt-get update &&
+        as_root env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y --no-install-recommends $missing; } >"$log" 2>&1; then
+        tail -n 20 "$log" >&2
+        say "The packages could not be installed; the whole log is in build/packages.log."
+        exit 1
+    fi
+}
+
+# build_targets [TARGET...]: all of them when none is named.
+build_targets() {
+    local log="$root/build/build.log"
+    export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    mkdir -p "$root/build"
+    if [ ! -f "$build/build.ninja" ]; then
+        say "Configuring…"
+        if ! (cd "$root" && cmake --preset release) >"$log" 2>&1; then
+            tail -n 30 "$log" >&2
+            exit 1
+        fi
+    fi
+    case "$(ninja -C "$build" -n "$@" 2>/dev/null | tail -n 1)" in
+    *'no work to do'*) return 0 ;;
+    esac
+    say "Building (log in build/build.log)…"
+    if ! ninja -C "$build" "$@" >"$log" 2>&1; then
+        grep -E 'error|FAILED' -A 8 "$log" | head -n 60 >&2
+        say "The build failed."
+        exit 1
+    fi
+}
+
+install_packages

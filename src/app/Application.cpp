@@ -1,0 +1,61 @@
+#include "app/Application.h"
+
+#include "base/BaseUrl.h"
+#include "ui/Modules.h"
+
+#include <QQuickWindow>
+
+namespace kiv::app {
+
+using namespace Qt::StringLiterals;
+
+Application::Application(const Options &options)
+    : m_options(options),
+      m_settings(options.places.settingsFile, QSettings::IniFormat),
+      m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)) {
+    m_store = std::make_unique<store::AppStore>(m_clock, *m_net, m_settings,
+                                                options.snapshot ? store::AppStore::Mode::Snapshot
+                                                                 : store::AppStore::Mode::Normal);
+}
+
+Application::~Application() {
+    m_start.cancel();
+    m_settings.sync();
+}
+
+void Application::start() {
+    // The server comes up while the window is being made.
+    m_start.start([this](Cancel cancel) { return connectToBackend(std::move(cancel)); });
+    ui::showMainWindow(m_engine, *m_store,
+                       m_options.theme == Theme::Dark ? ui::Appearance::Dark
+                                                      : ui::Appearance::Light);
+}
+
+QCoro::Task<void> Application::connectToBackend(Cancel cancel) {
+    try {
+        if (m_options.baseUrl) {
+            m_net->setBaseUrl(*m_options.baseUrl);
+        } else {
+            const QStringList arguments =
+                QStringList{u"--data-dir"_s, m_options.places.workspaceDir} +
+                m_options.sandboxArguments;
+            m_server = std::make_unique<EmbeddedServer>(m_clock, m_options.places.sandboxProgram,
+                                                        arguments);
+            const EmbeddedServer::Greeting greeting = co_await m_server->start(cancel);
+            m_net->setBaseUrl(greeting.url);
+            m_store->session()->offerSample(greeting.sample);
+        }
+        m_store->boot();
+    } catch (const std::exception &error) {
+        cancel.throwIfRequested();
+        qCritical("%s", error.what());
+        m_store->session()->reportUnavailable(QString::fromUtf8(error.what()));
+    }
+}
+
+QQuickWindow *Application::window() const {
+    const QList<QObject *> roots = m_engine.rootObjects();
+    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(roots.first());
+}
+
+} // namespace kiv::app

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/EmbeddedServer.h"
+#include "app/Options.h"
+#include "base/SystemClock.h"
+#include "base/Work.h"
+#include "net/APIClient.h"
+#include "net/Connectivity.h"
+#include "net/PersistentCookieJar.h"
+#include "store/AppStore.h"
+
+#include <QQmlApplicationEngine>
+#include <QSettings>
+
+#include <memory>
+
+class QQuickWindow;
+
+namespace kiv::app {
+
+/// The whole program: clock, client, store, window and, unless a hosted backend is named, the
+/// embedded workspace. Needs a QGuiApplication.
+class Application {
+public:
+    explicit Application(const Options &options);
+    ~Application();
+
+    /// Shows the window and begins to talk to the backend.
+    void start();
+
+    QQuickWindow *window() const;
+    store::AppStore &store() { return *m_store; }
+
+private:
+    QCoro::Task<void> connectToBackend(Cancel cancel);
+
+    Options m_options;
+    SystemClock m_clock;
+    QSettings m_settings;
+    net::SystemConnectivity m_connectivity;
+    std::unique_ptr<net::APIClient> m_net;
+    std::unique_ptr<EmbeddedServer> m_server;
+    std::unique_ptr<store::AppStore> m_store;
+    QQmlApplicationEngine m_engine;
+    Work m_start;
+};
+
+} // namespace kiv::app

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "base/Cancel.h"
+#include "base/Clock.h"
+#include "store/SessionRoom.h"
+
+#include <QCoroTask>
+#include <QProcess>
+#include <QUrl>
+
+namespace kiv::app {
+
+/// The workspace server that runs beside the client when no hosted one is named. It ends with
+/// this object, and by itself when the client is killed: it watches its standard input.
+class EmbeddedServer {
+public:
+    /// Where the server listens and the account it offers for a look around.
+    struct Greeting {
+        QUrl url;
+        store::SampleAccount sample;
+    };
+
+    EmbeddedServer(Clock &clock, const QString &program, const QStringList &arguments);
+    ~EmbeddedServer();
+
+    /// Throws ProcessError when the server does not come up, Cancelled.
+    QCoro::Task<Greeting> start(Cancel cancel);
+    qint64 processId() const { return m_process.processId(); }
+
+private:
+    Clock &m_clock;
+    QProcess m_process;
+};
+
+} // namespace kiv::app

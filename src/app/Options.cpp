@@ -1,0 +1,40 @@
+#include "app/Options.h"
+
+#include "base/BaseUrl.h"
+
+#include <QCommandLineParser>
+
+namespace kiv::app {
+
+using namespace Qt::StringLiterals;
+
+Options readOptions(const QStringList &arguments) {
+    const QCommandLineOption baseUrl(
+        u"base-url"_s, u"Talk to the workspace at this address instead of the embedded one."_s,
+        u"address"_s);
+    const QCommandLineOption snapshot(u"snapshot"_s,
+                                      u"Start with default panels and keep nothing."_s);
+    const QCommandLineOption theme(u"theme"_s, u"light or dark."_s, u"name"_s, u"light"_s);
+    const QCommandLineOption profile(
+        u"profile"_s, u"Keep settings, session and workspace in this folder."_s, u"folder"_s);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Talk to your agents and see what they answer."_s);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions({baseUrl, snapshot, theme, profile});
+    parser.process(arguments);
+
+    Options options;
+    options.snapshot = parser.isSet(snapshot);
+    options.theme = parser.value(theme) == u"dark"_s ? Theme::Dark : Theme::Light;
+    options.places =
+        parser.isSet(profile) ? Places::below(parser.value(profile)) : Places::standard();
+    const QString address =
+        parser.isSet(baseUrl) ? parser.value(baseUrl) : qEnvironmentVariable("KIV_BASE_URL");
+    if (!address.isEmpty())
+        options.baseUrl = parseBaseUrl(address);
+    return options;
+}
+
+} // namespace kiv::app

@@ -1,0 +1,92 @@
+// The program as a process: what it refuses, and what it leaves behind.
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Processes whose parent is `parent`.
+QList<qint64> childrenOf(qint64 parent) {
+    QList<qint64> children;
+    QFile file(u"/proc/%1/task/%1/children"_s.arg(parent));
+    if (file.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &id : file.readAll().split(' ')) {
+            if (!id.trimmed().isEmpty())
+                children.append(id.toLongLong());
+        }
+    }
+    return children;
+}
+
+bool isRunning(qint64 process) {
+    QFile status(u"/proc/%1/stat"_s.arg(process));
+    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
+}
+
+} // namespace
+
+class ProcessTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusedAddress_data() {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("plain http elsewhere") << u"http://kiv.example"_s;
+        QTest::newRow("other scheme") << u"ftp://kiv.example"_s;
+        QTest::newRow("no address") << u"kiv"_s;
+    }
+    void refusedAddress() {
+        QFETCH(QString, address);
+        const QTemporaryDir runtime;
+        for (const bool fromEnvironment : {false, true}) {
+            QProcess program;
+            program.setProgram(QStringLiteral(KIV_PROGRAM));
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(u"XDG_RUNTIME_DIR"_s, runtime.path());
+            if (fromEnvironment)
+                environment.insert(u"KIV_BASE_URL"_s, address);
+            else
+                program.setArguments({u"--base-url"_s, address});
+            program.setProcessEnvironment(environment);
+            program.start();
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.exitCode(), 2);
+            const QByteArray said = program.readAllStandardError();
+            QVERIFY2(said.contains(address.toUtf8()), said);
+            QCOMPARE(said.count('\n'), 1);
+        }
+    }
+
+    void serverGoesWithTheClient_data() {
+        QTest::addColumn<bool>("killed");
+        QTest::newRow("asked to end") << false;
+        QTest::newRow("killed") << true;
+    }
+    void serverGoesWithTheClient() {
+        QFETCH(bool, killed);
+        QTemporaryDir profile;
+        QProcess program;
+        program.setProgram(QStringLiteral(KIV_PROGRAM));
+        program.setArguments({u"--profile"_s, profile.path()});
+        program.start();
+        QVERIFY(program.waitForStarted());
+        QList<qint64> children;
+        QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(program.processId())).isEmpty(), 15000);
+        const qint64 server = children.first();
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(profile.filePath(u"workspace"_s)), 15000);
+        if (killed)
+            program.kill();
+        else
+            program.terminate();
+        QVERIFY(program.waitForFinished());
+        QTRY_VERIFY_WITH_TIMEOUT(!isRunning(server), 10000);
+    }
+};
+
+QTEST_GUILESS_MAIN(ProcessTest)
+#include "tst_process.moc"
