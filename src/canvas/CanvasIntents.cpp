@@ -1,5 +1,7 @@
 #include "canvas/CanvasIntents.h"
 
+#include "canvas/IntentIndex.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -159,10 +161,19 @@ const std::vector<CanvasIntents::Rule> &CanvasIntents::rules() {
 }
 
 std::optional<QString> CanvasIntents::classify(const QString &question) {
+    static const IntentIndex index = [] {
+        IntentIndex result;
+        for (qsizetype rule = 0; rule < table().size(); ++rule) {
+            for (const QString &alternative : alternativesOf(table().at(rule).pattern))
+                result.add(static_cast<std::size_t>(rule), alternative);
+        }
+        return result;
+    }();
     const QString lower = question.toLower();
-    for (const Rule &rule : rules()) {
-        if (rule.matches(lower))
-            return rule.intent();
+    const std::vector<bool> candidates = index.candidates(lower);
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        if (candidates[i] && rules()[i].matches(lower))
+            return rules()[i].intent();
     }
     return std::nullopt;
 }
