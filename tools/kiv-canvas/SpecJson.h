@@ -1,0 +1,12 @@
+#pragma once
+
+#include "canvas/ViewSpec.h"
+
+#include <QJsonObject>
+
+namespace kiv::tools {
+
+/// Every field of a specification under its name, an absent value as null.
+QJsonObject specJson(const canvas::ViewSpec &spec);
+
+} // namespace kiv::tools
