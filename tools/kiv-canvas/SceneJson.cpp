@@ -34,14 +34,24 @@ QJsonObject recordJson(const QMetaObject &type, const void *record) {
 
 QJsonValue valueJson(const QVariant &value) {
     const QMetaType type = value.metaType();
+    // The cells of a long table are most of a scene: they go the short way.
+    if (type == QMetaType::fromType<QString>())
+        return *static_cast<const QString *>(value.constData());
+    if (type == QMetaType::fromType<QStringList>())
+        return QJsonArray::fromStringList(*static_cast<const QStringList *>(value.constData()));
+    if (type == QMetaType::fromType<QList<bool>>()) {
+        QJsonArray flags;
+        for (const bool flag : *static_cast<const QList<bool> *>(value.constData()))
+            flags.append(flag);
+        return flags;
+    }
     if (type == QMetaType::fromType<QPointF>()) {
         const QPointF point = value.toPointF();
         return QJsonObject{{u"x"_s, point.x()}, {u"y"_s, point.y()}};
     }
     if (type.flags().testFlag(QMetaType::IsGadget))
         return recordJson(*type.metaObject(), value.constData());
-    const bool isText = type == QMetaType::fromType<QString>();
-    if (!isText && value.canConvert<QVariantList>()) {
+    if (value.canConvert<QVariantList>()) {
         QJsonArray elements;
         for (const QVariant &element : value.value<QSequentialIterable>())
             elements.append(valueJson(element));
