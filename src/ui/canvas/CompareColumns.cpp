@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace kiv::ui {
 
@@ -14,14 +13,20 @@ namespace {
 
 constexpr double nameShare = 0.3;
 constexpr double nameLeast = 120;
-constexpr double padding = 16;
-constexpr double textIndent = 56;
-constexpr double textLeast = 120;
+constexpr double narrow = 600;
+constexpr double wideGap = 32;
+constexpr double narrowGap = 20;
+constexpr double indent = 40; ///< more room before a text column that follows figures
+constexpr double textLeast = 96;
 constexpr double textMost = 280;
 
 /// The least that a column can do with: a figure is never cut, words are.
 double leastWidth(const CompareColumn &column, double natural) {
-    return column.numeric ? natural : std::min(natural, textLeast + column.indent);
+    return column.numeric ? natural : std::min(natural, textLeast);
+}
+
+bool startsText(const QList<CompareColumn> &columns, qsizetype i) {
+    return i > 0 && !columns.at(i).numeric && columns.at(i - 1).numeric;
 }
 
 } // namespace
@@ -63,6 +68,9 @@ void CompareColumns::measure() {
     m_columns.clear();
     m_natural.clear();
     const QFontMetricsF words(m_font);
+    m_naturalName = words.horizontalAdvance(nameTitle());
+    for (const canvas::CpRow &row : std::as_const(m_scene.cpRows))
+        m_naturalName = std::max(m_naturalName, words.horizontalAdvance(row.name));
     qsizetype cells = std::max<qsizetype>(0, m_scene.cpCols.size() - 1);
     for (const canvas::CpRow &row : std::as_const(m_scene.cpRows))
         cells = std::max(cells, row.cells.size());
@@ -84,36 +92,44 @@ void CompareColumns::measure() {
         if (!filled && column.title.isEmpty())
             continue;
         column.numeric = column.numeric && filled;
-        if (!column.numeric) {
+        if (!column.numeric)
             widest = std::min(widest, textMost);
-            if (!m_columns.isEmpty() && m_columns.last().numeric)
-                column.indent = textIndent - padding;
-        }
-        m_natural.append(std::ceil(widest) + 2 * padding + column.indent);
+        m_natural.append(std::ceil(widest));
         m_columns.append(column);
     }
     layOut();
 }
 
 void CompareColumns::layOut() {
-    m_nameWidth = std::max(nameLeast, std::floor(m_width * nameShare));
-    const double room = m_width - m_nameWidth;
-    const double wanted = std::accumulate(m_natural.begin(), m_natural.end(), 0.0);
+    const double gap = m_width < narrow ? narrowGap : wideGap;
+    const qsizetype count = m_columns.size();
+    double wanted = 0;
     double least = 0;
-    for (qsizetype i = 0; i < m_columns.size(); ++i)
-        least += leastWidth(m_columns.at(i), m_natural.at(i));
+    double indents = 0;
+    for (qsizetype i = 0; i < count; ++i) {
+        wanted += gap + m_natural.at(i);
+        least += gap + leastWidth(m_columns.at(i), m_natural.at(i));
+        indents += startsText(m_columns, i) ? indent : 0;
+    }
 
+    m_nameWidth = std::max(nameLeast, std::floor(m_width * nameShare) - gap);
+    // Names that are shorter than their share leave the rest to cells that need it.
+    if (m_nameWidth + wanted > m_width)
+        m_nameWidth = std::clamp(std::ceil(m_naturalName), nameLeast, m_nameWidth);
+    const double room = m_width - m_nameWidth;
     // Between the least and the wanted widths all text columns give way by the same share.
     const double give =
         wanted > room && wanted > least ? std::min(1.0, (wanted - room) / (wanted - least)) : 0;
-    const double spare =
-        std::max(0.0, room - wanted) / std::max<double>(1, static_cast<double>(m_columns.size()));
+    const bool indented = wanted + indents <= room;
+    const double spare = std::max(0.0, room - wanted - (indented ? indents : 0)) /
+                         static_cast<double>(std::max<qsizetype>(1, count));
     double x = 0;
-    for (qsizetype i = 0; i < m_columns.size(); ++i) {
-        const double natural = m_natural.at(i);
+    for (qsizetype i = 0; i < count; ++i) {
         CompareColumn &column = m_columns[i];
+        const double natural = m_natural.at(i);
+        x += gap + (indented && startsText(m_columns, i) ? indent : 0);
         column.x = x;
-        column.width = std::floor(natural - give * (natural - leastWidth(column, natural)) + spare);
+        column.width = natural - give * (natural - leastWidth(column, natural)) + spare;
         x += column.width;
     }
     m_cellsWidth = x;

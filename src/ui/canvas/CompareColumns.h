@@ -16,14 +16,12 @@ struct CompareColumn {
     Q_PROPERTY(int cell MEMBER cell)
     Q_PROPERTY(double x MEMBER x)
     Q_PROPERTY(double width MEMBER width)
-    Q_PROPERTY(double indent MEMBER indent)
     Q_PROPERTY(bool numeric MEMBER numeric)
 public:
     QString title;
-    int cell = 0; ///< index into the cells of a row
-    double x = 0; ///< from the right edge of the name column
-    double width = 0;
-    double indent = 0;    ///< room before a text column that follows figures
+    int cell = 0;         ///< index into the cells of a row
+    double x = 0;         ///< of the words, from the left edge of the cells
+    double width = 0;     ///< of the words
     bool numeric = false; ///< all filled cells are figures: set right
     friend bool operator==(const CompareColumn &, const CompareColumn &) = default;
 };
@@ -52,6 +50,7 @@ public:
     void setFont(const QFont &font);
 
     QString nameTitle() const { return m_scene.cpCols.value(0); }
+    /// Of the words of the names; the cells begin behind it.
     double nameWidth() const { return m_nameWidth; }
     /// All columns together; more than what is left beside the name column when they scroll.
     double cellsWidth() const { return m_cellsWidth; }
@@ -74,7 +73,8 @@ private:
     double m_width = 0;
     QFont m_font;
     QList<CompareColumn> m_columns;
-    QList<double> m_natural; ///< the width each column would like to have
+    QList<double> m_natural; ///< the width that the words of each column would like to have
+    double m_naturalName = 0;
     double m_nameWidth = 0;
     double m_cellsWidth = 0;
 };

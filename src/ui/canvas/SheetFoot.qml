@@ -52,6 +52,7 @@ Item {
         }
         TextLink {
             anchors.verticalCenter: parent.verticalCenter
+            objectName: "showMessage"
             visible: foot.linked
             text: qsTr("Show message")
             onClicked: foot.messageRequested()

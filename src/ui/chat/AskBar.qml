@@ -28,7 +28,10 @@ FocusScope {
     }
 
     implicitHeight: floating ? Math.max(56, scroller.height + 35) : scroller.height + 58
-    onDraftChanged: if (field.text !== draft) field.text = draft
+    onDraftChanged: if (field.text !== draft) {
+        field.text = draft
+        field.cursorPosition = field.length
+    }
 
     Shadow {
         visible: bar.floating
@@ -70,6 +73,7 @@ FocusScope {
             selectionColor: Tokens.selection
             selectedTextColor: Tokens.t1
             Accessible.name: bar.placeholder
+            Component.onCompleted: cursorPosition = length
 
             onTextChanged: if (text !== bar.draft) bar.edited(text)
             Keys.onPressed: event => {

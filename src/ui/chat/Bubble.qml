@@ -11,6 +11,7 @@ Rectangle {
     required property bool compact
     property bool growing: false
     property bool failed: false
+    property bool flashing: false
     property real maximumWidth: 720
 
     readonly property TypeStyle style: compact ? Tokens.type.smallFeed : Tokens.type.body
@@ -25,6 +26,23 @@ Rectangle {
     border.width: mine && !failed ? 0 : 1
     border.color: failed ? Tokens.danger : Tokens.line
 
+    Rectangle {
+        id: edge
+
+        anchors.fill: parent
+        radius: parent.radius
+        color: "transparent"
+        border.width: 2
+        border.color: Tokens.accent
+        opacity: 0
+
+        SequentialAnimation {
+            running: bubble.flashing
+
+            NumberAnimation { target: edge; property: "opacity"; from: 0; to: 1; duration: Tokens.quick }
+            NumberAnimation { target: edge; property: "opacity"; to: 0; duration: Tokens.breathe }
+        }
+    }
     // The width that our own words would like to have; an answer takes the whole column.
     Text {
         id: measure

@@ -9,6 +9,7 @@ FocusScope {
     id: dock
 
     required property AppStore store
+    property alias feed: feed
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Conversation")
@@ -85,6 +86,8 @@ FocusScope {
         }
     }
     Feed {
+        id: feed
+
         anchors.top: head.bottom
         anchors.bottom: composer.top
         width: parent.width

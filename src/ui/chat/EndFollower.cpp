@@ -1,5 +1,7 @@
 #include "ui/chat/EndFollower.h"
 
+#include <QAbstractItemModel>
+
 namespace kiv::ui {
 
 void EndFollower::setView(QQuickItem *view) {
@@ -49,17 +51,38 @@ void EndFollower::updatePolish() {
         const double spare = m_view->height() - number("contentHeight") - number("bottomMargin");
         m_view->setProperty("topMargin", std::max(m_leastMargin, spare));
     }
-    if (m_following && m_view)
+    if (m_following && m_view) {
         QMetaObject::invokeMethod(m_view, "positionViewAtEnd");
+        // The list view itself leaves the margin below the end out.
+        m_view->setProperty("contentY", std::max(end(), number("originY") - number("topMargin")));
+    }
     m_settling = false;
 }
 
 void EndFollower::contentMoved() {
     if (m_settling || !m_view)
         return;
-    const double end =
-        number("originY") + number("contentHeight") + number("bottomMargin") - m_view->height();
-    setFollowing(end - number("contentY") <= m_distance);
+    setFollowing(end() - number("contentY") <= m_distance);
+}
+
+double EndFollower::end() const {
+    return number("originY") + number("contentHeight") + number("bottomMargin") - m_view->height();
+}
+
+bool EndFollower::reveal(const QString &messageId) {
+    const auto *model = m_view ? m_view->property("model").value<QAbstractItemModel *>() : nullptr;
+    const int role = model ? model->roleNames().key("messageId", -1) : -1;
+    if (role < 0)
+        return false;
+    const QModelIndexList found =
+        model->match(model->index(0, 0), role, messageId, 1, Qt::MatchExactly);
+    if (found.isEmpty())
+        return false;
+    setFollowing(false);
+    constexpr int contain = 4; // ListView.Contain
+    QMetaObject::invokeMethod(m_view, "positionViewAtIndex", Q_ARG(int, found.first().row()),
+                              Q_ARG(int, contain));
+    return true;
 }
 
 void EndFollower::setFollowing(bool following) {

@@ -28,6 +28,8 @@ public:
 
     /// Goes to the end and follows it again.
     Q_INVOKABLE void jump();
+    /// Brings the row of a message into view; false when the list does not have it.
+    Q_INVOKABLE bool reveal(const QString &messageId);
 
 Q_SIGNALS:
     void viewChanged();
@@ -43,6 +45,8 @@ private Q_SLOTS:
     void contentMoved();
 
 private:
+    /// Where the content stands when its end shows.
+    double end() const;
     double number(const char *property) const { return m_view->property(property).toDouble(); }
     void setFollowing(bool following);
 

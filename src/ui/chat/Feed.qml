@@ -21,6 +21,15 @@ FocusScope {
     signal sceneRequested(messageId: string)
     signal olderRequested()
 
+    property string flashed: ""
+
+    /// Brings a message into view and flashes its edge once.
+    function reveal(messageId: string): bool {
+        flashed = ""
+        flashed = messageId
+        return follower.reveal(messageId)
+    }
+
     readonly property int side: compact ? 16 : 24
     readonly property real column: Math.min(width - 2 * side, 720)
 
@@ -52,6 +61,7 @@ FocusScope {
             scope: feed.scope
             compact: feed.compact
             first: index === 0
+            flashing: messageId === feed.flashed
             olderBefore: index === 0 && feed.hasOlder
             onOlderRequested: feed.olderRequested()
             onRetryRequested: feed.retryRequested(messageId)

@@ -24,6 +24,7 @@ Item {
     required property bool compact
     required property bool first
     property bool olderBefore: false
+    property bool flashing: false
 
     signal olderRequested()
     signal retryRequested()
@@ -90,6 +91,7 @@ Item {
             body: message.body
             growing: message.growing
             failed: message.failed
+            flashing: message.flashing
             opacity: message.delivery === Store.Delivery.Pending ? 0.75 : 1
             maximumWidth: message.mine ? message.width * 0.84 : message.width - message.indent
         }

@@ -12,6 +12,8 @@ T.Button {
     property int size: 32
 
     objectName: stopping ? "stopButton" : "sendButton"
+    // A press leaves the cursor in the field.
+    focusPolicy: Qt.TabFocus
     implicitWidth: size
     implicitHeight: size
     text: stopping ? qsTr("Stop the answer") : qsTr("Send")

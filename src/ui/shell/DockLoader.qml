@@ -11,14 +11,31 @@ Loader {
 
     required property AppStore store
 
+    /// The message that the dock shows once it is there.
+    property string wanted: ""
     /// 1 when the dock is all in, 0 when it is out.
     property real shown: store.layout.dockOpen ? 1 : 0
+
+    /// Shows a message, in a dock that opens for it.
+    function reveal(messageId: string) {
+        wanted = messageId
+        if (store.layout.dockOpen)
+            (item as ChatDock)?.feed.reveal(messageId)
+        else
+            store.layout.toggleDock()
+    }
 
     x: parent.width - width * shown
     width: store.layout.shownDockW
     height: parent.height
     active: shown > 0
-    onLoaded: (item as ChatDock).forceActiveFocus(Qt.OtherFocusReason)
+    onLoaded: {
+        const dock = item as ChatDock
+        dock.forceActiveFocus(Qt.OtherFocusReason)
+        if (wanted !== "")
+            dock.feed.reveal(wanted)
+        wanted = ""
+    }
 
     Behavior on shown {
         NumberAnimation {

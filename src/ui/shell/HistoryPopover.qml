@@ -15,7 +15,10 @@ Popover {
     property real most: 600
 
     width: 360
-    onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToShow: {
+        list.currentIndex = 0
+        list.forceActiveFocus(Qt.PopupFocusReason)
+    }
 
     contentItem: Item {
         implicitHeight: 48 + (list.count === 0 ? 40 : list.height)

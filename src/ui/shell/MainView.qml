@@ -21,6 +21,13 @@ FocusScope {
         bar?.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
+    /// Shows the message that a scene came from, in the feed that shows or in the dock.
+    function reveal(messageId: string) {
+        if (!view.layout.dockOpen && view.layout.railShown && rail.feed.reveal(messageId))
+            return
+        dockLoader.reveal(messageId)
+    }
+
     focus: true
     onWidthChanged: layout.setWindowWidth(width)
     Component.onCompleted: layout.setWindowWidth(width)
@@ -76,7 +83,7 @@ FocusScope {
             focus: true
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
-            onMessageRequested: if (view.floats) view.layout.toggleDock()
+            onMessageRequested: messageId => view.reveal(messageId)
         }
         Composer {
             id: floating

@@ -5,7 +5,6 @@ import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
-import Kiv.Tokens
 
 // Everything that there is to talk to: one stop of the tab key, rows by the arrow keys.
 ListView {

@@ -11,6 +11,7 @@ FocusScope {
 
     required property AppStore store
     property alias composer: composer
+    property alias feed: feed
     /// The part of the height that the list may take; the person drags it.
     property real share: 0.55
 
@@ -96,6 +97,8 @@ FocusScope {
         }
     }
     Feed {
+        id: feed
+
         anchors.top: rail.signedIn ? head.bottom : parent.top
         anchors.topMargin: rail.signedIn ? 0 : 220
         anchors.bottom: composer.top

@@ -5,7 +5,6 @@ import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
-import Kiv.Tokens
 
 // Everything that the person can talk to, found by typing.
 Popover {
@@ -42,7 +41,10 @@ Popover {
         iconName: "search"
         placeholderText: qsTr("Find a project or agent")
         Accessible.name: placeholderText
-        onTextChanged: popover.scope.choices.query = text
+        onTextChanged: {
+            popover.scope.choices.query = text
+            list.currentIndex = 0
+        }
         onAccepted: popover.pickCurrent()
         Keys.onDownPressed: list.incrementCurrentIndex()
         Keys.onUpPressed: list.decrementCurrentIndex()

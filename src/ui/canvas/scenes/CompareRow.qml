@@ -19,7 +19,7 @@ Item {
 
     Label {
         anchors.verticalCenter: parent.verticalCenter
-        width: row.layout.nameWidth - 16
+        width: row.layout.nameWidth
         style: Tokens.type.name
         wrapMode: Text.Wrap
         maximumLineCount: 2
@@ -40,8 +40,8 @@ Item {
 
                 readonly property string cell: row.values.cells[modelData.cell] ?? ""
 
-                x: modelData.x + 16 + modelData.indent - row.offset
-                width: modelData.width - 32 - modelData.indent
+                x: modelData.x - row.offset
+                width: modelData.width
                 anchors.verticalCenter: parent.verticalCenter
                 horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
                 style: Tokens.type.line

@@ -35,13 +35,13 @@ FocusScope {
         id: head
 
         x: compare.side
-        y: 12
+        y: compare.side === 32 ? 24 : 16
         width: compare.inner
         height: 36
 
         Label {
             anchors.verticalCenter: parent.verticalCenter
-            width: columns.nameWidth - 16
+            width: columns.nameWidth
             style: Tokens.type.captionStrong
             color: Tokens.t3
             text: columns.nameTitle
@@ -58,8 +58,8 @@ FocusScope {
                 Label {
                     required property compareColumn modelData
 
-                    x: modelData.x + 16 + modelData.indent - compare.offset
-                    width: modelData.width - 32 - modelData.indent
+                    x: modelData.x - compare.offset
+                    width: modelData.width
                     anchors.verticalCenter: parent.verticalCenter
                     horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
                     style: Tokens.type.captionStrong

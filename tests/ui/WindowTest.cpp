@@ -1,0 +1,396 @@
+#include "ui/Gallery.h"
+#include "ui/Workspace.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+namespace {
+
+double number(QQuickItem *item, const char *property) {
+    return item->property(property).toDouble();
+}
+
+/// How far a list view is from its end.
+double distanceToEnd(QQuickItem *list) {
+    return number(list, "originY") + number(list, "contentHeight") + number(list, "bottomMargin") -
+           list->height() - number(list, "contentY");
+}
+
+/// The selectable text that reads `text`.
+QQuickItem *findText(QQuickItem *item, const QString &text) {
+    if (item->inherits("QQuickTextEdit") && item->property("text") == text)
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findText(child, text))
+            return found;
+    }
+    return nullptr;
+}
+
+QList<QQuickItem *> visibleTexts(QQuickItem *item) {
+    QList<QQuickItem *> texts;
+    if (!item->isVisible())
+        return texts;
+    if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty())
+        texts.append(item);
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        texts += visibleTexts(child);
+    return texts;
+}
+
+} // namespace
+
+/// The window by real keys and presses, on a store whose backend answers from a script.
+class WindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void typing();
+    void draftIsOne();
+    void emptyIsNotSent_data();
+    void emptyIsNotSent();
+    void answerCanBeStopped();
+    void railByMouse();
+    void railByKeys();
+    void scopeBySearch();
+    void panelsByKeys();
+    void areasByKey();
+    void signIn();
+    void signInErrorKeepsText();
+    void feedFollowsItsEnd();
+    void feedStaysWhereItIsRead();
+    void messageIsSelectable();
+    void sceneLeadsToMessage();
+    void historyReopens();
+    void longNames_data();
+    void longNames();
+
+private:
+    void open(const QSize &size = {1440, 900});
+    QStringList sent() const;
+
+    std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<Gallery> m_gallery;
+};
+
+void WindowTest::init() {
+    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
+    m_workspace = std::make_unique<Workspace>();
+    m_gallery = std::make_unique<Gallery>();
+}
+
+void WindowTest::cleanup() {
+    m_gallery.reset();
+    m_workspace.reset();
+}
+
+void WindowTest::open(const QSize &size) {
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, size);
+}
+
+/// The texts that the backend was sent, in order.
+QStringList WindowTest::sent() const {
+    QStringList texts;
+    for (const auto &request : m_workspace->backend.requests(u"POST "_s + test::kivChat))
+        texts.append(request.body.value(u"message"_s).toString() +
+                     request.body.value(u"content"_s).toString() +
+                     request.body.value(u"text"_s).toString());
+    return texts;
+}
+
+void WindowTest::typing() {
+    open();
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"How was"_s);
+    m_gallery->press(Qt::Key_Return, Qt::ShiftModifier);
+    m_gallery->type(u"the week?"_s);
+    const QString field = m_gallery->item(u"askField"_s)->property("text").toString();
+    QCOMPARE(field, u"How was\nthe week?"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(sent(), QStringList{u"How was\nthe week?"_s});
+    QCOMPARE(m_gallery->item(u"askField"_s)->property("text").toString(), QString());
+    // The last question comes back into the empty field.
+    m_gallery->press(Qt::Key_Up);
+    QCOMPARE(m_workspace->store->chat()->draft(), u"How was\nthe week?"_s);
+}
+
+void WindowTest::draftIsOne() {
+    open();
+    m_gallery->press(Qt::Key_K, Qt::ControlModifier);
+    m_gallery->type(u"half a tho"_s);
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QTRY_VERIFY(m_workspace->store->layout()->dockOpen());
+    QTRY_VERIFY(m_gallery->find(u"dockFeed"_s));
+    m_gallery->type(u"ught"_s);
+    QCOMPARE(m_workspace->store->chat()->draft(), u"half a thought"_s);
+    QCOMPARE(m_gallery->item(u"askField"_s)->property("text").toString(), u"half a thought"_s);
+}
+
+void WindowTest::emptyIsNotSent_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::newRow("nothing") << QString();
+    QTest::newRow("blanks") << u"   "_s;
+}
+
+void WindowTest::emptyIsNotSent() {
+    QFETCH(QString, typed);
+    open();
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(typed);
+    QVERIFY(!m_gallery->item(u"sendButton"_s)->isEnabled());
+    const int before = m_workspace->msgs().count();
+    m_gallery->press(Qt::Key_Return);
+    m_gallery->click(u"sendButton"_s);
+    QTest::qWait(20);
+    QCOMPARE(m_workspace->msgs().count(), before);
+    QVERIFY(sent().isEmpty());
+}
+
+void WindowTest::answerCanBeStopped() {
+    open();
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"Weekly report"_s);
+    m_gallery->click(u"sendButton"_s);
+    QTRY_COMPARE(sent().size(), 1);
+    // The field stays usable while the answer is awaited.
+    m_gallery->type(u"next"_s);
+    QCOMPARE(m_workspace->store->chat()->draft(), u"next"_s);
+    m_gallery->click(u"stopButton"_s);
+    QTRY_COMPARE(m_workspace->backend.count(u"POST "_s + test::kivChat + u"/stop"_s), 1);
+    QTRY_VERIFY(m_gallery->find(u"sendButton"_s));
+}
+
+void WindowTest::railByMouse() {
+    open();
+    m_gallery->click(u"railRow:ferry"_s);
+    QTRY_COMPARE(m_workspace->store->scope()->project(), u"ferry"_s);
+    m_gallery->click(u"railRow:loom"_s);
+    QTRY_COMPARE(m_workspace->store->scope()->agent(), u"loom"_s);
+    QCOMPARE(m_workspace->store->scope()->project(), u"ferry"_s);
+    m_gallery->click(u"railRow:"_s);
+    QTRY_COMPARE(m_workspace->store->scope()->project(), QString());
+}
+
+void WindowTest::railByKeys() {
+    open();
+    m_gallery->item(u"navigator"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Down); // the label
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->store->scope()->project(), u"lantern"_s);
+    QVERIFY(m_gallery->hasFocus(u"navigator"_s));
+}
+
+void WindowTest::scopeBySearch() {
+    open();
+    m_gallery->click(u"scopeButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"scopeSearch"_s));
+    m_gallery->type(u"ember"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->store->scope()->agent(), u"ember"_s);
+    QTRY_VERIFY(!m_workspace->store->layout()->topScopeOpen());
+
+    m_gallery->click(u"scopeButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"scopeSearch"_s));
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(!m_workspace->store->layout()->topScopeOpen());
+    QCOMPARE(m_workspace->store->scope()->agent(), u"ember"_s);
+}
+
+void WindowTest::panelsByKeys() {
+    open();
+    store::LayoutRoom *layout = m_workspace->store->layout();
+    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+    QVERIFY(layout->railCollapsed());
+    QVERIFY(m_gallery->find(u"strip"_s));
+    m_gallery->press(Qt::Key_K, Qt::ControlModifier);
+    QVERIFY(m_gallery->hasFocus(u"askField"_s));
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QVERIFY(layout->dockOpen());
+    QTRY_VERIFY(m_gallery->find(u"dockFeed"_s));
+    QTRY_VERIFY(m_gallery->hasFocus(u"askField"_s));
+    m_gallery->press(Qt::Key_Escape);
+    QVERIFY(!layout->dockOpen());
+    QTRY_VERIFY(!m_gallery->find(u"dockFeed"_s));
+    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+    QVERIFY(!layout->railCollapsed());
+}
+
+void WindowTest::areasByKey() {
+    open();
+    QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(), u"compare"_s));
+    m_gallery->press(Qt::Key_K, Qt::ControlModifier);
+    QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
+    m_gallery->press(Qt::Key_F6);
+    QVERIFY(m_gallery->hasFocus(u"refineButton"_s));
+    m_gallery->press(Qt::Key_F6);
+    QVERIFY(m_gallery->hasFocus(u"railButton"_s));
+    m_gallery->press(Qt::Key_F6);
+    QVERIFY(m_gallery->hasFocus(u"navigator"_s));
+}
+
+void WindowTest::signIn() {
+    QVERIFY(m_workspace->bootSignedOut());
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    m_workspace->backend.answer(
+        u"POST api/v2/auth/login"_s,
+        R"({"user":{"id":"u1","email":"ada@example.org","name":"Ada Byron"}})");
+    m_gallery->click(u"signInButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"emailField"_s));
+    m_gallery->type(u"ada@example.org"_s);
+    m_gallery->press(Qt::Key_Tab);
+    QVERIFY(m_gallery->hasFocus(u"passwordField"_s));
+    m_gallery->type(u"difference engine"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->backend.count(u"POST api/v2/auth/login"_s), 1);
+    const QJsonObject body =
+        m_workspace->backend.requests(u"POST api/v2/auth/login"_s).first().body;
+    QCOMPARE(body.value(u"password"_s).toString(), u"difference engine"_s);
+    QTRY_COMPARE(m_workspace->store->scope()->auth(), store::AuthPhase::SignedIn);
+    QTRY_VERIFY(!m_gallery->find(u"emailField"_s));
+}
+
+void WindowTest::signInErrorKeepsText() {
+    QVERIFY(m_workspace->bootSignedOut());
+    m_gallery->open(*m_workspace->store, {1024, 680});
+    m_gallery->click(u"signInButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"emailField"_s));
+    m_gallery->type(u"ada@example.org"_s);
+    m_gallery->press(Qt::Key_Tab);
+    m_gallery->type(u"short"_s);
+    m_gallery->press(Qt::Key_Return);
+    QCOMPARE(m_gallery->item(u"authError"_s)->property("text").toString(),
+             u"Enter a valid email and a password of at least 8 characters."_s);
+    QVERIFY(m_gallery->hasFocus(u"passwordField"_s));
+    QCOMPARE(m_workspace->backend.count(u"POST api/v2/auth/login"_s), 0);
+    m_gallery->click(u"switchAuthMode"_s);
+    QTRY_COMPARE(m_workspace->store->session()->authSheet(), store::AuthSheetMode::Signup);
+    QCOMPARE(m_gallery->item(u"emailField"_s)->property("text").toString(), u"ada@example.org"_s);
+    QCOMPARE(m_gallery->item(u"passwordField"_s)->property("text").toString(), u"short"_s);
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_COMPARE(m_workspace->store->session()->authSheet(), store::AuthSheetMode::Closed);
+}
+
+void WindowTest::feedFollowsItsEnd() {
+    open();
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    for (int i = 0; i < 12; ++i)
+        m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
+    QTRY_COMPARE(m_workspace->msgs().count(), 13);
+    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    QString growing = u"The answer"_s;
+    for (int i = 0; i < 20; ++i) {
+        growing += u" grows by a few words"_s;
+        m_workspace->row(50, growing);
+        QTRY_COMPARE(m_workspace->msgs().messages().last().text, growing);
+        m_gallery->window().grabWindow();
+        QCOMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    }
+}
+
+void WindowTest::feedStaysWhereItIsRead() {
+    open();
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    for (int i = 0; i < 12; ++i)
+        m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
+    QTRY_COMPARE(m_workspace->msgs().count(), 13);
+    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    const QPointF middle = feed->mapToScene(QPointF(feed->width() / 2, feed->height() / 2));
+    QWheelEvent wheel(middle, middle, {0, 300}, {0, 240}, Qt::NoButton, Qt::NoModifier,
+                      Qt::ScrollUpdate, false);
+    QGuiApplication::sendEvent(&m_gallery->window(), &wheel);
+    QTRY_COMPARE_GT(distanceToEnd(feed), 60.0);
+    QTRY_VERIFY(!feed->property("moving").toBool());
+    const double place = number(feed, "contentY");
+    QString growing = u"The answer"_s;
+    for (int i = 0; i < 10; ++i) {
+        growing += u" grows by a few words"_s;
+        m_workspace->row(50, growing);
+        QTRY_COMPARE(m_workspace->msgs().messages().last().text, growing);
+        m_gallery->window().grabWindow();
+        QCOMPARE(number(feed, "contentY"), place);
+    }
+}
+
+void WindowTest::messageIsSelectable() {
+    open();
+    m_workspace->row(7, u"selectable"_s);
+    QTRY_COMPARE(m_workspace->msgs().count(), 2);
+    QQuickItem *words = nullptr;
+    QTRY_VERIFY((words = findText(m_gallery->item(u"compactFeed"_s), u"selectable"_s)));
+    const QPoint place = words->mapToScene(QPointF(20, 8)).toPoint();
+    QTest::mouseDClick(&m_gallery->window(), Qt::LeftButton, {}, place);
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"selectable"_s);
+}
+
+void WindowTest::sceneLeadsToMessage() {
+    open();
+    QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(), u"compare"_s));
+    for (int i = 0; i < 12; ++i)
+        m_workspace->row(200 + i, u"A line that is long enough to be broken once or twice. "_s);
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    m_gallery->click(u"showMessage"_s);
+    QTRY_COMPARE_GT(distanceToEnd(feed), 100.0);
+}
+
+void WindowTest::historyReopens() {
+    open();
+    QVERIFY(m_workspace->ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s));
+    QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(), u"compare"_s));
+    m_gallery->click(u"historyButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"historyList"_s));
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->store->canvas()->art(), u"report"_s);
+    QTRY_VERIFY(!m_workspace->store->layout()->histOpen());
+}
+
+void WindowTest::longNames_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("wide") << QSize(1440, 900);
+    QTest::newRow("least") << QSize(1024, 680);
+}
+
+/// No cell lies over another one, whatever the names are, and no figure is cut.
+void WindowTest::longNames() {
+    QFETCH(QSize, size);
+    open(size);
+    const QString longName = u"Кластер с очень длинным именем "_s.repeated(4).left(120);
+    QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(longName), u"compare"_s));
+    QQuickItem *rows = m_gallery->item(u"compareRows"_s);
+    QTest::qWait(50);
+    QList<QRectF> boxes;
+    const QList<QQuickItem *> texts = visibleTexts(rows);
+    QCOMPARE(texts.size(), 30);
+    for (QQuickItem *text : texts) {
+        const QString words = text->property("text").toString();
+        const double drawn = number(text, "paintedWidth");
+        QVERIFY2(drawn <= text->width() + 0.5, qPrintable(words));
+        if (words.contains(QRegularExpression(u"^[€\\d]"_s)))
+            QVERIFY2(!text->property("truncated").toBool(), qPrintable(words));
+        const QRectF box = text->mapRectToItem(rows, text->boundingRect().adjusted(1, 1, -1, -1));
+        for (const QRectF &other : std::as_const(boxes))
+            QVERIFY2(!box.intersects(other), qPrintable(words));
+        boxes.append(box);
+    }
+    m_gallery->save(u"long-names-%1"_s.arg(QLatin1StringView(QTest::currentDataTag())));
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::WindowTest)
+#include "WindowTest.moc"
