@@ -11,12 +11,8 @@ as_root() {
 }
 
 missing_packages() {
-    local package
-    while read -r package; do
-        case "$package" in '' | '#'*) continue ;; esac
-        [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
-            printf '%s\n' "$package"
-    done <"$root/packaging/debian-packages.txt"
+    comm -23 <(grep -v '^#' "$root/packaging/debian-packages.txt" | sort) \
+        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' | awk '$2 == "installed" { print $1 }' | sort)
 }
 
 install_packages() {
@@ -52,7 +48,7 @@ build_targets() {
     *'no work to do'*) return 0 ;;
     esac
     say "Building (log in build/build.log)…"
-    if ! ninja -C "$build" "$@" >"$log" 2>&1; then
+    if ! ninja -C "$build" -j "$(nproc)" "$@" >"$log" 2>&1; then
         grep -E 'error|FAILED' -A 8 "$log" | head -n 60 >&2
         say "The build failed."
         exit 1

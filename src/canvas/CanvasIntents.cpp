@@ -119,7 +119,8 @@ QStringList alternativesOf(const QString &pattern) {
 
 /// Taken apart at `.*`, which as one pattern would run to the end of the line from every place
 /// where its first half stands.
-CanvasIntents::Rule::Rule(QString intent, const QString &pattern) : m_intent(std::move(intent)) {
+CanvasIntents::Rule::Rule(QString intent, const QString &pattern)
+    : m_intent(std::move(intent)), m_pattern(pattern) {
     QStringList plain;
     for (const QString &alternative : alternativesOf(pattern)) {
         const qsizetype gap = alternative.indexOf(u".*");

@@ -18,6 +18,7 @@ class Rule {
 public:
     Rule(QString intent, const QString &pattern);
     const QString &intent() const { return m_intent; }
+    const QString &pattern() const { return m_pattern; }
     /// Whether the pattern is found in `question`, in time linear to its length.
     bool matches(QStringView question) const;
 
@@ -30,6 +31,7 @@ private:
     };
 
     QString m_intent;
+    QString m_pattern;
     std::unique_ptr<Regex> m_plain; ///< the alternatives without a gap
     std::vector<Gap> m_gaps;
 };

@@ -40,11 +40,31 @@ private Q_SLOTS:
         QCOMPARE(scene->kpiCards.at(0).value, u"$12\u202f000"_s);
         QCOMPARE(scene->kpiCards.at(0).tone(), Tone::Good);
         QCOMPARE(scene->kpiCards.at(1).value, u"-$1\u202f500.5"_s);
-        QCOMPARE(scene->kpiCards.at(1).tone(), Tone::Bad);
+        QCOMPARE(scene->kpiCards.at(1).tone(), Tone::Good);
         QCOMPARE(scene->kpiCards.at(2).value, u"1 month"_s);
         QCOMPARE(scene->kpiCards.at(2).tone(), Tone::Neutral);
         QCOMPARE(scene->highlights,
                  (QStringList{u"All on track"_s, u"Best week · of May"_s, u"Ads: 5"_s}));
+    }
+
+    void tones_data() {
+        QTest::addColumn<QString>("label");
+        QTest::addColumn<QString>("delta");
+        QTest::addColumn<Tone>("tone");
+        QTest::newRow("more") << u"Releases"_s << u"+5"_s << Tone::Good;
+        QTest::newRow("less") << u"Releases"_s << u"\u22125"_s << Tone::Bad;
+        QTest::newRow("more of what should be few") << u"Overdue tasks"_s << u"+3"_s << Tone::Bad;
+        QTest::newRow("less of it") << u"Median first reply"_s << u"-9 m"_s << Tone::Good;
+        QTest::newRow("Russian") << u"Расходы"_s << u"+3%"_s << Tone::Bad;
+        QTest::newRow("no sign") << u"Overdue tasks"_s << u"3 more"_s << Tone::Neutral;
+    }
+    void tones() {
+        QFETCH(QString, label);
+        QFETCH(QString, delta);
+        ViewSpec spec;
+        spec.kind = u"kpi"_s;
+        spec.items = {{.label = label, .value = 1, .delta = delta}};
+        QTEST(SceneAdapter::vals(spec, std::nullopt)->kpiCards.first().tone(), "tone");
     }
 
     void compareRows() {

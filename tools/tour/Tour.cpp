@@ -14,7 +14,7 @@ namespace {
 
 /// Long enough for an answer to be thought about, written and settled.
 constexpr auto answerPatience = 30s;
-/// The entrance of a scene: what is drawn after it stands still.
+/// Sheets and scenes come in with a movement: what is drawn after it stands still.
 constexpr auto entrance = 900ms;
 
 } // namespace
@@ -54,6 +54,7 @@ bool Tour::signUp() {
     m_driver.type(u"founder@example.org"_s);
     m_driver.press(Qt::Key_Tab);
     m_driver.type(u"correct horse"_s);
+    rest();
     save(u"sign-up"_s);
     m_driver.press(Qt::Key_Return);
     if (!m_driver.waitFor([&] {
@@ -61,7 +62,7 @@ bool Tour::signUp() {
                    store.chat()->msgs()->count() > 0;
         }))
         return false;
-    m_driver.waitFor([] { return false; }, 300ms);
+    rest();
     save(u"signed-in"_s);
     return true;
 }
@@ -82,12 +83,16 @@ bool Tour::visit(const Stop &stop) {
         answerPatience);
     const double seconds = static_cast<double>(sinceReturn.elapsed()) / 1000;
     m_driver.waitFor([&] { return !canvas->awaitingAnswer(); }, answerPatience);
-    m_driver.waitFor([] { return false; }, entrance);
+    rest();
     const QString file = save(stop.file);
     std::printf("%s\t%s\t%.2f s\t%s\n", qUtf8Printable(stop.question),
                 drawn ? qUtf8Printable(stop.art) : "not drawn", seconds, qUtf8Printable(file));
     std::fflush(stdout);
     return drawn;
+}
+
+void Tour::rest() const {
+    m_driver.waitFor([] { return false; }, entrance);
 }
 
 QString Tour::save(const QString &name) const {

@@ -28,6 +28,8 @@ public:
 private:
     bool signUp();
     bool visit(const Stop &stop);
+    /// Lets what moves on the screen come to its end.
+    void rest() const;
     QString save(const QString &name) const;
 
     app::Application &m_application;

@@ -1,0 +1,58 @@
+// kiv-bench [NAME...]: one table, a row each; exits 1 when a row is short of its target.
+
+#include "Measure.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace kiv::bench;
+
+namespace {
+
+struct Bench {
+    QString name;
+    Row (*run)();
+};
+
+const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene}, {u"classify"_s, classify}};
+
+QString shown(double nanoseconds) {
+    return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);
+}
+
+void print(const QStringList &cells) {
+    static constexpr int widths[] = {18, 12, 30, 8, 12, 6};
+    QString line;
+    for (qsizetype cell = 0; cell < cells.size(); ++cell)
+        line += cells.at(cell).leftJustified(widths[cell]) + u' ';
+    std::printf("%s\n", qPrintable(line.trimmed()));
+    std::fflush(stdout);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    QCoreApplication application(argc, argv);
+    const QStringList wanted = QCoreApplication::arguments().mid(1);
+    for (const QString &name : wanted) {
+        if (std::ranges::none_of(benches, [&](const Bench &bench) { return bench.name == name; })) {
+            std::fprintf(stderr, "There is no benchmark called %s.\n", qPrintable(name));
+            return 2;
+        }
+    }
+    bool isShort = false;
+    print({u"name"_s, u"figure"_s, u"beside"_s, u"ratio"_s, u"target"_s, u""_s});
+    for (const Bench &bench : benches) {
+        if (!wanted.isEmpty() && !wanted.contains(bench.name))
+            continue;
+        const Row row = bench.run();
+        print({row.name, shown(row.nanoseconds), row.peer + u": "_s + shown(row.peerNanoseconds),
+               QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.targetNanoseconds),
+               row.isShort() ? u"short"_s : u"ok"_s});
+        isShort = isShort || row.isShort();
+    }
+    return isShort ? 1 : 0;
+}
