@@ -1,9 +1,10 @@
 #include "store/CanvasRoom.h"
 
 #include "canvas/CanvasIntents.h"
-#include "canvas/SceneAdapter.h"
+#include "canvas/TableScene.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
+#include "store/DrawnArts.h"
 
 #include <QLocale>
 
@@ -178,7 +179,7 @@ void CanvasRoom::drawScenario(const canvas::ViewSpec &spec, Entrance entrance, R
     const bool onScreen = m_phase.value() == Phase::Building || m_phase.value() == Phase::Done;
     if (spec.jsonKey == m_drawnSpecKey && onScreen)
         return;
-    const auto scene = canvas::SceneAdapter::vals(spec, m_lastIntent);
+    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), spec, m_lastIntent);
     if (!scene) {
         showHint();
         return;

@@ -1,7 +1,8 @@
 #include "store/Msg.h"
 
 #include "canvas/CanvasEngine.h"
-#include "canvas/SceneAdapter.h"
+#include "canvas/TableScene.h"
+#include "store/DrawnArts.h"
 
 #include <QRegularExpression>
 
@@ -45,7 +46,7 @@ void readAnswer(Msg &message) {
     message.spec = extracted.spec;
     if (!extracted.spec)
         return;
-    const auto scene = canvas::SceneAdapter::vals(*extracted.spec, std::nullopt);
+    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), *extracted.spec, std::nullopt);
     if (scene) {
         message.art = scene->art;
         message.title = scene->title;

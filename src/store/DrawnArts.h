@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringList>
+
+namespace kiv::store {
+
+/// The arts that the window has a scene for; the figures of any other are shown as a table.
+inline QStringList drawnArts() {
+    return {QStringLiteral("report"), QStringLiteral("compare")};
+}
+
+} // namespace kiv::store
