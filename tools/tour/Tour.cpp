@@ -23,6 +23,7 @@ QList<Stop> stops() {
     return {
         {u"Weekly report"_s, u"report"_s, u"report"_s},
         {u"Compare the hosting options"_s, u"compare"_s, u"compare"_s},
+        {u"Where are we against the plan?"_s, u"compare"_s, u"figures-as-table"_s},
     };
 }
 
