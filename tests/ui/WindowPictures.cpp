@@ -53,27 +53,41 @@ void WindowPictures::everyState() {
         R"({"id":"u1","email":"lead@night-ferry.example","name":"Ona Lindqvist"})");
     QVERIFY(workspace.signIn());
     gallery.save(named("empty"));
-    workspace.store->chat()->send(u"How was the week?"_s);
+    store::CanvasRoom *canvas = workspace.store->canvas();
+    workspace.store->chat()->send(u"Tell me a story"_s);
     gallery.save(named("thinking"));
-    QVERIFY(workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s));
+    QVERIFY(workspace.ask(u"Tell me a story"_s, u"Once there was a ferry."_s, QString()));
+    gallery.save(named("hint"));
+    workspace.store->chat()->send(u"How was the week?"_s);
+    workspace.row(50, Workspace::reportAnswer());
+    QTRY_COMPARE(canvas->state(), store::CanvasState::BuildingScene);
+    gallery.save(named("building"));
+    QVERIFY(workspace.settle(u"report"_s));
     gallery.save(named("report"));
     QVERIFY(
         workspace.ask(u"Compare the hosting options"_s, Workspace::compareAnswer(), u"compare"_s));
     gallery.save(named("compare"));
-    gallery.click(u"historyButton"_s);
-    gallery.save(named("history"));
+    for (const char *popover : {"history", "scope", "profile"}) {
+        gallery.click(QLatin1StringView(popover) + u"Button"_s);
+        gallery.save(named(popover));
+        gallery.press(Qt::Key_Escape);
+        QTest::qWait(200);
+    }
+    gallery.click(u"refineButton"_s);
+    gallery.save(named("refine"));
     gallery.press(Qt::Key_Escape);
-    gallery.click(u"scopeButton"_s);
-    gallery.save(named("scope"));
-    gallery.press(Qt::Key_Escape);
-    gallery.click(u"profileButton"_s);
-    gallery.save(named("profile"));
-    gallery.press(Qt::Key_Escape);
+    QTest::qWait(200);
     gallery.press(Qt::Key_Backslash, Qt::ControlModifier);
-    gallery.type(u"x"_s);
+    gallery.press(Qt::Key_K, Qt::ControlModifier);
+    gallery.type(u"Check it against last month’s export first"_s);
     gallery.save(named("float"));
     gallery.press(Qt::Key_J, Qt::ControlModifier);
     gallery.save(named("dock"));
+    gallery.press(Qt::Key_Return);
+    gallery.press(Qt::Key_J, Qt::ControlModifier);
+    workspace.clock.advance(200s);
+    QTRY_COMPARE(canvas->state(), store::CanvasState::Failed);
+    gallery.save(named("failed"));
 }
 
 } // namespace kiv::ui

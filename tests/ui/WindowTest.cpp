@@ -289,6 +289,7 @@ void WindowTest::feedFollowsItsEnd() {
     for (int i = 0; i < 12; ++i)
         m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
     QTRY_COMPARE(m_workspace->msgs().count(), 13);
+    QTRY_COMPARE_GT(number(feed, "contentHeight"), feed->height() * 1.5);
     QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
     QString growing = u"The answer"_s;
     for (int i = 0; i < 20; ++i) {
@@ -306,11 +307,15 @@ void WindowTest::feedStaysWhereItIsRead() {
     for (int i = 0; i < 12; ++i)
         m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
     QTRY_COMPARE(m_workspace->msgs().count(), 13);
+    QTRY_COMPARE_GT(number(feed, "contentHeight"), feed->height() * 1.5);
     QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
     const QPointF middle = feed->mapToScene(QPointF(feed->width() / 2, feed->height() / 2));
-    QWheelEvent wheel(middle, middle, {0, 300}, {0, 240}, Qt::NoButton, Qt::NoModifier,
-                      Qt::ScrollUpdate, false);
-    QGuiApplication::sendEvent(&m_gallery->window(), &wheel);
+    for (const quint64 time : {1000, 1040}) {
+        QWheelEvent notch(middle, middle, {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        notch.setTimestamp(time);
+        QGuiApplication::sendEvent(&m_gallery->window(), &notch);
+    }
     QTRY_COMPARE_GT(distanceToEnd(feed), 60.0);
     QTRY_VERIFY(!feed->property("moving").toBool());
     const double place = number(feed, "contentY");

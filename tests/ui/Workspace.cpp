@@ -60,10 +60,15 @@ bool Workspace::ask(const QString &question, const QString &answer, const QStrin
     store->chat()->send(question);
     row(++m_row, question, u"user"_s);
     row(++m_row, answer);
+    return settle(art);
+}
+
+bool Workspace::settle(const QString &art) {
     return QTest::qWaitFor([&] {
         clock.advance(100ms);
-        return store->canvas()->art() == art && store->canvas()->phase() == store::Phase::Done &&
-               !store->canvas()->awaitingAnswer();
+        const store::CanvasRoom *canvas = store->canvas();
+        return canvas->art() == art && !canvas->awaitingAnswer() &&
+               canvas->phase() == (art.isEmpty() ? store::Phase::Idle : store::Phase::Done);
     });
 }
 

@@ -9,8 +9,12 @@ class Workspace : public test::StoreFixture {
 public:
     Workspace();
 
-    /// A question and its answer, as the stream brings them; true when the scene of `art` is drawn.
+    /// A question and its answer, as the stream brings them; true when the scene of `art` is drawn,
+    /// or nothing for no art.
     bool ask(const QString &question, const QString &answer, const QString &art);
+
+    /// Lets the answer under way settle; true when the canvas shows the scene of `art`.
+    bool settle(const QString &art);
 
     static QString reportAnswer();
     static QString compareAnswer(const QString &firstName = QStringLiteral("Shared cluster"));

@@ -40,29 +40,37 @@ void EndFollower::jump() {
 }
 
 void EndFollower::contentGrew() {
-    if (!m_following && !m_bottomUp)
-        return;
-    m_settling = m_following;
-    polish();
+    if (m_following || m_bottomUp)
+        polish();
 }
 
 void EndFollower::updatePolish() {
-    if (m_bottomUp && m_view) {
+    if (!m_view)
+        return;
+    if (m_bottomUp) {
         const double spare = m_view->height() - number("contentHeight") - number("bottomMargin");
         m_view->setProperty("topMargin", std::max(m_leastMargin, spare));
     }
-    if (m_following && m_view) {
+    m_missed = m_following && m_held;
+    if (m_following && !m_held) {
         QMetaObject::invokeMethod(m_view, "positionViewAtEnd");
         // The list view itself leaves the margin below the end out.
         m_view->setProperty("contentY", std::max(end(), number("originY") - number("topMargin")));
     }
-    m_settling = false;
+}
+
+void EndFollower::setHeld(bool held) {
+    if (std::exchange(m_held, held) == held)
+        return;
+    Q_EMIT heldChanged();
+    contentMoved();
+    if (!held && m_missed)
+        polish();
 }
 
 void EndFollower::contentMoved() {
-    if (m_settling || !m_view)
-        return;
-    setFollowing(end() - number("contentY") <= m_distance);
+    if (m_view && m_held)
+        setFollowing(end() - number("contentY") <= m_distance);
 }
 
 double EndFollower::end() const {

@@ -14,6 +14,8 @@ class EndFollower : public QQuickItem {
     Q_PROPERTY(double distance READ distance WRITE setDistance NOTIFY distanceChanged REQUIRED)
     /// Content that is lower than the view sits at its lower edge.
     Q_PROPERTY(bool bottomUp READ isBottomUp WRITE setBottomUp NOTIFY bottomUpChanged)
+    /// The person moves the view now: it is not moved under their hand.
+    Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
     Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
 public:
     explicit EndFollower(QQuickItem *parent = nullptr) : QQuickItem(parent) {}
@@ -24,6 +26,8 @@ public:
     void setDistance(double distance);
     bool isBottomUp() const { return m_bottomUp; }
     void setBottomUp(bool bottomUp);
+    bool isHeld() const { return m_held; }
+    void setHeld(bool held);
     bool isFollowing() const { return m_following; }
 
     /// Goes to the end and follows it again.
@@ -35,6 +39,7 @@ Q_SIGNALS:
     void viewChanged();
     void distanceChanged();
     void bottomUpChanged();
+    void heldChanged();
     void followingChanged();
 
 protected:
@@ -55,9 +60,8 @@ private:
     bool m_bottomUp = false;
     double m_leastMargin = 0;
     bool m_following = true;
-    /// The content changed and the view was not moved after it yet: what moves now is not the
-    /// person.
-    bool m_settling = false;
+    bool m_held = false;
+    bool m_missed = false; ///< the content grew while the view was held
 };
 
 } // namespace kiv::ui

@@ -43,6 +43,7 @@ FocusScope {
         clip: true
         cacheBuffer: 400
         boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
         topMargin: feed.compact ? 4 : 20
         bottomMargin: 12
         activeFocusOnTab: true
@@ -51,7 +52,9 @@ FocusScope {
         Keys.onUpPressed: flick(0, 900)
         Keys.onDownPressed: flick(0, -900)
 
-        T.ScrollBar.vertical: ScrollBar {}
+        T.ScrollBar.vertical: ScrollBar {
+            id: bar
+        }
 
         delegate: MessageDelegate {
             required property int index
@@ -73,6 +76,7 @@ FocusScope {
 
         view: list
         bottomUp: feed.compact
+        held: list.moving || bar.pressed
         distance: Tokens.followDistance
     }
     FocusRing {

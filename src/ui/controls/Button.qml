@@ -22,7 +22,7 @@ T.Button {
         : Tokens.t1
     readonly property bool filled: kind === Button.Main || kind === Button.DangerFilled
 
-    implicitWidth: row.implicitWidth + leftPadding + rightPadding
+    implicitWidth: Math.ceil(row.implicitWidth) + leftPadding + rightPadding
     implicitHeight: size === Button.Small ? 32 : size === Button.Large ? 44 : 36
     horizontalPadding: size === Button.Small ? 12 : 14
     Accessible.name: text

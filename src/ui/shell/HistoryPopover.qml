@@ -21,7 +21,7 @@ Popover {
     }
 
     contentItem: Item {
-        implicitHeight: 48 + (list.count === 0 ? 40 : list.height)
+        implicitHeight: 42 + (list.count === 0 ? 34 : list.height)
     }
 
     Label {
@@ -50,6 +50,7 @@ Popover {
         focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
         highlightMoveDuration: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("History")

@@ -5,6 +5,7 @@ import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
+import Kiv.Tokens
 
 // Everything that there is to talk to: one stop of the tab key, rows by the arrow keys.
 ListView {
@@ -20,9 +21,9 @@ ListView {
     spacing: 2
     clip: true
     reuseItems: true
-    focus: true
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
+    flickDeceleration: Tokens.flickDeceleration
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Projects and agents")

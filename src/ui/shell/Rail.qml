@@ -114,6 +114,7 @@ FocusScope {
     Composer {
         id: composer
 
+        focus: true
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 8
         x: 12

@@ -17,7 +17,7 @@ T.Button {
     readonly property ScopeRoom scope: store.scope
 
     objectName: "scopeButton"
-    implicitWidth: row.implicitWidth + 18
+    implicitWidth: Math.ceil(row.implicitWidth) + 18
     implicitHeight: 36
     enabled: scope.auth === Store.AuthPhase.SignedIn
     text: scope.scopeDetail === "" ? scope.scopeName : qsTr("%1, %2").arg(scope.scopeName).arg(scope.scopeDetail)

@@ -5,6 +5,7 @@ import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
+import Kiv.Tokens
 
 // Everything that the person can talk to, found by typing.
 Popover {
@@ -60,6 +61,7 @@ Popover {
         clip: true
         currentIndex: 0
         boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
         highlightMoveDuration: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Projects and agents")

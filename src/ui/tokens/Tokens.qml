@@ -96,6 +96,9 @@ QtObject {
     /// A view follows the end of what grows while it is within this of it.
     readonly property int followDistance: 48
 
+    /// One notch of a wheel goes a little over a hundred pixels.
+    readonly property int flickDeceleration: 4000
+
     readonly property int instant: 80
     readonly property int quick: reducedMotion ? 100 : 140
     readonly property int base: reducedMotion ? 0 : 200

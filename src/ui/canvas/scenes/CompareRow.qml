@@ -41,8 +41,8 @@ Item {
                 readonly property string cell: row.values.cells[modelData.cell] ?? ""
 
                 x: modelData.x - row.offset
+                y: Math.round((row.height - height) / 2)
                 width: modelData.width
-                anchors.verticalCenter: parent.verticalCenter
                 horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
                 style: Tokens.type.line
                 color: modelData.numeric ? Tokens.t1 : Tokens.t2

@@ -59,8 +59,8 @@ FocusScope {
                     required property compareColumn modelData
 
                     x: modelData.x - compare.offset
+                    y: Math.round((head.height - height) / 2)
                     width: modelData.width
-                    anchors.verticalCenter: parent.verticalCenter
                     horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
                     style: Tokens.type.captionStrong
                     color: Tokens.t3
@@ -89,6 +89,7 @@ FocusScope {
         focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
         highlightMoveDuration: 0
         Accessible.role: Accessible.Table
         Accessible.name: compare.scene.title

@@ -28,6 +28,7 @@ Flickable {
 
     contentHeight: rows.y + rows.height + 20
     boundsBehavior: Flickable.StopAtBounds
+    flickDeceleration: Tokens.flickDeceleration
     clip: true
     Accessible.role: Accessible.Pane
 
