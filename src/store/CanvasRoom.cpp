@@ -193,6 +193,8 @@ void CanvasRoom::drawScenario(const canvas::ViewSpec &spec, Entrance entrance, R
     m_artScene = *scene;
     m_artInfo = canvas::ArtInfoFactory::make(scene->art, spec, *scene, {});
     m_art = scene->art;
+    // What is still a skeleton has the shape of what comes.
+    m_skeletonShape = shapeFor(scene->art);
     m_artSkeleton = false;
     m_animated = entrance == Entrance::Animated;
     m_seconds.cancel();

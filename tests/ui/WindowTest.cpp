@@ -57,6 +57,7 @@ private Q_SLOTS:
     void cleanup();
     void typing();
     void draftIsOne();
+    void fieldGrows();
     void emptyIsNotSent_data();
     void emptyIsNotSent();
     void answerCanBeStopped();
@@ -135,6 +136,31 @@ void WindowTest::draftIsOne() {
     m_gallery->type(u"ught"_s);
     QCOMPARE(m_workspace->store->chat()->draft(), u"half a thought"_s);
     QCOMPARE(m_gallery->item(u"askField"_s)->property("text").toString(), u"half a thought"_s);
+}
+
+/// Up to eight lines; beyond that the line with the cursor stays in view.
+void WindowTest::fieldGrows() {
+    open();
+    m_gallery->click(u"askField"_s);
+    QQuickItem *field = m_gallery->item(u"askField"_s);
+    const QQuickItem *view = field->parentItem()->parentItem();
+    const double line = 21;
+    QCOMPARE(view->height(), line);
+    for (int lines = 2; lines <= 12; ++lines) {
+        m_gallery->type(u"line"_s);
+        m_gallery->press(Qt::Key_Return, Qt::ShiftModifier);
+        QTRY_COMPARE(view->height(), std::min(lines, 8) * line);
+    }
+    const QRectF cursor = field->property("cursorRectangle").toRectF();
+    const double offset = view->property("contentY").toDouble();
+    QCOMPARE_GE(cursor.top(), offset);
+    QCOMPARE_LE(cursor.bottom(), offset + view->height());
+    m_gallery->press(Qt::Key_A, Qt::ControlModifier);
+    m_gallery->press(Qt::Key_Delete);
+    QTRY_COMPARE(view->height(), line);
+    m_gallery->type(u"x"_s);
+    QTRY_COMPARE(view->height(), line);
+    QCOMPARE(view->property("contentX").toDouble(), 0.0);
 }
 
 void WindowTest::emptyIsNotSent_data() {

@@ -50,16 +50,19 @@ FocusScope {
         x: bar.floating ? 6 : 0
         y: bar.floating ? 17 : 12
         width: bar.width - x - (bar.floating ? 56 : 0)
-        height: Math.min(field.contentHeight, bar.lines * Tokens.type.body.line)
+        height: Math.max(Tokens.type.body.line, Math.min(field.contentHeight, bar.lines * Tokens.type.body.line))
+        contentWidth: width
         contentHeight: field.contentHeight
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
 
         T.ScrollBar.vertical: ScrollBar {}
-        T.TextArea.flickable: T.TextArea {
+
+        T.TextArea {
             id: field
 
             objectName: "askField"
+            width: scroller.width
             focus: true
             leftPadding: 14
             rightPadding: 14
@@ -75,6 +78,9 @@ FocusScope {
             Accessible.name: bar.placeholder
             Component.onCompleted: cursorPosition = length
 
+            // The line with the cursor stays in view.
+            onCursorRectangleChanged: scroller.contentY = Math.max(0, cursorRectangle.bottom - scroller.height,
+                Math.min(scroller.contentY, cursorRectangle.top))
             onTextChanged: if (text !== bar.draft) bar.edited(text)
             Keys.onPressed: event => {
                 const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
