@@ -10,14 +10,18 @@ as_root() {
     if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
 }
 
+# Packages of the list that are not installed: those without a mark and, with an argument, those
+# marked with it.
 missing_packages() {
-    comm -23 <(grep -v '^#' "$root/packaging/debian-packages.txt" | sort) \
-        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' | awk '$2 == "installed" { print $1 }' | sort)
+    comm -23 <(awk -v mark="${1:-}" '!/^#/ && NF && ($2 == "" || $2 == mark) { print $1 }' \
+        "$root/packaging/debian-packages.txt" | sort) \
+        <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' |
+            awk '$2 == "installed" { print $1 }' | sort)
 }
 
 install_packages() {
     local missing log
-    missing=$(missing_packages)
+    missing=$(missing_packages "$@")
     [ -n "$missing" ] || return 0
     say "Installing $(wc -w <<<"$missing") Debian packages…"
     mkdir -p "$root/build"
