@@ -36,6 +36,12 @@ bool isThinSpace(QChar c) {
     return c == u' ' || c == u'\u00a0' || c == u'\u202f';
 }
 
+bool isOneOf(QStringView word, const QStringList &words) {
+    return std::any_of(words.begin(), words.end(), [word](const QString &one) {
+        return one.size() == word.size() && word.compare(one, Qt::CaseInsensitive) == 0;
+    });
+}
+
 struct Multiplier {
     QString word;
     double factor;
@@ -267,29 +273,28 @@ std::optional<ProseFigure> proseFigure(QStringView text) {
 }
 
 bool isFigureName(QStringView name) {
-    static const QSet<QString> sentenceWords{
-        u"i"_s,    u"we"_s,    u"you"_s, u"they"_s, u"he"_s,  u"she"_s,  u"it"_s,   u"this"_s,
-        u"that"_s, u"there"_s, u"is"_s,  u"are"_s,  u"was"_s, u"were"_s, u"я"_s,    u"мы"_s,
-        u"вы"_s,   u"они"_s,   u"он"_s,  u"она"_s,  u"это"_s, u"есть"_s, u"было"_s, u"была"_s};
-    const QString text = name.trimmed().toString();
-    const bool isSentence = text.contains(u". "_s) || text.contains(u'?') || text.contains(u'!') ||
-                            text.contains(u';') || text.contains(u"://"_s);
-    if (text.isEmpty() || text.size() > longestName || isSentence)
+    static const QStringList sentenceWords =
+        u"i we you they he she it this that there is are was were "
+        u"я мы вы они он она это есть было была"_s.split(u' ');
+    const QStringView text = name.trimmed();
+    if (text.isEmpty() || text.size() > longestName || text.contains(u". ") ||
+        text.contains(u'?') || text.contains(u'!') || text.contains(u';') || text.contains(u"://"))
         return false;
-    const QStringList words = text.toLower().split(u' ', Qt::SkipEmptyParts);
-    return words.size() <= mostNameWords &&
-           std::none_of(words.begin(), words.end(),
-                        [](const QString &word) { return sentenceWords.contains(word); });
+    qsizetype words = 0;
+    for (const QStringView word : text.tokenize(u' ', Qt::SkipEmptyParts)) {
+        if (++words > mostNameWords || isOneOf(word, sentenceWords))
+            return false;
+    }
+    return true;
 }
 
 bool namesNoMeasure(QStringView name) {
-    static const QSet<QString> marks{
-        u"year"_s, u"date"_s,  u"phone"_s,   u"tel"_s,     u"id"_s,       u"version"_s, u"room"_s,
-        u"page"_s, u"code"_s,  u"pin"_s,     u"number"_s,  u"no"_s,       u"founded"_s, u"since"_s,
-        u"port"_s, u"zip"_s,   u"год"_s,     u"дата"_s,    u"телефон"_s,  u"тел"_s,     u"версия"_s,
-        u"код"_s,  u"номер"_s, u"комната"_s, u"options"_s, u"варианты"_s, u"опции"_s};
-    const QString text = name.trimmed().toString().toLower();
-    return marks.contains(text.sliced(text.lastIndexOf(u' ') + 1));
+    static const QStringList marks =
+        u"year date phone tel id version room page code pin number no founded since port zip "
+        u"options "
+        u"год дата телефон тел версия код номер комната варианты опции"_s.split(u' ');
+    const QStringView text = name.trimmed();
+    return isOneOf(text.sliced(text.lastIndexOf(u' ') + 1), marks);
 }
 
 } // namespace kiv::canvas
