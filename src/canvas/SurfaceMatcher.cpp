@@ -45,7 +45,7 @@ std::optional<SurfaceLink> SurfaceMatcher::match(QStringView text, const QUrl &b
         QUrl url(target, QUrl::StrictMode);
         if (target.isEmpty() || !url.isValid())
             continue;
-        if (url.host().isEmpty())
+        if (url.isRelative())
             url = baseUrl.resolved(url);
         const bool isOurs =
             !url.host().isEmpty() && url.host().compare(baseUrl.host(), Qt::CaseInsensitive) == 0;

@@ -125,6 +125,8 @@ private Q_SLOTS:
             u"https://other.example/project/a [ ](/x) [y](https://kiv.example/team/b)"_s,
             home + u"/team/b"_s, u"Team"_s);
         row("host in the path", u"[x](//other.example/project/a)"_s, none, none);
+        row("own host without a scheme", u"[x](//kiv.example/team/a)"_s, home + u"/team/a"_s,
+            u"Team"_s);
         row("no host at all", u"[x](https:///project/a)"_s, none, none);
         row("second segment", u"[x](/project/a/b)"_s, none, none);
         row("profile", u"[x](/agent-profile?id=7)"_s, home + u"/agent-profile?id=7"_s,
