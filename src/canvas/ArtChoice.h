@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// Which of the fourteen arts draws a specification.
+/// Which of the fourteen arts draws a view.
 namespace kiv::canvas::CanvasEngine {
 
 const QStringList &knownArts();

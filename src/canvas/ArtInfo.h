@@ -33,7 +33,7 @@ public:
 
 namespace ArtInfoFactory {
 
-/// `scene` may be missing while it is still being drawn: the specification then names it.
+/// `scene` may be missing while it is still being drawn: the view then names it.
 ArtInfo make(const QString &art, const ViewSpec &spec, const std::optional<SceneOut> &scene,
              const QList<ReplyChip> &chips);
 

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-/// Specifications lifted from plain prose, for answers that carry no block. A false chart is worse
+/// Views lifted from plain prose, for answers that carry no block. A false chart is worse
 /// than none: what might be mere prose gives nothing, and code is never read.
 namespace kiv::canvas::CanvasEngine {
 

@@ -5,15 +5,15 @@
 
 #include <optional>
 
-/// Turns a specification into a scene. Every figure of a scene is in the answer or follows from its
+/// Turns a view into a scene. Every figure of a scene is in the answer or follows from its
 /// figures; what the answer lacks stays empty.
 namespace kiv::canvas::SceneAdapter {
 
 /// The colours that rows and series take in turn.
 const QList<SceneColor> &palette();
 
-/// The scene of `forceArt`, or of the art that fits the specification and the question's intent.
-/// Nothing when there is no such art or the specification lacks what the art needs.
+/// The scene of `forceArt`, or of the art that fits the view and the question's intent.
+/// Nothing when there is no such art or the view lacks what the art needs.
 std::optional<SceneOut> build(const ViewSpec &spec, const std::optional<QString> &intent,
                               const std::optional<QString> &forceArt = {});
 

@@ -19,7 +19,7 @@ std::optional<int> wholePercent(double percent);
 /// "42%", below one per cent and above 99 with a decimal so that little does not read as nothing.
 QString shareText(double part, double whole);
 
-/// The specification's points; without any, those of its only series, its key figures or its
+/// The view's points; without any, those of its only series, its key figures or its
 /// two-column rows.
 QList<ViewSpec::Point> pointsOf(const ViewSpec &spec);
 

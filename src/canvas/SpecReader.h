@@ -5,7 +5,7 @@
 
 #include <optional>
 
-/// Reading a specification from the JSON that an answer carries.
+/// Reading a view from the JSON that an answer carries.
 namespace kiv::canvas::CanvasEngine {
 
 /// Nothing unless `json` is an object that describes something renderable.

@@ -22,7 +22,7 @@ std::optional<SceneOut> sceneOf(const char *json, const QString &art = {}) {
 
 } // namespace
 
-/// From a specification to what is drawn.
+/// From a view to what is drawn.
 class ScenesTest : public QObject {
     Q_OBJECT
 

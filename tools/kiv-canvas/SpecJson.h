@@ -6,7 +6,7 @@
 
 namespace kiv::tools {
 
-/// Every field of a specification under its name, an absent value as null.
+/// Every field of a view under its name, an absent value as null.
 QJsonObject specJson(const canvas::ViewSpec &spec);
 
 } // namespace kiv::tools
