@@ -39,6 +39,8 @@ install_packages() {
 # build_targets [TARGET...]: all of them when none is named.
 build_targets() {
     local log="$root/build/build.log"
+    # A clone in another folder compiles the same files: its results are shared.
+    export CCACHE_BASEDIR="$root" CCACHE_NOHASHDIR=true
     export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
     mkdir -p "$root/build"
     if [ ! -f "$build/build.ninja" ]; then
