@@ -63,6 +63,7 @@ FocusScope {
 
             objectName: "askField"
             width: scroller.width
+            height: Math.max(scroller.height, contentHeight)
             focus: true
             leftPadding: 14
             rightPadding: 14
