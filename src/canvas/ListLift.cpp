@@ -11,8 +11,15 @@ namespace {
 
 constexpr qsizetype deepestIndent = 3; // more is code, or an item of an item
 
+/// "[ ] Test: 3 cases" is something to do, not a figure.
+bool isTask(const QString &item) {
+    return item.startsWith(u"[ ]") || item.startsWith(u"[x]", Qt::CaseInsensitive);
+}
+
 LiftedLine lineOf(QStringView item) {
     const QString plain = CanvasEngine::stripInline(item);
+    if (isTask(plain))
+        return {plain, {}, {}};
     for (const QString &separator : {u" — "_s, u" – "_s, u": "_s, u" - "_s}) {
         const qsizetype at = plain.indexOf(separator);
         if (at <= 0)

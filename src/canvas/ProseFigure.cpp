@@ -290,9 +290,10 @@ bool isFigureName(QStringView name) {
 
 bool namesNoMeasure(QStringView name) {
     static const QStringList marks =
-        u"year date phone tel id version room page code pin number no founded since port zip "
+        u"year date phone tel id version room page code pin number no iban account founded since "
+        u"port zip "
         u"options "
-        u"год дата телефон тел версия код номер комната варианты опции"_s.split(u' ');
+        u"год дата телефон тел версия код номер комната счёт инн варианты опции"_s.split(u' ');
     const QStringView text = name.trimmed();
     return isOneOf(text.sliced(text.lastIndexOf(u' ') + 1), marks);
 }

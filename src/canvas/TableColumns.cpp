@@ -54,12 +54,14 @@ TableColumns::TableColumns(const ViewSpec &spec, Order order) {
         if (i != m_plan && i != m_actual && i != m_owner && isNumeric(spec.rows, i))
             figures.append(i);
     }
-    const bool planFirst = order == Order::PlanFirst && figures.size() > 1;
+    const bool actualNamed = m_actual > 0;
+    const bool planFirst = order == Order::PlanFirst && figures.size() > 1 && !actualNamed;
     if (m_plan < 0 && planFirst)
         m_plan = figures.takeFirst();
     if (m_actual < 0 && !figures.isEmpty())
         m_actual = figures.takeFirst();
-    if (m_plan < 0 && !figures.isEmpty())
+    // Beside a column that is named as what was spent, another one is not yet a plan.
+    if (m_plan < 0 && !actualNamed && !figures.isEmpty())
         m_plan = figures.takeFirst();
     const qsizetype named = columnNamed(spec.columns, title);
     if (named > 0 && named != m_plan && named != m_actual && named != m_owner)

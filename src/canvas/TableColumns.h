@@ -7,7 +7,7 @@
 namespace kiv::canvas {
 
 /// Which columns of a table hold what was planned and what came of it. They are told by their
-/// names; else they are the first two columns of figures, in the order that `order` names.
+/// names; where neither is named they are the first two columns of figures, as `order` says.
 class TableColumns {
 public:
     enum class Order { PlanFirst, ActualFirst };

@@ -376,6 +376,9 @@ private Q_SLOTS:
         row("rows without names", R"({"kind":"table","columns":["Line","A","B"],
             "rows":[["Ads","100","50"]]})",
             {u"Ads 100/50 -50% 1 100"_s});
+        row("income is no plan", R"({"kind":"table","columns":["Month","Income","Spend"],
+            "rows":[["Jan","100","50"]]})",
+            {u"Jan /50 0% 1 0"_s});
         row("series", R"({"kind":"stacked","series":[{"name":"Actual","points":["Ads: 3"]},
             {"name":"Plan","points":["Ads: 4"]}]})",
             {u"Ads 4/3 -25% 1 100"_s});

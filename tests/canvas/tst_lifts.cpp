@@ -183,7 +183,8 @@ private Q_SLOTS:
         row("steps", u"1. Open the file: it has 3 parts\n2. Close it: 2 clicks are enough"_s,
             QString());
         row("sentences", u"- We met them: 5 people\n- It took: 3 hours"_s, QString());
-        row("marks", u"- Room: 12\n- Year: 2024\n- Phone: 5551234"_s, QString());
+        row("marks", u"- IBAN: 12\n- Year: 2024\n- Phone: 5551234"_s, QString());
+        row("tasks", u"- [x] Test: 3 cases\n- [ ] Docs: 2 pages"_s, QString());
         row("code", u"```\n- a: 1\n- b: 2\n```"_s, QString());
         row("indented code", u"    - a: 1\n    - b: 2"_s, QString());
         row("rules", u"---\n***\n- - -"_s, QString());
