@@ -89,7 +89,7 @@ private Q_SLOTS:
     }
     void jsonRefused() {
         QFETCH(QByteArray, body);
-        QVERIFY_EXCEPTION_THROWN(JsonDocument{body}, DecodingError);
+        QVERIFY_THROWS_EXCEPTION(DecodingError, JsonDocument{body});
         QVERIFY(!JVal::parse(body));
     }
 
