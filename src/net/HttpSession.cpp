@@ -15,7 +15,9 @@ namespace {
 
 /// A request body that can be read once only. When a kept-alive connection turns out to be dead,
 /// the network layer rewinds the body and sends the request again behind our back, though the
-/// server may have acted on the first one; a body that refuses fails the request instead. Once
+/// server may have acted on the first one; a body that was begun refuses, which fails the request
+/// instead. One that was not begun, as when a connection is closed under it because the request
+/// before was given up, has reached nobody and goes out on the next connection. Once
 /// there is an answer it may be rewound, which is done for redirects whether followed or not.
 class SinglePassBody : public QIODevice {
 public:
@@ -23,9 +25,10 @@ public:
     bool isSequential() const override { return true; }
     void setAnswered() { m_answered = true; }
     bool reset() override {
+        const bool isUntouched = m_read == 0;
         if (m_answered)
             m_read = 0;
-        return m_answered;
+        return m_answered || isUntouched;
     }
     qint64 bytesAvailable() const override {
         return m_bytes.size() - m_read + QIODevice::bytesAvailable();
