@@ -53,7 +53,7 @@ CanvasRoom::CanvasRoom(AppStore &store) : m_store(store) {
         return m_canvasHint.value().isEmpty() ? CanvasState::Empty : CanvasState::Hint;
     });
     connect(store.scope(), &ScopeRoom::authChanged, this,
-            [this] { m_signedOut = m_store.scope()->auth() != AuthPhase::SignedIn; });
+            [this] { m_signedOut = m_store.scope()->auth() == AuthPhase::Anon; });
 }
 
 void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
@@ -61,6 +61,7 @@ void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
     m_buildTask.cancel();
     m_lastIntent = canvas::CanvasIntents::classify(question);
     m_lastQuery = question;
+    m_turn = {question, m_lastIntent, {}, {}};
     m_skeletonShape = shapeFor(m_lastIntent);
     clearDrawnArt();
     m_drawnSpecKey.reset();
@@ -119,7 +120,7 @@ void CanvasRoom::scheduleScenario(int gen, const Msg &message) {
     if (gen != m_store.chat()->chatGen() || !m_awaitingAnswer)
         return;
     if (!message.serverID) {
-        runScenario(message, Record::New, LinkOpening::Open);
+        runScenario(message, LinkOpening::Open);
         return;
     }
     const qint64 id = *message.serverID;
@@ -129,7 +130,7 @@ void CanvasRoom::scheduleScenario(int gen, const Msg &message) {
     const bool fresh = drawable && message.spec->jsonKey != m_drawnSpecKey;
     if (fresh && !m_earlyDrawnFor.contains(id)) {
         m_earlyDrawnFor.insert(id);
-        runScenario(message, Record::New, LinkOpening::Leave);
+        runScenario(message, LinkOpening::Leave);
     }
     m_scenarioTask.restart([this, gen, local = message.id](Cancel cancel) {
         return settle(gen, local, std::move(cancel));
@@ -148,14 +149,20 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
     m_scenarioDone.insert(*answer.serverID);
     m_awaitingAnswer = false;
     m_store.chat()->answerSettled();
-    const bool drawnBefore = m_earlyDrawnFor.contains(*answer.serverID);
-    runScenario(answer, drawnBefore ? Record::Amend : Record::New, LinkOpening::Open);
+    const bool drawnEarly = m_earlyDrawnFor.contains(*answer.serverID) && answer.spec &&
+                            answer.spec->jsonKey == m_turn.drawnSpecKey;
+    // Drawn as it is; the person may look at another canvas by now.
+    if (!drawnEarly)
+        runScenario(answer, LinkOpening::Open);
 }
 
-void CanvasRoom::runScenario(const Msg &message, Record record, LinkOpening links) {
+void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
+    m_lastQuery = m_turn.query;
+    m_lastIntent = m_turn.intent;
     if (message.spec) {
+        m_turn.drawnSpecKey = message.spec->jsonKey;
         nameSource(message);
-        drawScenario(*message.spec, Entrance::Animated, record);
+        drawScenario(*message.spec, Entrance::Animated, Record::Turn);
         return;
     }
     if (links == LinkOpening::Open) {
@@ -214,11 +221,11 @@ void CanvasRoom::drawScenario(const canvas::ViewSpec &spec, Entrance entrance, R
                              .spec = spec,
                              .intent = m_lastIntent,
                              .title = m_artInfo.value().title};
-    if (record == Record::Amend) {
-        m_history.amendNewest(entry);
+    if (record == Record::Turn && m_history.amend(m_turn.historyEntry, entry))
         return;
-    }
     m_history.record(entry);
+    if (record == Record::Turn)
+        m_turn.historyEntry = entry.id;
     net::KivAPI::rum(&m_store.net(), u"canvas_scenario"_s,
                      {{u"intent"_s, m_lastIntent.value_or(QString())}});
 }
@@ -253,6 +260,7 @@ void CanvasRoom::forgetAll() {
     m_pageView.reset();
     m_lastQuery = QString();
     m_lastIntent.reset();
+    m_turn = {};
     m_history.clear();
 }
 
@@ -289,6 +297,8 @@ void CanvasRoom::showMessageCanvas(const QString &messageId) {
     if (row < 0 || !messages->messages().at(row).spec)
         return;
     const Msg message = messages->messages().at(row);
+    m_lastQuery = QString();
+    m_lastIntent.reset();
     for (qsizetype before = row - 1; before >= 0; --before) {
         if (messages->messages().at(before).who == Who::You) {
             m_lastQuery = messages->messages().at(before).text;
@@ -304,7 +314,7 @@ void CanvasRoom::showMessageCanvas(const QString &messageId) {
 void CanvasRoom::applyRestoredCanvas(const canvas::RestoredCanvas &canvas) {
     if (const auto *art = std::get_if<canvas::RestoredArt>(&canvas)) {
         m_lastQuery = art->query;
-        m_lastIntent.reset();
+        m_lastIntent = canvas::CanvasIntents::classify(art->query);
         const MessageModel *messages = m_store.chat()->msgs();
         for (qsizetype row = messages->count() - 1; row >= 0; --row) {
             const Msg &message = messages->messages().at(row);

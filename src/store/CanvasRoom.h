@@ -69,6 +69,8 @@ public:
 
     bool awaitingAnswer() const { return m_awaitingAnswer; }
     bool isKnown(qint64 id) const { return m_knownIds.contains(id); }
+    /// Rows that turned out to be older than the question; none of them is its answer.
+    void addKnown(const QSet<qint64> &ids) { m_knownIds.unite(ids); }
 
     Q_INVOKABLE void openHistory(int row);
     Q_INVOKABLE void refinePoint(const QString &label);
@@ -111,14 +113,21 @@ Q_SIGNALS:
 
 private:
     enum class Entrance { Animated, Still };
-    /// Whether a drawn canvas becomes a new entry of the history, replaces the newest, or neither.
-    enum class Record { New, Amend, None };
+    /// What of the history a drawn canvas becomes: the entry of the current turn, a new one, none.
+    enum class Record { Turn, New, None };
     enum class LinkOpening { Open, Leave };
+    /// The question whose answer is awaited, whatever the canvas shows meanwhile.
+    struct Turn {
+        QString query;
+        std::optional<QString> intent;
+        QUuid historyEntry;
+        std::optional<QString> drawnSpecKey;
+    };
 
     QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);
     QCoro::Task<void> finishBuilding(Cancel cancel);
     QCoro::Task<void> countSeconds(Cancel cancel);
-    void runScenario(const Msg &message, Record record, LinkOpening links);
+    void runScenario(const Msg &message, LinkOpening links);
     void drawScenario(const canvas::ViewSpec &spec, Entrance entrance, Record record);
     void showHint();
     void clearDrawnArt();
@@ -131,6 +140,7 @@ private:
     QSet<qint64> m_knownIds;
     QSet<qint64> m_scenarioDone;
     QSet<qint64> m_earlyDrawnFor;
+    Turn m_turn;
     std::optional<QString> m_drawnSpecKey;
     std::optional<QString> m_lastIntent;
     QString m_panel;
@@ -152,7 +162,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_vis, &CanvasRoom::visChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_animated, &CanvasRoom::animatedChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed, &CanvasRoom::failedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, bool, m_signedOut, true,
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, bool, m_signedOut, false,
                                          &CanvasRoom::signedOutChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
                                &CanvasRoom::thinkingSecondsChanged)

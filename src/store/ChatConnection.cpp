@@ -3,12 +3,23 @@
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/ChatRoom.h"
+#include "store/HistoryMerge.h"
+
+#include <algorithm>
 
 namespace kiv::store {
 
 namespace {
+
 constexpr int historyLimit = 80;
+
+QList<Msg> unsentOf(const QList<Msg> &messages) {
+    QList<Msg> unsent;
+    std::ranges::copy_if(messages, std::back_inserter(unsent), &Msg::isUnsent);
+    return unsent;
 }
+
+} // namespace
 
 void ChatRoom::connectChat() {
     m_store.chatStream().stop();
@@ -17,27 +28,28 @@ void ChatRoom::connectChat() {
     m_store.canvas()->resetTurn();
     m_chatNote = QString();
     m_historyLoading = false;
-    keepUnsent();
     m_store.events()->loadEvents();
 
     const auto target = m_store.scope()->chatTarget();
-    const bool another = target != m_connected;
-    m_connected = target;
-    if (another || !target) {
+    if (target != m_connected || !target) {
         // Nothing of the chat before may be read as this one's.
+        setUnsentAside();
+        m_connected = target;
+        m_rowsKnown = false;
         m_store.canvas()->clearCanvas();
-        m_msgs.replaceAll(target ? QList<Msg>() : QList<Msg>{liveGreeting()});
+        m_msgs.replaceAll(target ? m_unsent.take(target->streamPath())
+                                 : QList<Msg>{liveGreeting()});
     }
     ++m_chatGen;
     if (!target)
         return;
     const int gen = m_chatGen;
     auto load = [this, gen, chat = *target](bool reconnected) {
+        m_live.clear();
         m_connection.restart([this, gen, chat, reconnected](Cancel cancel) {
             return loadHistory(gen, chat, reconnected, std::move(cancel));
         });
     };
-    m_live.clear();
     load(false);
     m_store.chatStream().start(
         target->streamPath(), [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
@@ -48,25 +60,20 @@ void ChatRoom::disconnectChat() {
     m_store.chatStream().stop();
     ++m_chatGen;
     m_connection.cancel();
+    m_historyLoading = false;
     endWaiting();
     m_posts.cancel();
     m_unsent.clear();
     m_live.clear();
     m_connected.reset();
+    m_lastPrompt = QString();
 }
 
 /// Puts messages of ours that have no row yet aside, so that coming back to this chat shows them.
-void ChatRoom::keepUnsent() {
-    if (!m_connected)
-        return;
-    QList<Msg> unsent;
-    for (const Msg &message : m_msgs.messages()) {
-        if (message.isUnsent())
-            unsent.append(message);
-    }
-    if (unsent.isEmpty())
-        return;
-    m_unsent[m_connected->streamPath()] = unsent;
+void ChatRoom::setUnsentAside() {
+    const QList<Msg> unsent = unsentOf(m_msgs.messages());
+    if (m_connected && !unsent.isEmpty())
+        m_unsent[m_connected->streamPath()] += unsent;
 }
 
 QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, bool reconnected,
@@ -91,117 +98,28 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, bool re
     m_historyLoading = false;
 }
 
-namespace {
-
-/// The stored rows, each in its newest form, with our unsent messages at the places they had.
-class HistoryMerge {
-public:
-    HistoryMerge(QHash<qint64, Msg> live, QList<Msg> shown)
-        : m_live(std::move(live)), m_shown(std::move(shown)) {}
-
-    QList<Msg> merge(const QList<net::ChatRow> &rows, const QList<Msg> &setAside) {
-        for (const net::ChatRow &row : rows) {
-            if (auto message = rowToMsg(row))
-                take(std::move(*message));
-        }
-        // Rows that the stream brought and the page does not hold yet.
-        for (const Msg &message : m_shown) {
-            if (message.serverID && m_live.contains(*message.serverID))
-                take(m_live.value(*message.serverID));
-        }
-        QList<Msg> unsent = setAside;
-        for (const Msg &message : m_shown) {
-            if (message.isUnsent() && !contains(unsent, message.id))
-                unsent.append(message);
-        }
-        for (const Msg &message : unsent)
-            place(message);
-        return m_merged;
-    }
-
-private:
-    static bool contains(const QList<Msg> &list, const QUuid &id) {
-        return std::ranges::any_of(list, [&](const Msg &message) { return message.id == id; });
-    }
-
-    void take(Msg message) {
-        if (message.serverID) {
-            const auto live = m_live.constFind(*message.serverID);
-            if (live != m_live.cend() && live->text.size() > message.text.size())
-                message = *live;
-            m_live.remove(*message.serverID);
-        }
-        m_merged.append(std::move(message));
-    }
-
-    /// After the row it followed on the screen; a row with its text that was not on the screen is
-    /// the message itself, stored.
-    void place(const Msg &message) {
-        QSet<qint64> known;
-        std::optional<qint64> previous;
-        for (const Msg &shown : m_shown) {
-            if (shown.id == message.id)
-                break;
-            if (shown.serverID)
-                previous = shown.serverID;
-        }
-        for (const Msg &shown : m_shown) {
-            if (shown.serverID)
-                known.insert(*shown.serverID);
-        }
-        qsizetype at = m_merged.size();
-        for (qsizetype row = 0; row < m_merged.size(); ++row) {
-            const Msg &stored = m_merged.at(row);
-            if (stored.who == Who::You && stored.serverID && !known.contains(*stored.serverID) &&
-                stored.text == message.text && !m_claimed.contains(*stored.serverID) &&
-                sentBefore(message, stored)) {
-                m_claimed.insert(*stored.serverID);
-                return;
-            }
-            if (previous && stored.serverID == previous)
-                at = row + 1;
-        }
-        while (at < m_merged.size() && m_merged.at(at).isUnsent())
-            ++at;
-        m_merged.insert(at, message);
-    }
-
-    /// Clocks differ: a row counts as the message unless it is clearly older.
-    static bool sentBefore(const Msg &message, const Msg &stored) {
-        constexpr qint64 clockSkewSeconds = 120;
-        return !message.at || !stored.at || message.at->secsTo(*stored.at) > -clockSkewSeconds;
-    }
-
-    QHash<qint64, Msg> m_live;
-    QList<Msg> m_shown;
-    QList<Msg> m_merged;
-    QSet<qint64> m_claimed;
-};
-
-} // namespace
-
 void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
     CanvasRoom *canvas = m_store.canvas();
-    const QList<Msg> setAside = m_unsent.take(m_connected->streamPath());
-    QList<Msg> merged = HistoryMerge(m_live, m_msgs.messages()).merge(rows, setAside);
+    const auto answerBefore = newestAnswer();
+    QList<Msg> unsent = m_unsent.take(m_connected->streamPath());
+    unsent += unsentOf(m_msgs.messages());
+    QList<Msg> merged = HistoryMerge(m_msgs.messages(), m_live).merge(rows, unsent);
     if (merged.isEmpty())
         merged.append(liveGreeting());
     m_msgs.replaceAll(std::move(merged));
+    m_rowsKnown = true;
     markSeen();
 
-    if (reconnected && canvas->awaitingAnswer()) {
-        // The question is still open. An answer that came while the line was down goes its way.
-        const Msg newest = m_msgs.messages().constLast();
-        if (newest.who == Who::Agent && newest.serverID && !canvas->isKnown(*newest.serverID)) {
-            m_liveWaiting = false;
-            m_msgs.setGrowing(newest.id);
-            canvas->scheduleScenario(m_chatGen, newest);
-        }
+    if (canvas->awaitingAnswer()) {
+        resumeTurn();
         return;
     }
-    if (canvas->awaitingAnswer())
-        return; // asked before the page was here
     m_liveWaiting = false;
+    const auto answer = newestAnswer();
+    const bool missedNothing = answer && answerBefore && answer->text == answerBefore->text &&
+                               answer->serverID == answerBefore->serverID;
+    if (reconnected && missedNothing)
+        return; // what the person looks at stays
     canvas->setIdle();
     using canvas::ConversationLine;
     QList<ConversationLine> lines;
@@ -211,6 +129,34 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
              message.text, message.view});
     canvas->applyRestoredCanvas(
         canvas::CanvasEngine::latestDrawable(lines, m_store.net().baseUrl()));
+}
+
+/// The question is still open. Rows above it are older than it; an answer below it that came while
+/// the line was down goes its way.
+void ChatRoom::resumeTurn() {
+    CanvasRoom *canvas = m_store.canvas();
+    QSet<qint64> older;
+    for (const Msg &message : m_msgs.messages().first(std::max(m_msgs.rowOf(m_turn), 0LL))) {
+        if (message.serverID)
+            older.insert(*message.serverID);
+    }
+    canvas->addKnown(older);
+    const auto answer = newestAnswer();
+    if (!answer || canvas->isKnown(*answer->serverID))
+        return;
+    m_liveWaiting = false;
+    m_msgs.setGrowing(answer->id);
+    canvas->scheduleScenario(m_chatGen, *answer);
+}
+
+std::optional<Msg> ChatRoom::newestAnswer() const {
+    const QList<Msg> &messages = m_msgs.messages();
+    const auto found = std::find_if(messages.crbegin(), messages.crend(), [](const Msg &message) {
+        return message.who == Who::Agent && message.serverID;
+    });
+    if (found == messages.crend())
+        return std::nullopt;
+    return *found;
 }
 
 void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {

@@ -29,6 +29,12 @@ QString liveSendNote(const std::exception &error) {
     return net::errorText(error);
 }
 
+void appendLine(QString &text, const QString &line) {
+    if (!text.isEmpty() && !line.isEmpty())
+        text += u'\n';
+    text += line;
+}
+
 bool isUnauthorized(const std::exception &error) {
     const auto *api = dynamic_cast<const net::APIError *>(&error);
     return api && api->kind() == net::APIError::Kind::Unauthorized;
@@ -63,7 +69,9 @@ void ChatRoom::send(const QString &text) {
         m_store.session()->openAuthSheet(AuthSheetMode::Login);
         return;
     case AuthPhase::SignedIn:
-        sendLive(trimmed);
+        // Until it is clear who is asked, the text stays where it was typed.
+        if (!m_store.session()->isEntering() || m_store.scope()->chatTarget())
+            sendLive(trimmed);
     }
 }
 
@@ -73,15 +81,17 @@ void ChatRoom::sendLive(const QString &text) {
         m_msgs.append(localMsg(Who::You, text));
         m_msgs.append(localMsg(Who::Agent, u"This one exists only in the prototype so far — pick a "
                                            "real project or agent to chat."_s));
-        m_draft = QString();
         return;
     }
     Msg message = localMsg(Who::You, text);
     message.pendingID = QUuid::createUuid().toString(QUuid::WithoutBraces);
     message.at = m_store.clock().now();
+    message.follows = newestRow();
     const Post sent{*target, message.id, message.pendingID, text};
     m_msgs.append(std::move(message));
-    m_draft = QString();
+    // A question asked from the canvas leaves what is being typed alone.
+    if (m_draft.value().trimmed() == text)
+        m_draft = QString();
     startTurn(sent);
     m_posts.start([this, sent](Cancel cancel) { return post(sent, std::move(cancel)); });
 }
@@ -152,18 +162,21 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
             [&](const Msg &message) { return message.id == post.message; });
         return;
     }
+    Msg confirmed = m_msgs.messages().at(row);
+    if (confirmed.serverID)
+        return; // the stream was faster
     const qsizetype shown = m_msgs.rowOfServerID(id);
-    if (shown == row)
-        return;
     if (shown >= 0) {
         // The stream was faster and its text differs from what was typed: one row is enough.
+        if (m_turn == post.message)
+            m_turn = m_msgs.messages().at(shown).id;
         m_msgs.remove(row);
         return;
     }
-    Msg confirmed = m_msgs.messages().at(row);
     confirmed.serverID = id;
     confirmed.pendingID.clear();
     confirmed.failed = false;
+    m_live.insert(id, confirmed);
     m_msgs.update(row, std::move(confirmed));
 }
 
@@ -213,14 +226,22 @@ void ChatRoom::stopLive() {
         return;
     endWaiting();
     m_store.canvas()->abandonTurn();
-    m_posts.start([client = &m_store.net(), id = target->id()](Cancel cancel) {
-        return net::KivAPI::stopAgentChat(client, id, std::move(cancel));
-    });
+    m_posts.start(
+        [this, id = target->id()](Cancel cancel) { return stopAnswer(id, std::move(cancel)); });
+}
+
+QCoro::Task<void> ChatRoom::stopAnswer(QString agentID, Cancel cancel) {
+    try {
+        co_await net::KivAPI::stopAgentChat(&m_store.net(), agentID, std::move(cancel));
+    } catch (const std::exception &) {
+        // For the person the answer has stopped; the rest of it is shown and not drawn.
+    }
 }
 
 void ChatRoom::newChat() {
     m_chatNote = QString();
-    m_store.canvas()->setIdle();
+    setUnsentAside();
+    m_store.canvas()->clearCanvas();
     m_store.layout()->closeAccount();
     m_store.layout()->closeHistory();
     m_store.layout()->closeDock();
@@ -245,23 +266,37 @@ Msg ChatRoom::liveGreeting() const {
     return localMsg(Who::Agent, u"KIV here. I see all projects and every agent under them."_s);
 }
 
+std::optional<qint64> ChatRoom::newestRow() const {
+    const QList<Msg> &messages = m_msgs.messages();
+    const auto found = std::find_if(messages.crbegin(), messages.crend(), [](const Msg &message) {
+        return message.serverID.has_value();
+    });
+    if (found != messages.crend())
+        return found->serverID;
+    return m_rowsKnown ? std::optional<qint64>(0) : std::nullopt;
+}
+
+/// Keeps what would be lost with the session: messages of every chat that are not stored, and what
+/// is being typed.
 void ChatRoom::keepTypedText() {
-    QStringList texts;
-    for (const Msg &message : m_msgs.messages()) {
-        if (message.isUnsent())
-            texts.append(message.text);
+    setUnsentAside();
+    QList<Msg> unsent;
+    for (const QList<Msg> &ofOneChat : std::as_const(m_unsent)) {
+        for (const Msg &message : ofOneChat)
+            unsent.insert(std::ranges::upper_bound(unsent, message.at, {}, &Msg::at), message);
     }
+    QStringList texts;
+    for (const Msg &message : unsent)
+        texts.append(message.text);
     if (!m_draft.value().isEmpty())
         texts.append(m_draft);
-    m_returned = Returned{m_store.scope()->userEmail(), texts.join(u'\n')};
+    appendLine(m_returned[m_store.scope()->userEmail()], texts.join(u'\n'));
 }
 
 void ChatRoom::returnTypedText() {
-    if (!m_returned || m_returned->email != m_store.scope()->userEmail())
-        return;
-    if (m_draft.value().isEmpty())
-        m_draft = m_returned->text;
-    m_returned.reset();
+    QString text = m_returned.take(m_store.scope()->userEmail());
+    appendLine(text, m_draft);
+    m_draft = text;
 }
 
 } // namespace kiv::store

@@ -42,6 +42,8 @@ public:
     QString chatNote() const { return m_chatNote; }
     QString lastPrompt() const { return m_lastPrompt; }
     int chatGen() const { return m_chatGen; }
+    /// The chat that is connected; nothing before the first and after sign-out.
+    const std::optional<net::ChatTarget> &connected() const { return m_connected; }
 
     Q_INVOKABLE void send(const QString &text);
     Q_INVOKABLE void stopLive();
@@ -76,10 +78,6 @@ private:
         QString requestID;
         QString text;
     };
-    struct Returned {
-        QString email;
-        QString text;
-    };
 
     void sendLive(const QString &text);
     void startTurn(const Post &post);
@@ -89,9 +87,13 @@ private:
     QCoro::Task<void> watchAnswer(Cancel cancel);
     QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, bool reconnected, Cancel cancel);
     void showHistory(const QList<net::ChatRow> &rows, bool reconnected);
+    void resumeTurn();
+    QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     void endWaiting();
-    void keepUnsent();
+    void setUnsentAside();
     void keepTypedText();
+    std::optional<Msg> newestAnswer() const;
+    std::optional<qint64> newestRow() const;
     Msg liveGreeting() const;
 
     AppStore &m_store;
@@ -102,10 +104,12 @@ private:
     std::optional<net::ChatTarget> m_connected;
     /// Messages of other scopes that the server has not stored, by the path of their chat.
     QHash<QString, QList<Msg>> m_unsent;
-    /// Rows that the stream brought since the connection began: newer than a history page under
-    /// way.
+    /// Rows that came since the last history page was asked for; the page may not hold them.
     QHash<qint64, Msg> m_live;
-    std::optional<Returned> m_returned;
+    /// The rows of the connected chat have been loaded.
+    bool m_rowsKnown = false;
+    /// What an expired session kept from being sent, by the e-mail address of who typed it.
+    QHash<QString, QString> m_returned;
 
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_draft, &ChatRoom::draftChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_seenMsgs, &ChatRoom::seenMsgsChanged)

@@ -15,6 +15,10 @@ void EventsRoom::loadEvents() {
     const auto project = m_store.scope()->currentProject();
     if (m_store.isSnapshot() || !project)
         return;
+    if (project->id != m_project) {
+        clear();
+        m_project = project->id;
+    }
     m_load.restart([this, id = project->id](Cancel cancel) { return load(id, std::move(cancel)); });
 }
 
@@ -33,6 +37,7 @@ QCoro::Task<void> EventsRoom::load(QString project, Cancel cancel) {
 void EventsRoom::clear() {
     m_load.cancel();
     m_eventsLoading = false;
+    m_project = QString();
     m_events.clear();
     Q_EMIT eventsChanged();
 }

@@ -33,6 +33,7 @@ private:
     QCoro::Task<void> load(QString project, Cancel cancel);
 
     AppStore &m_store;
+    QString m_project; ///< whose events these are
     QList<net::KivAPI::ProjectEvent> m_events;
     Q_OBJECT_BINDABLE_PROPERTY(EventsRoom, bool, m_eventsLoading, &EventsRoom::eventsLoadingChanged)
     Work m_load;

@@ -1,5 +1,7 @@
 #include "store/HistoryModel.h"
 
+#include <algorithm>
+
 namespace kiv::store {
 
 void HistoryModel::record(HistoryEntry entry) {
@@ -14,13 +16,15 @@ void HistoryModel::record(HistoryEntry entry) {
     Q_EMIT countChanged();
 }
 
-void HistoryModel::amendNewest(HistoryEntry entry) {
-    if (m_entries.isEmpty()) {
-        record(std::move(entry));
-        return;
-    }
-    m_entries.first() = std::move(entry);
-    Q_EMIT dataChanged(index(0), index(0));
+bool HistoryModel::amend(const QUuid &id, HistoryEntry entry) {
+    const auto found = std::ranges::find(m_entries, id, &HistoryEntry::id);
+    if (found == m_entries.end())
+        return false;
+    entry.id = id;
+    *found = std::move(entry);
+    const QModelIndex changed = index(static_cast<int>(found - m_entries.begin()));
+    Q_EMIT dataChanged(changed, changed);
+    return true;
 }
 
 void HistoryModel::clear() {

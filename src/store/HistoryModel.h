@@ -36,8 +36,8 @@ public:
     int count() const { return static_cast<int>(m_entries.size()); }
     const HistoryEntry &at(int row) const { return m_entries.at(row); }
     void record(HistoryEntry entry);
-    /// Puts a later state of the newest canvas in its place.
-    void amendNewest(HistoryEntry entry);
+    /// Puts a later state of a canvas in its place; false when it is no longer kept.
+    bool amend(const QUuid &id, HistoryEntry entry);
     void clear();
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -8,6 +8,14 @@ namespace kiv::store {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isSame(const Msg &a, const Msg &b) {
+    return a.id == b.id || (a.serverID && a.serverID == b.serverID);
+}
+
+} // namespace
+
 void MessageModel::append(Msg message) {
     const int row = count();
     beginInsertRows({}, row, row);
@@ -17,24 +25,50 @@ void MessageModel::append(Msg message) {
 }
 
 void MessageModel::replaceAll(QList<Msg> messages) {
-    // A reload usually brings back what is shown: only the rows from the first new one on change.
-    qsizetype same = 0;
-    while (same < m_messages.size() && same < messages.size() && m_messages.at(same).serverID &&
-           m_messages.at(same).serverID == messages.at(same).serverID)
-        ++same;
-    for (qsizetype row = 0; row < same; ++row)
-        update(row, messages.at(row));
-    if (same < m_messages.size()) {
-        beginRemoveRows({}, static_cast<int>(same), count() - 1);
-        m_messages.resize(same);
-        endRemoveRows();
+    const auto comesBack = [&](const Msg &shown) {
+        return std::ranges::any_of(messages,
+                                   [&](const Msg &message) { return isSame(shown, message); });
+    };
+    for (qsizetype end = m_messages.size(); end > 0;) {
+        qsizetype first = end;
+        while (first > 0 && !comesBack(m_messages.at(first - 1)))
+            --first;
+        removeRange(first, end);
+        end = first - 1;
     }
-    if (same < messages.size()) {
-        beginInsertRows({}, static_cast<int>(same), static_cast<int>(messages.size()) - 1);
-        m_messages.append(messages.sliced(same));
-        endInsertRows();
+    for (qsizetype row = 0; row < messages.size();) {
+        const auto isShownHere = [&](const Msg &message) {
+            return row < m_messages.size() && isSame(m_messages.at(row), message);
+        };
+        if (isShownHere(messages.at(row))) {
+            update(row, messages.at(row));
+            ++row;
+            continue;
+        }
+        const auto begin = messages.cbegin() + row;
+        const auto end = std::find_if(begin, messages.cend(), isShownHere);
+        insertRange(row, QList<Msg>(begin, end));
+        row += end - begin;
     }
+    // Rows that stood in another order.
+    removeRange(messages.size(), m_messages.size());
     Q_EMIT countChanged();
+}
+
+void MessageModel::insertRange(qsizetype row, const QList<Msg> &messages) {
+    beginInsertRows({}, static_cast<int>(row), static_cast<int>(row + messages.size()) - 1);
+    QList<Msg> below = m_messages.sliced(row);
+    m_messages.resize(row);
+    m_messages += messages + below;
+    endInsertRows();
+}
+
+void MessageModel::removeRange(qsizetype first, qsizetype end) {
+    if (first >= end)
+        return;
+    beginRemoveRows({}, static_cast<int>(first), static_cast<int>(end) - 1);
+    m_messages.remove(first, end - first);
+    endRemoveRows();
 }
 
 void MessageModel::update(qsizetype row, Msg message) {
@@ -48,9 +82,7 @@ void MessageModel::update(qsizetype row, Msg message) {
 }
 
 void MessageModel::remove(qsizetype row) {
-    beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
-    m_messages.removeAt(row);
-    endRemoveRows();
+    removeRange(row, row + 1);
     Q_EMIT countChanged();
 }
 

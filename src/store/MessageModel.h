@@ -37,7 +37,8 @@ public:
     int count() const { return static_cast<int>(m_messages.size()); }
 
     void append(Msg message);
-    /// Exchanges the whole list, touching only the rows that differ by identity.
+    /// Exchanges the whole list. A message that comes back, by its server id or its own, keeps its
+    /// row and identity.
     void replaceAll(QList<Msg> messages);
     /// Changes a row in place. The message keeps its identity.
     void update(qsizetype row, Msg message);
@@ -61,6 +62,8 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    void insertRange(qsizetype row, const QList<Msg> &messages);
+    void removeRange(qsizetype first, qsizetype end);
     void touch(const QUuid &id, Role role);
 
     QList<Msg> m_messages;

@@ -33,6 +33,9 @@ struct Msg {
     /// The request id of a message sent from here that the server has not confirmed.
     QString pendingID;
     bool failed = false;
+    /// The stored row above a message of ours when it was sent, 0 for none. Nothing when the rows
+    /// of the chat were not here yet.
+    std::optional<qint64> follows;
     QList<MsgFile> files;
     std::optional<JVal> view;
     QString memberLabel;

@@ -25,10 +25,9 @@ Agent agentAt(qsizetype position, const QString &id, const std::optional<QString
     return {id, name.value_or(u"Agent"_s), role.value_or(u"agent"_s), railColor(position)};
 }
 
-/// The agents of a roster that show, each once, in the roster's order.
-QList<Agent> visibleMembers(const QList<net::ProjectMember> &roster) {
+/// The agents of a roster that show and are not in `seen`, in the roster's order; adds them to it.
+QList<Agent> visibleMembers(const QList<net::ProjectMember> &roster, QSet<QString> &seen) {
     QList<Agent> agents;
-    QSet<QString> seen;
     for (const net::ProjectMember &member : roster) {
         if (member.memberKind == u"team"_s || !member.agent)
             continue;
@@ -207,11 +206,9 @@ QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
         Project project;
         project.id = summary.slug;
         project.name = summary.label.value_or(summary.name.value_or(summary.slug));
-        project.agents = visibleMembers(roster);
+        project.agents = visibleMembers(roster, placed);
         project.meta = QString::number(project.agents.size()) + u" agents · active"_s;
         project.colorHex = railColor(static_cast<qsizetype>(position));
-        for (const Agent &agent : project.agents)
-            placed.insert(agent.id);
         projects.append(project);
     }
 

@@ -1,5 +1,6 @@
 #include "store/SessionRoom.h"
 
+#include "base/Text.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 
@@ -16,7 +17,7 @@ constexpr qsizetype leastPassword = 8;
 SessionRoom::SessionRoom(AppStore &store) : m_store(store) {}
 
 void SessionRoom::boot() {
-    m_auth.restart([this](Cancel cancel) { return checkSession(std::move(cancel)); });
+    m_check.restart([this](Cancel cancel) { return checkSession(std::move(cancel)); });
 }
 
 QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
@@ -33,6 +34,8 @@ QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
 }
 
 void SessionRoom::enterLive(const net::MeUser &user) {
+    m_check.cancel();
+    m_entering = true;
     m_store.scope()->adopt(user);
     m_live.restart([this](Cancel cancel) { return bootLive(std::move(cancel)); });
 }
@@ -52,16 +55,18 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
         cancel.throwIfRequested();
     }
     scope->restoreScope();
-    if (scope->auth() == AuthPhase::SignedIn) {
+    m_entering = false;
+    // The person may have entered a project meanwhile, and asked there.
+    const auto target = scope->chatTarget();
+    if (!target || target != m_store.chat()->connected())
         m_store.chat()->connectChat();
-        m_store.chat()->returnTypedText();
-    }
+    m_store.chat()->returnTypedText();
     co_await scope->refreshUserAvatarIfNeeded(cancel);
 }
 
 void SessionRoom::submitAuth(const QString &email, const QString &password, bool signup) {
     const QString address = email.trimmed();
-    if (address.isEmpty() || password.size() < leastPassword) {
+    if (address.isEmpty() || characterCount(password) < leastPassword) {
         m_authError = u"Enter a valid email and a password of at least 8 characters."_s;
         return;
     }
@@ -134,6 +139,7 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
 
 void SessionRoom::resetToAnon() {
     m_live.cancel();
+    m_entering = false;
     m_store.chat()->disconnectChat();
     m_store.scope()->clear();
     m_store.events()->clear();

@@ -38,6 +38,8 @@ public:
     /// A sign-in is under way.
     bool busy() const { return m_busy; }
     bool sampleOffered() const { return m_sampleOffered; }
+    /// Somebody is signed in, and what there is to talk to is still being loaded.
+    bool isEntering() const { return m_entering; }
 
     Q_INVOKABLE void submitAuth(const QString &email, const QString &password, bool signup);
     Q_INVOKABLE void trySample();
@@ -73,6 +75,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_busy, &SessionRoom::busyChanged)
     Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_sampleOffered,
                                &SessionRoom::sampleOfferedChanged)
+    bool m_entering = false;
+    Work m_check;
     Work m_auth;
     Work m_live;
 };

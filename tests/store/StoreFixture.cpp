@@ -2,10 +2,12 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTimer>
 
 namespace kiv::test {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 QByteArray rowJson(qint64 id, const QString &role, const QString &text) {
     return QJsonDocument(QJsonObject{{u"id"_s, id},
@@ -13,6 +15,20 @@ QByteArray rowJson(qint64 id, const QString &role, const QString &text) {
                                      {u"content"_s, text},
                                      {u"created_at"_s, u"2026-03-02T09:42:00.5Z"_s}})
         .toJson(QJsonDocument::Compact);
+}
+
+bool soon(const std::function<bool()> &condition) {
+    QTimer patience;
+    patience.setSingleShot(true);
+    patience.start(5s);
+    QEventLoop loop;
+    while (!condition()) {
+        if (!patience.isActive())
+            return false;
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
 }
 
 StoreFixture::StoreFixture() {
@@ -60,7 +76,7 @@ void StoreFixture::restart(store::AppStore::Mode mode) {
 
 bool StoreFixture::signIn() {
     store->boot();
-    return QTest::qWaitFor([this] {
+    return soon([this] {
         const auto target = store->scope()->chatTarget();
         return target && backend.isStreaming(target->streamPath()) &&
                !store->chat()->historyLoading() && store->chat()->msgs()->count() > 0;
@@ -70,7 +86,38 @@ bool StoreFixture::signIn() {
 bool StoreFixture::bootSignedOut() {
     backend.answer(u"GET api/v2/auth/me"_s, R"({"error":"Not signed in"})", 401);
     store->boot();
-    return QTest::qWaitFor([this] { return store->scope()->auth() == store::AuthPhase::Anon; });
+    return soon([this] { return store->scope()->auth() == store::AuthPhase::Anon; });
+}
+
+bool StoreFixture::streaming(const QString &chat, int connections) {
+    const QString path = chat + u"/stream"_s;
+    return soon([&] {
+        return backend.count(u"GET "_s + path) == connections && backend.isStreaming(path) &&
+               !store->chat()->historyLoading();
+    });
+}
+
+bool StoreFixture::reconnect(const QString &chat) {
+    const QString path = chat + u"/stream"_s;
+    int connections = 0;
+    auto droppedAt = clock.elapsed();
+    const auto drop = [&] {
+        connections = backend.count(u"GET "_s + path);
+        droppedAt = clock.elapsed();
+        backend.dropStream(path);
+    };
+    drop();
+    return QTest::qWaitFor([&] {
+               // Asked again without a pause: the network layer had not seen the answer before the
+               // end.
+               if (backend.isStreaming(path) && clock.elapsed() - droppedAt < 1s)
+                   drop();
+               const bool isBack = backend.count(u"GET "_s + path) > connections;
+               if (!isBack)
+                   clock.advance(50ms);
+               return isBack;
+           }) &&
+           streaming(chat, connections + 1);
 }
 
 void StoreFixture::row(qint64 id, const QString &text, const QString &role) {

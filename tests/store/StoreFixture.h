@@ -10,9 +10,21 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
+/// As QTRY_COMPARE and QTRY_VERIFY, but looking after every event instead of every 50 ms.
+#define SOON_COMPARE(actual, expected)                                                             \
+    do {                                                                                           \
+        kiv::test::soon([&] { return (actual) == (expected); });                                   \
+        QCOMPARE(actual, expected);                                                                \
+    } while (false)
+#define SOON_VERIFY(condition) QVERIFY(kiv::test::soon([&] { return bool(condition); }))
+
 namespace kiv::test {
+
+/// Runs the event loop until the condition holds; false when it does not within five seconds.
+bool soon(const std::function<bool()> &condition);
 
 /// A store over a scripted backend, a clock that stands still and settings of its own. The backend
 /// knows ada@example.org, two projects ("ferry" with the agents scout and loom, "lantern" with
@@ -28,6 +40,11 @@ public:
     /// Makes the session check find nobody and boots.
     bool bootSignedOut();
 
+    /// Waits until a chat is streamed for the n-th time and its history is here.
+    bool streaming(const QString &chat, int connections);
+    /// Drops the stream of a chat and lets time pass until it is back.
+    bool reconnect(const QString &chat);
+
     /// The stream of the current chat sends this row: an answer, or what `role` says.
     void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
     /// Answers a history request of the chat at `chat` with these rows.
@@ -35,6 +52,9 @@ public:
 
     store::MessageModel &msgs() { return *store->chat()->msgs(); }
     QStringList texts() { return textsOf(msgs()); }
+    store::Delivery deliveryOf(int row) {
+        return msgs().index(row).data(store::MessageModel::DeliveryRole).value<store::Delivery>();
+    }
     static QStringList textsOf(const store::MessageModel &model);
 
     ScriptedBackend backend;

@@ -39,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(canvas->skeletonShape(), SkeletonShape::Rows);
         for (int piece = 1; piece <= 10; ++piece) {
             f.row(9, u"word "_s.repeated(piece));
-            QTRY_COMPARE(f.msgs().messages().last().text.size(), 5 * piece);
+            SOON_COMPARE(f.msgs().messages().last().text.size(), 5 * piece);
             f.clock.advance(300ms);
             QCOMPARE(canvas->phase(), Phase::Thinking);
         }
@@ -49,7 +49,7 @@ private Q_SLOTS:
         QCOMPARE(canvas->phase(), Phase::Idle);
         QCOMPARE(canvas->state(), CanvasState::Hint);
         QCOMPARE(canvas->canvasHint(), hint);
-        QTRY_COMPARE(usage(f), QStringList{u"canvas_no_data"_s});
+        SOON_COMPARE(usage(f), QStringList{u"canvas_no_data"_s});
     }
 
     void drawnEarlyAndOnce() {
@@ -58,11 +58,11 @@ private Q_SLOTS:
         CanvasRoom *canvas = f.store->canvas();
         QCOMPARE(canvas->skeletonShape(), SkeletonShape::Cards);
         f.row(9, u"Here it is:\n"_s + reportBlock.chopped(4));
-        QTRY_COMPARE(f.msgs().messages().last().shown, u"Here it is:"_s);
+        SOON_COMPARE(f.msgs().messages().last().shown, u"Here it is:"_s);
         QCOMPARE(canvas->phase(), Phase::Thinking);
 
         f.row(9, u"Here it is:\n"_s + reportBlock);
-        QTRY_COMPARE(canvas->phase(), Phase::Building);
+        SOON_COMPARE(canvas->phase(), Phase::Building);
         QCOMPARE(canvas->state(), CanvasState::BuildingScene);
         QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
         const int vis = canvas->vis();
@@ -73,14 +73,14 @@ private Q_SLOTS:
 
         // Prose goes on, the canvas stands.
         f.row(9, u"Here it is:\n"_s + reportBlock + u"\nThat was the week."_s);
-        QTRY_VERIFY(f.msgs().messages().last().text.endsWith(u"week."_s));
+        SOON_VERIFY(f.msgs().messages().last().text.endsWith(u"week."_s));
         QSignalSpy drawn(canvas, &CanvasRoom::artSceneChanged);
         f.clock.advance(5s);
         QCOMPARE(drawn.count(), 0);
         QCOMPARE(canvas->vis(), vis + 1);
         QVERIFY(!canvas->awaitingAnswer());
         QCOMPARE(canvas->history()->count(), 1);
-        QTRY_COMPARE(usage(f), QStringList{u"canvas_scenario"_s});
+        SOON_COMPARE(usage(f), QStringList{u"canvas_scenario"_s});
         const auto context = f.backend.requests(u"POST api/v2/rum"_s).first().body.value(u"ctx"_s);
         QCOMPARE(context.toObject().value(u"intent"_s).toString(), u"report"_s);
         QVERIFY(f.msgs().index(f.msgs().count() - 1).data(MessageModel::OnCanvasRole).toBool());
@@ -91,7 +91,7 @@ private Q_SLOTS:
         f.history(kivChat, "[" + rowJson(5, u"assistant"_s, u"old"_s) + "]");
         QVERIFY(ask(f, u"Weekly report"_s));
         f.row(5, u"old, "_s + reportBlock);
-        QTRY_VERIFY(f.msgs().messages().first().text.startsWith(u"old,"_s));
+        SOON_VERIFY(f.msgs().messages().first().text.startsWith(u"old,"_s));
         f.clock.advance(10s);
         QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
     }
@@ -102,7 +102,7 @@ private Q_SLOTS:
         f.backend.sendRow(kivChat + u"/stream"_s,
                           R"({"id":9,"role":"assistant","content":"See the canvas.","metadata":)"
                           R"({"view":{"kind":"kpi","items":[{"label":"Tasks","value":4}]}}})");
-        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
         QCOMPARE(f.store->canvas()->art(), u"report"_s);
         QCOMPARE(f.msgs().messages().last().shown, u"See the canvas."_s);
     }
@@ -111,7 +111,7 @@ private Q_SLOTS:
         StoreFixture f;
         QVERIFY(ask(f, u"Weekly report"_s));
         f.row(9, reportBlock);
-        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
         f.clock.advance(2s);
         f.store->chat()->send(u"And now?"_s);
         QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
         // The same figures again are an answer too.
         f.row(11, reportBlock);
-        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
         QCOMPARE(f.store->canvas()->history()->count(), 2);
     }
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
         StoreFixture f;
         QVERIFY(ask(f, u"Weekly report"_s));
         f.row(9, reportBlock);
-        QTRY_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
         f.store->scope()->enterProject(u"ferry"_s);
         QVERIFY(f.store->canvas()->state() != CanvasState::BuildingScene);
         f.clock.advance(10s);
@@ -160,11 +160,11 @@ private Q_SLOTS:
         StoreFixture f;
         QVERIFY(ask(f, u"Where do I see it?"_s));
         f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
-        QTRY_COMPARE(f.msgs().count(), 3);
+        SOON_COMPARE(f.msgs().count(), 3);
         f.clock.advance(1200ms);
         QCOMPARE(f.store->canvas()->history()->count(), 1);
         QCOMPARE(f.store->canvas()->history()->at(0).title, u"Project Work"_s);
-        QTRY_COMPARE(usage(f), QStringList{u"canvas_open"_s});
+        SOON_COMPARE(usage(f), QStringList{u"canvas_open"_s});
     }
 
     void historyKeepsTwenty() {
@@ -174,7 +174,7 @@ private Q_SLOTS:
         for (int turn = 1; turn <= 22; ++turn) {
             f.store->chat()->send(u"Question %1"_s.arg(turn));
             f.row(100 + turn, QString(reportBlock).replace(u"Week 47"_s, u"Week %1"_s.arg(turn)));
-            QTRY_COMPARE(canvas->phase(), Phase::Building);
+            SOON_COMPARE(canvas->phase(), Phase::Building);
             f.clock.advance(2s);
         }
         QCOMPARE(canvas->history()->count(), HistoryModel::limit);
@@ -208,6 +208,38 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
         QCOMPARE(f.store->canvas()->query(), u"Weekly report"_s);
         QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
+
+        // A stream that comes back without news leaves it there.
+        QVERIFY(f.reconnect(kivChat));
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
+        QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
+    }
+
+    void reopenedInTheMiddleOfATurn() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.row(9, reportBlock);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        f.clock.advance(2s);
+        CanvasRoom *canvas = f.store->canvas();
+        f.store->chat()->send(u"And now?"_s);
+        canvas->openHistory(0);
+        QCOMPARE(canvas->query(), u"Weekly report"_s);
+
+        // The answer belongs to its own question …
+        f.row(11, QString(reportBlock).replace(u"47"_s, u"48"_s));
+        SOON_COMPARE(canvas->canvasTitle(), u"Week 48"_s);
+        QCOMPARE(canvas->query(), u"And now?"_s);
+        QCOMPARE(canvas->history()->at(0).query, u"And now?"_s);
+
+        // … and once it is drawn, settling does not take the canvas back.
+        canvas->openHistory(2);
+        const int entries = canvas->history()->count();
+        f.clock.advance(5s);
+        QVERIFY(!canvas->awaitingAnswer());
+        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
+        QCOMPARE(canvas->history()->count(), entries);
+        QCOMPARE(canvas->history()->at(0).title, u"Week 47"_s);
     }
 
 private:
@@ -218,7 +250,7 @@ private:
         const QString post = u"POST "_s + kivChat;
         f.backend.answer(post, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
         f.store->chat()->send(question);
-        return QTest::qWaitFor([&] { return f.msgs().rowOfServerID(7) >= 0; });
+        return test::soon([&] { return f.msgs().rowOfServerID(7) >= 0; });
     }
 };
 

@@ -36,8 +36,15 @@ private Q_SLOTS:
         QVERIFY(feed.hasOlder());
         QCOMPARE(feed.index(0, 0).data(MessageModel::BodyRole).toString(), u"3"_s);
 
-        // A reload that brings the same rows keeps their identity.
+        // A reload that brings the same rows keeps them, whatever changes around them.
         const QUuid second = model.messages().at(1).id;
+        const QPersistentModelIndex fifth = model.index(4);
+        model.replaceAll({stored(9, u"9"_s), stored(2, u"2"_s), stored(3, u"3"_s),
+                          stored(8, u"8"_s), stored(7, u"7"_s), stored(5, u"5"_s)});
+        QCOMPARE(fifth.row(), 5);
+        model.replaceAll({stored(5, u"5"_s), stored(2, u"2"_s), stored(1, u"1"_s)});
+        QCOMPARE(model.count(), 3);
+        QCOMPARE(model.messages().at(0).text, u"5"_s);
         model.replaceAll({stored(1, u"1"_s), stored(2, u"2, longer"_s), stored(6, u"6"_s)});
         QCOMPARE(model.count(), 3);
         QCOMPARE(model.messages().at(1).id, second);
@@ -59,9 +66,10 @@ private Q_SLOTS:
             model.record({.query = QString::number(drawn)});
         QCOMPARE(model.count(), HistoryModel::limit);
         QCOMPARE(model.at(0).query, u"24"_s);
-        model.amendNewest({.query = u"amended"_s});
+        QVERIFY(model.amend(model.at(3).id, {.query = u"amended"_s}));
         QCOMPARE(model.count(), HistoryModel::limit);
-        QCOMPARE(model.index(0).data(HistoryModel::QueryRole).toString(), u"amended"_s);
+        QCOMPARE(model.index(3).data(HistoryModel::QueryRole).toString(), u"amended"_s);
+        QVERIFY(!model.amend(QUuid(), {}));
         model.clear();
         QCOMPARE(model.count(), 0);
     }

@@ -20,6 +20,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("email");
         QTest::addColumn<QString>("password");
         QTest::newRow("short password") << u"ada@example.org"_s << u"1234567"_s;
+        QTest::newRow("four characters of two units each") << u"ada@example.org"_s << u"🔑🔑🔑🔑"_s;
         QTest::newRow("blank address") << u" \n\t"_s << u"12345678"_s;
     }
     void refusedBeforeAsking() {
@@ -51,19 +52,38 @@ private Q_SLOTS:
         f.backend.answer(route, R"({"error":"That password is not right."})", 401);
         session->submitAuth(u"  ada@example.org "_s, u"12345678"_s, signup);
         QVERIFY(session->busy());
-        QTRY_COMPARE(session->authError(), u"That password is not right."_s);
+        SOON_COMPARE(session->authError(), u"That password is not right."_s);
         QVERIFY(!session->busy());
         QCOMPARE(session->authSheet(), AuthSheetMode::Login);
 
         f.backend.answer(route, R"({"user":{"email":"ada@example.org","name":"Ada"}})");
         session->submitAuth(u"ada@example.org"_s, u"12345678"_s, signup);
-        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
         QCOMPARE(session->authSheet(), AuthSheetMode::Closed);
         QCOMPARE(session->authError(), QString());
         const QJsonObject body = f.backend.requests(route).last().body;
         QCOMPARE(body.value(u"email"_s).toString(), u"ada@example.org"_s);
         QCOMPARE(body.contains(u"time_zone"_s), signup);
-        QTRY_COMPARE(f.store->scope()->projects().size(), 2);
+        SOON_COMPARE(f.store->scope()->projects().size(), 2);
+    }
+
+    void signingInWhileTheCheckRuns() {
+        StoreFixture f;
+        const QString check = u"GET api/v2/auth/me"_s;
+        f.backend.answer(check, R"({"error":"Not signed in"})", 401);
+        f.backend.hold(check);
+        f.store->boot();
+        // Nobody is called signed out before the check says so.
+        QVERIFY(f.store->canvas()->state() != CanvasState::SignedOut);
+        SessionRoom *session = f.store->session();
+        session->openAuthSheet(AuthSheetMode::Login);
+        f.backend.answer(u"POST api/v2/auth/login"_s, R"({"error":"No."})", 401);
+        session->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
+        SOON_COMPARE(session->authError(), u"No."_s);
+        session->closeAuthSheet();
+        f.backend.release(check);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+        QCOMPARE(f.store->canvas()->state(), CanvasState::SignedOut);
     }
 
     void unreadableReply() {
@@ -71,7 +91,7 @@ private Q_SLOTS:
         QVERIFY(f.bootSignedOut());
         f.backend.answer(u"POST api/v2/auth/login"_s, "<html>");
         f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
-        QTRY_VERIFY(!f.store->session()->authError().isEmpty());
+        SOON_VERIFY(!f.store->session()->authError().isEmpty());
         QCOMPARE(f.store->scope()->auth(), AuthPhase::Anon);
     }
 
@@ -104,9 +124,12 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
         f.store->chat()->setDraft(u"half a thought"_s);
         const int gen = f.store->chat()->chatGen();
+        f.backend.hold(u"GET "_s + test::kivChat);
+        f.store->scope()->pickGlobal();
         f.store->session()->logout();
-        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
         QCOMPARE(f.texts(), QStringList{signedOut});
+        QVERIFY(!f.store->chat()->historyLoading());
         QVERIFY(f.store->scope()->projects().isEmpty());
         QVERIFY(f.store->scope()->userEmail().isEmpty());
         QVERIFY(f.store->scope()->kivID().isEmpty());
@@ -127,7 +150,7 @@ private Q_SLOTS:
         f.store->session()->offerSample({u"sample@example.org"_s, u"long enough"_s});
         f.backend.answer(u"POST api/v2/auth/login"_s, R"({"email":"sample@example.org"})");
         f.store->session()->trySample();
-        QTRY_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
         QCOMPARE(f.store->scope()->userName(), u"sample@example.org"_s);
     }
 
@@ -136,7 +159,7 @@ private Q_SLOTS:
         QVERIFY(f.bootSignedOut());
         f.backend.hold(u"POST api/v2/auth/login"_s);
         f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
-        QTRY_COMPARE(f.backend.count(u"POST api/v2/auth/login"_s), 1);
+        SOON_COMPARE(f.backend.count(u"POST api/v2/auth/login"_s), 1);
         f.store.reset();
         f.backend.release(u"POST api/v2/auth/login"_s);
         QTest::qWait(10);
