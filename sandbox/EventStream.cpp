@@ -19,6 +19,14 @@ qsizetype insideCharacter(const QByteArray &event) {
     return lead == event.end() ? -1 : lead - event.begin() + 1;
 }
 
+/// The middle of an event, between two characters.
+qsizetype betweenCharacters(const QByteArray &event) {
+    qsizetype middle = event.size() / 2;
+    while (middle > 0 && (static_cast<uchar>(event.at(middle)) & 0xC0) == 0x80)
+        --middle;
+    return middle;
+}
+
 } // namespace
 
 EventStream::EventStream(ChatHub &hub, const ChatKey &key,
@@ -40,7 +48,7 @@ bool EventStream::write(httplib::DataSink &sink, const QByteArray &bytes) {
 
 bool EventStream::writeEvent(httplib::DataSink &sink, const QByteArray &event) {
     if (due(Fault::HalfEvent)) {
-        write(sink, event.first(event.size() / 2));
+        write(sink, event.first(betweenCharacters(event)));
         return false;
     }
     if (due(Fault::HalfCharacter)) {
