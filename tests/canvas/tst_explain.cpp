@@ -71,6 +71,19 @@ private Q_SLOTS:
                  (QJsonArray{true, false, false, false}));
     }
 
+    void blocks() {
+        const QJsonObject reply = explained(QJsonObject{
+            {u"text"_s, u"## h\np\n- a\n7. b\n- [x] c\n> q\n```\nd\n```\n|e|\n|---|\n|1|\n---"_s}});
+        const QByteArray expected = R"([
+            {"kind":"heading","level":2,"text":"h"}, {"kind":"paragraph","text":"p"},
+            {"kind":"bullets","items":["a"]},
+            {"kind":"ordered","items":[{"number":7,"text":"b"}]},
+            {"kind":"tasks","items":[{"done":true,"text":"c"}]},
+            {"kind":"quote","lines":["q"]}, {"kind":"code","text":"d"},
+            {"kind":"table","header":["e"],"rows":[["1"]]}, {"kind":"rule"}])";
+        QCOMPARE(reply[u"blocks"_s].toArray(), QJsonDocument::fromJson(expected).array());
+    }
+
     void plainProse() {
         const QJsonObject reply = explained(QByteArray(R"({"text":" Hello ","question":null})"));
         QCOMPARE(reply.value(u"text"_s), u"Hello"_s);

@@ -1,5 +1,6 @@
 #include "Explain.h"
 
+#include "BlocksJson.h"
 #include "SceneJson.h"
 #include "SpecJson.h"
 #include "base/Json.h"
@@ -136,7 +137,8 @@ QJsonObject answerJson(const Request &request, const QUrl &baseUrl) {
         {u"art"_s, QJsonValue()},
         {u"scene"_s, QJsonValue()},
         {u"surface"_s, surfaceJson(canvas::SurfaceMatcher::match(request.text, baseUrl))},
-        {u"reply"_s, replyJson(canvas::ReplyOptions::parse(request.text, request.replies))}};
+        {u"reply"_s, replyJson(canvas::ReplyOptions::parse(request.text, request.replies))},
+        {u"blocks"_s, blocksJson(request.text)}};
     if (answer.spec) {
         json.insert(u"spec"_s, specJson(*answer.spec));
         json.insert(u"art"_s, orNull(canvas::CanvasEngine::artForSpec(*answer.spec, intent)));
