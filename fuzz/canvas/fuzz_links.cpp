@@ -1,4 +1,4 @@
-#include "FuzzText.h"
+#include "../FuzzText.h"
 
 #include "canvas/SurfaceMatcher.h"
 

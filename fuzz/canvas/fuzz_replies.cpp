@@ -1,4 +1,4 @@
-#include "FuzzText.h"
+#include "../FuzzText.h"
 
 #include "base/Text.h"
 #include "canvas/ReplyOptions.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <md4c.h>
+#include <vector>
 
 namespace kiv::text::MDParser {
 
@@ -18,30 +19,47 @@ constexpr char16_t lineFeed = u'\v';
 constexpr char16_t guard = u',';
 
 QByteArray asOneLine(const QString &text) {
-    QString line;
-    line.reserve(text.size() + 2);
-    line += guard;
+    QString line(text.size() + 2, Qt::Uninitialized);
+    QChar *out = line.data();
+    *out++ = guard;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        const bool paired =
-            c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate();
         if (c == u'\n')
-            line += QChar(lineFeed);
-        else if (paired)
-            line += QStringView(text).sliced(i++, 2);
-        else if (c.isSurrogate())
-            line += QChar::ReplacementCharacter;
-        else
-            line += c == u'\r' || c == u'\v' ? QChar(u' ') : c;
+            *out++ = QChar(lineFeed);
+        else if (c == u'\r' || c == u'\v')
+            *out++ = u' ';
+        else if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            *out++ = c;
+            *out++ = text[++i];
+        } else
+            *out++ = c.isSurrogate() ? QChar(QChar::ReplacementCharacter) : c;
     }
-    line += guard;
+    *out = guard;
     return line.toUtf8();
 }
 
 /// Whether any character of a text can mean more than itself.
-bool hasMarks(const QString &text) {
-    static constexpr QStringView marks = u"*_`~[]<&\\@:";
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return marks.contains(c); });
+bool hasMarks(QStringView text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        switch (text[i].unicode()) {
+        case u'*':
+        case u'_':
+        case u'`':
+        case u'~':
+        case u'[':
+        case u'<':
+        case u'&':
+        case u'\\':
+            return true;
+        case u':': // of a bare address
+            if (text.sliced(i).startsWith(u"://"_s))
+                return true;
+            break;
+        default:
+            break;
+        }
+    }
+    return false;
 }
 
 QString entity(QStringView name) {
@@ -81,7 +99,7 @@ public:
     }
 
     void enter(MD_SPANTYPE type, const void *detail) {
-        m_outer.append({m_styles, m_link});
+        m_outer.emplace_back(m_styles, m_link);
         switch (type) {
         case MD_SPAN_EM:
             m_styles |= Style::Italic;
@@ -103,13 +121,16 @@ public:
         }
     }
 
-    void leave() { std::tie(m_styles, m_link) = m_outer.takeLast(); }
+    void leave() {
+        std::tie(m_styles, m_link) = std::move(m_outer.back());
+        m_outer.pop_back();
+    }
 
     void append(QString text) {
-        text.replace(QChar(lineFeed), u'\n');
-        if (!m_spans.isEmpty() && m_spans.last().styles == m_styles &&
-            m_spans.last().link == m_link)
-            m_spans.last().text += text;
+        std::replace(text.begin(), text.end(), QChar(lineFeed), QChar(u'\n'));
+        InlineSpan *last = m_spans.isEmpty() ? nullptr : &m_spans.last();
+        if (last && last->styles == m_styles && last->link == m_link)
+            last->text += text;
         else
             m_spans.append({std::move(text), m_styles, m_link});
     }
@@ -127,7 +148,7 @@ private:
     QList<InlineSpan> m_spans;
     Styles m_styles;
     QString m_link;
-    QList<std::pair<Styles, QString>> m_outer;
+    std::vector<std::pair<Styles, QString>> m_outer;
 };
 
 SpanBuilder &builder(void *userdata) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -21,7 +22,8 @@ struct Row {
 /// Nanoseconds of one call: the median of several runs, each long enough to be told from noise.
 double measure(const QString &name, const std::function<void()> &step);
 
-Row answerToScene();
-Row classify();
+QList<Row> answerToScene();
+QList<Row> classify();
+QList<Row> markdown();
 
 } // namespace kiv::bench
