@@ -5,20 +5,24 @@ import Kiv.Scene
 import Kiv.Tokens
 
 // A headline figure with its change.
-Rectangle {
+MarkArea {
     id: tile
 
     required property kpiCard card
 
     implicitHeight: content.implicitHeight + 32
-    radius: Tokens.radiusCard
-    color: Tokens.surface
-    border.width: 1
-    border.color: Tokens.line
-    Accessible.role: Accessible.StaticText
-    Accessible.name: card.delta === "" ? qsTr("%1, %2").arg(card.label).arg(card.value)
-        : qsTr("%1, %2, %3").arg(card.label).arg(card.value).arg(card.delta)
+    label: card.label
+    value: card.value
+    tone: card.delta
+    ringRadius: Tokens.radiusCard
 
+    Rectangle {
+        anchors.fill: parent
+        radius: Tokens.radiusCard
+        color: Tokens.surface
+        border.width: 1
+        border.color: Tokens.line
+    }
     Column {
         id: content
 

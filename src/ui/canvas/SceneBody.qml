@@ -1,30 +1,17 @@
 import QtQuick
-import Kiv.Canvas
 import Kiv.Scene
 
-// The scene for an art.
+// The place of a scene on its sheet. The scene of an art stands in the file that has the art's name.
 Loader {
     id: body
 
     required property sceneOut scene
+    /// Padding at the sides.
     required property int side
+    /// Whether the scene comes in with its entrance.
+    required property bool animated
 
-    sourceComponent: scene.art === "report" ? report : scene.art === "compare" ? compare : null
+    signal pointChosen(label: string)
 
-    Component {
-        id: report
-
-        ReportScene {
-            scene: (parent as SceneBody)?.scene
-            side: (parent as SceneBody)?.side ?? 0
-        }
-    }
-    Component {
-        id: compare
-
-        CompareScene {
-            scene: (parent as SceneBody)?.scene
-            side: (parent as SceneBody)?.side ?? 0
-        }
-    }
+    source: scene.art === "" ? "" : "scenes/" + scene.art.charAt(0).toUpperCase() + scene.art.slice(1) + "Scene.qml"
 }

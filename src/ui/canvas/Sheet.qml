@@ -13,11 +13,14 @@ FocusScope {
     required property ScopeRoom scope
     required property string time
     required property bool linked
+    /// Whether the scene comes in with its entrance.
+    required property bool animated
 
     /// Padding at the sides, by the width of the sheet.
     readonly property int side: width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
 
     signal messageRequested()
+    signal pointChosen(label: string)
 
     Rectangle {
         anchors.fill: parent
@@ -48,6 +51,8 @@ FocusScope {
         focus: true
         scene: sheet.scene
         side: sheet.side
+        animated: sheet.animated
+        onPointChosen: label => sheet.pointChosen(label)
     }
     Label {
         id: note

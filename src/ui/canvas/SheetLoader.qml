@@ -17,6 +17,8 @@ Loader {
         scope: place?.store.scope
         time: place?.store.canvas.sourceTime ?? ""
         linked: place?.store.canvas.sourceMessageId !== ""
+        animated: place?.store.canvas.animated ?? false
         onMessageRequested: place.messageRequested()
+        onPointChosen: label => place.store.canvas.refinePoint(label)
     }
 }

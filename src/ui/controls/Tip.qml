@@ -19,8 +19,10 @@ T.ToolTip {
         spacing: 8
 
         Label {
+            width: Math.min(implicitWidth, 420)
             style: Tokens.type.captionMedium
             color: Tokens.tipInk
+            wrapMode: Text.Wrap
             text: tip.text
         }
         Label {

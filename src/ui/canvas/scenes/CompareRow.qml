@@ -7,15 +7,15 @@ import Kiv.Scene
 import Kiv.Tokens
 
 // One row of a comparison: the name stays, the cells scroll sideways beside it.
-Item {
+SceneRow {
     id: row
 
-    required property cpRow values
+    required property cpRow modelData
     required property CompareColumns layout
     required property real offset
 
-    Accessible.role: Accessible.Row
-    Accessible.name: layout.spoken(values)
+    label: modelData.name
+    Accessible.name: layout.spoken(modelData)
 
     Label {
         anchors.verticalCenter: parent.verticalCenter
@@ -23,7 +23,7 @@ Item {
         style: Tokens.type.name
         wrapMode: Text.Wrap
         maximumLineCount: 2
-        text: row.values.name
+        text: row.modelData.name
         Accessible.ignored: true
     }
     Item {
@@ -38,7 +38,7 @@ Item {
             Label {
                 required property compareColumn modelData
 
-                readonly property string cell: row.values.cells[modelData.cell] ?? ""
+                readonly property string cell: row.modelData.cells[modelData.cell] ?? ""
 
                 x: modelData.x - row.offset
                 y: Math.round((row.height - height) / 2)

@@ -4,19 +4,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // A table: names, and a column for each thing that is compared.
-FocusScope {
+ArtScene {
     id: compare
 
-    required property sceneOut scene
-    required property int side
-
-    readonly property real inner: width - 2 * side
-    readonly property real rowHeight: Math.max(44, Math.min(56, list.height / Math.max(1, list.count)))
     readonly property real offset: sideways.visible ? sideways.position * columns.cellsWidth : 0
+
+    marks: scene.cpRows.length
 
     CompareColumns {
         id: columns
@@ -35,7 +31,7 @@ FocusScope {
         id: head
 
         x: compare.side
-        y: compare.side === 32 ? 24 : 16
+        y: compare.headroom
         width: compare.inner
         height: 36
 
@@ -74,48 +70,24 @@ FocusScope {
             color: Tokens.line2
         }
     }
-    ListView {
+    RowList {
         id: list
 
         objectName: "compareRows"
         anchors.top: head.bottom
         anchors.bottom: sideways.visible ? sideways.top : parent.bottom
         anchors.bottomMargin: 8
-        x: compare.side
-        width: compare.inner + compare.side
-        model: compare.scene.cpRows
-        reuseItems: true
-        clip: true
-        focus: true
-        activeFocusOnTab: true
-        boundsBehavior: Flickable.StopAtBounds
-        flickDeceleration: Tokens.flickDeceleration
-        highlightMoveDuration: 0
-        Accessible.role: Accessible.Table
-        Accessible.name: compare.scene.title
-
-        T.ScrollBar.vertical: ScrollBar {}
-
+        art: compare
+        leastRow: 44
+        mostRow: 56
+        model: SceneModel {
+            rows: compare.scene.cpRows
+        }
         delegate: CompareRow {
-            id: row
-
-            required property cpRow modelData
-            required property int index
-
-            width: compare.inner
-            height: compare.rowHeight
-            values: modelData
+            art: compare
+            height: list.rowHeight
             layout: columns
             offset: compare.offset
-
-            Divider {
-                width: parent.width
-                visible: row.index > 0
-            }
-            FocusRing {
-                anchors.margins: 2
-                visible: row.ListView.isCurrentItem && list.activeFocus
-            }
         }
     }
     ScrollBar {

@@ -1,23 +1,18 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Canvas
 import Kiv.Controls
 import Kiv.Scene
 import Kiv.Tokens
 
 // Headline figures as cards, and the highlights of the answer below them.
-Flickable {
+ArtScene {
     id: report
-
-    required property sceneOut scene
-    required property int side
 
     readonly property int cards: scene.kpiCards.length
     readonly property int lines: scene.highlights.length
-    readonly property real inner: width - 2 * side
-    readonly property int columns: inner < Tokens.wideBody ? Math.min(cards, 2)
+    readonly property int columns: !wide ? Math.min(cards, 2)
         : cards === 4 ? (inner < 1200 ? 2 : 4)
         : Math.min(cards, 3)
     readonly property real cardWidth: (inner - 12 * (columns - 1)) / Math.max(1, columns)
@@ -26,83 +21,86 @@ Flickable {
     readonly property real room: height - rows.y - highlights.y - 20
     readonly property real lineHeight: Math.max(40, Math.min(60, room / Math.max(1, lines)))
 
-    contentHeight: rows.y + rows.height + 20
-    boundsBehavior: Flickable.StopAtBounds
-    flickDeceleration: Tokens.flickDeceleration
-    clip: true
-    Accessible.role: Accessible.Pane
+    marks: cards
 
-    T.ScrollBar.vertical: ScrollBar {}
+    ScrollArea {
+        anchors.fill: parent
+        art: report
+        contentHeight: rows.y + rows.height + 20
 
-    Column {
-        id: rows
+        Column {
+            id: rows
 
-        x: report.side
-        y: 24
-        width: report.inner
-        spacing: 20
+            x: report.side
+            y: report.headroom
+            width: report.inner
+            spacing: 20
 
-        Grid {
-            visible: report.cards > 0
-            columns: Math.max(1, report.columns)
-            spacing: 12
+            Grid {
+                visible: report.cards > 0
+                columns: Math.max(1, report.columns)
+                spacing: 12
 
-            Repeater {
-                model: report.scene.kpiCards
+                Repeater {
+                    model: report.scene.kpiCards
 
-                KpiCard {
-                    required property kpiCard modelData
+                    KpiCard {
+                        required property kpiCard modelData
+                        required property int index
 
-                    width: report.cardWidth
-                    height: report.cardHeight
-                    card: modelData
+                        art: report
+                        place: index
+                        width: report.cardWidth
+                        height: report.cardHeight
+                        card: modelData
+                    }
                 }
             }
-        }
-        Label {
-            visible: report.lines > 0
-            style: Tokens.type.smallStrong
-            text: qsTr("Highlights")
-            Accessible.role: Accessible.Heading
-        }
-        Column {
-            id: highlights
+            Label {
+                visible: report.lines > 0
+                style: Tokens.type.smallStrong
+                text: qsTr("Highlights")
+                Accessible.role: Accessible.Heading
+            }
+            Column {
+                id: highlights
 
-            topPadding: -16
-            width: parent.width
+                topPadding: -16
+                width: parent.width
 
-            Repeater {
-                model: report.scene.highlights
+                Repeater {
+                    model: report.scene.highlights
 
-                Item {
-                    id: line
+                    Item {
+                        id: line
 
-                    required property string modelData
-                    required property int index
+                        required property string modelData
+                        required property int index
 
-                    width: report.inner
-                    height: Math.max(report.lineHeight, words.height + 12)
+                        width: report.inner
+                        height: Math.max(report.lineHeight, words.height + 12)
 
-                    Divider {
-                        width: parent.width
-                        visible: line.index > 0
-                    }
-                    Rectangle {
-                        anchors.verticalCenter: parent.verticalCenter
-                        width: 6
-                        height: 6
-                        radius: 3
-                        color: Tokens.t3
-                    }
-                    Label {
-                        id: words
+                        Divider {
+                            width: parent.width
+                            visible: line.index > 0
+                        }
+                        Rectangle {
+                            anchors.verticalCenter: parent.verticalCenter
+                            width: 6
+                            height: 6
+                            radius: 3
+                            color: Tokens.t3
+                        }
+                        Label {
+                            id: words
 
-                        x: 18
-                        width: parent.width - x
-                        anchors.verticalCenter: parent.verticalCenter
-                        wrapMode: Text.Wrap
-                        maximumLineCount: 2
-                        text: line.modelData
+                            x: 18
+                            width: parent.width - x
+                            anchors.verticalCenter: parent.verticalCenter
+                            wrapMode: Text.Wrap
+                            maximumLineCount: 2
+                            text: line.modelData
+                        }
                     }
                 }
             }

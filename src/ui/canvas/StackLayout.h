@@ -1,0 +1,62 @@
+#pragma once
+
+#include "canvas/SceneColor.h"
+
+#include <QList>
+#include <QObject>
+#include <QVariant>
+#include <QtQmlIntegration>
+
+namespace kiv::ui {
+
+/// A piece of a bar. Lengths are device-independent pixels.
+struct StackPiece {
+    Q_GADGET
+    QML_VALUE_TYPE(stackPiece)
+    Q_PROPERTY(QString label MEMBER label)
+    Q_PROPERTY(QString share MEMBER share)
+    Q_PROPERTY(kiv::canvas::SceneColor color MEMBER color)
+    Q_PROPERTY(double x MEMBER x)
+    Q_PROPERTY(double width MEMBER width)
+public:
+    QString label;
+    QString share; ///< of the whole, as shown
+    canvas::SceneColor color = canvas::SceneColor::Violet;
+    double x = 0;
+    double width = 0;
+    friend bool operator==(const StackPiece &, const StackPiece &) = default;
+};
+
+/// How the parts of a whole lie in one bar: a gap between two pieces, none so narrow that it is
+/// lost. Where there are too many for that, gap and least width give way together.
+class StackLayout : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QVariant parts READ parts WRITE setParts NOTIFY partsChanged REQUIRED)
+    Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
+    Q_PROPERTY(QList<kiv::ui::StackPiece> pieces READ pieces NOTIFY piecesChanged)
+public:
+    using QObject::QObject;
+
+    QVariant parts() const { return m_parts; }
+    /// A list of canvas::Seg or canvas::UeRow.
+    void setParts(const QVariant &parts);
+    double width() const { return m_width; }
+    void setWidth(double width);
+    QList<StackPiece> pieces() const { return m_pieces; }
+
+Q_SIGNALS:
+    void partsChanged();
+    void widthChanged();
+    void piecesChanged();
+
+private:
+    void layOut();
+
+    QVariant m_parts;
+    double m_width = 0;
+    QList<double> m_shares;
+    QList<StackPiece> m_pieces;
+};
+
+} // namespace kiv::ui

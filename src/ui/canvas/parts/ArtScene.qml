@@ -1,0 +1,60 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Scene
+import Kiv.Tokens
+
+// What all scenes share: what they draw and where, how they come in, and the way of the keys through
+// their marks. A scene is one stop of the tab key; the arrow keys go from mark to mark.
+FocusScope {
+    id: art
+
+    readonly property SceneBody body: parent as SceneBody
+    readonly property sceneOut scene: body?.scene
+    /// Padding at the sides.
+    readonly property int side: body?.side ?? 0
+    readonly property bool animated: body?.animated ?? false
+    /// Padding above the first row.
+    readonly property int headroom: side === 32 ? 24 : 16
+    readonly property real inner: width - 2 * side
+    readonly property bool wide: inner >= Tokens.wideBody
+    readonly property bool narrow: inner < Tokens.mediumBody
+
+    /// How many marks the arrow keys go through, and at which of them they stand.
+    property int marks: 0
+    property int current: 0
+    /// The mark that holds the focus.
+    property Item marked: null
+
+    readonly property Entrance entrance: Entrance {
+        animated: art.animated
+    }
+
+    /// A mark was activated: more about what it stands for is wanted.
+    signal pointChosen(label: string)
+
+    function dataColor(color: int): DataColor {
+        return [Tokens.violet, Tokens.blue, Tokens.green, Tokens.amber, Tokens.red][color]
+    }
+    function go(mark: int) {
+        current = Math.max(0, Math.min(marks - 1, mark))
+    }
+
+    activeFocusOnTab: marks > 0
+    focus: true
+    opacity: entrance.fade
+    onMarksChanged: go(current)
+    onPointChosen: label => art.body?.pointChosen(label)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: scene.title
+
+    Keys.onUpPressed: go(current - 1)
+    Keys.onLeftPressed: go(current - 1)
+    Keys.onDownPressed: go(current + 1)
+    Keys.onRightPressed: go(current + 1)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Home)
+            go(0)
+        else if (event.key === Qt.Key_End)
+            go(marks - 1)
+    }
+}

@@ -1,0 +1,61 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Tokens
+
+// Lies over a row or a mark, or is the row: says what it stands for when pointed at, and asks about
+// it when activated by a click, Return or Space.
+Item {
+    id: mark
+
+    required property ArtScene art
+    /// Place among the marks of the scene; -1 for one that the keys leave out.
+    property int place: -1
+    property string label: ""
+    property string value: ""
+    /// Of the whole.
+    property string share: ""
+    /// What the colour says, in words.
+    property string tone: ""
+    property int ringRadius: Tokens.radiusSmall
+
+    signal activated()
+
+    focus: place >= 0 && art.current === place
+    onActiveFocusChanged: if (activeFocus)
+        art.marked = mark
+    onActivated: art.pointChosen(label)
+    Accessible.role: Accessible.Row
+    Accessible.name: Figures.joined([label, value, tone], ", ")
+    Accessible.focusable: place >= 0
+    Accessible.focused: activeFocus
+    Accessible.onPressAction: activated()
+    Keys.onReturnPressed: activated()
+    Keys.onEnterPressed: activated()
+    Keys.onSpacePressed: activated()
+
+    HoverHandler {
+        id: pointer
+
+        cursorShape: Qt.PointingHandCursor
+    }
+    TapHandler {
+        onTapped: mark.activated()
+    }
+    FocusRing {
+        z: 1
+        anchors.margins: -2
+        targetRadius: mark.ringRadius
+        visible: mark.activeFocus
+    }
+    Item {
+        x: pointer.hovered ? pointer.point.position.x : parent.width / 2
+        height: pointer.hovered ? Math.min(parent.height, pointer.point.position.y + 12) : parent.height
+
+        TipLoader {
+            active: pointer.hovered || mark.activeFocus
+            text: mark.label
+            keys: Figures.joined([mark.value, mark.share], " · ")
+        }
+    }
+}

@@ -1,0 +1,33 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Tokens
+
+// The rows of a scene. They share the height within limits, then they scroll; only those in view are
+// made. What stays above or below them is anchored to the list.
+ListView {
+    id: list
+
+    required property ArtScene art
+    required property int leastRow
+    required property int mostRow
+
+    /// The height of a row; a fraction would blur its line.
+    readonly property real rowHeight: Math.floor(Math.max(leastRow, Math.min(mostRow, height / Math.max(1, count))))
+
+    x: art.side
+    // The scroll bar stands in the padding.
+    width: art.inner + art.side
+    currentIndex: art.current
+    keyNavigationEnabled: false
+    highlightMoveDuration: 0
+    clip: contentHeight > height
+    focus: true
+    boundsBehavior: Flickable.StopAtBounds
+    flickDeceleration: Tokens.flickDeceleration
+    Accessible.role: Accessible.Table
+    Accessible.name: art.scene.title
+
+    T.ScrollBar.vertical: ScrollBar {}
+}

@@ -1,0 +1,6 @@
+import QtQuick
+
+// What the colours of a scene stand for: a LegendEntry each.
+Flow {
+    spacing: 16
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+
+// A row of a RowList: a line parts it from the one above.
+MarkArea {
+    id: row
+
+    required property int index
+
+    /// How much of their lengths the row's marks have.
+    readonly property real grown: art.entrance.grown(index)
+
+    place: index
+    width: art.inner
+
+    Divider {
+        width: parent.width
+        visible: row.index > 0
+    }
+}
