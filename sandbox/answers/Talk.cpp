@@ -26,7 +26,7 @@ std::optional<Answer> projectTable(const Asked &asked) {
     if (rows.isEmpty()) {
         return std::nullopt;
     }
-    QString table = u"| Project | Open | Overdue | Blocked |\n| :-- | --: | --: | --: |\n"_s;
+    QString table = u"| Project | Open | Overdue | Blocked |\n| :--- | ---: | ---: | ---: |\n"_s;
     for (const Row &row : rows) {
         table += u"| %1 | %2 | %3 | %4 |\n"_s.arg(asked.projectLabel(row.text(0)))
                      .arg(row.whole(1))

@@ -38,12 +38,14 @@ std::optional<Answer> projectStatus(const Asked &asked) {
                                   {u"display"_s, u"%1%"_s.arg(row.whole(1))},
                                   {u"hint"_s, row.text(3)}});
         if (row.whole(1) < row.whole(2)) {
-            behind.append(asked.say(u"**%1** by %2 points"_s, u"**%1** на %2 пунктов"_s)
+            behind.append(asked.say(u"**%1** by %2 points"_s, u"**%1** на %2 п. п."_s)
                               .arg(label)
                               .arg(row.whole(2) - row.whole(1)));
         }
     }
-    QJsonObject progress = view(u"progress"_s, u"Where %1 stand"_s.arg(asked.subject()), points);
+    QJsonObject progress =
+        view(u"progress"_s, asked.say(u"Progress of %1"_s, u"Ход дел: %1"_s).arg(asked.subject()),
+             points);
     progress.insert(u"unit"_s, u"%"_s);
     const QString before = behind.isEmpty()
                                ? asked.say(u"Everything is at or ahead of its target."_s,
@@ -123,10 +125,12 @@ std::optional<Answer> blockedTasks(const Asked &asked) {
         list += u"%1. **%2**, %3, "_s.arg(i + 1).arg(row.text(0), place(asked, row)) +
                 asked.say(u"due %1\n"_s, u"срок %1\n"_s).arg(row.text(4));
     }
-    return Answer{
-        asked.say(u"%1 tasks wait for something:\n\n%2"_s, u"Ждут решения задач: %1\n\n%2"_s)
-            .arg(rows.size())
-            .arg(list.trimmed())};
+    return Answer{asked
+                      .say(rows.size() == 1 ? u"%1 task waits for something:\n\n%2"_s
+                                            : u"%1 tasks wait for something:\n\n%2"_s,
+                           u"Ждут решения задач: %1\n\n%2"_s)
+                      .arg(rows.size())
+                      .arg(list.trimmed())};
 }
 
 std::optional<Answer> retrospective(const Asked &asked) {

@@ -44,10 +44,20 @@ QList<Line> linesOfRows(const ViewSpec &spec) {
     return lines;
 }
 
-/// Two series, the plan and what was spent, matched by label.
-QList<ViewSpec::Point> pointsOfSeries(const QList<ViewSpec::Series> &series) {
+bool isPlan(const ViewSpec::Series &series) {
     static const Regex planned(u"plan|budget|target|план|бюджет", Regex::CaseInsensitive);
-    const bool firstIsPlan = !planned.contains(series.at(1).name);
+    return planned.contains(series.name);
+}
+
+/// Two series of which one is named as the plan; two others are no plan and its outcome.
+bool isPlanAndActual(const ViewSpec &spec) {
+    return spec.points.isEmpty() && spec.series.size() == 2 &&
+           isPlan(spec.series.at(0)) != isPlan(spec.series.at(1));
+}
+
+/// The plan and what was spent, matched by label.
+QList<ViewSpec::Point> pointsOfSeries(const QList<ViewSpec::Series> &series) {
+    const bool firstIsPlan = isPlan(series.at(0));
     const auto &plan = series.at(firstIsPlan ? 0 : 1).points;
     QList<ViewSpec::Point> points = series.at(firstIsPlan ? 1 : 0).points;
     QHash<QString, std::optional<double>> plans;
@@ -59,7 +69,7 @@ QList<ViewSpec::Point> pointsOfSeries(const QList<ViewSpec::Series> &series) {
 }
 
 QList<Line> linesOf(const ViewSpec &spec) {
-    const bool twoSeries = spec.points.isEmpty() && spec.series.size() == 2;
+    const bool twoSeries = isPlanAndActual(spec);
     if (!twoSeries && !spec.rows.isEmpty() && TableColumns(spec).hasActual())
         return linesOfRows(spec);
     const auto points = twoSeries ? pointsOfSeries(spec.series) : pointsOf(spec);
@@ -78,14 +88,15 @@ std::optional<BgRow> rowOf(const Line &line, double scale) {
     if (!deviation)
         return std::nullopt;
     const bool over = line.plan && line.actual > plan * tolerance;
+    const QString delta =
+        (*deviation >= 1 ? u"+"_s : QString()) + QString::number(*deviation) + u'%';
     return BgRow{.name = line.name,
                  .plan = line.planText,
                  .actual = line.actualText,
                  .planPct = scale > 0 ? plan / scale * 100 : 0,
                  .actPct = scale > 0 ? line.actual / scale * 100 : 0,
                  .fill = over ? SceneColor::Red : SceneColor::Blue,
-                 .delta =
-                     (*deviation >= 1 ? u"+"_s : QString()) + QString::number(*deviation) + u'%',
+                 .delta = line.plan ? delta : QString(),
                  .deltaGood = !over};
 }
 
@@ -93,6 +104,9 @@ std::optional<BgRow> rowOf(const Line &line, double scale) {
 
 std::optional<SceneOut> buildBudget(const ViewSpec &spec) {
     const QList<Line> lines = linesOf(spec);
+    // Spending alone is no budget.
+    if (std::none_of(lines.begin(), lines.end(), [](const Line &line) { return line.plan; }))
+        return std::nullopt;
     double scale = 0;
     for (const Line &line : lines)
         scale = std::max({scale, line.plan.value_or(0), line.actual});

@@ -17,7 +17,19 @@ QList<ViewSpec::Point> drawableOf(QList<ViewSpec::Point> points) {
     return points;
 }
 
-/// A stack becomes one row a series: its sum, and from where to where it runs.
+/// What a sum is made of: every label while they are few, else from where to where they run.
+QString spanOf(const QList<ViewSpec::Point> &points) {
+    constexpr qsizetype mostNamed = 60;
+    QStringList labels;
+    for (const ViewSpec::Point &point : points)
+        labels.append(point.label.trimmed());
+    labels.removeAll(QString());
+    labels.removeDuplicates();
+    const QString all = labels.join(u", "_s);
+    return all.size() <= mostNamed ? all : labels.first() + u" – "_s + labels.last();
+}
+
+/// A stack becomes one row a series: its sum, and what it is made of.
 QList<ViewSpec::Point> stacksOf(const ViewSpec &spec) {
     QList<ViewSpec::Point> rows;
     for (const ViewSpec::Series &series : spec.series) {
@@ -27,13 +39,7 @@ QList<ViewSpec::Point> stacksOf(const ViewSpec &spec) {
         QList<double> values;
         for (const ViewSpec::Point &point : points)
             values.append(*point.value);
-        const QString from = points.first().label.trimmed();
-        const QString to = points.last().label.trimmed();
-        rows.append({.label = series.name,
-                     .value = sumOf(values),
-                     .hint = points.size() > 1 && !from.isEmpty() && !to.isEmpty()
-                                 ? from + u" – "_s + to
-                                 : from + to});
+        rows.append({.label = series.name, .value = sumOf(values), .hint = spanOf(points)});
     }
     return rows;
 }
@@ -100,8 +106,9 @@ std::optional<SceneOut> buildCosts(const ViewSpec &spec) {
                              .color = colors.at(scene.coRows.size() % colors.size())});
     }
     scene.countLine = QString::number(rows.size()) + u" rows · from the answer"_s;
-    // A ranking's figures are scores: they are compared, not added.
-    const QString total = spec.kind == u"rank" ? QString() : totalText(rows, unit);
+    // Scores, prices and averages are compared, not added.
+    const bool compared = spec.kind == u"rank" || isRelative(spec.title.value_or(QString()));
+    const QString total = compared ? QString() : totalText(rows, unit);
     scene.coTotal = stated.isEmpty() ? total : stated;
     if (!scene.coTotal.isEmpty())
         scene.coTotalSub = u"answer arrived · "_s + scene.countLine;

@@ -1,6 +1,7 @@
 #include "canvas/FigureLift.h"
 
 #include "base/JVal.h"
+#include "canvas/FigureName.h"
 #include "canvas/SceneFigures.h"
 
 #include <algorithm>
@@ -43,8 +44,20 @@ ViewSpec table(const QList<LiftedLine> &lines) {
 } // namespace
 
 qsizetype figureCount(const QList<LiftedLine> &lines) {
-    return std::count_if(lines.begin(), lines.end(),
-                         [](const LiftedLine &line) { return line.figure.has_value(); });
+    qsizetype figures = 0;
+    qsizetype dates = 0;
+    for (const LiftedLine &line : lines) {
+        figures += line.figure ? 1 : 0;
+        dates += line.figure && line.figure->mayBeDate() ? 1 : 0;
+    }
+    return figures > dates ? figures : 0;
+}
+
+bool areMarks(const QList<LiftedLine> &lines, const std::optional<QString> &heading) {
+    return heading && headsNoMeasure(*heading) &&
+           std::all_of(lines.begin(), lines.end(), [](const LiftedLine &line) {
+               return !line.figure || line.figure->unit.isEmpty();
+           });
 }
 
 ViewSpec barsOrCards(const QList<LiftedLine> &lines) {
@@ -58,8 +71,13 @@ ViewSpec barsOrCards(const QList<LiftedLine> &lines) {
             point.hint = line.figure->remark;
         spec.points.append(point);
     }
-    if (!lines.first().figure->unit.isEmpty())
-        spec.unit = lines.first().figure->unit;
+    // The unit of the largest is the likeliest to be a plural, as the total's has to be.
+    const auto largest =
+        std::max_element(lines.begin(), lines.end(), [](const LiftedLine &a, const LiftedLine &b) {
+            return a.figure->value < b.figure->value;
+        });
+    if (!largest->figure->unit.isEmpty())
+        spec.unit = largest->figure->unit;
     spec.jsonKey = keyOf(spec, lines);
     return spec;
 }

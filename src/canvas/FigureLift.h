@@ -16,7 +16,11 @@ struct LiftedLine {
     std::optional<ProseFigure> figure;
 };
 
+/// None when all of them may be years or days, which measure nothing.
 qsizetype figureCount(const QList<LiftedLine> &lines);
+
+/// Whether plain numbers stand under a heading that makes them marks: "Versions", "Contents".
+bool areMarks(const QList<LiftedLine> &lines, const std::optional<QString> &heading);
 
 /// Bars when all lines are figures of one axis that add up, else cards; a table when there are too
 /// many for cards.

@@ -1,4 +1,5 @@
 #include "canvas/FigureLift.h"
+#include "canvas/FigureName.h"
 #include "canvas/ProseLifts.h"
 #include "canvas/ProseLines.h"
 #include "canvas/TextCues.h"
@@ -31,6 +32,13 @@ std::optional<Separator> separatorIn(const QString &line) {
     return std::nullopt;
 }
 
+/// The label behind a bullet that mark-down does not know: "– Ads", "▪ Ads".
+QString withoutBullet(const QString &label) {
+    const bool hasBullet =
+        label.size() > 2 && u"+–—·▪◦‣→"_s.contains(label.at(0)) && label.at(1) == u' ';
+    return hasBullet ? label.sliced(2).trimmed() : label;
+}
+
 /// A label and value line; nothing for prose and for lines of another kind.
 std::optional<LiftedLine> lineOf(const ProseLine &line) {
     const QStringView text = line.text.trimmed();
@@ -42,15 +50,14 @@ std::optional<LiftedLine> lineOf(const ProseLine &line) {
     const auto separator = separatorIn(plain);
     if (!separator)
         return std::nullopt;
-    LiftedLine lifted{plain.first(separator->at).trimmed(),
+    LiftedLine lifted{withoutBullet(plain.first(separator->at).trimmed()),
                       plain.sliced(separator->value).trimmed(), std::nullopt};
     const bool named =
         std::any_of(lifted.name.begin(), lifted.name.end(), [](QChar c) { return c.isLetter(); });
     if (!named || lifted.name.size() > longestLabel || !isFigureName(lifted.name) ||
         lifted.text.isEmpty() || lifted.text.size() > longestValue)
         return std::nullopt;
-    if (!namesNoMeasure(lifted.name))
-        lifted.figure = proseFigure(lifted.text);
+    lifted.figure = measure(lifted.name, lifted.text);
     return lifted;
 }
 
@@ -76,9 +83,10 @@ std::optional<ViewSpec> CanvasEngine::liftKv(const QString &text) {
             run.append(*lifted);
             continue;
         }
-        if (isOfFigures(run)) {
+        const auto heading = isOfFigures(run) ? headingOver(lines, first) : std::nullopt;
+        if (isOfFigures(run) && !areMarks(run, heading)) {
             ViewSpec spec = cards(run);
-            spec.title = headingOver(lines, first);
+            spec.title = heading;
             return spec;
         }
         run.clear();

@@ -28,10 +28,10 @@ bool isBetterLow(const QString &label) {
 /// A rise is good and a fall is bad, the other way round where less is better; a change written
 /// without a sign is neither.
 std::optional<bool> isGoodDelta(const QString &label, const QString &delta) {
-    const QString written = delta.trimmed();
-    if (written.startsWith(u'+'))
+    const QChar sign = delta.isEmpty() ? QChar() : delta.front();
+    if (u"+▲↑"_s.contains(sign))
         return !isBetterLow(label);
-    if (written.startsWith(u'-') || written.startsWith(u'−'))
+    if (u"-−–▼↓"_s.contains(sign))
         return isBetterLow(label);
     return std::nullopt;
 }

@@ -1,4 +1,5 @@
 #include "canvas/FigureLift.h"
+#include "canvas/FigureName.h"
 #include "canvas/ProseLifts.h"
 #include "canvas/ProseLines.h"
 #include "canvas/TextCues.h"
@@ -16,6 +17,21 @@ bool isTask(const QString &item) {
     return item.startsWith(u"[ ]") || item.startsWith(u"[x]", Qt::CaseInsensitive);
 }
 
+/// The figure behind the name. A dash may set a remark off from it: "$1,200 — mostly search".
+LiftedLine valueOf(const QString &name, const QString &text) {
+    LiftedLine line{name, text, measure(name, text)};
+    for (const QString &dash : {u" — "_s, u" – "_s}) {
+        const qsizetype at = line.figure ? -1 : text.indexOf(dash);
+        if (at <= 0)
+            continue;
+        line.text = text.first(at).trimmed();
+        line.figure = measure(name, line.text);
+        if (line.figure && line.figure->remark.isEmpty())
+            line.figure->remark = text.sliced(at + dash.size()).trimmed();
+    }
+    return line;
+}
+
 LiftedLine lineOf(QStringView item) {
     const QString plain = CanvasEngine::stripInline(item);
     if (isTask(plain))
@@ -25,10 +41,9 @@ LiftedLine lineOf(QStringView item) {
         if (at <= 0)
             continue;
         const QString name = plain.first(at).trimmed();
-        const QString text = plain.sliced(at + separator.size()).trimmed();
-        const auto figure = proseFigure(text);
-        if (figure && isFigureName(name) && !namesNoMeasure(name))
-            return {name, text, figure};
+        LiftedLine line = valueOf(name, plain.sliced(at + separator.size()).trimmed());
+        if (line.figure && isFigureName(name))
+            return line;
     }
     return {plain, {}, {}};
 }
@@ -73,9 +88,10 @@ std::optional<ViewSpec> CanvasEngine::liftList(const QString &text) {
             continue;
         }
         const List list = listAt(lines, index);
-        if (isOfFigures(list.items)) {
+        const auto heading = headingOver(lines, index);
+        if (isOfFigures(list.items) && !areMarks(list.items, heading)) {
             ViewSpec spec = barsOrCards(list.items);
-            spec.title = headingOver(lines, index);
+            spec.title = heading;
             return spec;
         }
         index = list.end;

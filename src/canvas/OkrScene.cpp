@@ -51,7 +51,7 @@ QList<Objective> objectivesOfRows(const ViewSpec &spec) {
 }
 
 /// Series and board columns are objectives; plain points are the results of one, or of one for each
-/// owner.
+/// owner, whose name may follow that of the objective.
 QList<Objective> objectivesOf(const ViewSpec &spec, const QString &title) {
     QList<Objective> groups;
     for (const ViewSpec::Series &series : spec.series)
@@ -62,10 +62,14 @@ QList<Objective> objectivesOf(const ViewSpec &spec, const QString &title) {
         return groups;
     if (spec.points.isEmpty())
         return objectivesOfRows(spec);
+    static const QString separator = u" · "_s; // "Grow the pilots · Ann"
     Objectives byOwner;
     for (const ViewSpec::Point &point : spec.points) {
-        const QString owner = point.hint.value_or(QString()).trimmed();
-        byOwner.add(owner, {title, owner, {point}});
+        const QString hint = point.hint.value_or(QString()).trimmed();
+        const qsizetype mark = hint.indexOf(separator);
+        byOwner.add(hint, {mark < 0 ? title : hint.first(mark).trimmed(),
+                           mark < 0 ? hint : hint.sliced(mark + separator.size()).trimmed(),
+                           {point}});
     }
     return byOwner.all();
 }

@@ -39,6 +39,9 @@ std::optional<SceneOut> SceneAdapter::build(const ViewSpec &spec,
     const auto art = forceArt ? forceArt : CanvasEngine::artForSpec(spec, intent);
     const Builder builder = art ? builders().value(*art) : nullptr;
     auto scene = builder ? builder(spec) : std::nullopt;
+    // Asked what was spent, an answer without a plan is drawn as it would be unasked.
+    if (!scene && intent && !forceArt && art == u"budget")
+        return build(spec, std::nullopt);
     if (scene) {
         scene->art = *art;
         scene->title = sceneTitle(spec, *art);

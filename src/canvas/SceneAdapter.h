@@ -13,7 +13,8 @@ namespace kiv::canvas::SceneAdapter {
 const QList<SceneColor> &palette();
 
 /// The scene of `forceArt`, or of the art that fits the view and the question's intent.
-/// Nothing when there is no such art or the view lacks what the art needs.
+/// Nothing when there is no such art or the view lacks what the art needs; a budget that only the
+/// question asked for gives way to the view's own art.
 std::optional<SceneOut> build(const ViewSpec &spec, const std::optional<QString> &intent,
                               const std::optional<QString> &forceArt = {});
 

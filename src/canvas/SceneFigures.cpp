@@ -2,8 +2,10 @@
 
 #include "base/Regex.h"
 #include "canvas/CanvasNum.h"
+#include "canvas/ProseFigure.h"
 #include "canvas/SceneText.h"
 #include "canvas/TextCues.h"
+#include "canvas/UnitStem.h"
 
 #include <QSet>
 
@@ -25,7 +27,7 @@ ViewSpec::Point pointOf(const ViewSpec::Item &item) {
     return {.label = item.label, .value = item.value, .display = item.display};
 }
 
-/// What is written around the figure of a display text, a plural's s and words for thousands aside.
+/// What is written around the figure of a display text, its plural and words for thousands aside.
 QString unitWord(const QString &display) {
     static const QStringList multipliers{u"k"_s, u"к"_s, u"m"_s, u"b"_s, u"млн"_s, u"млрд"_s};
     QString word = display.toLower();
@@ -35,7 +37,7 @@ QString unitWord(const QString &display) {
             (word.size() > 1 && !word.front().isLetter() && word.sliced(1) == multiplier))
             word.chop(multiplier.size());
     }
-    return word.size() > 1 && word.endsWith(u's') ? word.chopped(1) : word;
+    return unitStem(word);
 }
 
 int decimalsOf(double value) {
@@ -77,9 +79,9 @@ QList<ViewSpec::Point> pointsOf(const ViewSpec &spec) {
     if (!points.isEmpty())
         return points;
     for (const QStringList &row : spec.rows) {
-        if (row.size() == 2)
-            points.append(
-                {.label = row.at(0), .value = CanvasNum::parse(row.at(1)), .display = row.at(1)});
+        const auto figure = row.size() == 2 ? proseFigure(row.at(1)) : std::nullopt;
+        if (figure)
+            points.append({.label = row.at(0), .value = figure->value, .display = row.at(1)});
     }
     return points;
 }
@@ -111,12 +113,29 @@ double sumOf(const QList<double> &values) {
 }
 
 bool addUp(const QStringList &labels) {
-    static const Regex contained(u"revenue|income|profit|margin|\\b(net|gross|balance|average|mean|"
+    static const Regex contained(u"revenue|income|profit|margin|latency|response|uptime|"
+                                 u"\\bp\\d\\d\\b|\\b(net|gross|balance|average|mean|"
                                  u"median|total|rate|score)\\b|"
                                  u"выручк|доход|прибыл|марж|чист|остат|баланс|средн|итог|всего",
                                  Regex::CaseInsensitive);
-    return std::none_of(labels.begin(), labels.end(),
-                        [](const QString &label) { return contained.contains(label); });
+    static const Regex stage(u"visit|sign-?\\s?up|\\btrial|\\blead|\\bpaid|paying|activat|purchas|"
+                             u"посетит|визит|регистрац|проб|лид[ыов]|оплат|покуп",
+                             Regex::CaseInsensitive);
+    const auto stages = std::count_if(labels.begin(), labels.end(),
+                                      [](const QString &label) { return stage.contains(label); });
+    return stages < 2 && std::none_of(labels.begin(), labels.end(), [](const QString &label) {
+               return contained.contains(label);
+           });
+}
+
+bool isRelative(const QString &heading) {
+    static const Regex relative(u"price|\\brates?\\b|average|\\bavg|\\bmean\\b|median|score|"
+                                u"rating|grade|velocity|speed|latency|response time|\\bages?\\b|"
+                                u"temperature|ranking|"
+                                u"\\bцен[аы]\\b|тариф|средн|медиан|балл|оценк|рейтинг|скорост|"
+                                u"возраст|задержк|время ответа|температур",
+                                Regex::CaseInsensitive);
+    return relative.contains(heading);
 }
 
 QString totalText(const QList<ViewSpec::Point> &points, const QString &unit) {
@@ -124,10 +143,11 @@ QString totalText(const QList<ViewSpec::Point> &points, const QString &unit) {
     QStringList labels;
     QSet<QString> units;
     for (const ViewSpec::Point &point : points) {
-        const bool isTemperature =
-            unit.contains(u'°') || point.display.value_or(QString()).contains(u'°');
+        const QString written = unit + point.display.value_or(QString());
+        const bool isTemperature = written.contains(u'°');
+        const bool isScore = unit.startsWith(u'/');
         if (!isDrawable(point.value) || *point.value < 0 || isPercentage(point, unit) ||
-            isTemperature)
+            isTemperature || isScore)
             return {};
         values.append(*point.value);
         labels.append(point.label);

@@ -36,8 +36,11 @@ double sumOf(const QList<double> &values);
 /// zero, unlike units, or figures of which one contains another, such as revenue and profit.
 QString totalText(const QList<ViewSpec::Point> &points, const QString &unit);
 
-/// Whether figures under these labels add up to something.
+/// Whether figures under these labels add up to something. Stages of a funnel hold each other.
 bool addUp(const QStringList &labels);
+
+/// Whether a heading names figures of which each stands for itself: prices, averages, scores.
+bool isRelative(const QString &heading);
 
 /// Whether a row sums up the others: "Total", "Итого".
 bool isTotalName(const QString &name);

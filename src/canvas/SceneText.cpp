@@ -26,8 +26,11 @@ QString figureText(double value, const QString &unit) {
     const QString number = CanvasNum::out(CanvasNum::decimal(std::abs(value)));
     const QString sign = value < 0 ? u"-"_s : QString();
     const QString sort = unit.trimmed();
-    if (sort == u"$" || sort == u"€" || sort == u"£" || sort == u"¥")
-        return sign + sort + number;
+    const bool leads = !sort.isEmpty() && u"$€£¥"_s.contains(sort.front());
+    const QStringView behind = QStringView(sort).sliced(leads ? 1 : 0);
+    // A currency alone, or a rate in it: "$/mo", "$ a month".
+    if (leads && (behind.isEmpty() || behind.front() == u'/' || behind.front() == u' '))
+        return sign + sort.front() + number + behind.toString();
     if (sort.isEmpty() || sort == u"%" || sort.startsWith(u'°'))
         return sign + number + sort;
     return sign + number + u'\u00a0' + sort;

@@ -1,7 +1,7 @@
 #include "canvas/TableColumns.h"
 
 #include "base/Regex.h"
-#include "canvas/CanvasNum.h"
+#include "canvas/ProseFigure.h"
 
 #include <algorithm>
 
@@ -19,6 +19,12 @@ qsizetype columnNamed(const QStringList &columns, const Regex &name, qsizetype e
     return -1;
 }
 
+/// A cell says what it means in words and signs, so it is read as prose is.
+std::optional<double> valueOf(const QString &cell) {
+    const auto figure = proseFigure(cell);
+    return figure ? std::optional(figure->value) : std::nullopt;
+}
+
 /// At least half of the filled cells are figures.
 bool isNumeric(const QList<QStringList> &rows, qsizetype column) {
     qsizetype filled = 0;
@@ -26,7 +32,7 @@ bool isNumeric(const QList<QStringList> &rows, qsizetype column) {
     for (const QStringList &row : rows) {
         const QString cell = row.value(column).trimmed();
         filled += cell.isEmpty() ? 0 : 1;
-        figures += CanvasNum::parse(cell) ? 1 : 0;
+        figures += proseFigure(cell) ? 1 : 0;
     }
     return figures > 0 && figures * 2 >= filled;
 }
@@ -71,10 +77,10 @@ TableColumns::TableColumns(const ViewSpec &spec, Order order) {
 ViewSpec::Point TableColumns::measured(const QStringList &row) const {
     ViewSpec::Point point{.label = row.value(m_title).trimmed()};
     const QString actual = actualText(row);
-    point.value = CanvasNum::parse(actual);
+    point.value = valueOf(actual);
     if (!actual.isEmpty())
         point.display = actual;
-    point.target = CanvasNum::parse(planText(row));
+    point.target = valueOf(planText(row));
     return point;
 }
 

@@ -105,6 +105,30 @@ std::optional<QList<ProseFigure>> figuresOf(const Table &table, qsizetype column
     return figures;
 }
 
+/// Whether a column holds figures, as far as it holds any: marks and years are texts.
+bool measures(const Table &table, qsizetype column) {
+    const QString &name = table.columns.at(column);
+    return std::any_of(table.rows.begin(), table.rows.end(), [&](const QStringList &row) {
+        const auto figure = measure(name, row.at(column));
+        return figure && !figure->mayBeDate();
+    });
+}
+
+/// The unit that a column's name gives to its plain numbers: "Hours, %", "Cost ($)". One of
+/// thousands is taken whole, "$k"; where it does not stand apart, the heading alone tells it.
+QString unitNamed(const QString &column) {
+    static const Regex apart(u"[,(]\\s*([^,()]{1,20})\\)?\\s*$");
+    static const Regex multiplier(u"\\b(?:thousands?|millions?|billions?|bn|mln)\\b|"
+                                  u"(?:^|[^\\p{L}])[km](?![\\p{L}²³/])|тыс|млн|млрд",
+                                  Regex::CaseInsensitive);
+    const auto tail = apart.find(column);
+    const QString unit = tail ? tail->captured(1).trimmed().toString() : QString();
+    const QString sign = CanvasEngine::unitToken(column);
+    if (!multiplier.contains(column))
+        return sign;
+    return multiplier.contains(unit) ? unit : QString();
+}
+
 /// The only column of figures of a narrow table; the first column names the rows.
 std::optional<qsizetype> soleFigures(const Table &table) {
     constexpr qsizetype widest = 3;
@@ -112,10 +136,7 @@ std::optional<qsizetype> soleFigures(const Table &table) {
         return std::nullopt;
     std::optional<qsizetype> sole;
     for (qsizetype column = 1; column < table.columns.size(); ++column) {
-        const bool someFigure =
-            std::any_of(table.rows.begin(), table.rows.end(), [column](const QStringList &row) {
-                return proseFigure(row.at(column)).has_value();
-            });
+        const bool someFigure = measures(table, column);
         if (someFigure && (sole || !figuresOf(table, column)))
             return std::nullopt;
         if (someFigure)
@@ -123,7 +144,7 @@ std::optional<qsizetype> soleFigures(const Table &table) {
     }
     const bool named = std::none_of(table.rows.begin(), table.rows.end(),
                                     [](const QStringList &row) { return row.first().isEmpty(); });
-    static const QStringList counters{u"#"_s, u"№"_s, u"no"_s, u"no."_s};
+    static const QStringList counters{u"#"_s, u"№"_s, u"no"_s, u"no."_s, u"id"_s};
     return named && !counters.contains(table.columns.first().toLower()) ? sole : std::nullopt;
 }
 
@@ -176,8 +197,7 @@ ViewSpec specOf(const Table &table) {
         spec.kind = u"hbar"_s;
         spec.points = barsOf(table, *column);
         const QString unit = figuresOf(table, *column)->first().unit;
-        const QString named = CanvasEngine::unitToken(table.columns.at(*column));
-        spec.unit = unit.isEmpty() ? named : unit;
+        spec.unit = unit.isEmpty() ? unitNamed(table.columns.at(*column)) : unit;
         if (!table.columns.at(*column).isEmpty())
             spec.title = table.columns.at(*column);
     } else {

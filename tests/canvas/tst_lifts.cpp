@@ -56,6 +56,24 @@ private Q_SLOTS:
         row(u"5 m"_s, u"5 m  "_s);
         row(u"42 %"_s, u"42 %  "_s);
         row(u"12 story points"_s, u"12 story points  "_s);
+        row(u"$50/mo."_s, u"50 $/mo  "_s);
+        row(u"€1.2k per month"_s, u"1200 € per month  "_s);
+        row(u"3.4k/s"_s, u"3400 /s  "_s);
+        row(u"USD 640"_s, u"640 USD  "_s);
+        row(u"$1.2M–$1.6M"_s, u"1.4e+06 $  "_s);
+        row(u"$12.4k ↑ 12%"_s, u"12400 $ ↑ 12% "_s);
+        row(u"$2m"_s, u"2e+06 $  "_s);
+        row(u"90m"_s, u"90 m  "_s);
+        row(u"512B"_s, u"512 B  "_s);
+        row(u"0.333333333333333333"_s, u"0.333333   "_s);
+        row(u"3.125 s"_s, u"3.125 s  "_s);
+        row(u"$0.125"_s, u"0.125 $  "_s);
+        row(u"1.200 €"_s, QString());
+        row(u"9–17"_s, QString());
+        row(u"9 to 5 pm"_s, QString());
+        row(u"500–1k"_s, QString());
+        row(u"-5–5 °C"_s, QString());
+        row(u"15 сент."_s, QString());
         row(u"3/5 of us"_s, QString());
         row(u"1/2"_s, QString());
         row(u"5 May"_s, QString());
@@ -119,6 +137,20 @@ private Q_SLOTS:
         row("one row", u"| a | b |\n|---|---|\n| x | 7 |"_s, u"table"_s, QString());
         row("thirteen rows", u"| a | b |\n|---|---|\n"_s + u"| x | 7 |\n"_s.repeated(13),
             u"table"_s, QString());
+        row("unit of thousands in the header",
+            u"| a | Выручка, тыс. ₽ |\n|---|---|\n| x | 12 |\n| y | 9 |"_s,
+            u"hbar “Выручка, тыс. ₽” in тыс. ₽ x=12 y=9"_s, QString());
+        row("unit of thousands that does not stand apart",
+            u"| a | Cost $k |\n|---|---|\n| x | 12 |\n| y | 9 |"_s, u"hbar “Cost $k” x=12 y=9"_s,
+            QString());
+        row("years beside figures",
+            u"| Name | Year | Users |\n|---|---|---|\n| x | 2019 | 7 |\n| y | 2021 | 5 |"_s,
+            u"hbar “Users” x=7~2019 y=5~2021"_s, QString());
+        row("years", u"| a | b |\n|---|---|\n| x | 2019 |\n| y | 2021 |"_s, u"table"_s, QString());
+        row("marks", u"| ID | Name | Priority |\n|---|---|---|\n| 7 | x | 1 |\n| 8 | y | 2 |"_s,
+            u"table"_s, QString());
+        row("versions", u"| a | Version |\n|---|---|\n| x | 1.2 |\n| y | 3.4 |"_s, u"table"_s,
+            QString());
         row("dates", u"| a | b |\n|---|---|\n| x | 2024-05-01 |\n| y | 2024-05-02 |"_s, u"table"_s,
             QString());
         row("ragged, CR LF", u"a | b\r\n---|---\r\nx | 1 | 2\r\ny |\r\nend\r\n"_s, u"table"_s,
@@ -175,6 +207,14 @@ private Q_SLOTS:
             u"kpi Users=3 Load=5% All is well=·"_s);
         row("Russian", u"- Реклама: 1,2 млн ₽\n- Офис: 300 тыс. ₽"_s,
             u"hbar in ₽ Реклама=1.2e+06 Офис=300000"_s);
+        row("Russian plurals", u"- Скаут: 21 задача\n- Лум: 2 задачи\n- Анвил: 35 задач"_s,
+            u"hbar in задач Скаут=21 Лум=2 Анвил=35"_s);
+        row("remarks behind a dash", u"- Ads: $1,200 — mostly search\n- Ops — $300 – two people"_s,
+            u"hbar in $ Ads=1200~mostly search Ops=300~two people"_s);
+        row("minutes are no millions", u"- Draft: 3h\n- Review: 90m"_s,
+            u"kpi Draft=3h Review=90m"_s);
+        row("a mark with a unit", u"- Room: 25 m²\n- Kitchen: 9 m²"_s,
+            u"hbar in m² Room=25 Kitchen=9"_s);
         row("second list", u"- one\n- two\n\nText\n\n- a: 1\n- b: 2"_s, u"hbar a=1 b=2"_s);
         row("one figure", u"- Ads: $5\n- Events: soon"_s, QString());
         row("mostly words", u"- a: 1\n- b: 2\n- c\n- d"_s, QString());
@@ -184,6 +224,14 @@ private Q_SLOTS:
             QString());
         row("sentences", u"- We met them: 5 people\n- It took: 3 hours"_s, QString());
         row("marks", u"- IBAN: 12\n- Year: 2024\n- Phone: 5551234"_s, QString());
+        row("numbered marks", u"- Chapter 1: 12\n- Chapter 2: 30"_s, QString());
+        row("years", u"- Qt 5.15: 2020\n- Qt 6.4: 2022"_s, QString());
+        row("days", u"Сроки проекта\n\n- Дизайн: 12.05\n- Код: 20.05"_s, QString());
+        row("opening hours", u"- Monday: 9–17\n- Tuesday: 10 to 6"_s, QString());
+        row("versions", u"Tool versions:\n- Python: 3.11\n- Node: 18.2"_s, QString());
+        row("contents", u"Contents:\n- Introduction — 1\n- Results — 12"_s, QString());
+        row("months", u"- Срок: 15 янв\n- Ревью: 17 фев"_s, QString());
+        row("an amount that may be two", u"- Ads: 1.200 €\n- Ops: 2.500 €"_s, QString());
         row("tasks", u"- [x] Test: 3 cases\n- [ ] Docs: 2 pages"_s, QString());
         row("code", u"```\n- a: 1\n- b: 2\n```"_s, QString());
         row("indented code", u"    - a: 1\n    - b: 2"_s, QString());
@@ -212,6 +260,11 @@ private Q_SLOTS:
             u"## Week 12\nRevenue: $12k (−3%)\n\n**Users** — 340\nMood: good\nThe rest is prose."_s,
             u"kpi “Week 12” Revenue=$12k~−3% Users=340 Mood=good"_s);
         row("Russian", u"Выручка: 1,2 млн\nКлиенты – 15"_s, u"kpi Выручка=1,2 млн Клиенты=15"_s);
+        row("foreign bullets", u"– Ads: $5\n▪ Ops: $6"_s, u"kpi Ads=$5 Ops=$6"_s);
+        row("remarks", u"Note: 3 failures\nP.S.: 5 days left"_s, QString());
+        row("years", u"Born: 1970\nDied: 2020"_s, QString());
+        row("telephones", u"Тел.: 5551234\nФакс: 5551235"_s, QString());
+        row("numbers of documents", u"Заказ №: 12345\nДоговор: 67890"_s, QString());
         row("one figure", u"Revenue: $12k\nMood: good"_s, QString());
         row("mostly words", u"a: 1\nb: 2\nc: x\nd: y\ne: z"_s, QString());
         row("apart", u"Revenue: $12k\nProse between them.\nUsers: 340"_s, QString());

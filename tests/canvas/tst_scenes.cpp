@@ -57,6 +57,8 @@ private Q_SLOTS:
         QTest::newRow("more of what should be few") << u"Overdue tasks"_s << u"+3"_s << Tone::Bad;
         QTest::newRow("less of it") << u"Median first reply"_s << u"-9 m"_s << Tone::Good;
         QTest::newRow("Russian") << u"Расходы"_s << u"+3%"_s << Tone::Bad;
+        QTest::newRow("arrow") << u"Releases"_s << u"↑ 5"_s << Tone::Good;
+        QTest::newRow("dash") << u"Releases"_s << u"–5"_s << Tone::Bad;
         QTest::newRow("no sign") << u"Overdue tasks"_s << u"3 more"_s << Tone::Neutral;
     }
     void tones() {
@@ -124,6 +126,16 @@ private Q_SLOTS:
         QCOMPARE(scene->art, u"compare"_s);
         QCOMPARE(scene->cpCols, (QStringList{u"Name"_s, u"Value"_s, u"Note"_s}));
         QCOMPARE(scene->cpRows.at(0).cells.first(2), (QStringList{u"0"_s, u"Ann"_s}));
+    }
+
+    /// "What did we spend?" asks for a budget; without a plan the answer's own art tells more.
+    void spendingWithoutAPlan() {
+        const auto spec = CanvasEngine::spec(
+            *JVal::parse(R"({"kind":"stacked","series":[{"name":"Ads","points":["May: $5"]},
+                {"name":"Tools","points":["May: $7"]}]})"),
+            QString());
+        QCOMPARE(SceneAdapter::vals(*spec, u"budget"_s)->art, u"costs"_s);
+        QVERIFY(!SceneAdapter::build(*spec, u"budget"_s, u"budget"_s));
     }
 
     void nothingToDraw() {

@@ -116,7 +116,7 @@ private Q_SLOTS:
             QTest::newRow(question) << QString::fromUtf8(question) << pattern;
         };
         row("Give me a table of the projects",
-            u"\\n\\| :-- \\| --: .*\\n\\| Night Ferry \\| \\d+ "_s);
+            u"\\n\\| :--- \\| ---: .*\\n\\| Night Ferry \\| \\d+ "_s);
         row("List the tasks", u"\\n- Night Ferry: \\d+\\n"_s);
         row("Key figures please", u"\\nRevenue: €[\\d,]+\\nReleases: \\d+\\n"_s);
         row("The week at a glance, headline only", u"```kpi\\n\\[\"Revenue: €"_s);

@@ -142,8 +142,10 @@ QJsonObject answerJson(const Request &request, const QUrl &baseUrl) {
     if (answer.spec) {
         json.insert(u"spec"_s, specJson(*answer.spec));
         json.insert(u"art"_s, orNull(canvas::CanvasEngine::artForSpec(*answer.spec, intent)));
-        if (const auto scene = canvas::SceneAdapter::vals(*answer.spec, intent))
+        if (const auto scene = canvas::SceneAdapter::vals(*answer.spec, intent)) {
+            json.insert(u"art"_s, scene->art);
             json.insert(u"scene"_s, sceneJson(*scene));
+        }
     }
     return json;
 }
