@@ -63,6 +63,14 @@ QList<ViewSpec::Point> rowsOf(const ViewSpec &spec) {
     return drawableOf(spec.series.size() > 1 ? linesOf(spec) : pointsOf(spec));
 }
 
+/// Scores, prices, balances and the values of several lines are compared, not added.
+bool isCompared(const ViewSpec &spec) {
+    const bool severalLines = spec.kind != u"stacked" && spec.series.size() > 1;
+    const QString name = spec.series.size() == 1 ? spec.series.first().name : QString();
+    return spec.kind == u"rank" || severalLines ||
+           isRelative(spec.title.value_or(QString()) + u' ' + name);
+}
+
 /// A total that the answer states is no row beside what it sums up.
 QString takeStatedTotal(QList<ViewSpec::Point> &rows, const QString &unit) {
     for (qsizetype i = 0; i < rows.size(); ++i) {
@@ -106,9 +114,7 @@ std::optional<SceneOut> buildCosts(const ViewSpec &spec) {
                              .color = colors.at(scene.coRows.size() % colors.size())});
     }
     scene.countLine = QString::number(rows.size()) + u" rows · from the answer"_s;
-    // Scores, prices and averages are compared, not added.
-    const bool compared = spec.kind == u"rank" || isRelative(spec.title.value_or(QString()));
-    const QString total = compared ? QString() : totalText(rows, unit);
+    const QString total = isCompared(spec) ? QString() : totalText(rows, unit);
     scene.coTotal = stated.isEmpty() ? total : stated;
     if (!scene.coTotal.isEmpty())
         scene.coTotalSub = u"answer arrived · "_s + scene.countLine;

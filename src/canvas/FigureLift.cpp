@@ -1,6 +1,7 @@
 #include "canvas/FigureLift.h"
 
 #include "base/JVal.h"
+#include "base/Regex.h"
 #include "canvas/FigureName.h"
 #include "canvas/SceneFigures.h"
 
@@ -33,10 +34,16 @@ QString keyOf(const ViewSpec &spec, const QList<LiftedLine> &lines) {
     return JVal::arr(texts).canonical();
 }
 
+/// The value without the punctuation of its line; a point may end an abbreviation: "5 тыс."
+QString valueOf(const LiftedLine &line) {
+    static const Regex end(u"[;,]$|(?<=\\d|[%$€₽)]|\\p{L}{5})\\.$");
+    return line.figure ? end.replaceAll(line.text, u"") : line.text;
+}
+
 ViewSpec table(const QList<LiftedLine> &lines) {
     ViewSpec spec{.kind = u"table"_s, .columns = {u"Name"_s, u"Value"_s}};
     for (const LiftedLine &line : lines)
-        spec.rows.append({line.name, line.text});
+        spec.rows.append({line.name, valueOf(line)});
     spec.jsonKey = keyOf(spec, lines);
     return spec;
 }
@@ -89,7 +96,7 @@ ViewSpec cards(const QList<LiftedLine> &lines) {
     for (const LiftedLine &line : lines) {
         ViewSpec::Item item{.label = line.name};
         if (!line.text.isEmpty())
-            item.display = line.text;
+            item.display = valueOf(line);
         if (line.figure) {
             item.value = line.figure->value;
             if (!line.figure->delta.isEmpty()) {

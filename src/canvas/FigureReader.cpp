@@ -26,7 +26,8 @@ bool FigureReader::take(QStringView word) {
 std::optional<double> FigureReader::number() {
     constexpr qsizetype mostDigits = 15;
     QString digits = run();
-    if (digits.isEmpty())
+    const bool isMark = digits.size() > 1 && digits.startsWith(u'0'); // "007", "030 123 456"
+    if (digits.isEmpty() || isMark)
         return std::nullopt;
     while (digits.size() <= mostDigits && digitsBehind() == 3 &&
            (isSpace(peek()) || peek() == u',' || peek() == u'_')) {

@@ -13,10 +13,10 @@ std::optional<Progress> progressOf(const ViewSpec::Point &point, const QString &
     double percent = value;
     std::optional<int> tick;
     if (isPercentage(point, unit)) {
-        const double scale = fractions && target > 0 ? 100 : 1;
-        percent = value * scale;
+        const bool bothFractions = fractions && target > 0;
+        percent = bothFractions ? value * 100 : percentageOf(point);
         if (target > 0)
-            tick = wholePercent(target * scale);
+            tick = wholePercent(bothFractions ? target * 100 : target);
     } else if (target > 0) {
         percent = fractions ? value * 100 : value / target * 100;
         tick = fractions ? wholePercent(target * 100) : 100;

@@ -39,9 +39,14 @@ std::optional<SceneOut> SceneAdapter::build(const ViewSpec &spec,
     const auto art = forceArt ? forceArt : CanvasEngine::artForSpec(spec, intent);
     const Builder builder = art ? builders().value(*art) : nullptr;
     auto scene = builder ? builder(spec) : std::nullopt;
-    // Asked what was spent, an answer without a plan is drawn as it would be unasked.
-    if (!scene && intent && !forceArt && art == u"budget")
-        return build(spec, std::nullopt);
+    if (!scene && !forceArt) {
+        // Asked what was spent, an answer without a plan is drawn as it would be unasked.
+        if (intent && art == u"budget")
+            return build(spec, std::nullopt);
+        // What is no choice of two is still a table.
+        if (art == u"decision")
+            return build(spec, intent, u"compare"_s);
+    }
     if (scene) {
         scene->art = *art;
         scene->title = sceneTitle(spec, *art);

@@ -13,8 +13,9 @@ namespace kiv::canvas::SceneAdapter {
 const QList<SceneColor> &palette();
 
 /// The scene of `forceArt`, or of the art that fits the view and the question's intent.
-/// Nothing when there is no such art or the view lacks what the art needs; a budget that only the
-/// question asked for gives way to the view's own art.
+/// Nothing when there is no such art or the view lacks what the art needs. Two arts give way when
+/// they are not forced: a budget that the question asked for to the view's own art, a decision that
+/// is no choice of two to the table.
 std::optional<SceneOut> build(const ViewSpec &spec, const std::optional<QString> &intent,
                               const std::optional<QString> &forceArt = {});
 

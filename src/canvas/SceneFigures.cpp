@@ -103,6 +103,14 @@ bool isPercentage(const ViewSpec::Point &point, const QString &unit) {
     return unit == u"%" || point.display.value_or(QString()).contains(u'%');
 }
 
+double percentageOf(const ViewSpec::Point &point) {
+    const double value = point.value.value_or(0);
+    const auto shown = proseFigure(point.display.value_or(QString()));
+    const bool isFraction = shown && value > 0 && value <= 1 && shown->value > value &&
+                            std::abs(shown->value - value * 100) <= 0.5;
+    return isFraction ? value * 100 : value;
+}
+
 double sumOf(const QList<double> &values) {
     int decimals = 0;
     for (const double value : values)
@@ -131,9 +139,9 @@ bool addUp(const QStringList &labels) {
 bool isRelative(const QString &heading) {
     static const Regex relative(u"price|\\brates?\\b|average|\\bavg|\\bmean\\b|median|score|"
                                 u"rating|grade|velocity|speed|latency|response time|\\bages?\\b|"
-                                u"temperature|ranking|"
+                                u"temperature|ranking|balance|runway|"
                                 u"\\bцен[аы]\\b|тариф|средн|медиан|балл|оценк|рейтинг|скорост|"
-                                u"возраст|задержк|время ответа|температур",
+                                u"возраст|остат|баланс|сальдо|задержк|время ответа|температур",
                                 Regex::CaseInsensitive);
     return relative.contains(heading);
 }

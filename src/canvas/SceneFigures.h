@@ -29,6 +29,10 @@ QString unitOf(const ViewSpec &spec, const QList<ViewSpec::Point> &points);
 /// Whether a value is written as a percentage.
 bool isPercentage(const ViewSpec::Point &point, const QString &unit);
 
+/// The figure of a percentage; a fraction beside its percentage, 0.62 beside "62%", counts as what
+/// is shown.
+double percentageOf(const ViewSpec::Point &point);
+
 /// The sum with no more decimals than its parts have.
 double sumOf(const QList<double> &values);
 
@@ -39,7 +43,8 @@ QString totalText(const QList<ViewSpec::Point> &points, const QString &unit);
 /// Whether figures under these labels add up to something. Stages of a funnel hold each other.
 bool addUp(const QStringList &labels);
 
-/// Whether a heading names figures of which each stands for itself: prices, averages, scores.
+/// Whether a heading names figures of which each stands for itself: prices, averages,
+/// scores, balances.
 bool isRelative(const QString &heading);
 
 /// Whether a row sums up the others: "Total", "Итого".

@@ -15,6 +15,10 @@ namespace {
 /// Percentages are shares of a hundred, also when they leave a rest; small excess is rounding.
 constexpr double roundedHundred = 101;
 
+double shareOf(const ViewSpec::Point &part, const QString &unit) {
+    return isPercentage(part, unit) ? percentageOf(part) : *part.value;
+}
+
 /// What the parts are shares of; nothing when they are no parts of one whole.
 std::optional<double> wholeOf(const QList<ViewSpec::Point> &parts, const QString &unit) {
     double sum = 0;
@@ -22,7 +26,7 @@ std::optional<double> wholeOf(const QList<ViewSpec::Point> &parts, const QString
     for (const ViewSpec::Point &part : parts) {
         if (!isDrawable(part.value) || *part.value < 0)
             return std::nullopt;
-        sum += *part.value;
+        sum += shareOf(part, unit);
         percentages += isPercentage(part, unit) ? 1 : 0;
     }
     if (parts.size() < 2 || sum <= 0)
@@ -38,7 +42,7 @@ void addParts(SceneOut &scene, const QList<ViewSpec::Point> &parts, double whole
               const QString &unit) {
     double left = 0;
     for (const ViewSpec::Point &part : parts) {
-        const double width = *part.value / whole * 100;
+        const double width = shareOf(part, unit) / whole * 100;
         const auto &colors = SceneAdapter::palette();
         scene.ueRows.append({.name = part.label.trimmed(),
                              .left = left,

@@ -42,11 +42,12 @@ QString withoutOpenBlock(const QString &text) {
 /// What bubble and canvas make of an answer.
 void readAnswer(Msg &message) {
     const auto extracted = canvas::CanvasEngine::extractViewSpec(message.text, message.view);
-    message.shown = withoutOpenBlock(extracted.text);
     message.spec = extracted.spec;
-    if (!extracted.spec)
-        return;
-    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), *extracted.spec, std::nullopt);
+    const auto scene =
+        extracted.spec ? canvas::SceneAdapter::valsAmong(drawnArts(), *extracted.spec, std::nullopt)
+                       : std::nullopt;
+    // What cannot be drawn stays to be read.
+    message.shown = withoutOpenBlock(scene ? extracted.text : message.text.trimmed());
     if (scene) {
         message.art = scene->art;
         message.title = scene->title;

@@ -42,6 +42,9 @@ private Q_SLOTS:
         row("more than a whole", R"(["a: 80%","b: 70%"])", QString());
         row("unlike", R"(["a: 80%","b: 7"])", QString());
         row("below zero", R"(["a: 80","b: -7"])", QString());
+        row("fractions beside percentages",
+            R"([{"label":"a","value":0.5,"display":"50%"},{"label":"b","value":0.3,"display":"30%"}])",
+            u"50 30 = "_s);
         row("unknown part", R"(["a: 80","b","c: 3"])", QString());
         row("too large", R"([{"label":"a","value":1e300},{"label":"b","value":1}])", QString());
         row("one part", R"(["a: 80"])", QString());
@@ -101,6 +104,12 @@ private Q_SLOTS:
             R"({"kind":"stacked","series":[{"name":"Ads","points":[{"label":"Jan","value":1},
             {"label":"Feb","value":2}]},{"name":"Events","points":[{"label":"Jan","value":6}]}]})",
             u"9"_s, {50, 100}, 2);
+        row("several lines",
+            R"({"kind":"line","series":[{"name":"In","points":["May: 6"]},{"name":"Out","points":["May: 3"]}]})",
+            QString(), {100, 50}, 0);
+        row("balances",
+            R"({"kind":"line","series":[{"name":"Balance","points":["May: 6","June: 3"]}]})",
+            QString(), {100, 50}, 0);
         row("nothing to add", block("bar", R"(["a: 5"])"), QString(), {100}, 0);
     }
     void costs() {

@@ -72,6 +72,7 @@ private Q_SLOTS:
         row(u"9–17"_s, QString());
         row(u"9 to 5 pm"_s, QString());
         row(u"500–1k"_s, QString());
+        row(u"030 123 456"_s, QString());
         row(u"-5–5 °C"_s, QString());
         row(u"15 сент."_s, QString());
         row(u"3/5 of us"_s, QString());
@@ -260,6 +261,8 @@ private Q_SLOTS:
             u"## Week 12\nRevenue: $12k (−3%)\n\n**Users** — 340\nMood: good\nThe rest is prose."_s,
             u"kpi “Week 12” Revenue=$12k~−3% Users=340 Mood=good"_s);
         row("Russian", u"Выручка: 1,2 млн\nКлиенты – 15"_s, u"kpi Выручка=1,2 млн Клиенты=15"_s);
+        row("ends of sentences", u"Ads: $5;\nOps: 7 задач.\nWeb: 3 тыс."_s,
+            u"kpi Ads=$5 Ops=7 задач Web=3 тыс."_s);
         row("foreign bullets", u"– Ads: $5\n▪ Ops: $6"_s, u"kpi Ads=$5 Ops=$6"_s);
         row("remarks", u"Note: 3 failures\nP.S.: 5 days left"_s, QString());
         row("years", u"Born: 1970\nDied: 2020"_s, QString());

@@ -19,6 +19,10 @@ private Q_SLOTS:
         };
         row(R"({"label":"a","value":62,"display":"62%","target":70,"hint":"Ann"})",
             u"62 70 0 Ann"_s);
+        row(R"({"label":"a","value":0.62,"display":"62%"})", u"62 -1 1 "_s);
+        row(R"({"label":"a","value":0.62,"display":"62%","target":70})", u"62 70 0 "_s);
+        row(R"({"label":"a","value":0,"display":"0%","target":0.7})", u"0 70 0 "_s);
+        row(R"({"label":"a","value":0.62,"display":"0.62%"})", u"1 -1 1 "_s);
         row(R"({"label":"a","value":42,"target":60})", u"70 100 0 42 of 60"_s);
         row(R"({"label":"a","value":60,"target":60})", u"100 100 1 60 of 60"_s);
         row(R"({"label":"a","value":0.5,"target":0.8})", u"50 80 0 0.5 of 0.8"_s);

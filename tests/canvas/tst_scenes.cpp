@@ -138,6 +138,14 @@ private Q_SLOTS:
         QVERIFY(!SceneAdapter::build(*spec, u"budget"_s, u"budget"_s));
     }
 
+    void noChoiceOfTwoIsATable() {
+        const char *three = R"({"kind":"compare","columns":["Criterion","A","B","C"],
+            "rows":[["Cost",4,8,1],["Speed",9,7,1]]})";
+        QCOMPARE(sceneOf(three)->art, u"compare"_s);
+        QCOMPARE(sceneOf(three)->cpRows.size(), 2);
+        QVERIFY(!sceneOf(three, u"decision"_s));
+    }
+
     void nothingToDraw() {
         QVERIFY(!sceneOf(R"({"kind":"choice","options":["a","b"]})"));
         QVERIFY(!sceneOf(R"({"kind":"kpi","items":["a: 1"]})", u"nothing"_s));

@@ -96,6 +96,16 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
     }
 
+    void blockWithoutASceneStaysInTheText() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Which one?"_s));
+        const QString answer =
+            u"Pick:\n```view\n{\"kind\":\"choice\",\"options\":[\"a\",\"b\"]}\n```"_s;
+        f.row(9, answer);
+        SOON_COMPARE(f.msgs().messages().last().shown, answer);
+        QCOMPARE(f.msgs().messages().last().art, QString());
+    }
+
     void viewOfTheServer() {
         StoreFixture f;
         QVERIFY(ask(f, u"Weekly report"_s));
