@@ -1,6 +1,6 @@
 #include "canvas/RestoredCanvas.h"
 
-#include "canvas/AnswerBlock.h"
+#include "canvas/AnswerReading.h"
 #include "canvas/SceneAdapter.h"
 
 #include <algorithm>
@@ -19,9 +19,10 @@ RestoredCanvas CanvasEngine::latestDrawable(const QList<ConversationLine> &messa
     const auto question = std::find_if(answer, messages.rend(), writtenBy(Who::You));
     const QString query = question == messages.rend() ? QString() : question->text.trimmed();
 
-    if (const auto spec = extractViewSpec(answer->text, answer->view).spec) {
-        if (SceneAdapter::vals(*spec, std::nullopt))
-            return RestoredArt{*spec, query, ReplyOptions::parse(answer->text).chips};
+    const AnswerReading reading = readAnswer(answer->text, answer->view);
+    if (reading.spec) {
+        if (SceneAdapter::vals(*reading.spec, std::nullopt))
+            return RestoredArt{*reading.spec, query, reading.chips};
         return RestoredHint{query};
     }
     if (const auto link = SurfaceMatcher::match(answer->text, baseUrl))

@@ -41,6 +41,7 @@ class CanvasRoom : public QObject {
     Q_PROPERTY(int thinkingSeconds READ thinkingSeconds NOTIFY thinkingSecondsChanged)
     Q_PROPERTY(QString sourceTime READ sourceTime NOTIFY sourceTimeChanged)
     Q_PROPERTY(QString sourceMessageId READ sourceMessageId NOTIFY sourceMessageIdChanged)
+    Q_PROPERTY(kiv::canvas::SurfaceLink pageView READ pageView NOTIFY pageViewChanged)
     Q_PROPERTY(kiv::store::HistoryModel *history READ history CONSTANT)
 public:
     explicit CanvasRoom(AppStore &store);
@@ -65,9 +66,14 @@ public:
     /// When the answer on the canvas was written, such as "22 Nov, 09:42".
     QString sourceTime() const { return m_sourceTime; }
     QString sourceMessageId() const { return m_sourceMessageId; }
+    /// The page of the platform that the canvas shows; without an address for none.
+    canvas::SurfaceLink pageView() const { return m_pageView; }
     HistoryModel *history() { return &m_history; }
 
     bool awaitingAnswer() const { return m_awaitingAnswer; }
+    /// Whether a row of the agent's side belongs to the answer of the current turn: one that is
+    /// awaited, or one that had settled and goes on.
+    bool isAnswer(const Msg &message) const;
     bool isKnown(qint64 id) const { return m_knownIds.contains(id); }
     /// Rows that turned out to be older than the question; none of them is its answer.
     void addKnown(const QSet<qint64> &ids) { m_knownIds.unite(ids); }
@@ -89,7 +95,8 @@ public:
     /// Ends the phase without touching what was drawn.
     void setIdle();
     void scheduleScenario(int gen, const Msg &message);
-    void applyRestoredCanvas(const canvas::RestoredCanvas &canvas);
+    /// `answer` is the newest answer, which it was restored from.
+    void applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer);
     /// Signed out: canvas and history go.
     void forgetAll();
 
@@ -110,6 +117,7 @@ Q_SIGNALS:
     void thinkingSecondsChanged();
     void sourceTimeChanged();
     void sourceMessageIdChanged();
+    void pageViewChanged();
 
 private:
     enum class Entrance { Animated, Still };
@@ -122,17 +130,28 @@ private:
         std::optional<QString> intent;
         QUuid historyEntry;
         std::optional<QString> drawnSpecKey;
+        QUuid answer; ///< the message that settled as the answer
     };
 
+    bool mayDrawEarly(const Msg &message) const;
+    bool hasNewDrawing(const Msg &answer) const;
     QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);
     QCoro::Task<void> finishBuilding(Cancel cancel);
     QCoro::Task<void> countSeconds(Cancel cancel);
     void runScenario(const Msg &message, LinkOpening links);
-    void drawScenario(const canvas::ViewSpec &spec, Entrance entrance, Record record);
+    void drawAgain(const Msg &answer);
+    /// Whether there is anything to draw in it.
+    bool drawScenario(const canvas::ViewSpec &spec, const QList<canvas::ReplyChip> &chips,
+                      Entrance entrance, Record record);
+    void show(const canvas::SceneOut &scene, const canvas::ArtInfo &info, Entrance entrance);
+    void remember(const HistoryEntry &entry, Record record);
+    HistoryEntry entryOf(const QString &query, const std::optional<QString> &intent,
+                         const canvas::ViewSpec &spec, const canvas::SceneOut &scene) const;
     void showHint();
     void clearDrawnArt();
     void openSurface(const canvas::SurfaceLink &link);
     void nameSource(const Msg &message);
+    void forgetSource();
 
     AppStore &m_store;
     HistoryModel m_history;
@@ -143,8 +162,6 @@ private:
     Turn m_turn;
     std::optional<QString> m_drawnSpecKey;
     std::optional<QString> m_lastIntent;
-    QString m_panel;
-    std::optional<canvas::SurfaceLink> m_pageView;
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
                                          &CanvasRoom::phaseChanged)
@@ -169,6 +186,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceTime, &CanvasRoom::sourceTimeChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceMessageId,
                                &CanvasRoom::sourceMessageIdChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, canvas::SurfaceLink, m_pageView,
+                               &CanvasRoom::pageViewChanged)
 
     Work m_scenarioTask;
     Work m_buildTask;

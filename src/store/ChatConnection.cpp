@@ -128,7 +128,8 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
             {message.who == Who::You ? ConversationLine::Who::You : ConversationLine::Who::Agent,
              message.text, message.view});
     canvas->applyRestoredCanvas(
-        canvas::CanvasEngine::latestDrawable(lines, m_store.net().baseUrl()));
+        canvas::CanvasEngine::latestDrawable(lines, m_store.net().baseUrl()),
+        answer.value_or(Msg()));
 }
 
 /// The question is still open. Rows above it are older than it; an answer below it that came while
@@ -192,8 +193,10 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     }
     const Msg answer = m_msgs.messages().at(at);
     m_liveWaiting = false;
-    if (m_store.canvas()->awaitingAnswer())
+    if (m_store.canvas()->isAnswer(answer)) {
         m_msgs.setGrowing(answer.id);
+        m_canStop = isStoppable();
+    }
     m_store.canvas()->scheduleScenario(gen, answer);
 }
 

@@ -109,12 +109,28 @@ void ChatRoom::retry(const QString &messageId) {
     m_posts.start([this, again](Cancel cancel) { return post(again, std::move(cancel)); });
 }
 
+void ChatRoom::retryTurn() {
+    const qsizetype row = m_msgs.rowOf(m_turn);
+    if (row >= 0 && m_msgs.messages().at(row).failed)
+        retry(m_turn.toString(QUuid::WithoutBraces));
+    else
+        send(m_lastPrompt);
+}
+
+void ChatRoom::pickChip(const QString &messageId, const canvas::ReplyChip &chip) {
+    const qsizetype row = m_msgs.rowOf(QUuid::fromString(messageId));
+    if (row < 0)
+        return;
+    m_msgs.chooseChip(row, chip.label);
+    send(chip.send);
+}
+
 void ChatRoom::startTurn(const Post &post) {
     m_turn = post.message;
     m_lastPrompt = post.text;
     m_chatNote = QString();
     m_liveWaiting = true;
-    m_canStop = m_connected && m_connected->isAgent();
+    m_canStop = isStoppable();
     m_store.layout()->closeAccount();
     m_store.layout()->closeProfile();
     QSet<qint64> known;
@@ -128,7 +144,8 @@ void ChatRoom::startTurn(const Post &post) {
 
 QCoro::Task<void> ChatRoom::watchAnswer(Cancel cancel) {
     co_await m_store.clock().sleep(answerPatience, std::move(cancel));
-    if (!m_store.canvas()->awaitingAnswer())
+    // An answer that is being written has come; it settles by itself.
+    if (!m_store.canvas()->awaitingAnswer() || !m_msgs.growing().isNull())
         co_return;
     endWaiting();
     m_store.canvas()->failTurn();

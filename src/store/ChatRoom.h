@@ -2,6 +2,7 @@
 
 #include "base/Cancel.h"
 #include "base/Work.h"
+#include "canvas/ReplyOptions.h"
 #include "net/ChatTarget.h"
 #include "store/MessageModel.h"
 
@@ -46,10 +47,14 @@ public:
     const std::optional<net::ChatTarget> &connected() const { return m_connected; }
 
     Q_INVOKABLE void send(const QString &text);
+    /// Sends a reply that was offered under an answer.
+    Q_INVOKABLE void pickChip(const QString &messageId, const kiv::canvas::ReplyChip &chip);
     Q_INVOKABLE void stopLive();
     Q_INVOKABLE void newChat();
     /// Sends a message that had failed once more, in its place.
     Q_INVOKABLE void retry(const QString &messageId);
+    /// Asks the question of the current turn once more: in its place when it was not sent.
+    Q_INVOKABLE void retryTurn();
 
     void connectChat();
     void onLiveInsert(int gen, const net::ChatRow &row);
@@ -89,6 +94,7 @@ private:
     void showHistory(const QList<net::ChatRow> &rows, bool reconnected);
     void resumeTurn();
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
+    bool isStoppable() const { return m_connected && m_connected->isAgent(); }
     void endWaiting();
     void setUnsentAside();
     void keepTypedText();

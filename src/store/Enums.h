@@ -23,7 +23,16 @@ enum class Phase { Idle, Thinking, Building, Done };
 Q_ENUM_NS(Phase)
 
 /// What the canvas shows.
-enum class CanvasState { Empty, SignedOut, ThinkingSkeleton, BuildingScene, Scene, Hint, Failed };
+enum class CanvasState {
+    Empty,
+    SignedOut,
+    ThinkingSkeleton,
+    BuildingScene,
+    Scene,
+    Page,
+    Hint,
+    Failed
+};
 Q_ENUM_NS(CanvasState)
 
 /// The shape of the skeleton: what the question's intent makes likely.

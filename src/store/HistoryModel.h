@@ -1,5 +1,6 @@
 #pragma once
 
+#include "canvas/SurfaceMatcher.h"
 #include "canvas/ViewSpec.h"
 
 #include <QAbstractListModel>
@@ -10,18 +11,19 @@
 
 namespace kiv::store {
 
-/// A drawn canvas, kept for reopening.
+/// A drawn canvas or an opened page, kept for reopening.
 struct HistoryEntry {
     QUuid id = QUuid::createUuid();
-    QString art;
+    QString art;   ///< empty for a page
     QString query; ///< the question that produced it
     QString time;  ///< local time of drawing, hours:minutes
     std::optional<canvas::ViewSpec> spec;
     std::optional<QString> intent;
     QString title;
+    std::optional<canvas::SurfaceLink> page;
 };
 
-/// The canvases drawn in this run, newest first.
+/// The canvases drawn and pages opened in this run, newest first.
 class HistoryModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT

@@ -21,7 +21,7 @@ void MessageModel::append(Msg message) {
     beginInsertRows({}, row, row);
     m_messages.append(std::move(message));
     endInsertRows();
-    Q_EMIT countChanged();
+    countHasChanged();
 }
 
 void MessageModel::replaceAll(QList<Msg> messages) {
@@ -52,7 +52,7 @@ void MessageModel::replaceAll(QList<Msg> messages) {
     }
     // Rows that stood in another order.
     removeRange(messages.size(), m_messages.size());
-    Q_EMIT countChanged();
+    countHasChanged();
 }
 
 void MessageModel::insertRange(qsizetype row, const QList<Msg> &messages) {
@@ -74,16 +74,18 @@ void MessageModel::removeRange(qsizetype first, qsizetype end) {
 void MessageModel::update(qsizetype row, Msg message) {
     Msg &shown = m_messages[row];
     message.id = shown.id;
+    if (!message.chipsChosen)
+        message.chipsChosen = shown.chipsChosen;
     shown = std::move(message);
     const QModelIndex changed = index(static_cast<int>(row));
     Q_EMIT dataChanged(changed, changed,
                        {BodyRole, RawTextRole, TimeRole, MemberLabelRole, DeliveryRole,
-                        CardTitleRole, CardArtRole});
+                        CardTitleRole, CardArtRole, ChipsRole});
 }
 
 void MessageModel::remove(qsizetype row) {
     removeRange(row, row + 1);
-    Q_EMIT countChanged();
+    countHasChanged();
 }
 
 qsizetype MessageModel::find(const std::function<bool(const Msg &)> &matches) const {
@@ -99,28 +101,43 @@ qsizetype MessageModel::rowOf(const QUuid &id) const {
     return find([id](const Msg &message) { return message.id == id; });
 }
 
-void MessageModel::touch(const QUuid &id, Role role) {
+void MessageModel::countHasChanged() {
+    const QUuid last = m_messages.isEmpty() ? QUuid() : m_messages.last().id;
+    const QUuid before = std::exchange(m_last, last);
+    if (before != last) {
+        touch(before, {ChipsRole});
+        touch(last, {ChipsRole});
+    }
+    Q_EMIT countChanged();
+}
+
+void MessageModel::touch(const QUuid &id, const QList<int> &roles) {
     const qsizetype row = id.isNull() ? -1 : rowOf(id);
     if (row < 0)
         return;
     const QModelIndex changed = index(static_cast<int>(row));
-    Q_EMIT dataChanged(changed, changed, {role});
+    Q_EMIT dataChanged(changed, changed, roles);
 }
 
 void MessageModel::setGrowing(const QUuid &id) {
     if (id == m_growing)
         return;
     const QUuid before = std::exchange(m_growing, id);
-    touch(before, GrowingRole);
-    touch(id, GrowingRole);
+    touch(before, {GrowingRole, BodyRole, ChipsRole});
+    touch(id, {GrowingRole, BodyRole, ChipsRole});
 }
 
 void MessageModel::setOnCanvas(const QUuid &id) {
     if (id == m_onCanvas)
         return;
     const QUuid before = std::exchange(m_onCanvas, id);
-    touch(before, OnCanvasRole);
-    touch(id, OnCanvasRole);
+    touch(before, {OnCanvasRole});
+    touch(id, {OnCanvasRole});
+}
+
+void MessageModel::chooseChip(qsizetype row, const QString &label) {
+    m_messages[row].chipsChosen = label;
+    touch(m_messages.at(row).id, {ChipsRole});
 }
 
 int MessageModel::rowCount(const QModelIndex &parent) const {
@@ -138,7 +155,7 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return QVariant::fromValue(message.who);
     case Qt::DisplayRole:
     case BodyRole:
-        return message.shown;
+        return message.id == m_growing ? message.shownMeanwhile : message.shown;
     case RawTextRole:
         return message.text;
     case TimeRole:
@@ -157,6 +174,11 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return message.art;
     case OnCanvasRole:
         return message.id == m_onCanvas;
+    case ChipsRole: {
+        const bool offered =
+            message.id == m_last && message.id != m_growing && !message.chipsChosen;
+        return QVariant::fromValue(offered ? message.chips : QList<canvas::ReplyChip>());
+    }
     default:
         return {};
     }
@@ -164,10 +186,10 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
 
 QHash<int, QByteArray> MessageModel::roleNames() const {
     return {
-        {MessageIdRole, "messageId"}, {WhoRole, "who"},          {BodyRole, "body"},
-        {RawTextRole, "rawText"},     {TimeRole, "time"},        {MemberLabelRole, "memberLabel"},
-        {DeliveryRole, "delivery"},   {GrowingRole, "growing"},  {CardTitleRole, "cardTitle"},
-        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}};
+        {MessageIdRole, "messageId"}, {WhoRole, "who"},           {BodyRole, "body"},
+        {RawTextRole, "rawText"},     {TimeRole, "time"},         {MemberLabelRole, "memberLabel"},
+        {DeliveryRole, "delivery"},   {GrowingRole, "growing"},   {CardTitleRole, "cardTitle"},
+        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}, {ChipsRole, "chips"}};
 }
 
 FeedModel::FeedModel(MessageModel *messages, QObject *parent) : QSortFilterProxyModel(parent) {

@@ -29,6 +29,7 @@ public:
         CardTitleRole, ///< heading of the scene that the message carries; empty without one
         CardArtRole,
         OnCanvasRole, ///< the canvas shows this message's scene
+        ChipsRole,    ///< replies to pick from: under a finished answer that nothing follows
     };
 
     explicit MessageModel(QObject *parent = nullptr) : QAbstractListModel(parent) {}
@@ -52,7 +53,10 @@ public:
 
     /// The row that is still being written; a null id for none.
     void setGrowing(const QUuid &id);
+    const QUuid &growing() const { return m_growing; }
     void setOnCanvas(const QUuid &id);
+    /// Marks the reply that was picked under an answer.
+    void chooseChip(qsizetype row, const QString &label);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -64,11 +68,13 @@ Q_SIGNALS:
 private:
     void insertRange(qsizetype row, const QList<Msg> &messages);
     void removeRange(qsizetype first, qsizetype end);
-    void touch(const QUuid &id, Role role);
+    void countHasChanged();
+    void touch(const QUuid &id, const QList<int> &roles);
 
     QList<Msg> m_messages;
     QUuid m_growing;
     QUuid m_onCanvas;
+    QUuid m_last; ///< the last row, whose replies show
 };
 
 /// The last messages of a conversation: the compact feed of the rail.

@@ -1,6 +1,6 @@
 #include "store/Msg.h"
 
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerReading.h"
 #include "canvas/TableScene.h"
 #include "store/DrawnArts.h"
 
@@ -28,26 +28,34 @@ QList<MsgFile> msgFiles(const net::ChatRow &row) {
     return files;
 }
 
-/// While an answer grows, a block that has begun and not ended is not yet for reading.
-QString withoutOpenBlock(const QString &text) {
-    static const QRegularExpression opening(
-        u"(?:^|\\n)```[ \\t]*(?:view|chart|kpi)[ \\t]*(?:\\r?\\n|$)"_s,
-        QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = opening.match(text);
-    if (!match.hasMatch() || text.indexOf(u"```"_s, match.capturedEnd()) >= 0)
-        return text;
-    return text.first(match.capturedStart()).trimmed();
+canvas::ReplySources replySources(const net::ChatRow &row) {
+    if (!row.metadata)
+        return {};
+    canvas::ReplySources sources{.choiceOptions = row.metadata->choiceOptions,
+                                 .starters = std::nullopt,
+                                 .confirmAsk = row.metadata->confirmAsk,
+                                 .errorMessage = row.metadata->errorMessage};
+    if (row.metadata->starters) {
+        sources.starters.emplace();
+        for (const auto &starter : *row.metadata->starters)
+            sources.starters->append(
+                {starter.label.value_or(QString()), starter.prompt.value_or(QString())});
+    }
+    return sources;
 }
 
 /// What bubble and canvas make of an answer.
-void readAnswer(Msg &message) {
-    const auto extracted = canvas::CanvasEngine::extractViewSpec(message.text, message.view);
-    message.spec = extracted.spec;
+void readAnswer(Msg &message, const net::ChatRow &row) {
+    auto reading = canvas::readAnswer(message.text, message.view, replySources(row));
+    message.chips = std::move(reading.chips);
+    message.spec = std::move(reading.spec);
+    message.isWhole = reading.isWhole;
     const auto scene =
-        extracted.spec ? canvas::SceneAdapter::valsAmong(drawnArts(), *extracted.spec, std::nullopt)
-                       : std::nullopt;
+        message.spec ? canvas::SceneAdapter::valsAmong(drawnArts(), *message.spec, std::nullopt)
+                     : std::nullopt;
     // What cannot be drawn stays to be read.
-    message.shown = withoutOpenBlock(scene ? extracted.text : message.text.trimmed());
+    message.shown = scene ? reading.shown : reading.text.trimmed();
+    message.shownMeanwhile = canvas::withoutOpenBlock(message.shown);
     if (scene) {
         message.art = scene->art;
         message.title = scene->title;
@@ -61,6 +69,7 @@ Msg localMsg(Who who, const QString &text) {
     message.who = who;
     message.text = text;
     message.shown = text;
+    message.shownMeanwhile = text;
     return message;
 }
 
@@ -74,6 +83,7 @@ std::optional<Msg> rowToMsg(const net::ChatRow &row) {
         return std::nullopt;
     message.text = row.content;
     message.shown = row.content;
+    message.shownMeanwhile = row.content;
     message.serverID = row.id;
     message.files = msgFiles(row);
     if (row.createdAt)
@@ -83,7 +93,7 @@ std::optional<Msg> rowToMsg(const net::ChatRow &row) {
         message.memberLabel = row.metadata->memberLabel.value_or(QString());
     }
     if (message.who == Who::Agent)
-        readAnswer(message);
+        readAnswer(message, row);
     return message;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/JVal.h"
+#include "canvas/ReplyOptions.h"
 #include "canvas/ViewSpec.h"
 #include "net/ChatRecords.h"
 #include "store/Enums.h"
@@ -24,11 +25,14 @@ struct MsgFile {
 struct Msg {
     QUuid id = QUuid::createUuid();
     Who who = Who::Agent;
-    QString text;  ///< the row's own text
-    QString shown; ///< what the bubble shows of it: without the block that the canvas draws
+    QString text;                         ///< the row's own text
+    QString shown;                        ///< what the bubble shows of it
+    QString shownMeanwhile;               ///< what the bubble shows of it while it is being written
     std::optional<canvas::ViewSpec> spec; ///< what the canvas can read in it
-    QString title;                        ///< heading of what the canvas can draw of it
-    QString art; ///< the scene the canvas can draw of it; empty when there is none
+    /// What is still to come changes nothing about `spec`, as far as can be told.
+    bool isWhole = false;
+    QString title; ///< heading of what the canvas can draw of it
+    QString art;   ///< the scene the canvas can draw of it; empty when there is none
     std::optional<qint64> serverID;
     /// The request id of a message sent from here that the server has not confirmed.
     QString pendingID;
@@ -38,6 +42,8 @@ struct Msg {
     std::optional<qint64> follows;
     QList<MsgFile> files;
     std::optional<JVal> view;
+    QList<canvas::ReplyChip> chips;     ///< replies offered under an answer
+    std::optional<QString> chipsChosen; ///< label of the one that was picked
     QString memberLabel;
     bool fromCall = false;
     std::optional<QDateTime> at; ///< server time of the row

@@ -1,5 +1,6 @@
 #include "store/ScopeRoom.h"
 
+#include "canvas/Suggestions.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 
@@ -78,6 +79,14 @@ ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_c
         return project ? project->colorHex : QString();
     });
     m_scopeDetail.setBinding([this] { return describeScope(); });
+    m_starters.setBinding([this] {
+        if (m_auth.value() != AuthPhase::SignedIn)
+            return QStringList();
+        const auto agent = currentAgent();
+        const auto project = currentProject();
+        return canvas::Suggestions::chips(project ? std::optional(project->name) : std::nullopt,
+                                          agent ? std::optional(agent->name) : std::nullopt);
+    });
     m_userInitials.setBinding([this] { return initialsOf(m_userName, m_userEmail); });
 }
 

@@ -38,6 +38,7 @@ class ScopeRoom : public QObject {
     Q_PROPERTY(QString scopeDetail READ scopeDetail NOTIFY scopeDetailChanged)
     Q_PROPERTY(kiv::store::ScopeKind scopeKind READ scopeKind NOTIFY scopeKindChanged)
     Q_PROPERTY(QString scopeColorHex READ scopeColorHex NOTIFY scopeColorHexChanged)
+    Q_PROPERTY(QList<QString> starters READ starters NOTIFY startersChanged)
     Q_PROPERTY(kiv::store::RailView *rail READ rail CONSTANT)
     Q_PROPERTY(kiv::store::ScopeChoices *choices READ choices CONSTANT)
 public:
@@ -65,6 +66,8 @@ public:
     ScopeKind scopeKind() const { return m_scopeKind; }
     /// Empty for KIV.
     QString scopeColorHex() const { return m_scopeColorHex; }
+    /// Questions to begin a conversation with; none while signed out.
+    QList<QString> starters() const { return m_starters; }
     /// Where text is sent and which chat is streamed; nothing while signed out.
     std::optional<net::ChatTarget> chatTarget() const;
 
@@ -108,6 +111,7 @@ Q_SIGNALS:
     void scopeDetailChanged();
     void scopeKindChanged();
     void scopeColorHexChanged();
+    void startersChanged();
 
 private:
     void select(const QString &project, const QString &agent);
@@ -139,6 +143,7 @@ private:
                                          &ScopeRoom::scopeKindChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_scopeColorHex,
                                &ScopeRoom::scopeColorHexChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QStringList, m_starters, &ScopeRoom::startersChanged)
 };
 
 } // namespace kiv::store

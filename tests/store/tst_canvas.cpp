@@ -58,7 +58,10 @@ private Q_SLOTS:
         CanvasRoom *canvas = f.store->canvas();
         QCOMPARE(canvas->skeletonShape(), SkeletonShape::Cards);
         f.row(9, u"Here it is:\n"_s + reportBlock.chopped(4));
-        SOON_COMPARE(f.msgs().messages().last().shown, u"Here it is:"_s);
+        const auto bubble = [&f] {
+            return f.msgs().index(f.msgs().count() - 1).data(MessageModel::BodyRole).toString();
+        };
+        SOON_COMPARE(bubble(), u"Here it is:"_s);
         QCOMPARE(canvas->phase(), Phase::Thinking);
 
         f.row(9, u"Here it is:\n"_s + reportBlock);
@@ -172,35 +175,55 @@ private Q_SLOTS:
         f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
         SOON_COMPARE(f.msgs().count(), 3);
         f.clock.advance(1200ms);
-        QCOMPARE(f.store->canvas()->history()->count(), 1);
-        QCOMPARE(f.store->canvas()->history()->at(0).title, u"Project Work"_s);
+        CanvasRoom *canvas = f.store->canvas();
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QCOMPARE(canvas->pageView().url, f.backend.url().resolved(u"/project/ferry?tab=tasks"_s));
+        QCOMPARE(canvas->history()->count(), 1);
+        QCOMPARE(canvas->history()->at(0).title, u"Project Work"_s);
         SOON_COMPARE(usage(f), QStringList{u"canvas_open"_s});
+        const auto context = f.backend.requests(u"POST api/v2/rum"_s).first().body.value(u"ctx"_s);
+        QCOMPARE(context.toObject().value(u"page"_s).toString(), u"Project Work"_s);
+
+        // A question takes it away, the history brings it back.
+        f.store->chat()->send(u"Weekly report"_s);
+        QCOMPARE(canvas->state(), CanvasState::ThinkingSkeleton);
+        f.row(11, reportBlock);
+        SOON_COMPARE(canvas->phase(), Phase::Building);
+        f.clock.advance(2s);
+        canvas->openHistory(1);
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QCOMPARE(canvas->art(), QString());
+        QCOMPARE(canvas->query(), u"Where do I see it?"_s);
+        QCOMPARE(canvas->history()->count(), 3);
+        QCOMPARE(canvas->history()->at(0).page, canvas->history()->at(2).page);
+        canvas->openHistory(1);
+        QCOMPARE(canvas->state(), CanvasState::Scene);
     }
 
     void historyKeepsTwenty() {
         StoreFixture f;
         QVERIFY(f.signIn());
         CanvasRoom *canvas = f.store->canvas();
-        for (int turn = 1; turn <= 22; ++turn) {
+        for (int turn = 1; turn <= 25; ++turn) {
             f.store->chat()->send(u"Question %1"_s.arg(turn));
             f.row(100 + turn, QString(reportBlock).replace(u"Week 47"_s, u"Week %1"_s.arg(turn)));
             SOON_COMPARE(canvas->phase(), Phase::Building);
             f.clock.advance(2s);
         }
         QCOMPARE(canvas->history()->count(), HistoryModel::limit);
-        QCOMPARE(canvas->history()->at(0).query, u"Question 22"_s);
-        QCOMPARE(canvas->history()->at(19).query, u"Question 3"_s);
+        QCOMPARE(canvas->history()->at(0).query, u"Question 25"_s);
+        QCOMPARE(canvas->history()->at(19).query, u"Question 6"_s);
 
         canvas->openHistory(19);
         QCOMPARE(canvas->phase(), Phase::Done);
         QVERIFY(!canvas->animated());
-        QCOMPARE(canvas->query(), u"Question 3"_s);
-        QCOMPARE(canvas->canvasTitle(), u"Week 3"_s);
+        QCOMPARE(canvas->query(), u"Question 6"_s);
+        QCOMPARE(canvas->canvasTitle(), u"Week 6"_s);
         QCOMPARE(canvas->history()->count(), HistoryModel::limit);
-        QCOMPARE(canvas->history()->at(0).query, u"Question 3"_s);
+        QCOMPARE(canvas->history()->at(0).query, u"Question 6"_s);
         canvas->openHistory(20);
         canvas->openHistory(-1);
-        QCOMPARE(canvas->query(), u"Question 3"_s);
+        QCOMPARE(canvas->query(), u"Question 6"_s);
     }
 
     void messageLeadsToItsScene() {

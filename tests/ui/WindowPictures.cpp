@@ -77,6 +77,12 @@ void WindowPictures::everyState() {
     gallery.save(named("refine"));
     gallery.press(Qt::Key_Escape);
     QTest::qWait(200);
+    QVERIFY(workspace.ask(
+        u"Where do I see it?"_s,
+        u"On [the board](/project/ferry?tab=tasks).\nOPTIONS: Run the fix|Show the customers"
+        u"|Draft the wording|Send everything to the people who asked for it last week"_s,
+        QString()));
+    gallery.save(named("page"));
     gallery.press(Qt::Key_Backslash, Qt::ControlModifier);
     gallery.press(Qt::Key_K, Qt::ControlModifier);
     gallery.type(u"Check it against last month’s export first"_s);

@@ -66,20 +66,25 @@ Item {
             color: Tokens.t2
             text: message.body
         }
-        Flow {
+        // In one line, or one below the other.
+        Grid {
             id: chips
 
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(parent.width, row.implicitWidth)
             topPadding: 12
             spacing: 8
+            columns: row.implicitWidth <= parent.width ? Math.max(1, message.questions.length) : 1
+            horizontalItemAlignment: Grid.AlignHCenter
 
             Repeater {
                 model: message.questions
 
                 ReplyChip {
                     required property string modelData
+                    required property int index
 
+                    objectName: "canvasChip:" + index
+                    maximumWidth: message.width - 48
                     text: modelData
                     onClicked: message.asked(modelData)
                 }

@@ -65,6 +65,18 @@ FocusScope {
         visible: view.canvas.state === Store.CanvasState.Empty || view.canvas.state === Store.CanvasState.SignedOut
         heading: qsTr("Ask for something with numbers")
         body: qsTr("The answer is drawn here, and the text stays in the conversation.")
+        questions: view.store.scope.starters
+        onAsked: question => view.store.chat.send(question)
+    }
+    CanvasMessage {
+        anchors.fill: parent
+        anchors.bottomMargin: view.reserved
+        visible: view.canvas.state === Store.CanvasState.Page
+        iconName: "globe"
+        heading: view.canvas.pageView.title
+        body: "" + view.canvas.pageView.url
+        questions: [qsTr("Open in the browser")]
+        onAsked: Qt.openUrlExternally(view.canvas.pageView.url)
     }
     CanvasMessage {
         anchors.fill: parent
@@ -82,6 +94,6 @@ FocusScope {
         iconName: "alert"
         heading: qsTr("No answer came")
         questions: [qsTr("Try again")]
-        onAsked: view.store.chat.send(view.store.chat.lastPrompt)
+        onAsked: view.store.chat.retryTurn()
     }
 }

@@ -96,6 +96,7 @@ FocusScope {
         compact: false
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
+        onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)
     }
     Composer {
         id: composer

@@ -25,7 +25,7 @@ FocusScope {
         lastPrompt: composer.store.chat.lastPrompt
         placeholder: qsTr("Ask %1…").arg(composer.store.scope.scopeName)
         hint: composer.hint
-        stoppable: composer.store.chat.canStop && composer.store.chat.liveWaiting
+        stoppable: composer.store.chat.canStop
         onEdited: text => composer.store.chat.draft = text
         onSubmitted: text => composer.store.chat.send(text)
         onStopRequested: composer.store.chat.stopLive()

@@ -5,6 +5,7 @@ import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Icons
+import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
 
@@ -20,6 +21,7 @@ FocusScope {
     signal retryRequested(messageId: string)
     signal sceneRequested(messageId: string)
     signal olderRequested()
+    signal chipPicked(messageId: string, chip: replyChip)
 
     property string flashed: ""
 
@@ -69,6 +71,7 @@ FocusScope {
             onOlderRequested: feed.olderRequested()
             onRetryRequested: feed.retryRequested(messageId)
             onSceneRequested: feed.sceneRequested(messageId)
+            onChipPicked: chip => feed.chipPicked(messageId, chip)
         }
     }
     EndFollower {

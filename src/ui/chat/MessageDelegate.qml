@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
 
@@ -19,6 +20,7 @@ Item {
     required property string cardTitle
     required property string cardArt
     required property bool onCanvas
+    required property list<replyChip> chips
 
     required property ScopeRoom scope
     required property bool compact
@@ -29,6 +31,7 @@ Item {
     signal olderRequested()
     signal retryRequested()
     signal sceneRequested()
+    signal chipPicked(chip: replyChip)
 
     readonly property bool mine: who === Store.Who.You
     readonly property bool failed: delivery === Store.Delivery.Failed
@@ -103,6 +106,12 @@ Item {
             art: message.cardArt
             shown: message.onCanvas
             onClicked: message.sceneRequested()
+        }
+        ReplyChips {
+            x: message.indent
+            width: message.width - x
+            chips: message.chips
+            onPicked: chip => message.chipPicked(chip)
         }
         TextLink {
             anchors.right: parent.right

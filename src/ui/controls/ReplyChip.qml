@@ -36,4 +36,8 @@ T.Button {
         text: chip.text
         Accessible.ignored: true
     }
+    TipLoader {
+        active: chip.hovered && caption.truncated
+        text: chip.text
+    }
 }

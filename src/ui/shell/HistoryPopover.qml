@@ -85,7 +85,7 @@ Popover {
             Icon {
                 x: 12
                 anchors.verticalCenter: parent.verticalCenter
-                name: row.art
+                name: row.art === "" ? "globe" : row.art
                 color: Tokens.t2
             }
             Column {

@@ -110,6 +110,7 @@ FocusScope {
         onOlderRequested: rail.store.layout.toggleDock()
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
+        onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)
     }
     Composer {
         id: composer

@@ -1,0 +1,167 @@
+// From a question to its drawing: when an answer is final enough to draw, and what of it.
+
+#include "canvas/CanvasIntents.h"
+#include "canvas/TableScene.h"
+#include "net/KivAPI.h"
+#include "store/AppStore.h"
+#include "store/CanvasRoom.h"
+#include "store/DrawnArts.h"
+#include "store/SkeletonShapes.h"
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto settleTime = 1200ms;
+
+} // namespace
+
+void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
+    m_scenarioTask.cancel();
+    m_buildTask.cancel();
+    m_lastIntent = canvas::CanvasIntents::classify(question);
+    m_lastQuery = question;
+    m_turn = {question, m_lastIntent, {}, {}, {}};
+    m_skeletonShape = skeletonShapeFor(m_lastIntent);
+    clearDrawnArt();
+    m_drawnSpecKey.reset();
+    m_pageView = canvas::SurfaceLink();
+    m_canvasHint = QString();
+    m_failed = false;
+    m_awaitingAnswer = true;
+    m_knownIds = std::move(knownIds);
+    m_scenarioDone.clear();
+    m_artSkeleton = true;
+    m_phase = Phase::Thinking;
+    m_seconds.restart([this](Cancel cancel) { return countSeconds(std::move(cancel)); });
+}
+
+QCoro::Task<void> CanvasRoom::countSeconds(Cancel cancel) {
+    m_thinkingSeconds = 0;
+    while (m_phase.value() == Phase::Thinking) {
+        co_await m_store.clock().sleep(1s, cancel);
+        m_thinkingSeconds = m_thinkingSeconds + 1;
+    }
+}
+
+void CanvasRoom::abandonTurn() {
+    m_awaitingAnswer = false;
+    m_turn.answer = QUuid();
+    m_scenarioTask.cancel();
+    m_artSkeleton = false;
+    if (m_phase.value() == Phase::Thinking || m_phase.value() == Phase::Building)
+        setIdle();
+}
+
+void CanvasRoom::failTurn() {
+    const bool unanswered = m_phase.value() == Phase::Thinking;
+    abandonTurn();
+    m_failed = unanswered;
+}
+
+void CanvasRoom::resetTurn() {
+    m_awaitingAnswer = false;
+    m_turn.answer = QUuid();
+    m_knownIds.clear();
+    m_scenarioDone.clear();
+    m_earlyDrawnFor.clear();
+    m_scenarioTask.cancel();
+    m_failed = false;
+    m_artSkeleton = false;
+    setIdle();
+}
+
+bool CanvasRoom::isAnswer(const Msg &message) const {
+    if (!m_awaitingAnswer)
+        return message.id == m_turn.answer;
+    return !message.serverID || !m_knownIds.contains(*message.serverID);
+}
+
+void CanvasRoom::scheduleScenario(int gen, const Msg &message) {
+    if (gen != m_store.chat()->chatGen() || !isAnswer(message))
+        return;
+    if (!message.serverID) {
+        // It cannot grow: no later row can be told to be the same.
+        runScenario(message, LinkOpening::Open);
+    } else if (mayDrawEarly(message)) {
+        m_earlyDrawnFor.insert(*message.serverID);
+        runScenario(message, LinkOpening::Leave);
+    }
+    m_scenarioTask.restart([this, gen, local = message.id](Cancel cancel) {
+        return settle(gen, local, std::move(cancel));
+    });
+}
+
+/// A structured answer shows on the canvas while its prose still streams, once.
+bool CanvasRoom::mayDrawEarly(const Msg &message) const {
+    const qint64 id = *message.serverID;
+    const bool isDrawable = message.isWhole && !message.art.isEmpty();
+    return isDrawable && message.spec->jsonKey != m_drawnSpecKey && !m_scenarioDone.contains(id) &&
+           !m_earlyDrawnFor.contains(id);
+}
+
+QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
+    co_await m_store.clock().sleep(settleTime, std::move(cancel));
+    const MessageModel *messages = m_store.chat()->msgs();
+    const qsizetype row = messages->rowOf(message);
+    if (gen != m_store.chat()->chatGen() || row < 0)
+        co_return;
+    const Msg answer = messages->messages().at(row);
+    m_store.chat()->answerSettled();
+    m_awaitingAnswer = false;
+    if (!answer.serverID)
+        co_return; // drawn when it came
+    const bool settledBefore = m_turn.answer == answer.id;
+    m_turn.answer = answer.id;
+    m_scenarioDone.insert(*answer.serverID);
+    if (settledBefore)
+        drawAgain(answer);
+    else if (!m_earlyDrawnFor.contains(*answer.serverID) || hasNewDrawing(answer))
+        runScenario(answer, LinkOpening::Open);
+    // Else it is drawn as it is; the person may look at another canvas by now.
+}
+
+bool CanvasRoom::hasNewDrawing(const Msg &answer) const {
+    return answer.spec && answer.spec->jsonKey != m_turn.drawnSpecKey;
+}
+
+void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
+    m_lastQuery = m_turn.query;
+    m_lastIntent = m_turn.intent;
+    if (message.spec) {
+        m_turn.drawnSpecKey = message.spec->jsonKey;
+        if (drawScenario(*message.spec, message.chips, Entrance::Animated, Record::Turn)) {
+            nameSource(message);
+            return;
+        }
+    } else if (links == LinkOpening::Open) {
+        const auto link = canvas::SurfaceMatcher::match(message.text, m_store.net().baseUrl());
+        if (link) {
+            openSurface(*link);
+            return;
+        }
+    }
+    showHint();
+    net::KivAPI::rum(&m_store.net(), u"canvas_no_data"_s, QJsonObject());
+}
+
+/// An answer that had settled went on and settled anew.
+void CanvasRoom::drawAgain(const Msg &answer) {
+    if (!hasNewDrawing(answer))
+        return;
+    const bool isShown = m_sourceMessageId.value() == answer.id.toString(QUuid::WithoutBraces);
+    if (isShown || m_state.value() == CanvasState::Hint) {
+        runScenario(answer, LinkOpening::Leave);
+        return;
+    }
+    // The person looks at another canvas; the history has this one as it is now.
+    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), *answer.spec, m_turn.intent);
+    if (scene)
+        m_history.amend(m_turn.historyEntry,
+                        entryOf(m_turn.query, m_turn.intent, *answer.spec, *scene));
+}
+
+} // namespace kiv::store

@@ -1,0 +1,148 @@
+#include "ui/Gallery.h"
+#include "ui/Workspace.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+/// A turn on the screen by real keys and presses: replies, stop, the questions of the canvas.
+class TurnTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void chipByMouse();
+    void chipByKeys();
+    void chipsInTwoLines();
+    void starterOfTheCanvas();
+    void hintAsksForATable();
+    void stopForTheWholeAnswer();
+    void projectKeepsSend();
+
+private:
+    /// An answer that offers replies, settled.
+    void answered(const QString &options);
+    QStringList sent() const;
+
+    std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<Gallery> m_gallery;
+};
+
+void TurnTest::init() {
+    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
+    m_workspace = std::make_unique<Workspace>();
+    m_gallery = std::make_unique<Gallery>();
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, {1440, 900});
+}
+
+void TurnTest::cleanup() {
+    m_gallery.reset();
+    m_workspace.reset();
+}
+
+void TurnTest::answered(const QString &options) {
+    QVERIFY(m_workspace->ask(u"Which?"_s, u"Pick one.\nOPTIONS: "_s + options, QString()));
+    QVERIFY(m_gallery->item(u"replyChip:0"_s));
+    m_gallery->window().grabWindow(); // every chip is in its place
+}
+
+QStringList TurnTest::sent() const {
+    QStringList texts;
+    for (const auto &request : m_workspace->backend.requests(u"POST "_s + test::kivChat))
+        texts.append(request.body.value(u"text"_s).toString());
+    return texts;
+}
+
+void TurnTest::chipByMouse() {
+    answered(u"Red | Green | Blue"_s);
+    m_gallery->click(u"replyChip:1"_s);
+    QTRY_COMPARE(sent(), (QStringList{u"Which?"_s, u"Green"_s}));
+    QTRY_VERIFY(!m_gallery->find(u"replyChip:0"_s));
+}
+
+void TurnTest::chipByKeys() {
+    answered(u"Red | Green | Blue"_s);
+    m_gallery->press(Qt::Key_K, Qt::ControlModifier);
+    for (int presses = 0; presses < 8 && !m_gallery->hasFocus(u"replyChip:0"_s); ++presses)
+        m_gallery->press(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(m_gallery->hasFocus(u"replyChip:0"_s));
+    m_gallery->press(Qt::Key_Left);
+    QVERIFY(m_gallery->hasFocus(u"replyChip:0"_s));
+    for (int presses = 0; presses < 4; ++presses)
+        m_gallery->press(Qt::Key_Right);
+    QVERIFY(m_gallery->hasFocus(u"replyChip:2"_s));
+    m_gallery->press(Qt::Key_Left);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(sent(), (QStringList{u"Which?"_s, u"Green"_s}));
+}
+
+/// What does not fit is neither seen nor reached.
+void TurnTest::chipsInTwoLines() {
+    const QString longest = u"a reply that is so long that it takes a line of its own, nearly %1"_s;
+    answered(longest.arg(1) + u'|' + longest.arg(2) + u'|' + longest.arg(3));
+    const QQuickItem *last = m_gallery->item(u"replyChip:2"_s);
+    QCOMPARE(last->opacity(), 0.0);
+    QVERIFY(!last->isEnabled());
+    QCOMPARE(m_gallery->item(u"replyChip:1"_s)->opacity(), 1.0);
+    m_gallery->save(u"chips-long"_s);
+    m_gallery->item(u"replyChip:0"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Right);
+    m_gallery->press(Qt::Key_Right);
+    QVERIFY(m_gallery->hasFocus(u"replyChip:1"_s));
+}
+
+void TurnTest::starterOfTheCanvas() {
+    m_gallery->click(u"canvasChip:1"_s);
+    QTRY_COMPARE(sent(), QStringList{u"Where are we against the plan?"_s});
+}
+
+void TurnTest::hintAsksForATable() {
+    QVERIFY(m_workspace->ask(u"How are we?"_s, u"Fine."_s, QString()));
+    m_gallery->click(u"canvasChip:0"_s);
+    QTRY_COMPARE(sent(), (QStringList{u"How are we?"_s, u"As a table"_s}));
+}
+
+void TurnTest::stopForTheWholeAnswer() {
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"Tell me a story"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->find(u"stopButton"_s));
+    m_workspace->row(300, u"Once"_s);
+    QTRY_COMPARE(m_workspace->texts().last(), u"Once"_s);
+    QVERIFY(m_gallery->find(u"stopButton"_s));
+    m_gallery->click(u"stopButton"_s);
+    QTRY_COMPARE(m_workspace->backend.count(u"POST "_s + test::kivChat + u"/stop"_s), 1);
+    QTRY_VERIFY(m_gallery->find(u"sendButton"_s));
+
+    // By Escape too; an answer that has come to its end has nothing to stop.
+    m_gallery->type(u"Another one"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->find(u"stopButton"_s));
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_COMPARE(m_workspace->backend.count(u"POST "_s + test::kivChat + u"/stop"_s), 2);
+    QVERIFY(m_workspace->ask(u"And one more"_s, u"The end."_s, QString()));
+    QVERIFY(m_gallery->find(u"sendButton"_s));
+}
+
+void TurnTest::projectKeepsSend() {
+    m_workspace->store->scope()->enterProject(u"ferry"_s);
+    QTRY_VERIFY(m_workspace->backend.isStreaming(test::ferryChat + u"/stream"_s));
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"Tell me a story"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->backend.count(u"POST "_s + test::ferryChat), 1);
+    QVERIFY(m_gallery->find(u"sendButton"_s));
+    m_workspace->row(300, u"Once"_s);
+    QTRY_COMPARE(m_workspace->texts().last(), u"Once"_s);
+    QVERIFY(m_gallery->find(u"sendButton"_s));
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::TurnTest)
+#include "TurnTest.moc"
