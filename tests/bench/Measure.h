@@ -24,6 +24,7 @@ double measure(const QString &name, const std::function<void()> &step);
 
 QList<Row> answerToScene();
 QList<Row> classify();
+QList<Row> explain();
 QList<Row> markdown();
 
 } // namespace kiv::bench

@@ -2,69 +2,79 @@
 
 #include "text/MDParser.h"
 
-#include <QJsonObject>
-
 namespace kiv::tools {
 
-using namespace Qt::StringLiterals;
 using text::MDBlock;
 
 namespace {
 
-QJsonObject kindJson(const MDBlock::Heading &heading) {
-    return {{u"kind"_s, u"heading"_s}, {u"level"_s, heading.level}, {u"text"_s, heading.text}};
-}
+/// Writes the kind of a block and what belongs to it.
+struct KindWriter {
+    JsonText &json;
 
-QJsonObject kindJson(const MDBlock::Paragraph &paragraph) {
-    return {{u"kind"_s, u"paragraph"_s}, {u"text"_s, paragraph.text}};
-}
-
-QJsonObject kindJson(const MDBlock::Bullets &bullets) {
-    return {{u"kind"_s, u"bullets"_s}, {u"items"_s, QJsonArray::fromStringList(bullets.items)}};
-}
-
-QJsonObject kindJson(const MDBlock::Ordered &ordered) {
-    QJsonArray items;
-    for (const MDBlock::OrderedItem &item : ordered.items)
-        items.append(QJsonObject{{u"number"_s, item.number}, {u"text"_s, item.text}});
-    return {{u"kind"_s, u"ordered"_s}, {u"items"_s, items}};
-}
-
-QJsonObject kindJson(const MDBlock::Tasks &tasks) {
-    QJsonArray items;
-    for (const MDBlock::TaskItem &item : tasks.items)
-        items.append(QJsonObject{{u"done"_s, item.done}, {u"text"_s, item.text}});
-    return {{u"kind"_s, u"tasks"_s}, {u"items"_s, items}};
-}
-
-QJsonObject kindJson(const MDBlock::Quote &quote) {
-    return {{u"kind"_s, u"quote"_s}, {u"lines"_s, QJsonArray::fromStringList(quote.lines)}};
-}
-
-QJsonObject kindJson(const MDBlock::Code &code) {
-    return {{u"kind"_s, u"code"_s}, {u"text"_s, code.text}};
-}
-
-QJsonObject kindJson(const MDBlock::Table &table) {
-    QJsonArray rows;
-    for (const QStringList &row : table.rows)
-        rows.append(QJsonArray::fromStringList(row));
-    return {{u"kind"_s, u"table"_s},
-            {u"header"_s, QJsonArray::fromStringList(table.header)},
-            {u"rows"_s, rows}};
-}
-
-QJsonObject kindJson(const MDBlock::Rule &) {
-    return {{u"kind"_s, u"rule"_s}};
-}
+    void operator()(const MDBlock::Heading &heading) const {
+        json.member(u"kind", u"heading");
+        json.member(u"level", heading.level);
+        json.member(u"text", heading.text);
+    }
+    void operator()(const MDBlock::Paragraph &paragraph) const {
+        json.member(u"kind", u"paragraph");
+        json.member(u"text", paragraph.text);
+    }
+    void operator()(const MDBlock::Bullets &bullets) const {
+        json.member(u"kind", u"bullets");
+        json.member(u"items", bullets.items);
+    }
+    void operator()(const MDBlock::Ordered &ordered) const {
+        json.member(u"kind", u"ordered");
+        json.key(u"items");
+        json.beginArray();
+        for (const MDBlock::OrderedItem &item : ordered.items) {
+            json.beginObject();
+            json.member(u"number", item.number);
+            json.member(u"text", item.text);
+            json.endObject();
+        }
+        json.endArray();
+    }
+    void operator()(const MDBlock::Tasks &tasks) const {
+        json.member(u"kind", u"tasks");
+        json.key(u"items");
+        json.beginArray();
+        for (const MDBlock::TaskItem &item : tasks.items) {
+            json.beginObject();
+            json.member(u"done", item.done);
+            json.member(u"text", item.text);
+            json.endObject();
+        }
+        json.endArray();
+    }
+    void operator()(const MDBlock::Quote &quote) const {
+        json.member(u"kind", u"quote");
+        json.member(u"lines", quote.lines);
+    }
+    void operator()(const MDBlock::Code &code) const {
+        json.member(u"kind", u"code");
+        json.member(u"text", code.text);
+    }
+    void operator()(const MDBlock::Table &table) const {
+        json.member(u"kind", u"table");
+        json.member(u"header", table.header);
+        json.member(u"rows", table.rows);
+    }
+    void operator()(const MDBlock::Rule &) const { json.member(u"kind", u"rule"); }
+};
 
 } // namespace
 
-QJsonArray blocksJson(QStringView text) {
-    QJsonArray blocks;
-    for (const MDBlock &block : text::MDParser::parse(text))
-        blocks.append(std::visit([](const auto &kind) { return kindJson(kind); }, block.kind));
-    return blocks;
+void writeBlocks(JsonText &json, QStringView text) {
+    json.beginArray();
+    for (const MDBlock &block : text::MDParser::parse(text)) {
+        json.beginObject();
+        std::visit(KindWriter{json}, block.kind);
+        json.endObject();
+    }
+    json.endArray();
 }
 
 } // namespace kiv::tools

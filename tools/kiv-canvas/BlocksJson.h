@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QJsonArray>
-#include <QStringView>
+#include "JsonText.h"
 
 namespace kiv::tools {
 
-/// The markdown blocks of a text, each with its kind.
-QJsonArray blocksJson(QStringView text);
+/// Writes the markdown blocks of a text, each with its kind.
+void writeBlocks(JsonText &json, QStringView text);
 
 } // namespace kiv::tools

@@ -8,12 +8,7 @@
 #include "canvas/CanvasIntents.h"
 #include "canvas/SceneAdapter.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-
 namespace kiv::tools {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -108,58 +103,88 @@ Request readRequest(QByteArrayView line) {
     return request;
 }
 
-QJsonValue orNull(const std::optional<QString> &value) {
-    return value ? QJsonValue(*value) : QJsonValue();
+void writeReply(JsonText &json, const canvas::ReplyOptions::Parsed &parsed) {
+    json.beginObject();
+    json.member(u"text", parsed.text);
+    json.key(u"chips");
+    json.beginArray();
+    for (const canvas::ReplyChip &chip : parsed.chips) {
+        json.beginObject();
+        json.member(u"label", chip.label);
+        json.member(u"send", chip.send);
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
 }
 
-QJsonObject replyJson(const canvas::ReplyOptions::Parsed &parsed) {
-    QJsonArray chips;
-    for (const canvas::ReplyChip &chip : parsed.chips)
-        chips.append(QJsonObject{{u"label"_s, chip.label}, {u"send"_s, chip.send}});
-    return {{u"text"_s, parsed.text}, {u"chips"_s, chips}};
+void writeSurface(JsonText &json, const std::optional<canvas::SurfaceLink> &link) {
+    if (!link) {
+        json.null();
+        return;
+    }
+    json.beginObject();
+    json.member(u"url", link->url.toString(QUrl::FullyEncoded));
+    json.member(u"title", link->title);
+    json.endObject();
 }
 
-QJsonValue surfaceJson(const std::optional<canvas::SurfaceLink> &link) {
-    if (!link)
-        return {};
-    return QJsonObject{{u"url"_s, link->url.toString(QUrl::FullyEncoded)},
-                       {u"title"_s, link->title}};
+void writeCanvas(JsonText &json, const canvas::ViewSpec &spec,
+                 const std::optional<QString> &intent) {
+    json.key(u"spec");
+    writeSpec(json, spec);
+    const auto scene = canvas::SceneAdapter::vals(spec, intent);
+    json.member(u"art",
+                scene ? std::optional(scene->art) : canvas::CanvasEngine::artForSpec(spec, intent));
+    json.key(u"scene");
+    if (scene)
+        writeScene(json, *scene);
+    else
+        json.null();
 }
 
-QJsonObject answerJson(const Request &request, const QUrl &baseUrl) {
+void writeAnswer(JsonText &json, const Request &request, const QUrl &baseUrl) {
     const auto intent =
         request.question ? canvas::CanvasIntents::classify(*request.question) : std::nullopt;
     const auto answer = canvas::CanvasEngine::extractViewSpec(request.text, request.view);
-    QJsonObject json{
-        {u"intent"_s, orNull(intent)},
-        {u"text"_s, answer.text},
-        {u"spec"_s, QJsonValue()},
-        {u"art"_s, QJsonValue()},
-        {u"scene"_s, QJsonValue()},
-        {u"surface"_s, surfaceJson(canvas::SurfaceMatcher::match(request.text, baseUrl))},
-        {u"reply"_s, replyJson(canvas::ReplyOptions::parse(request.text, request.replies))},
-        {u"blocks"_s, blocksJson(request.text)}};
+    json.beginObject();
+    json.member(u"intent", intent);
+    json.member(u"text", answer.text);
     if (answer.spec) {
-        json.insert(u"spec"_s, specJson(*answer.spec));
-        json.insert(u"art"_s, orNull(canvas::CanvasEngine::artForSpec(*answer.spec, intent)));
-        if (const auto scene = canvas::SceneAdapter::vals(*answer.spec, intent)) {
-            json.insert(u"art"_s, scene->art);
-            json.insert(u"scene"_s, sceneJson(*scene));
+        writeCanvas(json, *answer.spec, intent);
+    } else {
+        for (const QStringView name : {u"spec", u"art", u"scene"}) {
+            json.key(name);
+            json.null();
         }
     }
-    return json;
+    json.key(u"surface");
+    writeSurface(json, canvas::SurfaceMatcher::match(request.text, baseUrl));
+    json.key(u"reply");
+    writeReply(json, canvas::ReplyOptions::parse(request.text, request.replies));
+    json.key(u"blocks");
+    writeBlocks(json, request.text);
+    json.endObject();
+}
+
+QByteArray errorText(const char *error) {
+    JsonText json;
+    json.beginObject();
+    json.member(u"error", QString::fromUtf8(error));
+    json.endObject();
+    return json.text();
 }
 
 } // namespace
 
 QByteArray explain(QByteArrayView request, const QUrl &baseUrl) {
-    QJsonObject reply;
     try {
-        reply = answerJson(readRequest(request), baseUrl);
+        JsonText json;
+        writeAnswer(json, readRequest(request), baseUrl);
+        return json.text();
     } catch (const std::runtime_error &error) {
-        reply.insert(u"error"_s, QString::fromUtf8(error.what()));
+        return errorText(error.what());
     }
-    return QJsonDocument(reply).toJson(QJsonDocument::Compact);
 }
 
 } // namespace kiv::tools

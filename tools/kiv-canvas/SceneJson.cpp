@@ -1,69 +1,73 @@
 #include "SceneJson.h"
 
-#include <QJsonArray>
 #include <QMetaEnum>
 #include <QMetaProperty>
 #include <QSequentialIterable>
 
 namespace kiv::tools {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-QJsonValue valueJson(const QVariant &value);
+void writeValue(JsonText &json, const QVariant &value);
 
 /// A record by its properties, so that a new field of a scene is explained without a word here.
-QJsonObject recordJson(const QMetaObject &type, const void *record) {
-    QJsonObject object;
+void writeRecord(JsonText &json, const QMetaObject &type, const void *record) {
+    json.beginObject();
     for (int i = 0; i < type.propertyCount(); ++i) {
         const QMetaProperty property = type.property(i);
         if (!property.isStored())
             continue;
         const QVariant value = property.readOnGadget(record);
-        const QString name = QString::fromLatin1(property.name());
+        json.key(QString::fromLatin1(property.name()));
         if (property.isEnumType())
-            object.insert(
-                name,
+            json.value(
                 QString::fromLatin1(property.enumerator().valueToKey(value.toInt())).toLower());
         else
-            object.insert(name, valueJson(value));
+            writeValue(json, value);
     }
-    return object;
+    json.endObject();
 }
 
-QJsonValue valueJson(const QVariant &value) {
-    const QMetaType type = value.metaType();
-    // The cells of a long table are most of a scene: they go the short way.
-    if (type == QMetaType::fromType<QString>())
-        return *static_cast<const QString *>(value.constData());
-    if (type == QMetaType::fromType<QStringList>())
-        return QJsonArray::fromStringList(*static_cast<const QStringList *>(value.constData()));
-    if (type == QMetaType::fromType<QList<bool>>()) {
-        QJsonArray flags;
-        for (const bool flag : *static_cast<const QList<bool> *>(value.constData()))
-            flags.append(flag);
-        return flags;
-    }
-    if (type == QMetaType::fromType<QPointF>()) {
-        const QPointF point = value.toPointF();
-        return QJsonObject{{u"x"_s, point.x()}, {u"y"_s, point.y()}};
-    }
-    if (type.flags().testFlag(QMetaType::IsGadget))
-        return recordJson(*type.metaObject(), value.constData());
-    if (value.canConvert<QVariantList>()) {
-        QJsonArray elements;
+template <typename T>
+const T *held(const QVariant &value) {
+    return value.metaType() == QMetaType::fromType<T>() ? static_cast<const T *>(value.constData())
+                                                        : nullptr;
+}
+
+void writeValue(JsonText &json, const QVariant &value) {
+    if (const auto *text = held<QString>(value)) {
+        json.value(*text);
+    } else if (const auto *number = held<double>(value)) {
+        json.value(*number);
+    } else if (const auto *whole = held<int>(value)) {
+        json.value(*whole);
+    } else if (const auto *flag = held<bool>(value)) {
+        json.value(*flag);
+    } else if (const auto *texts = held<QStringList>(value)) {
+        json.value(*texts);
+    } else if (const auto *flags = held<QList<bool>>(value)) {
+        json.value(*flags);
+    } else if (const auto *point = held<QPointF>(value)) {
+        json.beginObject();
+        json.member(u"x", point->x());
+        json.member(u"y", point->y());
+        json.endObject();
+    } else if (value.metaType().flags().testFlag(QMetaType::IsGadget)) {
+        writeRecord(json, *value.metaType().metaObject(), value.constData());
+    } else if (value.canConvert<QVariantList>()) {
+        json.beginArray();
         for (const QVariant &element : value.value<QSequentialIterable>())
-            elements.append(valueJson(element));
-        return elements;
+            writeValue(json, element);
+        json.endArray();
+    } else {
+        json.null();
     }
-    return QJsonValue::fromVariant(value);
 }
 
 } // namespace
 
-QJsonObject sceneJson(const canvas::SceneOut &scene) {
-    return recordJson(canvas::SceneOut::staticMetaObject, &scene);
+void writeScene(JsonText &json, const canvas::SceneOut &scene) {
+    writeRecord(json, canvas::SceneOut::staticMetaObject, &scene);
 }
 
 } // namespace kiv::tools

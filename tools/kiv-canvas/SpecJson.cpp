@@ -1,70 +1,70 @@
 #include "SpecJson.h"
 
-#include <QJsonArray>
-
 namespace kiv::tools {
 
-using namespace Qt::StringLiterals;
 using canvas::ViewSpec;
 
 namespace {
 
-template <typename T>
-QJsonValue orNull(const std::optional<T> &value) {
-    return value ? QJsonValue(*value) : QJsonValue();
+void write(JsonText &json, const ViewSpec::Point &point) {
+    json.member(u"label", point.label);
+    json.member(u"value", point.value);
+    json.member(u"display", point.display);
+    json.member(u"target", point.target);
+    json.member(u"status", point.status);
+    json.member(u"hint", point.hint);
 }
+
+void write(JsonText &json, const ViewSpec::Item &item) {
+    json.member(u"label", item.label);
+    json.member(u"value", item.value);
+    json.member(u"display", item.display);
+    json.member(u"delta", item.delta);
+}
+
+void write(JsonText &json, const ViewSpec::Series &series);
+void write(JsonText &json, const ViewSpec::BoardCol &column);
 
 template <typename T>
-QJsonArray listJson(const QList<T> &records, QJsonObject (*json)(const T &)) {
-    QJsonArray list;
-    for (const T &record : records)
-        list.append(json(record));
-    return list;
+void writeList(JsonText &json, QStringView name, const QList<T> &records) {
+    json.key(name);
+    json.beginArray();
+    for (const T &record : records) {
+        json.beginObject();
+        write(json, record);
+        json.endObject();
+    }
+    json.endArray();
 }
 
-QJsonObject pointJson(const ViewSpec::Point &point) {
-    return {{u"label"_s, point.label},
-            {u"value"_s, orNull(point.value)},
-            {u"display"_s, orNull(point.display)},
-            {u"target"_s, orNull(point.target)},
-            {u"status"_s, orNull(point.status)},
-            {u"hint"_s, orNull(point.hint)}};
+void write(JsonText &json, const ViewSpec::Series &series) {
+    json.member(u"name", series.name);
+    writeList(json, u"points", series.points);
 }
 
-QJsonObject seriesJson(const ViewSpec::Series &series) {
-    return {{u"name"_s, series.name}, {u"points"_s, listJson(series.points, &pointJson)}};
-}
-
-QJsonObject itemJson(const ViewSpec::Item &item) {
-    return {{u"label"_s, item.label},
-            {u"value"_s, orNull(item.value)},
-            {u"display"_s, orNull(item.display)},
-            {u"delta"_s, orNull(item.delta)}};
-}
-
-QJsonObject boardColJson(const ViewSpec::BoardCol &column) {
-    return {{u"name"_s, column.name}, {u"points"_s, listJson(column.points, &pointJson)}};
+void write(JsonText &json, const ViewSpec::BoardCol &column) {
+    json.member(u"name", column.name);
+    writeList(json, u"points", column.points);
 }
 
 } // namespace
 
-QJsonObject specJson(const ViewSpec &spec) {
-    QJsonArray rows;
-    for (const QStringList &row : spec.rows)
-        rows.append(QJsonArray::fromStringList(row));
-    return {{u"kind"_s, spec.kind},
-            {u"title"_s, orNull(spec.title)},
-            {u"unit"_s, orNull(spec.unit)},
-            {u"display"_s, orNull(spec.display)},
-            {u"declaredArt"_s, orNull(spec.declaredArt)},
-            {u"points"_s, listJson(spec.points, &pointJson)},
-            {u"series"_s, listJson(spec.series, &seriesJson)},
-            {u"items"_s, listJson(spec.items, &itemJson)},
-            {u"columns"_s, QJsonArray::fromStringList(spec.columns)},
-            {u"rows"_s, rows},
-            {u"boardCols"_s, listJson(spec.boardCols, &boardColJson)},
-            {u"options"_s, QJsonArray::fromStringList(spec.options)},
-            {u"jsonKey"_s, spec.jsonKey}};
+void writeSpec(JsonText &json, const ViewSpec &spec) {
+    json.beginObject();
+    json.member(u"kind", spec.kind);
+    json.member(u"title", spec.title);
+    json.member(u"unit", spec.unit);
+    json.member(u"display", spec.display);
+    json.member(u"declaredArt", spec.declaredArt);
+    writeList(json, u"points", spec.points);
+    writeList(json, u"series", spec.series);
+    writeList(json, u"items", spec.items);
+    json.member(u"columns", spec.columns);
+    json.member(u"rows", spec.rows);
+    writeList(json, u"boardCols", spec.boardCols);
+    json.member(u"options", spec.options);
+    json.member(u"jsonKey", spec.jsonKey);
+    json.endObject();
 }
 
 } // namespace kiv::tools

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "JsonText.h"
 #include "canvas/ViewSpec.h"
-
-#include <QJsonObject>
 
 namespace kiv::tools {
 
-/// Every field of a view under its name, an absent value as null.
-QJsonObject specJson(const canvas::ViewSpec &spec);
+/// Writes every field of a view under its name, an absent value as null.
+void writeSpec(JsonText &json, const canvas::ViewSpec &spec);
 
 } // namespace kiv::tools
