@@ -17,8 +17,10 @@ struct Bench {
     QList<Row> (*run)();
 };
 
-const QList<Bench> benches{
-    {u"answer-to-scene"_s, answerToScene}, {u"classify"_s, classify}, {u"markdown"_s, markdown}};
+const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
+                           {u"classify"_s, classify},
+                           {u"explain"_s, explain},
+                           {u"markdown"_s, markdown}};
 
 QString shown(double nanoseconds) {
     return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);
