@@ -69,9 +69,11 @@ QCoro::Task<QByteArray> APIClient::patch(QString path, QJsonObject body, Cancel 
 }
 
 QCoro::Task<QByteArray> APIClient::postMultipart(QString path, QList<MultipartFile> files,
-                                                 Cancel cancel) {
+                                                 UploadProgress progress, Cancel cancel) {
     const QByteArray boundary = newMultipartBoundary();
-    return sendBody(request("POST"_ba, path), "multipart/form-data; boundary="_ba + boundary,
+    HttpRequest upload = request("POST"_ba, path);
+    upload.progress = std::move(progress);
+    return sendBody(std::move(upload), "multipart/form-data; boundary="_ba + boundary,
                     multipartBody(files, boundary), std::move(cancel));
 }
 

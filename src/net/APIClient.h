@@ -44,7 +44,8 @@ public:
     }
     QCoro::Task<QByteArray> postRaw(QString path, QJsonObject body, Cancel cancel);
     QCoro::Task<QByteArray> patch(QString path, QJsonObject body, Cancel cancel);
-    QCoro::Task<QByteArray> postMultipart(QString path, QList<MultipartFile> files, Cancel cancel);
+    QCoro::Task<QByteArray> postMultipart(QString path, QList<MultipartFile> files,
+                                          UploadProgress progress, Cancel cancel);
     /// Posts without waiting for the outcome, which nobody learns.
     void postAndForget(QString path, QJsonObject body);
 

@@ -42,7 +42,8 @@ QCoro::Task<void> changePassword(APIClient *client, QString current, QString cha
 QCoro::Task<std::optional<QString>> uploadAvatar(APIClient *client, MultipartFile picture,
                                                  Cancel cancel) {
     const QList<MultipartFile> files{std::move(picture)};
-    const QByteArray reply = co_await client->postMultipart(u"api/v2/user/avatar"_s, files, cancel);
+    const QByteArray reply =
+        co_await client->postMultipart(u"api/v2/user/avatar"_s, files, UploadProgress(), cancel);
     co_return avatarAddress(reply);
 }
 

@@ -52,9 +52,10 @@ QCoro::Task<void> stopAgentChat(APIClient *client, QString agentID, Cancel cance
 }
 
 QCoro::Task<UploadResult> uploadChatFiles(APIClient *client, ChatTarget target,
-                                          QList<MultipartFile> files, Cancel cancel) {
-    const QByteArray reply =
-        co_await client->postMultipart(target.filesPath(), std::move(files), cancel);
+                                          QList<MultipartFile> files, UploadProgress progress,
+                                          Cancel cancel) {
+    const QByteArray reply = co_await client->postMultipart(target.filesPath(), std::move(files),
+                                                            std::move(progress), cancel);
     co_return decodeBody<UploadResult>(reply);
 }
 

@@ -146,7 +146,15 @@ void HttpExchange::begin() {
                 },
                 Qt::QueuedConnection);
     };
-    QObject::connect(m_reply, &QNetworkReply::uploadProgress, &m_context, moved);
+    QObject::connect(m_reply, &QNetworkReply::uploadProgress, &m_context,
+                     [this, moved](qint64 sent) {
+                         moved();
+                         // A copy: whoever is told may give the request up. The network layer does
+                         // not know the size of a body that can be read once only; we do.
+                         const auto progress = m_request.progress;
+                         if (progress && sent > 0)
+                             progress(sent, m_request.body.size());
+                     });
     QObject::connect(m_reply, &QNetworkReply::metaDataChanged, &m_context, moved);
     QObject::connect(m_reply, &QNetworkReply::readyRead, &m_context, moved);
     QObject::connect(m_reply, &QNetworkReply::finished, &m_context, moved);

@@ -10,6 +10,8 @@
 #include <QNetworkAccessManager>
 #include <QUrl>
 
+#include <functional>
+
 namespace kiv::net {
 
 /// What every connection needs of its surroundings. All of it outlives the sessions.
@@ -19,11 +21,15 @@ struct HttpEnvironment {
     Connectivity *connectivity;
 };
 
+/// Told how many bytes of a request's body have left, of how many.
+using UploadProgress = std::function<void(qint64 sent, qint64 total)>;
+
 struct HttpRequest {
     QByteArray method;
     QUrl url;
     QMap<QByteArray, QByteArray> headers;
     QByteArray body;
+    UploadProgress progress = {}; ///< may be empty
     /// How long nothing may move in either direction before the request fails.
     Clock::Milliseconds timeout{60'000};
 };

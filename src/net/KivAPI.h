@@ -45,7 +45,8 @@ QCoro::Task<ChatSendResult> sendAgentChat(APIClient *client, QString agentID, QS
                                           Cancel cancel);
 QCoro::Task<void> stopAgentChat(APIClient *client, QString agentID, Cancel cancel);
 QCoro::Task<UploadResult> uploadChatFiles(APIClient *client, ChatTarget target,
-                                          QList<MultipartFile> files, Cancel cancel);
+                                          QList<MultipartFile> files, UploadProgress progress,
+                                          Cancel cancel);
 
 // Account
 QCoro::Task<UserProfile> profile(APIClient *client, Cancel cancel);

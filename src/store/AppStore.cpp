@@ -15,6 +15,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode 
       m_scope(*this),
       m_layout(*this, settings, clock),
       m_chat(*this),
+      m_attachments(*this),
       m_canvas(*this),
       m_events(*this),
       m_session(*this) {

@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "net/APIClient.h"
 #include "net/ChatStreamClient.h"
+#include "store/AttachmentRoom.h"
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
 #include "store/EventsRoom.h"
@@ -26,6 +27,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::ScopeRoom *scope READ scope CONSTANT)
     Q_PROPERTY(kiv::store::LayoutRoom *layout READ layout CONSTANT)
     Q_PROPERTY(kiv::store::ChatRoom *chat READ chat CONSTANT)
+    Q_PROPERTY(kiv::store::AttachmentRoom *attachments READ attachments CONSTANT)
     Q_PROPERTY(kiv::store::CanvasRoom *canvas READ canvas CONSTANT)
     Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
@@ -40,6 +42,7 @@ public:
     ScopeRoom *scope() { return &m_scope; }
     LayoutRoom *layout() { return &m_layout; }
     ChatRoom *chat() { return &m_chat; }
+    AttachmentRoom *attachments() { return &m_attachments; }
     CanvasRoom *canvas() { return &m_canvas; }
     SessionRoom *session() { return &m_session; }
     EventsRoom *events() { return &m_events; }
@@ -66,6 +69,7 @@ private:
     ScopeRoom m_scope;
     LayoutRoom m_layout;
     ChatRoom m_chat;
+    AttachmentRoom m_attachments;
     CanvasRoom m_canvas;
     EventsRoom m_events;
     SessionRoom m_session;

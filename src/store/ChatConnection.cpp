@@ -27,6 +27,7 @@ void ChatRoom::connectChat() {
     endWaiting();
     m_store.canvas()->resetTurn();
     m_chatNote = QString();
+    m_store.attachments()->clear();
     m_historyLoading = false;
     m_store.events()->loadEvents();
 
@@ -67,6 +68,7 @@ void ChatRoom::disconnectChat() {
     m_live.clear();
     m_connected.reset();
     m_lastPrompt = QString();
+    m_store.attachments()->clear();
 }
 
 /// Puts messages of ours that have no row yet aside, so that coming back to this chat shows them.
@@ -107,6 +109,11 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
     if (merged.isEmpty())
         merged.append(liveGreeting());
     m_msgs.replaceAll(std::move(merged));
+    for (const Msg &message : unsent) {
+        const qsizetype row = m_msgs.rowOf(message.id);
+        if (row >= 0 && !m_msgs.messages().at(row).isUnsent())
+            m_store.attachments()->withdraw(message.attachments);
+    }
     m_rowsKnown = true;
     markSeen();
 
@@ -160,6 +167,16 @@ std::optional<Msg> ChatRoom::newestAnswer() const {
     return *found;
 }
 
+/// The server has stored a message of ours. Its files stay with it, though the row may not repeat
+/// them, and wait for no other message.
+void ChatRoom::confirm(qsizetype row, Msg stored) {
+    const Msg &sent = m_msgs.messages().at(row);
+    m_store.attachments()->withdraw(sent.attachments);
+    if (stored.files.isEmpty())
+        stored.files = sent.files;
+    m_msgs.update(row, std::move(stored));
+}
+
 void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     if (gen != m_chatGen || m_store.scope()->auth() != AuthPhase::SignedIn ||
         !m_store.scope()->chatTarget())
@@ -178,7 +195,7 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
             return message.isUnsent() && message.text == received->text;
         });
         if (pending >= 0)
-            m_msgs.update(pending, std::move(*received));
+            confirm(pending, std::move(*received));
         else
             m_msgs.append(std::move(*received));
         return;

@@ -60,7 +60,7 @@ void ChatRoom::markSeen() {
 
 void ChatRoom::send(const QString &text) {
     const QString trimmed = text.trimmed();
-    if (trimmed.isEmpty())
+    if (trimmed.isEmpty() && m_store.attachments()->chatFiles()->attached() == 0)
         return;
     switch (m_store.scope()->auth()) {
     case AuthPhase::Unknown:
@@ -87,7 +87,9 @@ void ChatRoom::sendLive(const QString &text) {
     message.pendingID = QUuid::createUuid().toString(QUuid::WithoutBraces);
     message.at = m_store.clock().now();
     message.follows = newestRow();
-    const Post sent{*target, message.id, message.pendingID, text};
+    message.attachments = m_store.attachments()->take();
+    message.files = msgFiles(message.attachments);
+    const Post sent{*target, message.id, message.pendingID, text, message.attachments};
     m_msgs.append(std::move(message));
     // A question asked from the canvas leaves what is being typed alone.
     if (m_draft.value().trimmed() == text)
@@ -103,7 +105,8 @@ void ChatRoom::retry(const QString &messageId) {
         return;
     Msg message = m_msgs.messages().at(row);
     message.failed = false;
-    const Post again{*target, message.id, message.pendingID, message.text};
+    m_store.attachments()->withdraw(message.attachments);
+    const Post again{*target, message.id, message.pendingID, message.text, message.attachments};
     m_msgs.update(row, std::move(message));
     startTurn(again);
     m_posts.start([this, again](Cancel cancel) { return post(again, std::move(cancel)); });
@@ -154,13 +157,14 @@ QCoro::Task<void> ChatRoom::watchAnswer(Cancel cancel) {
 QCoro::Task<void> ChatRoom::post(Post post, Cancel cancel) {
     net::APIClient *client = &m_store.net();
     try {
+        const QJsonArray attachments = attachmentBodies(post.attachments);
         net::ChatSendResult result;
         if (post.target.isAgent())
             result = co_await net::KivAPI::sendAgentChat(client, post.target.id(), post.text,
-                                                         post.requestID, QJsonArray(), cancel);
+                                                         post.requestID, attachments, cancel);
         else
             result = co_await net::KivAPI::sendProjectChat(client, post.target.id(), post.text,
-                                                           QJsonArray(), cancel);
+                                                           attachments, cancel);
         confirmPost(post, result);
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
@@ -193,6 +197,7 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
     confirmed.serverID = id;
     confirmed.pendingID.clear();
     confirmed.failed = false;
+    confirmed.attachments.clear();
     m_live.insert(id, confirmed);
     m_msgs.update(row, std::move(confirmed));
 }
@@ -216,6 +221,7 @@ void ChatRoom::failPost(const Post &post, const std::exception &error) {
     if (failed.serverID)
         return; // the stream confirmed it: only the reply was lost
     failed.failed = true;
+    m_store.attachments()->putBack(failed.attachments);
     m_msgs.update(row, std::move(failed));
     if (post.message == m_turn) {
         endWaiting();
@@ -270,6 +276,7 @@ void ChatRoom::newChat() {
     m_seenMsgs = 1;
     m_unseenMsgs = 0;
     m_draft = QString();
+    m_store.attachments()->clear();
 }
 
 Msg ChatRoom::liveGreeting() const {
@@ -303,8 +310,10 @@ void ChatRoom::keepTypedText() {
             unsent.insert(std::ranges::upper_bound(unsent, message.at, {}, &Msg::at), message);
     }
     QStringList texts;
-    for (const Msg &message : unsent)
-        texts.append(message.text);
+    for (const Msg &message : unsent) {
+        if (!message.text.isEmpty())
+            texts.append(message.text);
+    }
     if (!m_draft.value().isEmpty())
         texts.append(m_draft);
     appendLine(m_returned[m_store.scope()->userEmail()], texts.join(u'\n'));

@@ -61,6 +61,8 @@ public:
     /// Drops the connection for good: later rows and loads of it are ignored.
     void disconnectChat();
     void markSeen();
+    /// Puts a line under the composer, or takes it away with an empty text.
+    void showNote(const QString &note) { m_chatNote = note; }
     /// The answer is no longer waited for; the canvas says so when it settled or gave up.
     void answerSettled();
     /// Gives the text of a send that met an expired session back, once the same person is in again.
@@ -82,6 +84,7 @@ private:
         QUuid message;
         QString requestID;
         QString text;
+        QList<ChatAttachment> attachments;
     };
 
     void sendLive(const QString &text);
@@ -96,6 +99,7 @@ private:
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     bool isStoppable() const { return m_connected && m_connected->isAgent(); }
     void endWaiting();
+    void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
     void keepTypedText();
     std::optional<Msg> newestAnswer() const;

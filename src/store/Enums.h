@@ -51,6 +51,14 @@ Q_ENUM_NS(Who)
 enum class Delivery { Stored, Pending, Failed };
 Q_ENUM_NS(Delivery)
 
+/// How far a file of the next message has come.
+enum class Upload { Running, Failed, Done };
+Q_ENUM_NS(Upload)
+
+/// What kind of picture stands for a file.
+enum class FileKind { Document, Image, Table };
+Q_ENUM_NS(FileKind)
+
 /// What a row of the rail stands for.
 enum class RailRow { Kiv, SectionLabel, Project, Agent };
 Q_ENUM_NS(RailRow)

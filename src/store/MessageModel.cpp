@@ -79,7 +79,7 @@ void MessageModel::update(qsizetype row, Msg message) {
     shown = std::move(message);
     const QModelIndex changed = index(static_cast<int>(row));
     Q_EMIT dataChanged(changed, changed,
-                       {BodyRole, RawTextRole, TimeRole, MemberLabelRole, DeliveryRole,
+                       {BodyRole, RawTextRole, TimeRole, MemberLabelRole, FilesRole, DeliveryRole,
                         CardTitleRole, CardArtRole, ChipsRole});
 }
 
@@ -162,6 +162,8 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return message.at ? message.at->toLocalTime().toString(u"HH:mm"_s) : QString();
     case MemberLabelRole:
         return message.memberLabel;
+    case FilesRole:
+        return QVariant::fromValue(message.files);
     case DeliveryRole:
         if (!message.isUnsent())
             return QVariant::fromValue(Delivery::Stored);
@@ -189,7 +191,8 @@ QHash<int, QByteArray> MessageModel::roleNames() const {
         {MessageIdRole, "messageId"}, {WhoRole, "who"},           {BodyRole, "body"},
         {RawTextRole, "rawText"},     {TimeRole, "time"},         {MemberLabelRole, "memberLabel"},
         {DeliveryRole, "delivery"},   {GrowingRole, "growing"},   {CardTitleRole, "cardTitle"},
-        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}, {ChipsRole, "chips"}};
+        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}, {ChipsRole, "chips"},
+        {FilesRole, "files"}};
 }
 
 FeedModel::FeedModel(MessageModel *messages, QObject *parent) : QSortFilterProxyModel(parent) {

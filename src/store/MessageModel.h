@@ -24,6 +24,7 @@ public:
         RawTextRole,                      ///< the row's own text, for copying
         TimeRole,                         ///< local time, "09:42", as `time`; empty without one
         MemberLabelRole,
+        FilesRole, ///< list of MsgFile
         DeliveryRole,
         GrowingRole,   ///< the answer is still being written
         CardTitleRole, ///< heading of the scene that the message carries; empty without one

@@ -12,13 +12,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+bool isWebAddress(const QString &url) {
+    return url.startsWith(u"http://"_s) || url.startsWith(u"https://"_s);
+}
+
 QList<MsgFile> msgFiles(const net::ChatRow &row) {
     QList<MsgFile> files;
     if (!row.metadata || !row.metadata->attachments)
         return files;
     for (const auto &attachment : *row.metadata->attachments) {
         const QString url = attachment.url.value_or(attachment.publicUrl.value_or(QString()));
-        if (!url.startsWith(u"http://"_s) && !url.startsWith(u"https://"_s))
+        if (!isWebAddress(url))
             continue;
         MsgFile file;
         file.name = attachment.name.value_or(attachment.filename.value_or(url));
@@ -71,6 +75,18 @@ Msg localMsg(Who who, const QString &text) {
     message.shown = text;
     message.shownMeanwhile = text;
     return message;
+}
+
+QList<MsgFile> msgFiles(const QList<ChatAttachment> &attachments) {
+    QList<MsgFile> files;
+    for (const ChatAttachment &attachment : attachments) {
+        MsgFile file;
+        file.name = attachment.name;
+        file.url = attachment.url.value_or(QString());
+        if (isWebAddress(file.url))
+            files.append(file);
+    }
+    return files;
 }
 
 std::optional<Msg> rowToMsg(const net::ChatRow &row) {

@@ -4,7 +4,9 @@
 #include "canvas/ReplyOptions.h"
 #include "canvas/ViewSpec.h"
 #include "net/ChatRecords.h"
+#include "store/ChatAttachment.h"
 #include "store/Enums.h"
+#include "store/FileTypes.h"
 
 #include <QDateTime>
 #include <QUuid>
@@ -13,11 +15,19 @@
 
 namespace kiv::store {
 
-/// A file under a message.
+/// A file of a message.
 struct MsgFile {
+    Q_GADGET
+    QML_VALUE_TYPE(msgFile)
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(QString url MEMBER url)
+    Q_PROPERTY(kiv::store::FileKind kind READ kind STORED false)
+public:
     QUuid id = QUuid::createUuid();
     QString name;
-    QString url;
+    QString url; ///< http or https
+
+    FileKind kind() const { return fileKind(name); }
     friend bool operator==(const MsgFile &, const MsgFile &) = default;
 };
 
@@ -41,6 +51,8 @@ struct Msg {
     /// of the chat were not here yet.
     std::optional<qint64> follows;
     QList<MsgFile> files;
+    /// What a message of ours carries, until the server has stored it.
+    QList<ChatAttachment> attachments;
     std::optional<JVal> view;
     QList<canvas::ReplyChip> chips;     ///< replies offered under an answer
     std::optional<QString> chipsChosen; ///< label of the one that was picked
@@ -53,6 +65,9 @@ struct Msg {
 
 /// A line of our own making: a greeting, a note, what the person typed.
 Msg localMsg(Who who, const QString &text);
+
+/// The files that can be opened from a message that carries these attachments.
+QList<MsgFile> msgFiles(const QList<ChatAttachment> &attachments);
 
 /// A server row as a message; nothing for a role that is neither side of the conversation.
 std::optional<Msg> rowToMsg(const net::ChatRow &row);

@@ -247,7 +247,7 @@ private Q_SLOTS:
         QByteArrayList boundaries;
         for (const ChatTarget &target : {ChatTarget::project(oddSlug), ChatTarget::agent(u"7"_s)}) {
             auto call = run<KivAPI::UploadResult>(at, [&](APIClient *client, Cancel cancel) {
-                return KivAPI::uploadChatFiles(client, target, files, cancel);
+                return KivAPI::uploadChatFiles(client, target, files, {}, cancel);
             });
             QVERIFY(call.finish());
             QCOMPARE(call.value().files->first().size, 5);

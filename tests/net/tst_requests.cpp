@@ -5,6 +5,8 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+
 using namespace kiv;
 using namespace kiv::net;
 using namespace kiv::test;
@@ -190,8 +192,20 @@ private Q_SLOTS:
     void aSlowUploadIsNoSilence() {
         ClientFixture at;
         at.server.stopReading();
-        auto call = post(at, {{u"text"_s, QString(16 * 1024 * 1024, u'x')}});
+        QList<qint64> sent;
+        qint64 total = 0;
+        const auto watch = [&](qint64 now, qint64 all) {
+            sent.append(now);
+            total = all;
+        };
+        const QList<MultipartFile> files{
+            {u"a.txt"_s, u"text/plain"_s, QByteArray(16 * 1024 * 1024, 'x')}};
+        Call<QByteArray> call([&](Cancel cancel) {
+            return at.client->postMultipart(u"files"_s, files, watch, std::move(cancel));
+        });
         QTRY_COMPARE(at.server.peers().size(), 1);
+        QTRY_VERIFY(!sent.isEmpty());
+        QVERIFY(sent.last() < total);
         at.clock.advance(59s);
         at.server.answer(200, "{}");
         at.server.peers().first()->goOnReading();
@@ -199,6 +213,9 @@ private Q_SLOTS:
         at.clock.advance(59s);
         QVERIFY(call.finish());
         QVERIFY2(call.succeeded(), qPrintable(call.errorText()));
+        QVERIFY(std::ranges::is_sorted(sent));
+        QCOMPARE(sent.last(), total);
+        QCOMPARE(total, at.server.last().body.size());
     }
 
     void offlineRequestsWait_data() {

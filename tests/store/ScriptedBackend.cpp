@@ -95,7 +95,8 @@ void ScriptedBackend::read(QTcpSocket *socket) {
     const QList<QByteArray> words = lines.first().split(' ');
     const QUrl target = QUrl::fromEncoded(words.value(1));
     Request request{QString::fromLatin1(words.value(0)), target.path().mid(1), target.query(),
-                    QJsonDocument::fromJson(received.sliced(head + 4, length)).object()};
+                    QJsonDocument::fromJson(received.sliced(head + 4, length)).object(),
+                    received.sliced(head + 4, length)};
     received.remove(0, head + 4 + length);
     m_requests.append(request);
     serve(socket, request);

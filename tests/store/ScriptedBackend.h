@@ -17,7 +17,8 @@ public:
         QString method;
         QString path; ///< without the query
         QString query;
-        QJsonObject body;
+        QJsonObject body; ///< empty unless it is JSON
+        QByteArray raw;
     };
 
     ScriptedBackend();
