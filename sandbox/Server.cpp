@@ -12,7 +12,7 @@ namespace kiv::sandbox {
 namespace {
 
 /// The largest upload and the multipart frame around it.
-constexpr size_t largestBody = 25 * 1024 * 1024 + 64 * 1024;
+constexpr size_t largestBody = 50 * 1024 * 1024 + 64 * 1024;
 
 } // namespace
 

@@ -21,7 +21,7 @@ struct Scope {
 struct Question {
     QString text;
     Scope scope;
-    qsizetype attachments = 0;
+    QStringList files; ///< names of what is attached
 };
 
 struct Answer {

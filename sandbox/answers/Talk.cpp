@@ -194,12 +194,12 @@ Answer plainAnswer(const Asked &asked) {
     const auto rows = asked.tasks(openCount + u", COUNT(*)"_s);
     const Row &row = rows.constFirst();
     const QString files =
-        asked.question().attachments == 0
+        asked.question().files.isEmpty()
             ? QString()
             : asked
-                  .say(u" I have kept the %1 attached file(s) with this conversation."_s,
-                       u" Приложенные файлы (%1) сохранены в этом разговоре."_s)
-                  .arg(asked.question().attachments);
+                  .say(u" What you attached is kept with this conversation: %1."_s,
+                       u" Приложенное сохранено в этом разговоре: %1."_s)
+                  .arg(asked.question().files.join(u", "_s));
     return {asked
                 .say(u"I have noted that. For %1 I can see %2 open tasks out of %3 on record; ask "
                      "me about the week, the status, the costs or the plan and I will lay the "

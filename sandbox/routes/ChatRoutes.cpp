@@ -98,7 +98,11 @@ Reply send(Services &services, const Call &call, FindTarget find) {
         return sent(message, call);
     }
     services.hub.publish(target.key, rowEvent(message.rowObject(call.origin)));
-    const Question question{text, target.scope, attachments.size()};
+    QStringList files;
+    for (const QJsonValue &attachment : attachments) {
+        files.append(attachment[u"name"_s].toString());
+    }
+    const Question question{text, target.scope, files};
     services.answerer.begin(target.key, call.origin, [&services, question, label = target.label] {
         Answer answer =
             services.database.run([&question](Sql &sql) { return composeAnswer(sql, question); });

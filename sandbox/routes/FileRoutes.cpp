@@ -16,6 +16,11 @@ bool isText(const QString &mime) {
     return mime.startsWith(u"text/"_s) || mime == u"application/json"_s;
 }
 
+/// What an agent can read.
+bool isTaken(const QString &mime) {
+    return isText(mime) || mime.startsWith(u"image/"_s) || mime == u"application/pdf"_s;
+}
+
 QJsonObject storeOne(Services &services, const Call &call, const httplib::MultipartFormData &part) {
     const QString name = QString::fromStdString(part.filename);
     const QString mime = QString::fromStdString(part.content_type);
@@ -28,6 +33,9 @@ QJsonObject storeOne(Services &services, const Call &call, const httplib::Multip
     }
     if (content.size() > largestFile) {
         return refused(u"The file is larger than 10 MiB."_s);
+    }
+    if (!isTaken(mime)) {
+        return refused(u"Files of this kind cannot be read here."_s);
     }
     const StoredFile file = services.files.store(call.account, name, mime, content);
     QJsonObject stored{{u"ok"_s, true},

@@ -200,18 +200,22 @@ private Q_SLOTS:
 
     void attachedFilesComeBack() {
         const QString chat = agentChat(u"Loom"_s);
-        const Response uploaded =
-            m_client->upload(chat + u"/files"_s, {{u"план.txt"_s, u"text/plain"_s, "one, two"},
-                                                  {u"empty.txt"_s, u"text/plain"_s, ""}});
+        const Response uploaded = m_client->upload(
+            chat + u"/files"_s, {{u"план.txt"_s, u"text/plain"_s, "one, two"},
+                                 {u"empty.txt"_s, u"text/plain"_s, ""},
+                                 {u"a.exe"_s, u"application/octet-stream"_s, "MZ"}});
         QCOMPARE(uploaded.status, 200);
         const QJsonArray files = uploaded.json().value(u"files"_s).toArray();
-        QCOMPARE(files.size(), 2);
+        QCOMPARE(files.size(), 3);
         const QJsonObject file = files.at(0).toObject();
         QCOMPARE(file.value(u"ok"_s).toBool(), true);
         QCOMPARE(file.value(u"name"_s).toString(), u"план.txt"_s);
         QCOMPARE(file.value(u"size"_s).toInt(), 8);
         QCOMPARE(file.value(u"text"_s).toString(), u"one, two"_s);
-        QVERIFY(!files.at(1).toObject().value(u"error"_s).toString().isEmpty());
+        for (const int refused : {1, 2}) {
+            QCOMPARE(files.at(refused)[u"ok"_s], QJsonValue(false));
+            QVERIFY(!files.at(refused)[u"error"_s].toString().isEmpty());
+        }
 
         m_client->post(chat, {{u"text"_s, QString()}, {u"attachments"_s, QJsonArray{file}}});
         const QJsonObject stored = history(chat, 10).first().toObject();
