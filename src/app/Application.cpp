@@ -16,6 +16,7 @@ Application::Application(const Options &options)
     m_store = std::make_unique<store::AppStore>(m_clock, *m_net, m_settings,
                                                 options.snapshot ? store::AppStore::Mode::Snapshot
                                                                  : store::AppStore::Mode::Normal);
+    m_store->attachments()->setChooser(&m_chooser);
 }
 
 Application::~Application() {
@@ -29,6 +30,7 @@ void Application::start() {
     ui::showMainWindow(m_engine, *m_store,
                        m_options.theme == Theme::Dark ? ui::Appearance::Dark
                                                       : ui::Appearance::Light);
+    m_chooser.setWindow(window());
 }
 
 QCoro::Task<void> Application::connectToBackend(Cancel cancel) {

@@ -8,6 +8,7 @@
 #include "net/Connectivity.h"
 #include "net/PersistentCookieJar.h"
 #include "store/AppStore.h"
+#include "ui/chat/DialogChooser.h"
 
 #include <QQmlApplicationEngine>
 #include <QSettings>
@@ -40,6 +41,7 @@ private:
     net::SystemConnectivity m_connectivity;
     std::unique_ptr<net::APIClient> m_net;
     std::unique_ptr<EmbeddedServer> m_server;
+    ui::DialogChooser m_chooser;
     std::unique_ptr<store::AppStore> m_store;
     QQmlApplicationEngine m_engine;
     Work m_start;

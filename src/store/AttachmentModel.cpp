@@ -73,7 +73,8 @@ void AttachmentModel::setAttached(const QUuid &id, ChatAttachment attachment) {
     attachment.id = id;
     m_rows[row].attachment = std::move(attachment);
     m_rows[row].upload = Upload::Done;
-    touch(row, {NameRole, SizeTextRole, KindRole, UploadRole});
+    m_rows[row].progress = 0;
+    touch(row, {NameRole, SizeTextRole, KindRole, UploadRole, ProgressRole});
     Q_EMIT attachedChanged();
 }
 

@@ -172,6 +172,7 @@ std::optional<Msg> ChatRoom::newestAnswer() const {
 void ChatRoom::confirm(qsizetype row, Msg stored) {
     const Msg &sent = m_msgs.messages().at(row);
     m_store.attachments()->withdraw(sent.attachments);
+    stored.attachments = sent.attachments;
     if (stored.files.isEmpty())
         stored.files = sent.files;
     m_msgs.update(row, std::move(stored));

@@ -114,10 +114,13 @@ void ChatRoom::retry(const QString &messageId) {
 
 void ChatRoom::retryTurn() {
     const qsizetype row = m_msgs.rowOf(m_turn);
-    if (row >= 0 && m_msgs.messages().at(row).failed)
+    if (row >= 0 && m_msgs.messages().at(row).failed) {
         retry(m_turn.toString(QUuid::WithoutBraces));
-    else
-        send(m_lastPrompt);
+        return;
+    }
+    if (row >= 0)
+        m_store.attachments()->putBack(m_msgs.messages().at(row).attachments);
+    send(m_lastPrompt);
 }
 
 void ChatRoom::pickChip(const QString &messageId, const canvas::ReplyChip &chip) {
@@ -197,7 +200,6 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
     confirmed.serverID = id;
     confirmed.pendingID.clear();
     confirmed.failed = false;
-    confirmed.attachments.clear();
     m_live.insert(id, confirmed);
     m_msgs.update(row, std::move(confirmed));
 }

@@ -51,7 +51,7 @@ struct Msg {
     /// of the chat were not here yet.
     std::optional<qint64> follows;
     QList<MsgFile> files;
-    /// What a message of ours carries, until the server has stored it.
+    /// What a message sent from here carries.
     QList<ChatAttachment> attachments;
     std::optional<JVal> view;
     QList<canvas::ReplyChip> chips;     ///< replies offered under an answer

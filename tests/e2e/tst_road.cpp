@@ -4,6 +4,8 @@
 #include "driver/WindowDriver.h"
 
 #include <QFile>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QQuickWindow>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -87,6 +89,7 @@ private Q_SLOTS:
 
             signUp(person, store);
             askForReport(person, store);
+            sendFile(person, store, profile.filePath(u"minutes.txt"_s));
             enterProject(person, store);
             askProject(person, store);
         }
@@ -152,6 +155,28 @@ private:
         QCOMPARE(growth.resets + growth.removals, 0);
         // The block that became the scene is not shown as text.
         QVERIFY(!store.chat()->msgs()->messages().at(2).shown.contains(u"```"_s));
+    }
+
+    void sendFile(const driver::WindowDriver &person, store::AppStore &store, const QString &path) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("Nothing was decided.") > 0);
+        file.close();
+        store.attachments()->uploadChatFiles({QUrl::fromLocalFile(path)});
+        QTRY_COMPARE_WITH_TIMEOUT(store.attachments()->chatFiles()->attached(), 1, 15000);
+        QVERIFY(person.click(u"sendButton"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            store.chat()->msgs()->messages().last().text.contains(u"minutes.txt"_s), 20000);
+        QTRY_VERIFY_WITH_TIMEOUT(!store.canvas()->awaitingAnswer(), 20000);
+        const store::Msg &sent = store.chat()->msgs()->messages().at(3);
+        QVERIFY(sent.serverID);
+        QCOMPARE(sent.files.size(), 1);
+        QVERIFY(person.waitForItem(u"file:minutes.txt"_s));
+        QNetworkAccessManager network;
+        const auto reply = std::unique_ptr<QNetworkReply>(
+            network.get(QNetworkRequest(QUrl(sent.files.first().url))));
+        QSignalSpy finished(reply.get(), &QNetworkReply::finished);
+        QVERIFY(finished.wait(15000));
+        QCOMPARE(reply->readAll(), "Nothing was decided."_ba);
     }
 
     void enterProject(const driver::WindowDriver &person, store::AppStore &store) {

@@ -441,6 +441,26 @@ private Q_SLOTS:
         QCOMPARE(f.backend.requests(kivPost).at(2).body, posts.at(0).body);
     }
 
+    void unansweredQuestionIsAskedAgain() {
+        AttachmentFixture f;
+        QVERIFY(f.signIn());
+        QVERIFY(f.attach(1));
+        f.backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, QString()) + "}");
+        f.store->chat()->send(QString());
+        SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
+        for (int i = 0; i < 8; ++i) { // the stream stays alive, but no answer comes
+            f.row(7, QString(), u"user"_s);
+            QTest::qWait(10);
+            f.clock.advance(25s);
+        }
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Failed);
+        f.store->chat()->retryTurn();
+        SOON_COMPARE(f.backend.count(kivPost), 2);
+        const auto posts = f.backend.requests(kivPost);
+        QCOMPARE(posts.at(1).body[u"attachments"_s], posts.at(0).body[u"attachments"_s]);
+        QCOMPARE(f.files().count(), 0);
+    }
+
     void replyWasLost_data() {
         QTest::addColumn<bool>("streamed");
         QTest::newRow("the stream brings the row") << true;

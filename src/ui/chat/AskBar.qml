@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Store
 import Kiv.Tokens
 
 // Where the person types. Enter sends, Shift and Enter break the line; the text belongs to the store,
@@ -11,11 +12,13 @@ FocusScope {
 
     required property string draft
     required property string placeholder
+    required property AttachmentRoom attachments
     property string lastPrompt: ""
     property string hint: ""
     property bool stoppable: false
     property bool floating: false
-    readonly property bool ready: /\S/.test(draft)
+    readonly property bool ready: (/\S/.test(draft) || attachments.chatFiles.attached > 0) && !attachments.chatUploading
+    readonly property real trayHeight: tray.visible ? tray.height + 8 : 0
     readonly property int lines: 8
 
     signal edited(text: string)
@@ -27,7 +30,7 @@ FocusScope {
             submitted(draft)
     }
 
-    implicitHeight: floating ? Math.max(56, scroller.height + 35) : scroller.height + 58
+    implicitHeight: trayHeight + (floating ? Math.max(56, scroller.height + 35) : scroller.height + 58)
     onDraftChanged: if (field.text !== draft) {
         field.text = draft
         field.cursorPosition = field.length
@@ -44,11 +47,21 @@ FocusScope {
         border.width: field.activeFocus ? 2 : 1
         border.color: field.activeFocus ? Tokens.focus : Tokens.line2
     }
+    AttachTray {
+        id: tray
+
+        x: 8
+        y: 8
+        width: bar.width - 16
+        visible: bar.attachments.chatFiles.count > 0
+        attachments: bar.attachments
+        onFocusLost: field.forceActiveFocus(Qt.TabFocusReason)
+    }
     Flickable {
         id: scroller
 
-        x: bar.floating ? 6 : 0
-        y: bar.floating ? 17 : 12
+        x: bar.floating ? 38 : 0
+        y: bar.trayHeight + (bar.floating ? 17 : 12)
         width: bar.width - x - (bar.floating ? 56 : 0)
         height: Math.max(Tokens.type.body.line, Math.min(field.contentHeight, bar.lines * Tokens.type.body.line))
         contentWidth: width
@@ -76,6 +89,8 @@ FocusScope {
             color: Tokens.t1
             selectionColor: Tokens.selection
             selectedTextColor: Tokens.t1
+            KeyNavigation.priority: KeyNavigation.BeforeItem
+            KeyNavigation.tab: attach
             Accessible.name: bar.placeholder
             Component.onCompleted: cursorPosition = length
 
@@ -85,8 +100,11 @@ FocusScope {
             onTextChanged: if (text !== bar.draft) bar.edited(text)
             Keys.onPressed: event => {
                 const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
-                event.accepted = enter && !inputMethodComposing && !(event.modifiers & Qt.ShiftModifier)
-                if (event.accepted)
+                const files = event.matches(StandardKey.Paste) && Clipboard.holdsFiles()
+                event.accepted = files || enter && !inputMethodComposing && !(event.modifiers & Qt.ShiftModifier)
+                if (files)
+                    Clipboard.attachTo(bar.attachments)
+                else if (event.accepted)
                     bar.submit()
             }
             Keys.onUpPressed: event => {
@@ -114,6 +132,21 @@ FocusScope {
         document: field.textDocument
         lineHeight: Tokens.type.body.line
     }
+    IconButton {
+        id: attach
+
+        objectName: "attachButton"
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: bar.floating ? 12 : 6
+        anchors.bottomMargin: bar.floating ? 12 : 6
+        size: 32
+        iconName: "clip"
+        // A press leaves the cursor in the field.
+        focusPolicy: Qt.TabFocus
+        text: qsTr("Attach files")
+        onClicked: bar.attachments.pickChatFiles()
+    }
     Label {
         anchors.right: send.left
         anchors.rightMargin: 8
@@ -134,6 +167,32 @@ FocusScope {
         stopping: bar.stoppable
         enabled: bar.stoppable || bar.ready
         onClicked: stopping ? bar.stopRequested() : bar.submit()
+    }
+    DropArea {
+        id: drop
+
+        anchors.fill: parent
+        onEntered: drag => drag.accepted = drag.hasUrls
+        onDropped: event => {
+            event.accept(Qt.CopyAction)
+            bar.attachments.uploadChatFiles(event.urls)
+        }
+    }
+    Rectangle {
+        objectName: "dropTarget"
+        anchors.fill: parent
+        visible: drop.containsDrag
+        radius: bar.floating ? Tokens.radiusFloat : Tokens.radiusPopover
+        color: Tokens.accentTint
+        border.width: 2
+        border.color: Tokens.accent
+
+        Label {
+            anchors.centerIn: parent
+            style: Tokens.type.name
+            color: Tokens.accentText
+            text: qsTr("Drop to attach")
+        }
     }
     // A press anywhere in the bar goes into the field.
     TapHandler {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/AttachmentRoom.h"
+
 #include <QObject>
 #include <QtQmlIntegration>
 
@@ -14,6 +16,10 @@ public:
     using QObject::QObject;
 
     Q_INVOKABLE static void setText(const QString &text);
+    /// Whether it holds files, or a picture that is not also text.
+    Q_INVOKABLE static bool holdsFiles();
+    /// Attaches what holdsFiles() speaks of.
+    Q_INVOKABLE static void attachTo(kiv::store::AttachmentRoom *attachments);
 };
 
 } // namespace kiv::ui

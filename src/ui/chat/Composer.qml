@@ -22,6 +22,7 @@ FocusScope {
         focus: true
         floating: composer.floating
         draft: composer.store.chat.draft
+        attachments: composer.store.attachments
         lastPrompt: composer.store.chat.lastPrompt
         placeholder: qsTr("Ask %1…").arg(composer.store.scope.scopeName)
         hint: composer.hint
@@ -31,13 +32,18 @@ FocusScope {
         onStopRequested: composer.store.chat.stopLive()
     }
     Label {
+        readonly property string error: composer.store.chat.chatNote
+
+        objectName: "chatNote"
         anchors.top: bar.bottom
-        anchors.topMargin: 6
+        anchors.topMargin: composer.floating ? 4 : 6
         width: composer.width
-        visible: !composer.floating
         horizontalAlignment: Text.AlignHCenter
         style: Tokens.type.micro
-        color: composer.store.chat.chatNote === "" ? Tokens.t3 : Tokens.dangerText
-        text: composer.store.chat.chatNote === "" ? composer.note : composer.store.chat.chatNote
+        color: error === "" ? Tokens.t3 : Tokens.dangerText
+        Accessible.role: error === "" ? Accessible.StaticText : Accessible.AlertMessage
+        text: error !== "" ? error
+            : composer.store.attachments.chatUploading ? qsTr("Uploading…")
+            : composer.note
     }
 }

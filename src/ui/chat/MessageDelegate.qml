@@ -15,6 +15,7 @@ Item {
     required property string rawText
     required property string time
     required property string memberLabel
+    required property list<msgFile> files
     required property int delivery
     required property bool growing
     required property string cardTitle
@@ -85,6 +86,13 @@ Item {
                 height: 20
                 text: qsTr("with %1").arg(message.memberLabel)
             }
+        }
+        MessageFiles {
+            width: message.mine ? message.width : message.width - message.indent
+            x: message.indent
+            visible: message.files.length > 0
+            layoutDirection: message.mine ? Qt.RightToLeft : Qt.LeftToRight
+            files: message.files
         }
         Bubble {
             x: message.mine ? message.width - width : message.indent
