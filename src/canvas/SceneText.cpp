@@ -24,7 +24,7 @@ QString valueOf(const std::optional<QString> &display, std::optional<double> val
 
 QString figureText(double value, const QString &unit) {
     const QString number = CanvasNum::out(CanvasNum::decimal(std::abs(value)));
-    const QString sign = value < 0 ? u"-"_s : QString();
+    const QString sign = value < 0 ? u"−"_s : QString();
     const QString sort = unit.trimmed();
     const bool leads = !sort.isEmpty() && u"$€£¥"_s.contains(sort.front());
     const QStringView behind = QStringView(sort).sliced(leads ? 1 : 0);

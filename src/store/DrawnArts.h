@@ -6,7 +6,13 @@ namespace kiv::store {
 
 /// The arts that the window has a scene for; the figures of any other are shown as a table.
 inline QStringList drawnArts() {
-    return {QStringLiteral("report"), QStringLiteral("compare")};
+    return {
+        QStringLiteral("report"),
+        QStringLiteral("compare"),
+        QStringLiteral("status"),
+        QStringLiteral("costs"),
+        QStringLiteral("workload"),
+    };
 }
 
 } // namespace kiv::store

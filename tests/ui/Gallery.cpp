@@ -86,6 +86,10 @@ void Gallery::setDark(bool dark) {
 
 QImage Gallery::save(const QString &name) {
     QTest::qWait(entrance);
+    return grab(name);
+}
+
+QImage Gallery::grab(const QString &name) {
     const QDir folder(QStringLiteral(KIV_PICTURES));
     folder.mkpath(u"."_s);
     const QImage picture = m_window->grabWindow();

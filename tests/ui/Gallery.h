@@ -26,6 +26,8 @@ public:
 
     /// Saves the window below the build's folder of pictures, once what moves has come to rest.
     QImage save(const QString &name);
+    /// The same at once.
+    QImage grab(const QString &name);
 
     QQuickWindow &window() { return *m_window; }
     /// The visible item with this objectName; null without one.

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "canvas/SceneFigures.h"
-
 #include <QObject>
 #include <QStringList>
 #include <QtQmlIntegration>
 
 namespace kiv::ui {
 
-/// How views write the figures that they work out themselves.
+/// How views write what they make of names and figures themselves.
 class Figures : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,16 +15,13 @@ public:
     using QObject::QObject;
 
     /// "42%" of a whole; empty where there is none.
-    Q_INVOKABLE static QString share(double part, double whole) {
-        return whole > 0 && part >= 0 ? canvas::shareText(part, whole) : QString();
-    }
+    Q_INVOKABLE static QString share(double part, double whole);
     /// A figure that the program wrote, with the sign that figures have for minus.
-    Q_INVOKABLE static QString minus(QString figure) { return figure.replace(u'-', QChar(0x2212)); }
+    Q_INVOKABLE static QString minus(QString figure);
+    /// The first letters of the first two words of a name.
+    Q_INVOKABLE static QString initials(const QString &name);
     /// The words that are not empty.
-    Q_INVOKABLE static QString joined(QStringList words, const QString &separator) {
-        words.removeAll(QString());
-        return words.join(separator);
-    }
+    Q_INVOKABLE static QString joined(QStringList words, const QString &separator);
 };
 
 } // namespace kiv::ui

@@ -10,7 +10,7 @@ namespace kiv::ui {
 
 namespace {
 
-constexpr double widestGap = 3;
+constexpr double gap = 3;
 constexpr double leastPiece = 6;
 
 } // namespace
@@ -19,16 +19,14 @@ void StackLayout::setParts(const QVariant &parts) {
     if (m_parts == parts)
         return;
     m_parts = parts;
-    m_shares.clear();
-    m_pieces.clear();
-    for (const canvas::Seg &part : parts.value<QList<canvas::Seg>>()) {
-        m_shares.append(part.w);
-        m_pieces.append({.label = part.label, .color = part.bg});
-    }
-    for (const canvas::UeRow &part : parts.value<QList<canvas::UeRow>>()) {
-        m_shares.append(part.w);
-        m_pieces.append({.label = part.name, .color = part.color});
-    }
+    m_all.clear();
+    for (const canvas::Seg &part : parts.value<QList<canvas::Seg>>())
+        m_all.append({{.label = part.label, .color = part.bg}, part.w});
+    for (const canvas::UeRow &part : parts.value<QList<canvas::UeRow>>())
+        m_all.append({{.label = part.name, .color = part.color}, part.w});
+    const double all = whole(m_all);
+    for (Part &part : m_all)
+        part.piece.share = all > 0 ? canvas::shareText(part.share, all) : QString();
     Q_EMIT partsChanged();
     layOut();
 }
@@ -40,30 +38,54 @@ void StackLayout::setWidth(double width) {
     layOut();
 }
 
+double StackLayout::whole(const QList<Part> &parts) {
+    return std::accumulate(parts.begin(), parts.end(), 0.0,
+                           [](double sum, const Part &part) { return sum + part.share; });
+}
+
+/// Parts below the least share become one.
+QList<StackLayout::Part> StackLayout::gathered(const QList<Part> &parts, double least) {
+    QList<Part> wide;
+    Part rest;
+    for (const Part &part : parts) {
+        if (part.share >= least) {
+            wide.append(part);
+        } else {
+            rest.share += part.share;
+            ++rest.piece.others;
+        }
+    }
+    if (rest.piece.others == 0)
+        return parts;
+    rest.piece.share = canvas::shareText(rest.share, whole(parts));
+    return wide << rest;
+}
+
 void StackLayout::layOut() {
-    const auto count = static_cast<double>(m_pieces.size());
-    const double whole = std::accumulate(m_shares.begin(), m_shares.end(), 0.0);
-    // At the least widths the pieces and their gaps may take half of the bar.
-    const double squeeze =
-        std::min(1.0, m_width / 2 / std::max(1.0, count * (widestGap + leastPiece)));
-    const double gap = widestGap * squeeze;
-    const double least = leastPiece * squeeze;
-    const double room = std::max(0.0, m_width - gap * (count - 1));
-    const auto extra = [&](double share) {
-        return whole > 0 ? std::max(0.0, share / whole * room - least) : 0;
-    };
-    // What narrow pieces get beyond their share is taken from what the others have above the least.
-    double extras = 0;
-    for (const double share : std::as_const(m_shares))
-        extras += extra(share);
-    const double scale = extras > 0 ? (room - least * count) / extras : 0;
-    double x = 0;
-    for (qsizetype i = 0; i < m_pieces.size(); ++i) {
-        StackPiece &piece = m_pieces[i];
-        piece.x = x;
-        piece.width = least + extra(m_shares.at(i)) * scale;
-        piece.share = whole > 0 ? canvas::shareText(m_shares.at(i), whole) : QString();
-        x += piece.width + gap;
+    m_pieces.clear();
+    const double all = whole(m_all);
+    if (all > 0 && m_width > 0) {
+        // At their least widths, pieces and gaps may take half of the bar.
+        const bool crowded = static_cast<double>(m_all.size()) * (gap + leastPiece) > m_width / 2;
+        const QList<Part> parts = crowded ? gathered(m_all, leastPiece / m_width * all) : m_all;
+        const auto count = static_cast<double>(parts.size());
+        const double room = m_width - gap * (count - 1);
+        const auto extra = [&](const Part &part) {
+            return std::max(0.0, part.share / all * room - leastPiece);
+        };
+        // What narrow pieces get beyond their share is taken from what others have above the least.
+        double extras = 0;
+        for (const Part &part : parts)
+            extras += extra(part);
+        const double scale = extras > 0 ? (room - leastPiece * count) / extras : 0;
+        double x = 0;
+        for (const Part &part : parts) {
+            StackPiece piece = part.piece;
+            piece.x = x;
+            piece.width = leastPiece + extra(part) * scale;
+            m_pieces.append(piece);
+            x += piece.width + gap;
+        }
     }
     Q_EMIT piecesChanged();
 }

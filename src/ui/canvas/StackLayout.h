@@ -16,19 +16,21 @@ struct StackPiece {
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(QString share MEMBER share)
     Q_PROPERTY(kiv::canvas::SceneColor color MEMBER color)
+    Q_PROPERTY(int others MEMBER others)
     Q_PROPERTY(double x MEMBER x)
     Q_PROPERTY(double width MEMBER width)
 public:
     QString label;
     QString share; ///< of the whole, as shown
     canvas::SceneColor color = canvas::SceneColor::Violet;
+    int others = 0; ///< how many parts lie in this piece that have none of their own
     double x = 0;
     double width = 0;
     friend bool operator==(const StackPiece &, const StackPiece &) = default;
 };
 
 /// How the parts of a whole lie in one bar: a gap between two pieces, none so narrow that it is
-/// lost. Where there are too many for that, gap and least width give way together.
+/// lost. Where there are too many for that, all narrow ones share a last piece.
 class StackLayout : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -53,9 +55,17 @@ Q_SIGNALS:
 private:
     void layOut();
 
+    struct Part {
+        StackPiece piece;
+        double share = 0; ///< in any measure that all parts have in common
+    };
+
+    static QList<Part> gathered(const QList<Part> &parts, double least);
+    static double whole(const QList<Part> &parts);
+
     QVariant m_parts;
     double m_width = 0;
-    QList<double> m_shares;
+    QList<Part> m_all;
     QList<StackPiece> m_pieces;
 };
 

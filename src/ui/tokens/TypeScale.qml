@@ -8,6 +8,8 @@ QtObject {
     readonly property TypeStyle subheading: TypeStyle { size: 18; line: 24; weight: Font.DemiBold; tracking: -0.18 }
     readonly property TypeStyle cardTitle: TypeStyle { size: 16; line: 22; weight: Font.DemiBold }
     readonly property TypeStyle lead: TypeStyle { size: 16; line: 24; weight: Font.Medium }
+    readonly property TypeStyle rowTitle: TypeStyle { size: 15; line: 21; weight: Font.DemiBold }
+    readonly property TypeStyle score: TypeStyle { size: 26; line: 32; weight: Font.DemiBold; tracking: -0.52 }
     readonly property TypeStyle word: TypeStyle { size: 16; line: 20; weight: Font.Bold; tracking: 0.32 }
     readonly property TypeStyle body: TypeStyle { size: 14; line: 21 }
     readonly property TypeStyle line: TypeStyle { size: 14; line: 20 }

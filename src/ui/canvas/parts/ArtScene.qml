@@ -15,6 +15,8 @@ FocusScope {
     readonly property bool animated: body?.animated ?? false
     /// Padding above the first row.
     readonly property int headroom: side === 32 ? 24 : 16
+    /// Padding below the last one.
+    readonly property int footroom: side === 32 ? 20 : 16
     readonly property real inner: width - 2 * side
     readonly property bool wide: inner >= Tokens.wideBody
     readonly property bool narrow: inner < Tokens.mediumBody

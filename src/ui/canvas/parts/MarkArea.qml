@@ -18,6 +18,8 @@ Item {
     /// What the colour says, in words.
     property string tone: ""
     property int ringRadius: Tokens.radiusSmall
+    /// How far the ring stands inside at the sides.
+    property int ringMargin: -2
 
     signal activated()
 
@@ -44,7 +46,9 @@ Item {
     }
     FocusRing {
         z: 1
-        anchors.margins: -2
+        anchors.margins: Math.max(-2, 4 + mark.ringMargin)
+        anchors.leftMargin: mark.ringMargin
+        anchors.rightMargin: mark.ringMargin
         targetRadius: mark.ringRadius
         visible: mark.activeFocus
     }

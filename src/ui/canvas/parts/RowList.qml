@@ -16,9 +16,9 @@ ListView {
     /// The height of a row; a fraction would blur its line.
     readonly property real rowHeight: Math.floor(Math.max(leastRow, Math.min(mostRow, height / Math.max(1, count))))
 
-    x: art.side
-    // The scroll bar stands in the padding.
-    width: art.inner + art.side
+    // Room for the ring of a row; the scroll bar stands in the padding.
+    x: art.side - 8
+    width: art.inner + art.side + 8
     currentIndex: art.current
     keyNavigationEnabled: false
     highlightMoveDuration: 0

@@ -11,8 +11,10 @@ MarkArea {
     /// How much of their lengths the row's marks have.
     readonly property real grown: art.entrance.grown(index)
 
+    x: 8
     place: index
     width: art.inner
+    ringMargin: -6
 
     Divider {
         width: parent.width

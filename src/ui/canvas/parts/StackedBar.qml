@@ -36,14 +36,14 @@ Item {
             x: piece.x * bar.grown
             width: piece.width * bar.grown
             height: bar.height
-            label: piece.label
+            label: piece.others > 0 ? qsTr("%1 more").arg(piece.others) : piece.label
             share: piece.share
             Accessible.ignored: true
 
             Rectangle {
                 anchors.fill: parent
                 radius: Math.min(Tokens.radiusSmall, width / 2)
-                color: bar.art.dataColor(mark.piece.color).base
+                color: mark.piece.others > 0 ? Tokens.control : bar.art.dataColor(mark.piece.color).base
             }
         }
     }

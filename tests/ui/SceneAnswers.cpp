@@ -1,0 +1,177 @@
+#include "ui/SceneAnswers.h"
+
+#include "canvas/AnswerBlock.h"
+#include "canvas/TableScene.h"
+#include "store/DrawnArts.h"
+#include "ui/Workspace.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::ui {
+
+namespace {
+
+constexpr int many = 200;
+
+/// 120 characters that do not fit into any column.
+QString longName(int i) {
+    const QString words = i % 2 == 0 ? u"Внедрение единой системы управления закупками "_s
+                                     : u"Consolidated procurement and supplier onboarding "_s;
+    return (QString::number(i + 1) + u' ' + words.repeated(4)).left(120).trimmed();
+}
+
+QString block(const QString &kind, const QString &art, const QString &title,
+              const QJsonObject &data) {
+    QJsonObject view = data;
+    view.insert(u"kind"_s, kind);
+    view.insert(u"art"_s, art);
+    view.insert(u"title"_s, title);
+    return u"Here it is.\n\n```view\n"_s + QString::fromUtf8(QJsonDocument(view).toJson()) +
+           u"```\n"_s;
+}
+
+QJsonObject points(const QJsonArray &rows, const QString &unit = {}) {
+    QJsonObject data{{u"points"_s, rows}};
+    if (!unit.isEmpty())
+        data.insert(u"unit"_s, unit);
+    return data;
+}
+
+/// As many points as asked for, each made from its place.
+template <typename Make>
+QJsonArray times(int count, Make make) {
+    QJsonArray rows;
+    for (int i = 0; i < count; ++i)
+        rows.append(make(i));
+    return rows;
+}
+
+QJsonObject point(const QString &label, double value, const QString &hint = {}) {
+    QJsonObject row{{u"label"_s, label}, {u"value"_s, value}};
+    if (!hint.isEmpty())
+        row.insert(u"hint"_s, hint);
+    return row;
+}
+
+QList<SceneAnswer> costs() {
+    const auto answer = [](const QString &name, const QString &title, const QJsonObject &data) {
+        return SceneAnswer{u"costs-"_s + name, u"costs"_s,
+                           block(u"bar"_s, u"costs"_s, title, data)};
+    };
+    return {
+        answer(u"plain"_s, u"Where November spend goes"_s,
+               points({point(u"Agent time"_s, 24860, u"Five projects"_s),
+                       point(u"Hosting"_s, 17300, u"Glasshouse and Orchard"_s),
+                       point(u"Contract design"_s, 11250, u"Paper Lantern"_s),
+                       point(u"Data licences"_s, 7940, u"Two sources"_s),
+                       point(u"Support desk"_s, 5240, u"Blue Kettle"_s),
+                       point(u"Other"_s, 1765, u"Under €1,000 each"_s)},
+                      u"€"_s)),
+        answer(u"one"_s, u"One cost"_s, points({point(u"Hosting"_s, 17300)}, u"€"_s)),
+        answer(
+            u"many"_s, u"Every supplier of the year"_s,
+            points(times(many,
+                         [](int i) { return point(u"Supplier %1"_s.arg(i + 1), 90000 / (i + 1)); }),
+                   u"€"_s)),
+        answer(u"long"_s, longName(0),
+               points(times(8,
+                            [](int i) {
+                                return point(longName(i), 1234567890.0 * (8 - i), longName(i + 1));
+                            }),
+                      u"€"_s)),
+        answer(
+            u"signed"_s, u"Change since October"_s,
+            points({point(u"Licences"_s, 1200), point(u"Hosting"_s, -4300), point(u"Travel"_s, 0),
+                    point(u"Скидка поставщика"_s, -860), point(u"Design"_s, 2.5)},
+                   u"€"_s)),
+    };
+}
+
+QList<SceneAnswer> workload() {
+    const auto answer = [](const QString &name, const QJsonArray &rows, const QStringList &loads) {
+        return SceneAnswer{
+            u"workload-"_s + name, u"workload"_s,
+            block(u"bar"_s, u"workload"_s, u"Load for the coming week"_s, points(rows)), loads};
+    };
+    return {
+        answer(u"plain"_s,
+               {point(u"Data analyst"_s, 118, u"Glasshouse"_s),
+                point(u"Backend engineer"_s, 106, u"Orchard, Night Ferry"_s),
+                point(u"Designer"_s, 97, u"Paper Lantern"_s),
+                point(u"Product lead"_s, 91, u"Night Ferry"_s),
+                point(u"Support lead"_s, 74, u"Blue Kettle"_s),
+                point(u"QA analyst"_s, 52, u"All projects"_s)},
+               {u"118%"_s, u"106%"_s, u"97%"_s, u"91%"_s, u"74%"_s, u"52%"_s}),
+        answer(u"two"_s, {point(u"Ona"_s, 0), point(u"Мария Ёлкина"_s, 100)}, {u"0%"_s, u"100%"_s}),
+        answer(u"many"_s, times(many, [](int i) { return point(u"Person %1"_s.arg(i), i); }), {}),
+        answer(u"long"_s,
+               times(8, [](int i) { return point(longName(i), 80 + 40000 * i, longName(i + 1)); }),
+               {u"280080%"_s}),
+    };
+}
+
+QJsonObject aimed(const QString &label, double value, double target, const QString &hint = {}) {
+    QJsonObject row = point(label, value, hint);
+    row.insert(u"target"_s, target);
+    return row;
+}
+
+QList<SceneAnswer> status() {
+    const auto answer = [](const QString &name, const QString &unit, const QJsonArray &rows,
+                           const QStringList &figures) {
+        return SceneAnswer{
+            u"status-"_s + name, u"status"_s,
+            block(u"progress"_s, u"status"_s, u"Where the projects stand"_s, points(rows, unit)),
+            figures};
+    };
+    QJsonObject blocked = point(u"Print run"_s, 35);
+    blocked.insert(u"status"_s, u"blocked"_s);
+    return {
+        answer(u"plain"_s, u"%"_s,
+               {aimed(u"Night Ferry"_s, 82, 70, u"Guided sign-up is live, load test is next"_s),
+                aimed(u"Paper Lantern"_s, 64, 60, u"Copy approved, photo set still open"_s),
+                aimed(u"Glasshouse"_s, 41, 65, u"Data agent away until Tuesday"_s),
+                aimed(u"Orchard"_s, 55, 72, u"Tax field missing on two invoices"_s),
+                aimed(u"Blue Kettle"_s, 91, 85, u"All reply macros reviewed"_s)},
+               {u"82%"_s, u"target 70%"_s, u"On track"_s, u"41%"_s, u"target 65%"_s, u"Behind"_s}),
+        answer(u"one"_s, u"%"_s, {point(u"Night Ferry"_s, 0)}, {u"0%"_s}),
+        answer(u"many"_s, u"%"_s,
+               times(many, [](int i) { return aimed(u"Stream %1"_s.arg(i), i, 60); }), {}),
+        answer(u"long"_s, {},
+               times(7,
+                     [](int i) {
+                         return aimed(longName(i), 1000.0 * (i + 1), 2500, longName(i + 1));
+                     }),
+               {u"40%"_s, u"280%"_s, u"target 100%"_s}),
+        answer(u"mixed"_s, u"%"_s,
+               {blocked, point(u"Сайт"_s, 48), aimed(u"Storehouse"_s, 640, 120),
+                aimed(u"Training"_s, 0, 10)},
+               {u"Blocked"_s, u"640%"_s, u"target 120%"_s, u"0%"_s, u"48%"_s}),
+    };
+}
+
+} // namespace
+
+QList<SceneAnswer> sceneAnswers() {
+    return QList<SceneAnswer>{
+               {u"report-plain"_s, u"report"_s, Workspace::reportAnswer()},
+               {u"compare-plain"_s, u"compare"_s, Workspace::compareAnswer()},
+           } +
+           costs() + workload() + status();
+}
+
+canvas::SceneOut sceneOf(const SceneAnswer &answer) {
+    const auto drawable = canvas::CanvasEngine::extractViewSpec(answer.text);
+    if (!drawable.spec)
+        qFatal("%s: nothing to draw", qPrintable(answer.name));
+    const auto scene = canvas::SceneAdapter::valsAmong(store::drawnArts(), *drawable.spec, {});
+    if (!scene || scene->art != answer.art)
+        qFatal("%s: not drawn as %s", qPrintable(answer.name), qPrintable(answer.art));
+    return *scene;
+}
+
+} // namespace kiv::ui
