@@ -44,7 +44,9 @@ void Gallery::close() {
 QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariantMap &properties) {
     close();
     m_engine = std::make_unique<QQmlApplicationEngine>();
-    registerModules(*m_engine).setDark(m_dark);
+    Appearance &appearance = registerModules(*m_engine);
+    appearance.setDark(m_dark);
+    appearance.setReducedMotion(m_reducedMotion);
     QQmlComponent component(m_engine.get(), QStringLiteral(KIV_PAGES "/") + page);
     if (component.isError())
         qFatal("%s", qPrintable(component.errorString()));
@@ -82,6 +84,11 @@ void Gallery::setDark(bool dark) {
     m_dark = dark;
     if (m_engine)
         m_engine->findChild<Appearance *>()->setDark(dark);
+}
+
+/// For what is shown from now on.
+void Gallery::setReducedMotion(bool reduced) {
+    m_reducedMotion = reduced;
 }
 
 QImage Gallery::save(const QString &name) {

@@ -23,13 +23,14 @@ public:
     void open(store::AppStore &store, const QSize &size);
     void close();
     void setDark(bool dark);
+    void setReducedMotion(bool reduced);
 
     /// Saves the window below the build's folder of pictures, once what moves has come to rest.
     QImage save(const QString &name);
     /// The same at once.
     QImage grab(const QString &name);
 
-    QQuickWindow &window() { return *m_window; }
+    QQuickWindow &window() const { return *m_window; }
     /// The visible item with this objectName; null without one.
     QQuickItem *find(const QString &name) const;
     QQuickItem *item(const QString &name) const;
@@ -47,6 +48,7 @@ private:
     std::unique_ptr<QQuickWindow> m_own;
     std::unique_ptr<QObject> m_shown;
     bool m_dark = false;
+    bool m_reducedMotion = false;
 };
 
 } // namespace kiv::ui

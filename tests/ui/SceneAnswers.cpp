@@ -154,6 +154,74 @@ QList<SceneAnswer> status() {
     };
 }
 
+QList<SceneAnswer> okr() {
+    const auto answer = [](const QString &name, const QJsonArray &rows,
+                           const QStringList &figures) {
+        return SceneAnswer{
+            u"okr-"_s + name, u"okr"_s,
+            block(u"progress"_s, u"okr"_s, u"Goals for the fourth quarter"_s, points(rows, u"%"_s)),
+            figures};
+    };
+    const QString first = u"New customers get value in one day · Product lead"_s;
+    const QString second = u"Invoicing runs without manual work · Finance lead"_s;
+    const QString third = u"Support answers feel personal · Support lead"_s;
+    return {
+        answer(u"plain"_s,
+               {point(u"Set-up finished within 24 h"_s, 78, first),
+                point(u"Guided sign-up live in three languages"_s, 67, first),
+                point(u"First report opened by day two"_s, 64, first),
+                point(u"Invoices without review"_s, 46, second),
+                point(u"Open disputes under 20"_s, 35, second),
+                point(u"First reply under two hours"_s, 88, third),
+                point(u"Satisfaction at 4.6 or more"_s, 94, third),
+                point(u"Macros reviewed"_s, 91, third)},
+               {u"78%"_s, u"67%"_s, u"46%"_s, u"35%"_s, u"94%"_s}),
+        answer(u"one"_s, {point(u"Готовность"_s, 0)}, {u"0%"_s}),
+        answer(u"many"_s,
+               times(many, [](int i) { return point(u"Result %1"_s.arg(i), i, u"All teams"_s); }),
+               {}),
+        answer(u"groups-many"_s,
+               times(many,
+                     [](int i) {
+                         return point(u"Result %1"_s.arg(i), i,
+                                      u"Objective %1 · Team %1"_s.arg(i / 3));
+                     }),
+               {}),
+        answer(u"long"_s,
+               {point(longName(1), 480, longName(0) + u" · "_s + longName(2)),
+                point(longName(3), 52, longName(0) + u" · "_s + longName(2)),
+                point(longName(4), 999, longName(1) + u" · "_s + longName(5))},
+               {u"480%"_s, u"52%"_s, u"999%"_s}),
+    };
+}
+
+QList<SceneAnswer> budget() {
+    const auto answer = [](const QString &name, const QJsonArray &rows,
+                           const QStringList &figures) {
+        return SceneAnswer{u"budget-"_s + name, u"budget"_s,
+                           block(u"bar"_s, u"budget"_s, u"November budget, plan against actual"_s,
+                                 points(rows, u"€"_s)),
+                           figures};
+    };
+    return {
+        answer(u"plain"_s,
+               {aimed(u"Agent time"_s, 24860, 28000), aimed(u"Hosting"_s, 17300, 15500),
+                aimed(u"Contract design"_s, 11250, 13500), aimed(u"Data licences"_s, 7940, 8000),
+                aimed(u"Support desk"_s, 5240, 5000), aimed(u"Other"_s, 1765, 1500)},
+               {u"−11%"_s, u"Over\u2002+12%"_s, u"−17%"_s, u"−1%"_s, u"+5%"_s}),
+        answer(u"one"_s, {aimed(u"Hosting"_s, 17300, 15500)}, {u"+12%"_s}),
+        answer(u"many"_s,
+               times(many, [](int i) { return aimed(u"Line %1"_s.arg(i), i * 70, 9000); }), {}),
+        answer(u"long"_s,
+               times(7, [](int i) { return aimed(longName(i), 987654321.0 * i, 1234567890); }),
+               {u"+380%"_s}),
+        answer(u"mixed"_s,
+               {aimed(u"Обучение"_s, 900, 30), point(u"Legal"_s, 400), aimed(u"Travel"_s, 0, 500),
+                aimed(u"Gifts"_s, 20, 0)},
+               {u"Over\u2002+2900%"_s, u"no plan"_s, u"−100%"_s}),
+    };
+}
+
 } // namespace
 
 QList<SceneAnswer> sceneAnswers() {
@@ -161,7 +229,7 @@ QList<SceneAnswer> sceneAnswers() {
                {u"report-plain"_s, u"report"_s, Workspace::reportAnswer()},
                {u"compare-plain"_s, u"compare"_s, Workspace::compareAnswer()},
            } +
-           costs() + workload() + status();
+           costs() + workload() + status() + okr() + budget();
 }
 
 canvas::SceneOut sceneOf(const SceneAnswer &answer) {

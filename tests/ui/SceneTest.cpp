@@ -3,6 +3,7 @@
 #include "ui/SceneAnswers.h"
 #include "ui/Workspace.h"
 
+#include <QAccessible>
 #include <QMetaProperty>
 #include <QtTest>
 
@@ -118,6 +119,22 @@ QColor groundOf(const QImage &picture, const QRectF &box) {
     return QColor(std::max_element(counts.cbegin(), counts.cend()).key());
 }
 
+void collectItems(QQuickItem *item, const QByteArray &type, QList<QQuickItem *> &items) {
+    if (QByteArray(item->metaObject()->className()).startsWith(type + "_QMLTYPE"))
+        items.append(item);
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children)
+        collectItems(child, type, items);
+}
+
+SceneAnswer answerNamed(const QString &name) {
+    for (const SceneAnswer &answer : sceneAnswers()) {
+        if (answer.name == name)
+            return answer;
+    }
+    qFatal("No answer is called %s", qPrintable(name));
+}
+
 } // namespace
 
 /// Every scene, from the text of an answer to the picture, at three widths in both themes.
@@ -129,13 +146,41 @@ private Q_SLOTS:
     void everyArt();
     void structure_data();
     void structure();
+    void keys_data();
+    void keys();
+    void click();
+    void tip();
+    void entrance_data();
+    void entrance();
+    void redrawn();
 
 private:
+    QQuickItem *show(const canvas::SceneOut &scene, const QVariantMap &more = {});
     void check(const SceneAnswer &answer, const canvas::SceneOut &scene, const QImage &picture);
+
+    QList<QQuickItem *> itemsOf(const char *type) const;
+    bool seesText(const QString &words) const;
 
     Workspace m_workspace;
     Gallery m_gallery;
 };
+
+/// The items of a QML type in the window, from top to bottom.
+QList<QQuickItem *> SceneTest::itemsOf(const char *type) const {
+    QList<QQuickItem *> items;
+    collectItems(m_gallery.window().contentItem(), type, items);
+    std::stable_sort(items.begin(), items.end(), [](const QQuickItem *one, const QQuickItem *two) {
+        return one->mapToScene({}).y() < two->mapToScene({}).y();
+    });
+    return items;
+}
+
+bool SceneTest::seesText(const QString &words) const {
+    QList<SeenText> texts;
+    collectTexts(m_gallery.window().contentItem(), texts);
+    return std::any_of(texts.begin(), texts.end(),
+                       [&](const SeenText &text) { return text.words == words; });
+}
 
 void SceneTest::everyArt() {
     QStringList arts;
@@ -157,7 +202,7 @@ void SceneTest::structure_data() {
 void SceneTest::structure() {
     QFETCH(SceneAnswer, answer);
     const canvas::SceneOut scene = sceneOf(answer);
-    for (const QSize &size : {QSize(640, 760), QSize(1000, 720), QSize(1600, 1000)}) {
+    for (const QSize &size : {QSize(640, 900), QSize(1000, 720), QSize(1600, 1000)}) {
         m_gallery.setDark(false);
         m_gallery.show(u"ScenePage.qml"_s, size,
                        {{u"scene"_s, QVariant::fromValue(scene)},
@@ -171,6 +216,136 @@ void SceneTest::structure() {
                 return;
         }
     }
+}
+
+QQuickItem *SceneTest::show(const canvas::SceneOut &scene, const QVariantMap &more) {
+    QVariantMap properties = more;
+    properties.insert(u"scene"_s, QVariant::fromValue(scene));
+    properties.insert(u"scope"_s, QVariant::fromValue(m_workspace.store->scope()));
+    return m_gallery.show(u"ScenePage.qml"_s, {1000, 720}, properties);
+}
+
+void SceneTest::keys_data() {
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QList<Qt::Key>>("walk");
+    QTest::addColumn<QString>("spoken"); // what a screen reader says of the mark
+    QTest::addColumn<QString>("chosen");
+    const auto row = [](const char *answer, const QList<Qt::Key> &walk, const QString &spoken,
+                        const QString &chosen) {
+        QTest::addRow("%s", answer) << QString::fromLatin1(answer) << walk << spoken << chosen;
+    };
+    row("report-plain", {Qt::Key_Right}, u"Open tasks, 137, −12"_s, u"Open tasks"_s);
+    row("compare-plain", {Qt::Key_Down, Qt::Key_Up},
+        u"Shared cluster, Price per month €1,240, Uptime 99.90%, Latency, p95 38 ms, "
+        "Backups Included"_s,
+        u"Shared cluster"_s);
+    row("costs-plain", {Qt::Key_Down}, u"Hosting, €17\u202f300"_s, u"Hosting"_s);
+    row("costs-many", {Qt::Key_End}, u"Supplier 200, €450"_s, u"Supplier 200"_s);
+    row("workload-plain", {Qt::Key_Down, Qt::Key_Down}, u"Designer, 97%, 90–100%"_s, u"Designer"_s);
+    row("status-plain", {Qt::Key_Down, Qt::Key_Down}, u"Glasshouse, 41%, target 65%, Behind"_s,
+        u"Glasshouse"_s);
+    row("okr-plain", {Qt::Key_End, Qt::Key_Up}, u"Satisfaction at 4.6 or more, 94%"_s,
+        u"Satisfaction at 4.6 or more"_s);
+    row("okr-many", {Qt::Key_End}, u"Result 199, 199%"_s, u"Result 199"_s);
+    row("budget-plain", {Qt::Key_Down}, u"Hosting, €17\u202f300, plan €15\u202f500, +12%, Over"_s,
+        u"Hosting"_s);
+}
+
+/// A scene is one stop of the tab key; arrows walk its marks, Return asks about one.
+void SceneTest::keys() {
+    QFETCH(QString, answer);
+    QFETCH(QList<Qt::Key>, walk);
+    QFETCH(QString, spoken);
+    QFETCH(QString, chosen);
+    QSignalSpy asked(show(sceneOf(answerNamed(answer))), SIGNAL(pointChosen(QString)));
+    m_gallery.press(Qt::Key_Tab);
+    for (const Qt::Key key : walk)
+        m_gallery.press(key);
+    QQuickItem *mark = m_gallery.window().activeFocusItem();
+    QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(mark);
+    QVERIFY(reader);
+    QCOMPARE(reader->text(QAccessible::Name), spoken);
+    const QRectF whole = mark->mapRectToScene(mark->boundingRect());
+    QCOMPARE(shownPart(mark, mark->boundingRect()), whole);
+    m_gallery.grab(u"focus-%1"_s.arg(answer));
+    m_gallery.press(Qt::Key_Return);
+    m_gallery.press(Qt::Key_Space);
+    QCOMPARE(asked.size(), 2);
+    QCOMPARE(asked.last().first().toString(), chosen);
+    m_gallery.press(Qt::Key_Tab);
+    QVERIFY(m_gallery.hasFocus(u"showMessage"_s));
+}
+
+void SceneTest::click() {
+    QSignalSpy asked(show(sceneOf(answerNamed(u"costs-plain"_s))), SIGNAL(pointChosen(QString)));
+    const QQuickItem *row = itemsOf("CostRow").at(2);
+    QTest::mouseClick(&m_gallery.window(), Qt::LeftButton, {},
+                      row->mapToScene({300, 20}).toPoint());
+    QCOMPARE(asked.size(), 1);
+    QCOMPARE(asked.first().first().toString(), u"Contract design"_s);
+}
+
+void SceneTest::tip() {
+    show(sceneOf(answerNamed(u"costs-plain"_s)));
+    const QPointF row = itemsOf("CostRow").at(1)->mapToScene({420, 20});
+    QElapsedTimer rest;
+    rest.start();
+    QTest::mouseMove(&m_gallery.window(), row.toPoint() - QPoint(0, 4));
+    QTest::mouseMove(&m_gallery.window(), row.toPoint());
+    QTRY_VERIFY(seesText(u"€17\u202f300 · 25%"_s));
+    QVERIFY(rest.elapsed() >= 500);
+    m_gallery.save(u"tip"_s);
+}
+
+void SceneTest::entrance_data() {
+    QTest::addColumn<bool>("animated");
+    QTest::addColumn<bool>("reduced");
+    QTest::addColumn<bool>("grows");
+    QTest::newRow("a new scene") << true << false << true;
+    QTest::newRow("a restored scene") << false << false << false;
+    QTest::newRow("less motion asked for") << true << true << false;
+}
+
+void SceneTest::entrance() {
+    QFETCH(bool, animated);
+    QFETCH(bool, reduced);
+    QFETCH(bool, grows);
+    m_gallery.setReducedMotion(reduced);
+    show(sceneOf(answerNamed(u"workload-plain"_s)), {{u"animated"_s, animated}});
+    m_gallery.setReducedMotion(false);
+    const auto lengthOf = [this](int bar) {
+        return itemsOf("ValueBar").at(bar)->childItems().first()->width();
+    };
+    const double track = itemsOf("ValueBar").first()->width();
+    const double first = lengthOf(0);
+    QCOMPARE(first < track, grows);
+    // The bars come one after the other, and 600 ms later all is there.
+    QVERIFY(!grows || lengthOf(1) <= first);
+    QTest::qWait(700);
+    QCOMPARE(lengthOf(0), track);
+    QCOMPARE(lengthOf(5), 0.52 * track);
+    QCOMPARE(m_gallery.item(u"sheet"_s)->opacity(), 1.0);
+}
+
+/// Other figures of the same scene: rows stay, and only the bar that changed moves.
+void SceneTest::redrawn() {
+    canvas::SceneOut scene = sceneOf(answerNamed(u"workload-plain"_s));
+    QQuickItem *page = show(scene, {{u"animated"_s, true}});
+    QTest::qWait(700);
+    const QList<QQuickItem *> rows = itemsOf("WorkloadRow");
+    const QList<QQuickItem *> bars = itemsOf("ValueBar");
+    const double track = bars.first()->width();
+    scene.wlRows[5].pct = 20;
+    page->setProperty("scene", QVariant::fromValue(scene));
+    QCOMPARE(itemsOf("WorkloadRow"), rows);
+    QVERIFY(seesText(u"20%"_s));
+    const auto lengthOf = [&](int bar) { return bars.at(bar)->childItems().first()->width(); };
+    QCOMPARE(lengthOf(4), 0.74 * track);
+    QVERIFY(lengthOf(5) > 0.4 * track);
+    QTRY_COMPARE(lengthOf(5), 0.2 * track);
+    scene.wlRows.removeLast();
+    page->setProperty("scene", QVariant::fromValue(scene));
+    QTRY_COMPARE(itemsOf("WorkloadRow"), rows.first(5));
 }
 
 void SceneTest::check(const SceneAnswer &answer, const canvas::SceneOut &scene,

@@ -32,7 +32,7 @@ Rectangle {
 
     Row {
         anchors.verticalCenter: parent.verticalCenter
-        x: 8
+        x: Math.max(8, Math.round((chip.width - width) / 2))
         spacing: 5
 
         Icon {

@@ -37,6 +37,14 @@ FocusScope {
     function dataColor(color: int): DataColor {
         return [Tokens.violet, Tokens.blue, Tokens.green, Tokens.amber, Tokens.red][color]
     }
+    /// Scrolls `area` so that the mark with the focus is in view.
+    function reveal(area: Flickable) {
+        if (marked === null)
+            return
+        const top = marked.mapToItem(area.contentItem, 0, 0).y
+        area.contentY = Math.max(top + marked.height + 8 - area.height, Math.min(top - 8, area.contentY))
+        area.returnToBounds()
+    }
     function go(mark: int) {
         current = Math.max(0, Math.min(marks - 1, mark))
     }

@@ -18,8 +18,9 @@ Item {
     /// What the colour says, in words.
     property string tone: ""
     property int ringRadius: Tokens.radiusSmall
-    /// How far the ring stands inside at the sides.
-    property int ringMargin: -2
+    /// How far inside the ring stands: at the sides, above and below.
+    property int ringX: -2
+    property int ringY: -2
 
     signal activated()
 
@@ -46,9 +47,9 @@ Item {
     }
     FocusRing {
         z: 1
-        anchors.margins: Math.max(-2, 4 + mark.ringMargin)
-        anchors.leftMargin: mark.ringMargin
-        anchors.rightMargin: mark.ringMargin
+        anchors.margins: mark.ringX
+        anchors.topMargin: mark.ringY
+        anchors.bottomMargin: mark.ringY
         targetRadius: mark.ringRadius
         visible: mark.activeFocus
     }

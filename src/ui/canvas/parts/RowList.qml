@@ -10,8 +10,9 @@ ListView {
     id: list
 
     required property ArtScene art
-    required property int leastRow
-    required property int mostRow
+    /// For rows of one height.
+    property int leastRow: 0
+    property int mostRow: 0
 
     /// The height of a row; a fraction would blur its line.
     readonly property real rowHeight: Math.floor(Math.max(leastRow, Math.min(mostRow, height / Math.max(1, count))))

@@ -14,7 +14,8 @@ MarkArea {
     x: 8
     place: index
     width: art.inner
-    ringMargin: -6
+    ringX: -6
+    ringY: 3
 
     Divider {
         width: parent.width

@@ -10,12 +10,6 @@ Flickable {
 
     required property ArtScene art
 
-    function reveal(mark: Item) {
-        const top = mark.mapToItem(contentItem, 0, 0).y
-        contentY = Math.max(top + mark.height + 8 - height, Math.min(top - 8, contentY))
-        returnToBounds()
-    }
-
     boundsBehavior: Flickable.StopAtBounds
     flickDeceleration: Tokens.flickDeceleration
     clip: contentHeight > height
@@ -27,8 +21,7 @@ Flickable {
         target: area.art
 
         function onMarkedChanged() {
-            if (area.art.marked)
-                area.reveal(area.art.marked)
+            area.art.reveal(area)
         }
     }
 }
