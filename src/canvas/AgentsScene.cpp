@@ -2,6 +2,7 @@
 #include "canvas/SceneText.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -90,19 +91,46 @@ QString summaryOf(const QList<Event> &events) {
 
 } // namespace
 
+/// Whether the answer tells the work of one lane after that of another. Then nothing says in which
+/// order the work of different lanes stands.
+bool isGrouped(const QList<Event> &events) {
+    QSet<QString> seen;
+    for (qsizetype i = 0; i < events.size(); ++i) {
+        const QString &lane = events.at(i).lane;
+        if (i > 0 && lane == events.at(i - 1).lane)
+            continue;
+        if (seen.contains(lane))
+            return false;
+        seen.insert(lane);
+    }
+    return seen.size() < events.size();
+}
+
+/// The place of each event in the order of its lane, or of all events.
+QList<qsizetype> placesOf(const QList<Event> &events) {
+    const bool grouped = isGrouped(events);
+    QList<qsizetype> places;
+    for (qsizetype i = 0; i < events.size(); ++i) {
+        const bool first = i == 0 || (grouped && events.at(i).lane != events.at(i - 1).lane);
+        places.append(first ? 0 : places.last() + 1);
+    }
+    return places;
+}
+
 std::optional<SceneOut> buildAgents(const ViewSpec &spec) {
     const QList<Event> events = eventsOf(spec);
     if (events.isEmpty())
         return std::nullopt;
     const QString unit = spec.unit.value_or(QString());
-    const auto count = static_cast<double>(events.size());
+    const QList<qsizetype> places = placesOf(events);
+    const auto count = static_cast<double>(*std::max_element(places.cbegin(), places.cend()) + 1);
     SceneOut scene;
     Lanes lanes;
     for (qsizetype i = 0; i < events.size(); ++i) {
         const auto &[name, point] = events.at(i);
         lanes.add(name.isEmpty() ? u"Events"_s : name,
                   {.title = titleOf(point, unit),
-                   .left = static_cast<double>(i) / count,
+                   .left = static_cast<double>(places.at(i)) / count,
                    .width = 1 / count,
                    .status = point.status.value_or(u"unknown"_s)});
     }

@@ -30,10 +30,9 @@ struct Plot {
 
     explicit Plot(const QList<Period> &periods) {
         for (const Period &period : periods) {
-            for (const double value :
-                 {period.in.value_or(0), period.out.value_or(0), period.balance.value_or(0)}) {
-                low = std::min(low, value);
-                high = std::max(high, value);
+            for (const auto &figure : {period.in, period.out, period.balance}) {
+                low = std::min(low, figure ? figure->value : 0);
+                high = std::max(high, figure ? figure->value : 0);
             }
         }
         if (high == low)
@@ -67,12 +66,19 @@ std::optional<SceneOut> buildCashflow(const ViewSpec &spec) {
     SceneOut scene;
     for (qsizetype i = 0; i < periods.size(); ++i) {
         const Period &period = periods.at(i);
-        CfMonth month{.name = nameOf(periods, i),
-                      .inH = plot.lengthOf(period.in.value_or(0)),
-                      .outH = plot.lengthOf(period.out.value_or(0))};
+        CfMonth month{.name = nameOf(periods, i)};
+        if (period.in) {
+            month.inH = plot.lengthOf(period.in->value);
+            month.in = period.in->text;
+        }
+        if (period.out) {
+            month.outH = plot.lengthOf(period.out->value);
+            month.out = period.out->text;
+        }
         if (period.balance) {
-            month.bal = std::llround(*period.balance);
-            month.balY = plot.heightOf(*period.balance);
+            month.bal = std::llround(period.balance->value);
+            month.balY = plot.heightOf(period.balance->value);
+            month.balance = period.balance->text;
             const double middle =
                 (static_cast<double>(i) + 0.5) / static_cast<double>(periods.size());
             scene.cfLine.append({middle * 100, month.balY});

@@ -2,6 +2,7 @@
 
 #include "base/Regex.h"
 #include "canvas/SceneFigures.h"
+#include "canvas/SceneText.h"
 
 #include <QHash>
 #include <QSet>
@@ -52,31 +53,32 @@ std::optional<ViewSpec::Series> take(QList<ViewSpec::Series> &series, const Rege
     return std::nullopt;
 }
 
-std::optional<double> valueOf(const ViewSpec::Point &point) {
-    return isDrawable(point.value) ? point.value : std::nullopt;
-}
-
-/// The value at a place of the range, found by its label or by its position.
+/// The figure at a place of the range, found by its label or by its position.
 class Lookup {
 public:
-    Lookup(const Points &points, bool byLabel) : m_points(points), m_byLabel(byLabel) {
+    Lookup(const Points &points, const QString &unit, bool byLabel)
+        : m_points(points), m_unit(unit), m_byLabel(byLabel) {
         for (qsizetype i = 0; i < points.size() && byLabel; ++i)
             m_places.insert(points.at(i).label, i);
     }
-    std::optional<double> at(qsizetype position, const QString &label) const {
+    std::optional<PeriodFigure> at(qsizetype position, const QString &label) const {
         const qsizetype place = m_byLabel ? m_places.value(label, -1) : position;
-        return place >= 0 && place < m_points.size() ? valueOf(m_points.at(place)) : std::nullopt;
+        if (place < 0 || place >= m_points.size() || !isDrawable(m_points.at(place).value))
+            return std::nullopt;
+        const ViewSpec::Point &point = m_points.at(place);
+        return PeriodFigure{*point.value, valueText(point, m_unit)};
     }
 
 private:
     const Points &m_points;
+    const QString &m_unit;
     bool m_byLabel;
     QHash<QString, qsizetype> m_places;
 };
 
 } // namespace
 
-CashflowSeries::CashflowSeries(const ViewSpec &spec) {
+CashflowSeries::CashflowSeries(const ViewSpec &spec) : m_unit(spec.unit.value_or(QString())) {
     QList<ViewSpec::Series> series = spec.series;
     series.removeIf([](const ViewSpec::Series &one) { return !hasFigures(one); });
     if (series.isEmpty() && !spec.points.isEmpty())
@@ -101,16 +103,16 @@ CashflowSeries::CashflowSeries(const ViewSpec &spec) {
 
 QList<Period> CashflowSeries::periods() const {
     const bool byLabel = matchByLabel();
-    const Lookup in(m_in, byLabel);
-    const Lookup out(m_out, byLabel);
-    const Lookup balance(m_balance, byLabel);
+    const Lookup in(m_in, m_unit, byLabel);
+    const Lookup out(m_out, m_unit, byLabel);
+    const Lookup balance(m_balance, m_unit, byLabel);
     QList<Period> result;
     const QStringList names = labels();
     for (qsizetype i = 0; i < names.size(); ++i) {
         Period period{names.at(i), in.at(i, names.at(i)), out.at(i, names.at(i)),
                       balance.at(i, names.at(i))};
         if (period.out)
-            period.out = std::abs(*period.out);
+            period.out->value = std::abs(period.out->value);
         if (period.in || period.out || period.balance)
             result.append(period);
     }

@@ -9,12 +9,18 @@
 
 namespace kiv::canvas {
 
+/// A figure of a period, and how it is shown.
+struct PeriodFigure {
+    double value = 0;
+    QString text;
+};
+
 /// One period of a cash flow; what the answer does not tell of it is absent.
 struct Period {
     QString name;
-    std::optional<double> in;
-    std::optional<double> out; ///< as a size, also where the answer writes it below zero
-    std::optional<double> balance;
+    std::optional<PeriodFigure> in;
+    std::optional<PeriodFigure> out; ///< as a size, also where the answer writes it below zero
+    std::optional<PeriodFigure> balance;
 };
 
 /// Which of the series of an answer is what came in, what went out and the balance.
@@ -35,6 +41,7 @@ private:
     bool matchByLabel() const;
     QStringList labels() const;
 
+    QString m_unit;
     Points m_in;
     Points m_out;
     Points m_balance;

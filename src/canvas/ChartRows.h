@@ -108,12 +108,18 @@ struct CfMonth {
     Q_PROPERTY(double outH MEMBER outH)
     Q_PROPERTY(qint64 bal MEMBER bal)
     Q_PROPERTY(double balY MEMBER balY)
+    Q_PROPERTY(QString in MEMBER in)
+    Q_PROPERTY(QString out MEMBER out)
+    Q_PROPERTY(QString balance MEMBER balance)
 public:
     QString name;
     double inH = 0; ///< length of the bar of what came in, a percentage of the plot's height
     double outH = 0;
     qint64 bal = 0;  ///< the balance, rounded
     double balY = 0; ///< the balance's height on the plot, a percentage from its foot
+    QString in;      ///< the figures as shown; empty where the answer has none
+    QString out;
+    QString balance;
     friend bool operator==(const CfMonth &, const CfMonth &) = default;
 };
 

@@ -16,20 +16,26 @@ namespace {
 constexpr double highestScore = 1e6;
 constexpr qsizetype fewestCriteria = 2;
 
+struct Score {
+    double value = 0;
+    double most = 0; ///< what it is out of, at least the score itself
+};
+
 struct Scores {
     QString name;
     double a = 0;
     double b = 0;
+    double most = 0;
 };
 
 /// A score as written: "7", "7.5", "7/10". Signs and units make it something else.
-std::optional<double> scoreOf(const QString &cell) {
-    static const Regex score(u"^\\s*(\\d{1,6}(?:[.,]\\d{1,3})?)\\s*(?:/\\s*\\d{1,6}\\s*)?$");
+std::optional<Score> scoreOf(const QString &cell) {
+    static const Regex score(u"^\\s*(\\d{1,6}(?:[.,]\\d{1,3})?)\\s*(?:/\\s*(\\d{1,6})\\s*)?$");
     const auto found = cell.size() > 32 ? std::nullopt : score.find(cell);
-    if (!found)
+    const auto value = found ? CanvasNum::numFromText(found->captured(1)) : std::nullopt;
+    if (!value || *value > highestScore)
         return std::nullopt;
-    const auto value = CanvasNum::numFromText(found->captured(1));
-    return value && *value <= highestScore ? value : std::nullopt;
+    return Score{*value, std::max(*value, found->captured(2).toDouble())};
 }
 
 std::optional<Scores> scoresOf(const QStringList &row) {
@@ -37,7 +43,9 @@ std::optional<Scores> scoresOf(const QStringList &row) {
         return std::nullopt;
     const auto a = scoreOf(row.at(1));
     const auto b = scoreOf(row.at(2));
-    return a && b ? std::optional(Scores{row.at(0), *a, *b}) : std::nullopt;
+    if (!a || !b)
+        return std::nullopt;
+    return Scores{row.at(0), a->value, b->value, std::max(a->most, b->most)};
 }
 
 /// Figures in a fourth column are a third option, or weights: neither is a choice of two.
@@ -65,6 +73,7 @@ void recommend(SceneOut &scene, const QString &a, const QString &b, const Scores
         return;
     }
     const bool first = total.a > total.b;
+    scene.better = first ? Option::A : Option::B;
     scene.recTitle = first ? a : b;
     scene.recText =
         u"%1 to %2"_s.arg(first ? scene.totalA : scene.totalB, first ? scene.totalB : scene.totalA);
@@ -97,10 +106,13 @@ std::optional<SceneOut> buildDecision(const ViewSpec &spec) {
         b.append(scores->b);
         scene.criteria.append({scores->name, static_cast<int>(std::round(scores->a)),
                                static_cast<int>(std::round(scores->b))});
+        scene.scoreMost = std::max(scene.scoreMost, static_cast<int>(std::round(scores->most)));
     }
     if (scene.criteria.size() < fewestCriteria)
         return std::nullopt;
-    scene.sub = options->first + u" vs "_s + options->second;
+    scene.optionA = options->first;
+    scene.optionB = options->second;
+    scene.sub = scene.optionA + u" vs "_s + scene.optionB;
     if (allCount)
         recommend(scene, options->first, options->second,
                   stated.value_or(Scores{{}, sumOf(a), sumOf(b)}));

@@ -21,6 +21,10 @@ struct SceneOut {
     Q_PROPERTY(QStringList cpCols MEMBER cpCols)
     Q_PROPERTY(QList<kiv::canvas::CpRow> cpRows MEMBER cpRows)
     Q_PROPERTY(QList<kiv::canvas::CritRow> criteria MEMBER criteria)
+    Q_PROPERTY(QString optionA MEMBER optionA)
+    Q_PROPERTY(QString optionB MEMBER optionB)
+    Q_PROPERTY(int scoreMost MEMBER scoreMost)
+    Q_PROPERTY(kiv::canvas::Option better MEMBER better)
     Q_PROPERTY(QString totalA MEMBER totalA)
     Q_PROPERTY(QString totalB MEMBER totalB)
     Q_PROPERTY(QString recTitle MEMBER recTitle)
@@ -56,7 +60,11 @@ public:
     QStringList cpCols;      ///< compare: every column, that of the names included
     QList<CpRow> cpRows;     ///< compare
     QList<CritRow> criteria; ///< decision
-    QString totalA;          ///< decision: the first option's total
+    QString optionA;         ///< decision: the first option's name
+    QString optionB;
+    int scoreMost = 0; ///< decision: the highest score that can be given, else the highest given
+    Option better = Option::None; ///< decision: the one with the higher total
+    QString totalA; ///< decision: the first option's total; empty when scores are not all
     QString totalB;
     QString recTitle; ///< decision: heading of the recommendation
     QString recText;

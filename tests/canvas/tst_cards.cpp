@@ -13,7 +13,7 @@ class CardsTest : public QObject {
 private Q_SLOTS:
     void decision_data() {
         QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QString>("outcome"); // totals, recommendation, count line
+        QTest::addColumn<QString>("outcome"); // totals, recommendation, most, count line
         const auto row =
             [](const char *name, const QByteArray &rows, const QString &outcome) {
                 QTest::newRow(name)
@@ -22,17 +22,17 @@ private Q_SLOTS:
                     << outcome;
             };
         row("winner", R"([["Cost",4,8],["Speed",9,"7"],["Note","x","y"]])",
-            u"13 15 Buy/15 to 13 2 · from the answer"_s);
+            u"13 15 Buy/15 to 13 of 9 2 · from the answer"_s);
         row("tie", R"([["Cost",4,6],["Speed",5,3]])",
-            u"9 9 Tie./Build and Buy both score 9. from the answer · even"_s);
+            u"9 9 Tie./Build and Buy both score 9. of 6 from the answer · even"_s);
         row("fractions", R"([["Cost","4.5","6"],["Speed","0,7","3"]])",
-            u"5.2 9 Buy/9 to 5.2 2 · from the answer"_s);
+            u"5.2 9 Buy/9 to 5.2 of 6 2 · from the answer"_s);
         row("of ten", R"([["Cost","8/10","6/10"],["Speed","7/10","3/10"]])",
-            u"15 9 Build/15 to 9 2 · from the answer"_s);
+            u"15 9 Build/15 to 9 of 10 2 · from the answer"_s);
         row("stated total is no criterion", R"([["Cost",4,8],["Speed",9,7],["**Total**",14,15]])",
-            u"14 15 Buy/15 to 14 2 · from the answer"_s);
+            u"14 15 Buy/15 to 14 of 9 2 · from the answer"_s);
         row("amounts are no scores", R"([["Cost","$400","$800"],["Speed",9,7],["Fit",1,1]])",
-            u"  / 2 · from the answer"_s);
+            u"  / of 9 2 · from the answer"_s);
         row("third option", R"([["Cost",4,8,1],["Speed",9,7,1]])", QString());
         row("one criterion", R"([["Cost",4,8],["Price","$1","$2"]])", QString());
         row("below zero", R"([["Cost",-4,8],["Speed",9,-7]])", QString());
@@ -41,12 +41,16 @@ private Q_SLOTS:
         QFETCH(QByteArray, json);
         const auto scene = drawn("decision", json);
         QTEST(scene ? QStringList({scene->totalA, scene->totalB,
-                                   scene->recTitle + u'/' + scene->recText, scene->countLine})
+                                   scene->recTitle + u'/' + scene->recText,
+                                   u"of "_s + QString::number(scene->scoreMost), scene->countLine})
                           .join(u' ')
                     : QString(),
               "outcome");
+        if (scene && !scene->recTitle.isEmpty() && !scene->tie)
+            QCOMPARE(scene->recTitle, scene->better == Option::A ? scene->optionA : scene->optionB);
         if (scene)
-            QCOMPARE(scene->sub, u"Build vs Buy"_s);
+            QCOMPARE(scene->optionA + u'|' + scene->optionB + u'|' + scene->sub,
+                     u"Build|Buy|Build vs Buy"_s);
     }
 
     void agents() {
@@ -66,6 +70,31 @@ private Q_SLOTS:
         QCOMPARE(scene->countLine, u"4 events · from the answer"_s);
         QCOMPARE(drawn("agents", block("timeline", R"(["One"])"))->countLine,
                  u"1 event · from the answer"_s);
+    }
+
+    void agentsInOrder_data() {
+        QTest::addColumn<QByteArray>("owners");
+        QTest::addColumn<QString>("places"); // lane by lane, in steps of the common width
+        QTest::newRow("in turns") << QByteArray("abacb") << u"0 2/1 4/3 of 5"_s;
+        QTest::newRow("one after the other") << QByteArray("aabccc") << u"0 1/0/0 1 2 of 3"_s;
+        QTest::newRow("one event each") << QByteArray("abc") << u"0/1/2 of 3"_s;
+        QTest::newRow("one lane") << QByteArray("aaa") << u"0 1 2 of 3"_s;
+    }
+    void agentsInOrder() {
+        QFETCH(QByteArray, owners);
+        QByteArrayList points;
+        for (const char owner : owners)
+            points.append(QByteArray(R"({"label":"x","owner":")") + owner + "\"}");
+        const auto scene = drawn("agents", block("timeline", '[' + points.join(',') + ']'));
+        QStringList lanes;
+        const double width = scene->lanes.first().tasks.first().width;
+        for (const Lane &lane : scene->lanes) {
+            QStringList places;
+            for (const LaneTask &task : lane.tasks)
+                places.append(QString::number(task.left / width));
+            lanes.append(places.join(u' '));
+        }
+        QTEST(lanes.join(u'/') + u" of "_s + QString::number(1 / width), "places");
     }
 
     void brief() {

@@ -136,7 +136,8 @@ private Q_SLOTS:
     void cashflow() {
         const auto scene = drawn("cashflow", R"({"kind":"line","series":[
             {"name":"Costs","points":[{"label":"Jan","value":-50},{"label":"Feb","value":30}]},
-            {"name":"Balance","points":[{"label":"Jan","value":100},{"label":"Mar","value":-20}]},
+            {"name":"Balance","points":[{"label":"Jan","value":100,"display":"$100"},
+                {"label":"Mar","value":-20}]},
             {"name":"Income","points":[{"label":"Jan","value":80},{"label":"Feb","value":80}]}]})");
         QVERIFY(scene);
         QCOMPARE(scene->cfLow, -25);
@@ -146,6 +147,10 @@ private Q_SLOTS:
         QCOMPARE(scene->cfMonths.at(0).outH, 40);
         QCOMPARE(scene->cfMonths.at(0).bal, 100);
         QCOMPARE(scene->cfMonths.at(0).balY, 100);
+        QStringList shown;
+        for (const CfMonth &month : scene->cfMonths)
+            shown.append(month.in + u'/' + month.out + u'/' + month.balance);
+        QCOMPARE(shown, (QStringList{u"80/-50/$100"_s, u"80/30/"_s, u"//-20"_s}));
         QCOMPARE(scene->cfLine.size(), 2);
         QCOMPARE(scene->cfLine.at(1).y(), 4);
         QCOMPARE(scene->sub, u"Jan – Mar"_s);

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "canvas/SceneOut.h"
+
+#include <QFont>
+#include <QObject>
+#include <QPointF>
+#include <QtQmlIntegration>
+
+#include <optional>
+
+namespace kiv::ui {
+
+/// A period of the plot. Lengths are device-independent pixels; y goes down from the plot's top.
+struct PlotPeriod {
+    Q_GADGET
+    QML_VALUE_TYPE(plotPeriod)
+    Q_PROPERTY(kiv::canvas::CfMonth month MEMBER month)
+    Q_PROPERTY(double inLength MEMBER inLength)
+    Q_PROPERTY(double outLength MEMBER outLength)
+    Q_PROPERTY(double nameX MEMBER nameX)
+    Q_PROPERTY(double nameWidth MEMBER nameWidth)
+public:
+    canvas::CfMonth month;
+    double inLength = 0; ///< up from the line of zero, negative goes down
+    double outLength = 0;
+    double nameX = 0;     ///< from the left edge of the period's slot
+    double nameWidth = 0; ///< 0: there is no room for this name
+    friend bool operator==(const PlotPeriod &, const PlotPeriod &) = default;
+};
+
+/// The figure of a point of the balance line.
+struct PlotLabel {
+    Q_GADGET
+    QML_VALUE_TYPE(plotLabel)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(double x MEMBER x)
+    Q_PROPERTY(double y MEMBER y)
+    Q_PROPERTY(double width MEMBER width)
+public:
+    QString text;
+    double x = 0; ///< from the left edge of the first period
+    double y = 0;
+    double width = 0;
+    friend bool operator==(const PlotLabel &, const PlotLabel &) = default;
+};
+
+/// Where the bars, the line and the words of a cash flow lie in a plot. Periods share the width;
+/// where that would leave too little for their bars, the plot is wider than its view and scrolls.
+class CashflowPlot : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(kiv::canvas::SceneOut scene READ scene WRITE setScene NOTIFY sceneChanged REQUIRED)
+    Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
+    Q_PROPERTY(double height READ height WRITE setHeight NOTIFY heightChanged REQUIRED)
+    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
+    Q_PROPERTY(double headroom READ headroom CONSTANT)
+    Q_PROPERTY(double barGap READ barGap CONSTANT)
+    Q_PROPERTY(double figuresY READ figuresY CONSTANT)
+    Q_PROPERTY(double figureHeight READ figureHeight CONSTANT)
+    Q_PROPERTY(double belowHeight READ belowHeight NOTIFY changed)
+    Q_PROPERTY(bool showsFigures READ showsFigures NOTIFY changed)
+    Q_PROPERTY(bool hasIn READ hasIn NOTIFY changed)
+    Q_PROPERTY(bool hasOut READ hasOut NOTIFY changed)
+    Q_PROPERTY(bool hasBalance READ hasBalance NOTIFY changed)
+    Q_PROPERTY(double zeroY READ zeroY NOTIFY changed)
+    Q_PROPERTY(double slot READ slot NOTIFY changed)
+    Q_PROPERTY(double barWidth READ barWidth NOTIFY changed)
+    Q_PROPERTY(QList<kiv::ui::PlotPeriod> periods READ periods NOTIFY changed)
+    Q_PROPERTY(QList<QPointF> line READ line NOTIFY changed)
+    Q_PROPERTY(QList<kiv::ui::PlotLabel> labels READ labels NOTIFY changed)
+public:
+    using QObject::QObject;
+
+    canvas::SceneOut scene() const { return m_scene; }
+    void setScene(const canvas::SceneOut &scene);
+    /// Of the view.
+    double width() const { return m_width; }
+    void setWidth(double width);
+    double height() const { return m_height; }
+    void setHeight(double height);
+    /// Of the labels of the line.
+    QFont font() const { return m_font; }
+    void setFont(const QFont &font);
+
+    /// Above the plot, for labels.
+    static double headroom() { return 24; }
+    /// Between the bars of a period.
+    static double barGap() { return 6; }
+    /// Where the figures of the bars begin below the plot, and how high each line of them is.
+    static double figuresY() { return 34; }
+    static double figureHeight() { return 18; }
+    /// What the names and figures take below the plot.
+    double belowHeight() const;
+    /// The figures of the bars stand below their periods where each has the room.
+    bool showsFigures() const { return m_showsFigures; }
+    bool hasIn() const { return m_hasIn; }
+    bool hasOut() const { return m_hasOut; }
+    bool hasBalance() const { return !m_line.isEmpty(); }
+    double zeroY() const;
+    /// The width of a period.
+    double slot() const { return m_slot; }
+    double barWidth() const { return m_barWidth; }
+    QList<PlotPeriod> periods() const { return m_periods; }
+    QList<QPointF> line() const { return m_line; }
+    QList<PlotLabel> labels() const { return m_labels; }
+
+Q_SIGNALS:
+    void sceneChanged();
+    void widthChanged();
+    void heightChanged();
+    void fontChanged();
+    void changed();
+
+private:
+    void layOut();
+    void divide();
+    void placeNames();
+    void placeLabels();
+    std::optional<PlotLabel> freeLabel(qsizetype point) const;
+
+    canvas::SceneOut m_scene;
+    double m_width = 0;
+    double m_height = 0;
+    QFont m_font;
+    bool m_hasIn = false;
+    bool m_hasOut = false;
+    bool m_showsFigures = false;
+    double m_slot = 0;
+    double m_barWidth = 0;
+    QList<PlotPeriod> m_periods;
+    QList<QPointF> m_line;
+    QStringList m_figures; ///< of the points of the line
+    QList<PlotLabel> m_labels;
+};
+
+} // namespace kiv::ui

@@ -1,0 +1,97 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Scene
+import Kiv.Tokens
+
+// A lane for each agent with its work in the order of the answer. Positions are order, not time.
+ArtScene {
+    id: agents
+
+    readonly property int nameWidth: wide ? 196 : narrow ? 116 : 168
+
+    marks: groups.count
+    Keys.onUpPressed: go(groups.beside(current, -1))
+    Keys.onDownPressed: go(groups.beside(current, 1))
+
+    LaneLayout {
+        id: layout
+
+        scene: agents.scene
+        trackWidth: agents.inner - agents.nameWidth
+        height: lanes.height
+        font: measured.font
+    }
+    MarkGroups {
+        id: groups
+
+        scene: agents.scene
+    }
+    Label {
+        id: measured
+
+        visible: false
+        style: Tokens.type.smallMedium
+    }
+    Label {
+        id: summary
+
+        x: agents.side
+        y: agents.headroom
+        width: agents.inner
+        height: text === "" ? 0 : 28
+        style: Tokens.type.smallStrong
+        text: agents.scene.agentSummary
+    }
+    Item {
+        x: agents.side + agents.nameWidth
+        y: lanes.y
+        width: agents.inner - agents.nameWidth
+        height: Math.min(layout.contentHeight, lanes.height)
+
+        Repeater {
+            model: 5
+
+            Rectangle {
+                required property int index
+
+                x: Math.round(index / 4 * (parent.width - 1))
+                width: 1
+                height: parent.height
+                color: Tokens.line
+            }
+        }
+    }
+    RowList {
+        id: lanes
+
+        art: agents
+        y: summary.y + summary.height
+        height: agents.height - y - legend.height - 18 - agents.footroom
+        currentIndex: groups.groupOf(agents.current)
+        leastRow: 56
+        mostRow: 88
+        model: SceneModel {
+            rows: layout.lanes
+        }
+        delegate: AgentLane {
+            art: agents
+            nameWidth: agents.nameWidth
+            first: groups.first(index)
+        }
+    }
+    Divider {
+        x: agents.side
+        y: lanes.y + Math.min(layout.contentHeight, lanes.height)
+        width: agents.inner
+    }
+    WorkLegend {
+        id: legend
+
+        x: agents.narrow ? agents.side : agents.side + agents.nameWidth
+        y: lanes.y + Math.min(layout.contentHeight, lanes.height) + 18
+        width: agents.side + agents.inner - x
+    }
+}

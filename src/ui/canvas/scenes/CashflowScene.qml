@@ -1,0 +1,123 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Tokens
+
+// What came in and went out as pairs of bars, and the balance as a line over them.
+ArtScene {
+    id: cashflow
+
+    readonly property real plotY: legend.y + legend.height + 10 + plot.headroom
+    readonly property real below: plot.belowHeight + (periods.interactive ? 12 : 0)
+    readonly property real gutter: Math.max(axis.gutter, figureNames.visible ? figureNames.width + 12 : 0)
+
+    marks: scene.cfMonths.length
+
+    PlotAxis {
+        id: axis
+
+        low: cashflow.scene.cfLow
+        high: cashflow.scene.cfHigh
+        height: plot.height
+        font: measured.font
+    }
+    CashflowPlot {
+        id: plot
+
+        scene: cashflow.scene
+        width: cashflow.inner - cashflow.gutter
+        height: Math.max(80, cashflow.height - cashflow.plotY - cashflow.below - cashflow.footroom)
+        font: measured.font
+    }
+    Label {
+        id: measured
+
+        visible: false
+        style: Tokens.type.captionStrong
+    }
+    PlotLegend {
+        id: legend
+
+        x: cashflow.side
+        y: cashflow.headroom
+        width: cashflow.inner
+        plot: plot
+    }
+    PlotGrid {
+        x: cashflow.side
+        y: cashflow.plotY
+        width: cashflow.inner
+        height: plot.height
+        axis: axis
+        gutter: cashflow.gutter
+    }
+    Column {
+        id: figureNames
+
+        x: cashflow.side
+        y: cashflow.plotY + plot.height + plot.figuresY
+        visible: plot.showsFigures
+
+        Label {
+            height: plot.figureHeight
+            visible: plot.hasIn
+            style: Tokens.type.caption
+            color: Tokens.t3
+            text: qsTr("In")
+            Accessible.ignored: true
+        }
+        Label {
+            height: plot.figureHeight
+            visible: plot.hasOut
+            style: Tokens.type.caption
+            color: Tokens.t3
+            text: qsTr("Out")
+            Accessible.ignored: true
+        }
+    }
+    ListView {
+        id: periods
+
+        x: cashflow.side + cashflow.gutter + Math.max(0, Math.floor((plot.width - width) / 2))
+        y: cashflow.plotY - plot.headroom
+        width: Math.min(plot.width, plot.slot * count)
+        height: plot.headroom + plot.height + cashflow.below
+        orientation: Qt.Horizontal
+        interactive: contentWidth > width
+        model: SceneModel {
+            rows: plot.periods
+        }
+        currentIndex: cashflow.current
+        keyNavigationEnabled: false
+        highlightMoveDuration: 0
+        clip: interactive
+        focus: true
+        boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
+        Accessible.role: Accessible.Table
+        Accessible.name: cashflow.scene.title
+
+        T.ScrollBar.horizontal: ScrollBar {
+            policy: T.ScrollBar.AlwaysOn
+        }
+
+        delegate: PeriodBars {
+            art: cashflow
+            plot: plot
+            height: plot.headroom + plot.height + plot.belowHeight
+        }
+    }
+    BalanceLine {
+        x: periods.x
+        y: periods.y
+        width: periods.width
+        height: plot.headroom + plot.height + 8
+        clip: periods.clip
+        opacity: cashflow.entrance.grown(plot.periods.length)
+        plot: plot
+        offset: periods.contentX
+    }
+}

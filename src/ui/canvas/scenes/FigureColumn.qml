@@ -1,0 +1,35 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kiv.Canvas
+import Kiv.Scene
+
+// The figures beside the parts, sharing the height.
+ScrollArea {
+    id: column
+
+    readonly property int count: art.scene.ueKpis.length
+    readonly property real cardHeight: Math.max(112, Math.floor((height - 12 * (count - 1)) / Math.max(1, count)))
+
+    contentHeight: cards.height
+
+    Column {
+        id: cards
+
+        width: parent.width
+        spacing: 12
+
+        Repeater {
+            model: column.art.scene.ueKpis
+
+            KpiCard {
+                required property kpiCard modelData
+
+                art: column.art
+                width: column.width
+                height: column.cardHeight
+                card: modelData
+            }
+        }
+    }
+}

@@ -1,0 +1,80 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Scene
+import Kiv.Tokens
+
+// Stages from first to last: bars that get narrower, and what was lost between two of them.
+ArtScene {
+    id: funnel
+
+    readonly property bool dense: scene.fnStages.length > 7
+    readonly property int nameWidth: wide ? 204 : 148
+    readonly property int convWidth: narrow ? 64 : wide ? 128 : 96
+
+    marks: scene.fnStages.length
+
+    ColumnWidth {
+        id: counts
+
+        rows: funnel.scene.fnStages
+        field: "n"
+        style: Tokens.type.subheading
+        least: 84
+    }
+    Item {
+        id: head
+
+        x: funnel.side
+        y: funnel.headroom
+        width: funnel.inner
+        height: 28
+        Accessible.ignored: true
+
+        Label {
+            style: Tokens.type.captionStrong
+            color: Tokens.t3
+            text: qsTr("Stage")
+        }
+        Label {
+            x: parent.width - funnel.convWidth - width
+            style: Tokens.type.captionStrong
+            color: Tokens.t3
+            text: qsTr("Count")
+        }
+        Label {
+            x: parent.width - width
+            style: Tokens.type.captionStrong
+            color: Tokens.t3
+            text: qsTr("Conversion")
+        }
+    }
+    RowList {
+        id: rows
+
+        art: funnel
+        anchors.top: head.bottom
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: funnel.footroom
+        leastRow: (funnel.dense ? 36 : 48) + gap + (funnel.narrow ? 8 : 0)
+        mostRow: leastRow + 38
+        model: SceneModel {
+            rows: funnel.scene.fnStages
+        }
+        delegate: FunnelStage {
+            art: funnel
+            height: index + 1 === rows.count ? rows.laneHeight : rows.rowHeight
+            laneHeight: rows.laneHeight
+            nameWidth: funnel.nameWidth
+            countWidth: counts.wanted + 16
+            convWidth: funnel.convWidth
+            // What is lost is told below the stage that it is lost after.
+            drop: funnel.scene.fnStages[index + 1]?.drop ?? ""
+        }
+
+        readonly property int gap: funnel.dense ? 20 : 26
+        readonly property int laneHeight: leastRow - gap
+    }
+}
