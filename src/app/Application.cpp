@@ -13,9 +13,9 @@ Application::Application(const Options &options)
     : m_options(options),
       m_settings(options.places.settingsFile, QSettings::IniFormat),
       m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)) {
-    m_store = std::make_unique<store::AppStore>(m_clock, *m_net, m_settings,
-                                                options.snapshot ? store::AppStore::Mode::Snapshot
-                                                                 : store::AppStore::Mode::Normal);
+    m_store = std::make_unique<store::AppStore>(
+        m_clock, *m_net, m_settings, options.places.draftsFile,
+        options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
     m_store->attachments()->setChooser(&m_chooser);
 }
 

@@ -31,6 +31,7 @@ QString folder(QStandardPaths::StandardLocation location) {
 Places Places::standard() {
     return {.settingsFile = folder(QStandardPaths::GenericConfigLocation) + u"/kiv.conf"_s,
             .cookieFile = folder(QStandardPaths::GenericDataLocation) + u"/cookies"_s,
+            .draftsFile = folder(QStandardPaths::GenericDataLocation) + u"/drafts"_s,
             .workspaceDir = folder(QStandardPaths::GenericDataLocation) + u"/workspace"_s,
             .sandboxProgram = findSandbox()};
 }
@@ -39,6 +40,7 @@ Places Places::below(const QString &profile) {
     const QDir dir(profile);
     return {.settingsFile = dir.absoluteFilePath(u"kiv.conf"_s),
             .cookieFile = dir.absoluteFilePath(u"cookies"_s),
+            .draftsFile = dir.absoluteFilePath(u"drafts"_s),
             .workspaceDir = dir.absoluteFilePath(u"workspace"_s),
             .sandboxProgram = findSandbox()};
 }

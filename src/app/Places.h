@@ -8,6 +8,7 @@ namespace kiv::app {
 struct Places {
     QString settingsFile;   ///< what the person set
     QString cookieFile;     ///< the session: readable by this user only
+    QString draftsFile;     ///< what is being typed: readable by this user only
     QString workspaceDir;   ///< data of the embedded workspace
     QString sandboxProgram; ///< the embedded workspace server
 

@@ -6,13 +6,37 @@
 
 namespace kiv::net {
 
+using namespace Qt::StringLiterals;
+
+bool Connectivity::reaches(const QUrl &url) const {
+    const bool hasAnswered = !m_answered.isEmpty() && m_answered == url.host();
+    return hasAnswered || isKnownToReach(url);
+}
+
+void Connectivity::probe(const QUrl &url) {
+    m_probe = std::make_unique<QTcpSocket>();
+    connect(m_probe.get(), &QTcpSocket::connected, this, [this, host = url.host()] {
+        m_answered = host;
+        m_probe.release()->deleteLater();
+        Q_EMIT changed();
+    });
+    const int standardPort = url.scheme() == u"https"_s ? 443 : 80;
+    m_probe->connectToHost(url.host(), static_cast<quint16>(url.port(standardPort)));
+}
+
+void Connectivity::takeNews() {
+    m_probe.reset();
+    m_answered.clear();
+    Q_EMIT changed();
+}
+
 SystemConnectivity::SystemConnectivity(QObject *parent) : Connectivity(parent) {
     if (QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability))
         connect(QNetworkInformation::instance(), &QNetworkInformation::reachabilityChanged, this,
-                &Connectivity::changed);
+                &SystemConnectivity::takeNews);
 }
 
-bool SystemConnectivity::reaches(const QUrl &url) const {
+bool SystemConnectivity::isKnownToReach(const QUrl &url) const {
     const auto *system = QNetworkInformation::instance();
     return !system || isLoopback(url.host()) ||
            system->reachability() != QNetworkInformation::Reachability::Disconnected;

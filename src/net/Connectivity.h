@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QObject>
+#include <QTcpSocket>
 #include <QUrl>
+
+#include <memory>
 
 namespace kiv::net {
 
@@ -12,10 +15,22 @@ public:
     using QObject::QObject;
 
     /// Whether an attempt to connect to `url` makes sense now.
-    virtual bool reaches(const QUrl &url) const = 0;
+    bool reaches(const QUrl &url) const;
+    /// Asks the server itself, as the system may be wrong. One that answers counts as within reach
+    /// until the system has news.
+    void probe(const QUrl &url);
 
 Q_SIGNALS:
     void changed();
+
+protected:
+    /// What is known without asking.
+    virtual bool isKnownToReach(const QUrl &url) const = 0;
+    void takeNews();
+
+private:
+    std::unique_ptr<QTcpSocket> m_probe;
+    QString m_answered; ///< host of the server that was asked and answered
 };
 
 /// What the operating system says. Where it says nothing, the machine counts as online; this
@@ -24,7 +39,9 @@ class SystemConnectivity : public Connectivity {
     Q_OBJECT
 public:
     explicit SystemConnectivity(QObject *parent = nullptr);
-    bool reaches(const QUrl &url) const override;
+
+protected:
+    bool isKnownToReach(const QUrl &url) const override;
 };
 
 } // namespace kiv::net

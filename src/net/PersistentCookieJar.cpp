@@ -1,16 +1,14 @@
 #include "net/PersistentCookieJar.h"
 
 #include "base/BaseUrl.h"
+#include "base/PrivateFile.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkCookie>
-#include <QSaveFile>
 
 namespace kiv::net {
 
@@ -41,15 +39,6 @@ QList<QNetworkCookie> fromJson(const QJsonObject &entry) {
         cookie.setDomain(host);
     cookies.removeIf([&](const auto &cookie) { return host.isEmpty() || isExpired(cookie); });
     return cookies;
-}
-
-constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-constexpr auto ownerFolder = ownerFile | QFileDevice::ExeOwner;
-
-void makeFolderOf(const QString &path) {
-    const QString folder = QFileInfo(path).absolutePath();
-    if (!QFileInfo::exists(folder) && QDir().mkpath(folder))
-        QFile::setPermissions(folder, ownerFolder);
 }
 
 } // namespace
@@ -111,12 +100,9 @@ void PersistentCookieJar::save() {
         if (!isExpired(cookie))
             entries.append(toJson(cookie));
     }
-    makeFolderOf(m_path);
-    QSaveFile file(m_path);
-    const bool saved = file.open(QIODevice::WriteOnly) && file.setPermissions(ownerFile) &&
-                       file.write(QJsonDocument(entries).toJson()) > 0 && file.commit();
-    if (!saved)
-        qWarning("The session cannot be saved: %s", qUtf8Printable(file.errorString()));
+    const QString failure = PrivateFile::write(m_path, QJsonDocument(entries).toJson());
+    if (!failure.isEmpty())
+        qWarning("The session cannot be saved: %s", qUtf8Printable(failure));
 }
 
 void PersistentCookieJar::scheduleSave() {

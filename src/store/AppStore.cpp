@@ -4,8 +4,8 @@ namespace kiv::store {
 
 using namespace Qt::StringLiterals;
 
-AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode mode,
-                   QObject *parent)
+AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
+                   const QString &draftsFile, Mode mode, QObject *parent)
     : QObject(parent),
       m_clock(clock),
       m_net(net),
@@ -14,11 +14,12 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode 
       m_chatStream(net),
       m_scope(*this),
       m_layout(*this, settings, clock),
-      m_chat(*this),
+      m_chat(*this, isSnapshot() ? QString() : draftsFile),
       m_attachments(*this),
       m_canvas(*this),
       m_events(*this),
-      m_session(*this) {
+      m_session(*this),
+      m_connection(*this) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();
@@ -28,6 +29,11 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode 
 
 AppStore::~AppStore() {
     m_chatStream.stop();
+}
+
+void AppStore::boot() {
+    m_connection.look();
+    m_session.boot();
 }
 
 void AppStore::resetSurfaces() {

@@ -6,6 +6,7 @@
 #include "store/AttachmentRoom.h"
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
+#include "store/ConnectionRoom.h"
 #include "store/EventsRoom.h"
 #include "store/LayoutRoom.h"
 #include "store/ScopeRoom.h"
@@ -31,12 +32,14 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::CanvasRoom *canvas READ canvas CONSTANT)
     Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
+    Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
 
-    /// The clock, the client and the settings outlive the store.
-    AppStore(Clock &clock, net::APIClient &net, QSettings &settings, Mode mode = Mode::Normal,
-             QObject *parent = nullptr);
+    /// The clock, the client and the settings outlive the store. What is being typed survives a
+    /// restart in `draftsFile`.
+    AppStore(Clock &clock, net::APIClient &net, QSettings &settings, const QString &draftsFile,
+             Mode mode = Mode::Normal, QObject *parent = nullptr);
     ~AppStore() override;
 
     ScopeRoom *scope() { return &m_scope; }
@@ -46,6 +49,7 @@ public:
     CanvasRoom *canvas() { return &m_canvas; }
     SessionRoom *session() { return &m_session; }
     EventsRoom *events() { return &m_events; }
+    ConnectionRoom *connection() { return &m_connection; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -54,7 +58,7 @@ public:
     bool isSnapshot() const { return m_mode == Mode::Snapshot; }
 
     /// Asks the backend who is signed in; called once when the window is there.
-    Q_INVOKABLE void boot() { m_session.boot(); }
+    Q_INVOKABLE void boot();
     /// Closes what lies over the chat before the scope changes.
     void resetSurfaces();
     /// The current local time as HH:MM.
@@ -73,6 +77,7 @@ private:
     CanvasRoom m_canvas;
     EventsRoom m_events;
     SessionRoom m_session;
+    ConnectionRoom m_connection;
 };
 
 } // namespace kiv::store

@@ -35,26 +35,34 @@ void ChatRoom::connectChat() {
     if (target != m_connected || !target) {
         // Nothing of the chat before may be read as this one's.
         setUnsentAside();
-        m_connected = target;
+        enterChat(target);
         m_rowsKnown = false;
         m_store.canvas()->clearCanvas();
         m_msgs.replaceAll(target ? m_unsent.take(target->streamPath())
                                  : QList<Msg>{liveGreeting()});
     }
     ++m_chatGen;
-    if (!target)
-        return;
+    if (target)
+        openLine(*target, Opening::First);
+}
+
+void ChatRoom::refresh() {
+    if (m_connected)
+        openLine(*m_connected, Opening::Again);
+}
+
+void ChatRoom::openLine(const net::ChatTarget &target, Opening opening) {
     const int gen = m_chatGen;
-    auto load = [this, gen, chat = *target](bool reconnected) {
+    auto load = [this, gen, target](Opening now) {
         m_live.clear();
-        m_connection.restart([this, gen, chat, reconnected](Cancel cancel) {
-            return loadHistory(gen, chat, reconnected, std::move(cancel));
+        m_connection.restart([this, gen, target, now](Cancel cancel) {
+            return loadHistory(gen, target, now, std::move(cancel));
         });
     };
-    load(false);
+    load(opening);
     m_store.chatStream().start(
-        target->streamPath(), [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
-        [load] { load(true); });
+        target.streamPath(), [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
+        [load] { load(Opening::Again); });
 }
 
 void ChatRoom::disconnectChat() {
@@ -78,7 +86,7 @@ void ChatRoom::setUnsentAside() {
         m_unsent[m_connected->streamPath()] += unsent;
 }
 
-QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, bool reconnected,
+QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Opening opening,
                                         Cancel cancel) {
     m_historyLoading = true;
     try {
@@ -90,7 +98,7 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, bool re
             page = co_await net::KivAPI::projectChatHistory(&m_store.net(), target.id(),
                                                             historyLimit, cancel);
         if (gen == m_chatGen)
-            showHistory(page.messages, reconnected);
+            showHistory(page.messages, opening);
     } catch (const std::exception &) {
         // What is shown stays; a chat that shows nothing yet greets.
         cancel.throwIfRequested();
@@ -100,7 +108,7 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, bool re
     m_historyLoading = false;
 }
 
-void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
+void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
     CanvasRoom *canvas = m_store.canvas();
     const auto answerBefore = newestAnswer();
     QList<Msg> unsent = m_unsent.take(m_connected->streamPath());
@@ -116,6 +124,8 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
     }
     m_rowsKnown = true;
     markSeen();
+    if (m_lastPrompt.value().isEmpty())
+        m_lastPrompt = newestQuestion();
 
     if (canvas->awaitingAnswer()) {
         resumeTurn();
@@ -125,7 +135,7 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, bool reconnected) {
     const auto answer = newestAnswer();
     const bool missedNothing = answer && answerBefore && answer->text == answerBefore->text &&
                                answer->serverID == answerBefore->serverID;
-    if (reconnected && missedNothing)
+    if (opening == Opening::Again && missedNothing)
         return; // what the person looks at stays
     canvas->setIdle();
     using canvas::ConversationLine;
@@ -176,6 +186,12 @@ void ChatRoom::confirm(qsizetype row, Msg stored) {
     if (stored.files.isEmpty())
         stored.files = sent.files;
     m_msgs.update(row, std::move(stored));
+}
+
+QString ChatRoom::newestQuestion() const {
+    const QList<Msg> &messages = m_msgs.messages();
+    const auto found = std::ranges::find(messages.crbegin(), messages.crend(), Who::You, &Msg::who);
+    return found == messages.crend() ? QString() : found->text;
 }
 
 void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {

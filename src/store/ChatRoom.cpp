@@ -29,10 +29,9 @@ QString liveSendNote(const std::exception &error) {
     return net::errorText(error);
 }
 
-void appendLine(QString &text, const QString &line) {
-    if (!text.isEmpty() && !line.isEmpty())
-        text += u'\n';
-    text += line;
+QString joined(const QString &above, const QString &below) {
+    const bool isBreakNeeded = !above.isEmpty() && !below.isEmpty();
+    return above + (isBreakNeeded ? u"\n"_s : QString()) + below;
 }
 
 bool isUnauthorized(const std::exception &error) {
@@ -42,7 +41,8 @@ bool isUnauthorized(const std::exception &error) {
 
 } // namespace
 
-ChatRoom::ChatRoom(AppStore &store) : m_store(store), m_feed(&m_msgs) {
+ChatRoom::ChatRoom(AppStore &store, const QString &draftsFile)
+    : m_store(store), m_feed(&m_msgs), m_drafts(store.clock(), draftsFile) {
     m_feed.setWindow(feedWindow);
     m_msgs.append(localMsg(Who::Agent, signedOutGreeting));
     connect(&m_msgs, &MessageModel::countChanged, this, [this] {
@@ -93,7 +93,7 @@ void ChatRoom::sendLive(const QString &text) {
     m_msgs.append(std::move(message));
     // A question asked from the canvas leaves what is being typed alone.
     if (m_draft.value().trimmed() == text)
-        m_draft = QString();
+        setDraft(QString());
     startTurn(sent);
     m_posts.start([this, sent](Cancel cancel) { return post(sent, std::move(cancel)); });
 }
@@ -206,7 +206,7 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
 
 void ChatRoom::failPost(const Post &post, const std::exception &error) {
     if (isUnauthorized(error)) {
-        keepTypedText();
+        keepUnsentText();
         m_store.session()->resetToAnon();
         m_store.session()->openAuthSheet(AuthSheetMode::Login);
         return;
@@ -277,7 +277,7 @@ void ChatRoom::newChat() {
     m_feed.setWindow(feedWindow);
     m_seenMsgs = 1;
     m_unseenMsgs = 0;
-    m_draft = QString();
+    setDraft(QString());
     m_store.attachments()->clear();
 }
 
@@ -302,29 +302,51 @@ std::optional<qint64> ChatRoom::newestRow() const {
     return m_rowsKnown ? std::optional<qint64>(0) : std::nullopt;
 }
 
-/// Keeps what would be lost with the session: messages of every chat that are not stored, and what
-/// is being typed.
-void ChatRoom::keepTypedText() {
-    setUnsentAside();
-    QList<Msg> unsent;
-    for (const QList<Msg> &ofOneChat : std::as_const(m_unsent)) {
-        for (const Msg &message : ofOneChat)
-            unsent.insert(std::ranges::upper_bound(unsent, message.at, {}, &Msg::at), message);
-    }
-    QStringList texts;
-    for (const Msg &message : unsent) {
-        if (!message.text.isEmpty())
-            texts.append(message.text);
-    }
-    if (!m_draft.value().isEmpty())
-        texts.append(m_draft);
-    appendLine(m_returned[m_store.scope()->userEmail()], texts.join(u'\n'));
+void ChatRoom::setDraft(const QString &draft) {
+    m_draft = draft;
+    if (m_connected)
+        m_drafts.setText(m_store.scope()->userEmail(), m_connected->streamPath(), draft);
 }
 
-void ChatRoom::returnTypedText() {
-    QString text = m_returned.take(m_store.scope()->userEmail());
-    appendLine(text, m_draft);
-    m_draft = text;
+/// Each chat has a draft of its own. What was typed before it was clear whom it asks goes along.
+void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
+    const QString undirected = m_connected ? QString() : m_draft.value();
+    m_connected = target;
+    m_lastPrompt = QString();
+    if (target)
+        setDraft(
+            joined(m_drafts.text(m_store.scope()->userEmail(), target->streamPath()), undirected));
+    else
+        m_draft = undirected;
+}
+
+/// Messages that an expired session kept from being sent become what is being typed in their chat.
+void ChatRoom::keepUnsentText() {
+    const QString user = m_store.scope()->userEmail();
+    setUnsentAside();
+    for (auto chat = m_unsent.cbegin(); chat != m_unsent.cend(); ++chat) {
+        QString text;
+        for (const Msg &message : chat.value())
+            text = joined(text, message.text);
+        m_drafts.setText(user, chat.key(), joined(text, m_drafts.text(user, chat.key())));
+    }
+}
+
+void ChatRoom::forgetDrafts() {
+    m_drafts.forget(m_store.scope()->userEmail());
+}
+
+void ChatRoom::edit(const QString &messageId) {
+    const qsizetype row = m_msgs.rowOf(QUuid::fromString(messageId));
+    if (row < 0 || m_msgs.messages().at(row).who != Who::You)
+        return;
+    const Msg message = m_msgs.messages().at(row);
+    setDraft(joined(m_draft.value().trimmed(), message.text));
+    if (!message.failed)
+        return;
+    m_msgs.remove(row);
+    if (m_store.canvas()->state() == CanvasState::Failed)
+        m_store.canvas()->clearCanvas();
 }
 
 } // namespace kiv::store

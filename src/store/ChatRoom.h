@@ -4,6 +4,7 @@
 #include "base/Work.h"
 #include "canvas/ReplyOptions.h"
 #include "net/ChatTarget.h"
+#include "store/Drafts.h"
 #include "store/MessageModel.h"
 
 #include <QObject>
@@ -28,12 +29,12 @@ class ChatRoom : public QObject {
     Q_PROPERTY(QString chatNote READ chatNote NOTIFY chatNoteChanged)
     Q_PROPERTY(QString lastPrompt READ lastPrompt NOTIFY lastPromptChanged)
 public:
-    explicit ChatRoom(AppStore &store);
+    ChatRoom(AppStore &store, const QString &draftsFile);
 
     MessageModel *msgs() { return &m_msgs; }
     FeedModel *feedMsgs() { return &m_feed; }
     QString draft() const { return m_draft; }
-    void setDraft(const QString &draft) { m_draft = draft; }
+    void setDraft(const QString &draft);
     int seenMsgs() const { return m_seenMsgs; }
     int unseenMsgs() const { return m_unseenMsgs; }
     bool liveWaiting() const { return m_liveWaiting; }
@@ -53,10 +54,15 @@ public:
     Q_INVOKABLE void newChat();
     /// Sends a message that had failed once more, in its place.
     Q_INVOKABLE void retry(const QString &messageId);
+    /// Puts a message of ours back into the draft, behind what is typed there; one that was not
+    /// sent leaves the conversation.
+    Q_INVOKABLE void edit(const QString &messageId);
     /// Asks the question of the current turn once more: in its place when it was not sent.
     Q_INVOKABLE void retryTurn();
 
     void connectChat();
+    /// Loads and streams the connected chat anew, leaving the turn as it is.
+    void refresh();
     void onLiveInsert(int gen, const net::ChatRow &row);
     /// Drops the connection for good: later rows and loads of it are ignored.
     void disconnectChat();
@@ -65,8 +71,8 @@ public:
     void showNote(const QString &note) { m_chatNote = note; }
     /// The answer is no longer waited for; the canvas says so when it settled or gave up.
     void answerSettled();
-    /// Gives the text of a send that met an expired session back, once the same person is in again.
-    void returnTypedText();
+    /// The person leaves for good: nothing of what they typed is kept.
+    void forgetDrafts();
 
 Q_SIGNALS:
     void draftChanged();
@@ -79,6 +85,8 @@ Q_SIGNALS:
     void lastPromptChanged();
 
 private:
+    /// Whether a chat is entered, or the line to the one that shows was lost and is back.
+    enum class Opening { First, Again };
     struct Post {
         net::ChatTarget target;
         QUuid message;
@@ -93,16 +101,19 @@ private:
     void confirmPost(const Post &post, const net::ChatSendResult &result);
     void failPost(const Post &post, const std::exception &error);
     QCoro::Task<void> watchAnswer(Cancel cancel);
-    QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, bool reconnected, Cancel cancel);
-    void showHistory(const QList<net::ChatRow> &rows, bool reconnected);
+    void openLine(const net::ChatTarget &target, Opening opening);
+    QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Opening opening, Cancel cancel);
+    void showHistory(const QList<net::ChatRow> &rows, Opening opening);
     void resumeTurn();
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     bool isStoppable() const { return m_connected && m_connected->isAgent(); }
     void endWaiting();
     void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
-    void keepTypedText();
+    void keepUnsentText();
+    void enterChat(const std::optional<net::ChatTarget> &target);
     std::optional<Msg> newestAnswer() const;
+    QString newestQuestion() const;
     std::optional<qint64> newestRow() const;
     Msg liveGreeting() const;
 
@@ -118,8 +129,7 @@ private:
     QHash<qint64, Msg> m_live;
     /// The rows of the connected chat have been loaded.
     bool m_rowsKnown = false;
-    /// What an expired session kept from being sent, by the e-mail address of who typed it.
-    QHash<QString, QString> m_returned;
+    Drafts m_drafts;
 
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_draft, &ChatRoom::draftChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_seenMsgs, &ChatRoom::seenMsgsChanged)

@@ -60,7 +60,6 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     const auto target = scope->chatTarget();
     if (!target || target != m_store.chat()->connected())
         m_store.chat()->connectChat();
-    m_store.chat()->returnTypedText();
     co_await scope->refreshUserAvatarIfNeeded(cancel);
 }
 
@@ -134,6 +133,7 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
         // Signing out here does not depend on the server.
         cancel.throwIfRequested();
     }
+    m_store.chat()->forgetDrafts();
     resetToAnon();
 }
 

@@ -3,6 +3,7 @@
 #include "RawServer.h"
 #include "net/APIClient.h"
 #include "support/ManualClock.h"
+#include "support/TestConnectivity.h"
 
 #include <QEventLoop>
 #include <QTemporaryDir>
@@ -12,19 +13,6 @@
 #include <memory>
 
 namespace kiv::test {
-
-/// A network cable that the test pulls.
-class TestConnectivity : public net::Connectivity {
-public:
-    bool reaches(const QUrl &) const override { return m_online; }
-    void setOnline(bool online) {
-        m_online = online;
-        Q_EMIT changed();
-    }
-
-private:
-    bool m_online = true;
-};
 
 /// A client that talks to a server of the test's own, on a clock that the test moves.
 struct ClientFixture {

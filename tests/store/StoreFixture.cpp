@@ -71,7 +71,8 @@ void StoreFixture::restart(store::AppStore::Mode mode) {
     settings = std::make_unique<QSettings>(folder.filePath(u"kiv.conf"_s), QSettings::IniFormat);
     client = std::make_unique<net::APIClient>(clock, connectivity, folder.filePath(u"cookies"_s));
     client->setBaseUrl(backend.url());
-    store = std::make_unique<store::AppStore>(clock, *client, *settings, mode);
+    store = std::make_unique<store::AppStore>(clock, *client, *settings,
+                                              folder.filePath(u"drafts"_s), mode);
 }
 
 bool StoreFixture::signIn() {

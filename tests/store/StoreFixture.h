@@ -2,9 +2,9 @@
 
 #include "ScriptedBackend.h"
 
-#include "net/Connectivity.h"
 #include "store/AppStore.h"
 #include "support/ManualClock.h"
+#include "support/TestConnectivity.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -60,7 +60,7 @@ public:
     ScriptedBackend backend;
     ManualClock clock;
     QTemporaryDir folder;
-    net::SystemConnectivity connectivity;
+    TestConnectivity connectivity;
     std::unique_ptr<QSettings> settings;
     std::unique_ptr<net::APIClient> client;
     std::unique_ptr<store::AppStore> store;

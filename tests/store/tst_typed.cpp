@@ -65,7 +65,9 @@ private Q_SLOTS:
         f.store->chat()->setDraft(u"typed while signed out"_s);
         f.backend.answer(u"POST api/v2/auth/login"_s, R"({"email":"ada@example.org"})");
         f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
-        SOON_COMPARE(f.store->chat()->draft(), u"first\nsecond\nthird\ntyped while signed out"_s);
+        SOON_COMPARE(f.store->chat()->draft(), u"third\ntyped while signed out"_s);
+        f.store->scope()->pickGlobal();
+        QCOMPARE(f.store->chat()->draft(), u"first\nsecond"_s);
     }
 
     void typedTextStays() {

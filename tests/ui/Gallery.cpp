@@ -115,10 +115,13 @@ QQuickItem *Gallery::item(const QString &name) const {
     return found;
 }
 
+QPoint Gallery::middleOf(const QString &name) const {
+    const QQuickItem *target = item(name);
+    return target->mapToScene(QPointF(target->width() / 2, target->height() / 2)).toPoint();
+}
+
 void Gallery::click(const QString &name) {
-    QQuickItem *target = item(name);
-    const QPointF middle = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
-    QTest::mouseClick(m_window, Qt::LeftButton, {}, middle.toPoint());
+    QTest::mouseClick(m_window, Qt::LeftButton, {}, middleOf(name));
 }
 
 void Gallery::type(const QString &text) {

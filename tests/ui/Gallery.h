@@ -34,6 +34,8 @@ public:
     /// The visible item with this objectName; null without one.
     QQuickItem *find(const QString &name) const;
     QQuickItem *item(const QString &name) const;
+    /// The middle of an item, in the window.
+    QPoint middleOf(const QString &name) const;
     /// Clicks into the middle of an item.
     void click(const QString &name);
     void type(const QString &text);

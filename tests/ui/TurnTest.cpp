@@ -22,6 +22,10 @@ private Q_SLOTS:
     void hintAsksForATable();
     void stopForTheWholeAnswer();
     void projectKeepsSend();
+    void draftAfterARestart();
+    void editBringsAMessageBack();
+    void composingIsNotSent();
+    void offlineBanner();
 
 private:
     /// An answer that offers replies, settled.
@@ -140,6 +144,68 @@ void TurnTest::projectKeepsSend() {
     m_workspace->row(300, u"Once"_s);
     QTRY_COMPARE(m_workspace->texts().last(), u"Once"_s);
     QVERIFY(m_gallery->find(u"sendButton"_s));
+}
+
+void TurnTest::draftAfterARestart() {
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"half a thought"_s);
+    m_gallery->close();
+    m_workspace->restart();
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    const auto field = [this] { return m_gallery->item(u"askField"_s)->property("text"); };
+    QTRY_COMPARE(field(), u"half a thought"_s);
+    // Another chat has its own.
+    m_gallery->click(u"railRow:ferry"_s);
+    QTRY_COMPARE(field(), QString());
+    m_gallery->click(u"railRow:"_s);
+    QTRY_COMPARE(field(), u"half a thought"_s);
+}
+
+void TurnTest::editBringsAMessageBack() {
+    QVERIFY(m_workspace->ask(u"How was the weak?"_s, u"Fine."_s, QString()));
+    m_gallery->click(u"askField"_s);
+    m_gallery->press(Qt::Key_Up);
+    QCOMPARE(m_gallery->item(u"askField"_s)->property("text"), u"How was the weak?"_s);
+    m_gallery->press(Qt::Key_A, Qt::ControlModifier);
+    m_gallery->press(Qt::Key_Delete);
+
+    QTest::mouseMove(&m_gallery->window(), m_gallery->middleOf(u"mine"_s));
+    m_gallery->click(u"editButton"_s);
+    QTRY_COMPARE(m_gallery->item(u"askField"_s)->property("text"), u"How was the weak?"_s);
+    QVERIFY(m_gallery->hasFocus(u"askField"_s));
+}
+
+void TurnTest::composingIsNotSent() {
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"nihon"_s);
+    QQuickItem *field = m_gallery->item(u"askField"_s);
+    QInputMethodEvent composing(u"にほん"_s, {});
+    QGuiApplication::sendEvent(field, &composing);
+    QVERIFY(field->property("inputMethodComposing").toBool());
+    m_gallery->press(Qt::Key_Return);
+    QVERIFY(sent().isEmpty());
+    QInputMethodEvent chosen;
+    chosen.setCommitString(u"日本"_s);
+    QGuiApplication::sendEvent(field, &chosen);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(sent().size(), 1);
+    QVERIFY(sent().first().endsWith(u"日本"_s));
+}
+
+void TurnTest::offlineBanner() {
+    QVERIFY(!m_gallery->find(u"bannerAction"_s));
+    m_workspace->connectivity.setOnline(false);
+    m_gallery->setDark(true);
+    m_gallery->save(u"offline-dark"_s);
+    m_gallery->setDark(false);
+    m_gallery->save(u"offline-light"_s);
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"hello"_s);
+    m_gallery->press(Qt::Key_Return);
+    m_gallery->click(u"bannerAction"_s);
+    QTRY_COMPARE(sent(), QStringList{u"hello"_s});
+    QTRY_VERIFY(!m_gallery->find(u"bannerAction"_s));
 }
 
 } // namespace kiv::ui

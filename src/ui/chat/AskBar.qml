@@ -108,7 +108,7 @@ FocusScope {
                     bar.submit()
             }
             Keys.onUpPressed: event => {
-                event.accepted = text === "" && bar.lastPrompt !== ""
+                event.accepted = text === "" && !inputMethodComposing && bar.lastPrompt !== ""
                 if (event.accepted)
                     bar.edited(bar.lastPrompt)
             }
@@ -166,7 +166,10 @@ FocusScope {
         size: bar.floating ? 36 : 32
         stopping: bar.stoppable
         enabled: bar.stoppable || bar.ready
-        onClicked: stopping ? bar.stopRequested() : bar.submit()
+        onClicked: {
+            Qt.inputMethod.commit()
+            stopping ? bar.stopRequested() : bar.submit()
+        }
     }
     DropArea {
         id: drop

@@ -97,6 +97,10 @@ FocusScope {
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)
+        onEditRequested: messageId => {
+            dock.store.chat.edit(messageId)
+            composer.forceActiveFocus(Qt.OtherFocusReason)
+        }
     }
     Composer {
         id: composer

@@ -13,6 +13,8 @@ FocusScope {
     property string hint: ""
     property string note: ""
 
+    readonly property string trouble: store.chat.chatNote
+
     implicitHeight: bar.height + (floating ? 0 : 22)
 
     AskBar {
@@ -32,17 +34,16 @@ FocusScope {
         onStopRequested: composer.store.chat.stopLive()
     }
     Label {
-        readonly property string error: composer.store.chat.chatNote
-
         objectName: "chatNote"
         anchors.top: bar.bottom
         anchors.topMargin: composer.floating ? 4 : 6
         width: composer.width
         horizontalAlignment: Text.AlignHCenter
         style: Tokens.type.micro
-        color: error === "" ? Tokens.t3 : Tokens.dangerText
-        Accessible.role: error === "" ? Accessible.StaticText : Accessible.AlertMessage
-        text: error !== "" ? error
+        color: composer.trouble === "" ? Tokens.t3 : Tokens.dangerText
+        Accessible.role: composer.trouble === "" ? Accessible.StaticText : Accessible.AlertMessage
+        text: composer.trouble !== "" ? composer.trouble
+            : composer.store.connection.offline ? qsTr("Offline: sent once the connection is back")
             : composer.store.attachments.chatUploading ? qsTr("Uploading…")
             : composer.note
     }

@@ -22,6 +22,7 @@ FocusScope {
     signal sceneRequested(messageId: string)
     signal olderRequested()
     signal chipPicked(messageId: string, chip: replyChip)
+    signal editRequested(messageId: string)
 
     property string flashed: ""
 
@@ -72,6 +73,7 @@ FocusScope {
             onRetryRequested: feed.retryRequested(messageId)
             onSceneRequested: feed.sceneRequested(messageId)
             onChipPicked: chip => feed.chipPicked(messageId, chip)
+            onEditRequested: feed.editRequested(messageId)
         }
     }
     EndFollower {

@@ -33,6 +33,7 @@ Item {
     signal retryRequested()
     signal sceneRequested()
     signal chipPicked(chip: replyChip)
+    signal editRequested()
 
     readonly property bool mine: who === Store.Who.You
     readonly property bool failed: delivery === Store.Delivery.Failed
@@ -95,6 +96,9 @@ Item {
             files: message.files
         }
         Bubble {
+            id: bubble
+
+            objectName: message.mine ? "mine" : ""
             x: message.mine ? message.width - width : message.indent
             visible: message.body !== "" || message.growing
             mine: message.mine
@@ -139,5 +143,16 @@ Item {
         iconName: "copy"
         text: qsTr("Copy the message")
         onClicked: Clipboard.setText(message.rawText)
+    }
+    IconButton {
+        objectName: "editButton"
+        x: bubble.x - width - 4
+        y: column.y + bubble.y + (bubble.height - height) / 2
+        visible: message.mine && message.delivery !== Store.Delivery.Pending && pointer.hovered
+        size: 28
+        iconSize: 16
+        iconName: "edit"
+        text: qsTr("Edit")
+        onClicked: message.editRequested()
     }
 }

@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Canvas
 import Kiv.Chat
+import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
 import Kiv.Tokens
@@ -44,10 +45,22 @@ FocusScope {
         railWidth: view.layout.railShown ? view.layout.shownRailW : 0
         popoverHeight: view.height * 0.7
     }
+    Banner {
+        id: banner
+
+        anchors.top: topBar.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: view.store.connection.offline
+        iconName: "offline"
+        text: qsTr("You are offline. What you send waits for the connection.")
+        action: qsTr("Retry now")
+        onActed: view.store.connection.retryNow()
+    }
     Rail {
         id: rail
 
-        anchors.top: topBar.bottom
+        anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         visible: view.layout.railShown
         width: view.layout.shownRailW
@@ -57,13 +70,13 @@ FocusScope {
     Strip {
         id: strip
 
-        anchors.top: topBar.bottom
+        anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         visible: !view.layout.railShown
         scope: view.store.scope
     }
     EdgeHandle {
-        anchors.top: topBar.bottom
+        anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         x: view.layout.shownRailW - width / 2
         visible: view.layout.railShown
@@ -73,7 +86,7 @@ FocusScope {
     FocusScope {
         id: stage
 
-        anchors.top: topBar.bottom
+        anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         x: view.side
         width: parent.width - x
@@ -100,7 +113,7 @@ FocusScope {
     Item {
         id: dockPlace
 
-        anchors.top: topBar.bottom
+        anchors.top: banner.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
@@ -118,7 +131,7 @@ FocusScope {
     AreaCycle {
         id: areas
 
-        areas: [topBar, view.layout.railShown ? rail : strip, stage, dockPlace]
+        areas: [topBar, banner, view.layout.railShown ? rail : strip, stage, dockPlace]
     }
     Shortcut {
         sequence: "Ctrl+K"

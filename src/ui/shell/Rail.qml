@@ -111,6 +111,10 @@ FocusScope {
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)
+        onEditRequested: messageId => {
+            rail.store.chat.edit(messageId)
+            composer.forceActiveFocus(Qt.OtherFocusReason)
+        }
     }
     Composer {
         id: composer

@@ -45,6 +45,7 @@ FocusScope {
         anchors.left: railButton.right
         anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
+        color: bar.store.connection.offline ? Tokens.t3 : Tokens.accentText
     }
     Label {
         id: word

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// Files that nobody but this user may read.
+namespace kiv::PrivateFile {
+
+/// Exchanges the whole file, making its folder where there is none; a file that cannot be written
+/// whole is left as it was. Nothing, or why it failed.
+QString write(const QString &path, const QByteArray &bytes);
+
+} // namespace kiv::PrivateFile

@@ -1,0 +1,50 @@
+import QtQuick
+import Kiv.Icons
+import Kiv.Tokens
+
+// A line across the window that says what is the matter, and what to do about it.
+Rectangle {
+    id: banner
+
+    required property string iconName
+    required property string text
+    required property string action
+    property DataColor tone: Tokens.amber
+
+    signal acted()
+
+    implicitHeight: 40
+    color: tone.tint
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: text
+
+    Icon {
+        id: sign
+
+        x: 20
+        anchors.verticalCenter: parent.verticalCenter
+        name: banner.iconName
+        color: banner.tone.text
+    }
+    Label {
+        anchors.left: sign.right
+        anchors.leftMargin: 8
+        anchors.right: link.left
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.smallMedium
+        color: banner.tone.text
+        text: banner.text
+    }
+    TextLink {
+        id: link
+
+        objectName: "bannerAction"
+        x: parent.width - width - 24
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.smallMedium
+        color: banner.tone.text
+        text: banner.action
+        onClicked: banner.acted()
+    }
+}
