@@ -3,9 +3,8 @@
 #include "store/AppStore.h"
 #include "ui/controls/ShadowProvider.h"
 #include "ui/icons/IconProvider.h"
+#include "ui/tokens/Typefaces.h"
 
-#include <QFont>
-#include <QGuiApplication>
 #include <QQmlApplicationEngine>
 
 using namespace Qt::StringLiterals;
@@ -35,12 +34,7 @@ Appearance &registerModules(QQmlEngine &engine) {
     engine.addImageProvider(u"icon"_s, new IconProvider);
     engine.addImageProvider(u"shadow"_s, new ShadowProvider);
 
-    QFont font;
-    font.setFamilies(
-        {u"Inter"_s, u"Segoe UI"_s, u"SF Pro Text"_s, u"Noto Sans"_s, u"sans-serif"_s});
-    font.setPixelSize(14);
-    QGuiApplication::setFont(font);
-
+    useTypefaces();
     return *new Appearance(engine);
 }
 

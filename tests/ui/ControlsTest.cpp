@@ -2,6 +2,8 @@
 #include "ui/icons/IconProvider.h"
 #include "ui/tokens/Tint.h"
 
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,8 @@ class ControlsTest : public QObject {
 private Q_SLOTS:
     void pictures();
     void iconTakesColour();
+    void tabularDigits_data();
+    void tabularDigits();
     void wordsOnTint_data();
     void wordsOnTint();
 
@@ -37,6 +41,35 @@ void ControlsTest::iconTakesColour() {
     QCOMPARE(wide.pixelColor(20, 20), QColor(0xc9282f));
     QCOMPARE(wide.pixelColor(2, 2).alpha(), 0);
     QVERIFY(icons.requestImage(u"nothing/20/#000000"_s, nullptr, {}).isNull());
+}
+
+void ControlsTest::tabularDigits_data() {
+    QTest::addColumn<QFont::Weight>("weight");
+    QTest::newRow("normal") << QFont::Normal;
+    QTest::newRow("medium") << QFont::Medium;
+    QTest::newRow("demi-bold") << QFont::DemiBold;
+}
+
+void ControlsTest::tabularDigits() {
+    QFETCH(QFont::Weight, weight);
+    m_gallery.show(u"ControlsPage.qml"_s, {640, 480});
+    const auto widthOf = [&](const QString &family, const QString &text) {
+        QFont font(family);
+        font.setPixelSize(14);
+        font.setWeight(weight);
+        return QFontMetricsF(font).horizontalAdvance(text);
+    };
+    QFont face(u"KIV Tabular"_s);
+    face.setWeight(weight);
+    QCOMPARE(QFontInfo(face).family(), u"KIV Tabular"_s);
+    QCOMPARE(QFontInfo(face).weight(), static_cast<int>(weight));
+    for (const QString &figure : {u"1111"_s, u"7777"_s, u"4174"_s, u"1717"_s})
+        QCOMPARE(widthOf(u"KIV Tabular"_s, figure), widthOf(u"KIV Tabular"_s, u"0000"_s));
+    QCOMPARE(widthOf(u"KIV Tabular"_s, u"1,711.71"_s), widthOf(u"KIV Tabular"_s, u"8.888,88"_s));
+    // Words look as they do beside it, and the other face keeps its narrow one.
+    for (const QString &words : {u"Price per month"_s, u"млн"_s, u"→ λ 漢"_s})
+        QCOMPARE(widthOf(u"KIV Tabular"_s, words), widthOf(u"Inter"_s, words));
+    QVERIFY(widthOf(u"Inter"_s, u"1111"_s) < widthOf(u"Inter"_s, u"0000"_s));
 }
 
 void ControlsTest::wordsOnTint_data() {

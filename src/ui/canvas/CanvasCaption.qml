@@ -67,6 +67,7 @@ Item {
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.small
+        tabular: caption.thinking
         color: Tokens.t3
         text: caption.thinking ? qsTr("%1 s").arg(caption.canvas.thinkingSeconds)
             : caption.drawn && caption.canvas.query !== "" ? qsTr("Answer to “%1”").arg(caption.canvas.query)

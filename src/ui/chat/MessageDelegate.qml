@@ -78,6 +78,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== ""
                 style: Tokens.type.caption
+                tabular: true
                 color: Tokens.t3
                 text: message.time
             }

@@ -25,6 +25,7 @@ Rectangle {
 
         anchors.centerIn: parent
         style: Tokens.type.microStrong
+        tabular: true
         color: Tokens.accentInk
         text: badge.count > 9 ? "9+" : badge.count
         Accessible.ignored: true

@@ -6,7 +6,10 @@ Text {
     id: label
 
     property TypeStyle style: Tokens.type.body
+    /// Digits of one width: for figures that stand below each other or that count.
+    property bool tabular: false
 
+    font.family: tabular ? Tokens.tabularFamily : Tokens.family
     font.pixelSize: style.size
     font.weight: style.weight
     font.letterSpacing: style.tracking

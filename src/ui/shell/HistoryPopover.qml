@@ -113,6 +113,7 @@ Popover {
                 x: parent.width - width - 12
                 anchors.verticalCenter: parent.verticalCenter
                 style: Tokens.type.caption
+                tabular: true
                 color: Tokens.t3
                 text: row.time
                 Accessible.ignored: true

@@ -75,8 +75,9 @@ QtObject {
         line: tokens.dark ? "#66323a" : "#f5c3c4"
     }
 
-    // For the fields that do not take the type face of the application by themselves.
     readonly property string family: "Inter"
+    /// Every digit of one width, for columns, timers, time stamps and labels that count.
+    readonly property string tabularFamily: "KIV Tabular"
     readonly property TypeScale type: TypeScale {}
 
     readonly property int radiusSmall: 4

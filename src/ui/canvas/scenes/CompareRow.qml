@@ -45,6 +45,7 @@ SceneRow {
                 width: modelData.width
                 horizontalAlignment: modelData.numeric ? Text.AlignRight : Text.AlignLeft
                 style: Tokens.type.line
+                tabular: modelData.numeric
                 color: modelData.numeric ? Tokens.t1 : Tokens.t2
                 text: cell === "" ? "—" : cell
                 Accessible.ignored: true

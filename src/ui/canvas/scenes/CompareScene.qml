@@ -25,6 +25,7 @@ ArtScene {
         id: measured
 
         visible: false
+        tabular: true
         style: Tokens.type.name
     }
     Item {

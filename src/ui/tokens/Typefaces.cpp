@@ -1,0 +1,36 @@
+#include "ui/tokens/Typefaces.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QGuiApplication>
+
+namespace kiv::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool loadTabularFace() {
+    for (const char *style : {"Regular", "Medium", "SemiBold"}) {
+        const QString file =
+            u":/qt/qml/Kiv/Tokens/fonts/KivTabular-%1.otf"_s.arg(QLatin1StringView(style));
+        if (QFontDatabase::addApplicationFont(file) < 0)
+            qWarning("The font %s cannot be loaded", qPrintable(file));
+    }
+    return true;
+}
+
+} // namespace
+
+void useTypefaces() {
+    [[maybe_unused]] static const bool loaded = loadTabularFace();
+    const QStringList behind{u"Segoe UI"_s, u"SF Pro Text"_s, u"Noto Sans"_s, u"sans-serif"_s};
+    // A style names one family alone: what that lacks is found here.
+    QFont::insertSubstitutions(u"Inter"_s, behind);
+    QFont::insertSubstitutions(u"KIV Tabular"_s, QStringList{u"Inter"_s} + behind);
+    QFont font(u"Inter"_s);
+    font.setPixelSize(14);
+    QGuiApplication::setFont(font);
+}
+
+} // namespace kiv::ui
