@@ -1,8 +1,6 @@
+#include "canvas/AnswerTable.h"
 #include "canvas/CanvasNum.h"
 #include "canvas/SceneBuilders.h"
-#include "canvas/SceneText.h"
-
-#include <algorithm>
 
 namespace kiv::canvas {
 
@@ -11,11 +9,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qsizetype fewestCells = 4;
-
-struct Table {
-    QStringList columns;
-    QList<QStringList> rows;
-};
 
 CpRow comparisonRow(const QStringList &cells) {
     CpRow row;
@@ -30,40 +23,12 @@ CpRow comparisonRow(const QStringList &cells) {
     return row;
 }
 
-/// Points as a table: a column for each thing that any of them tells.
-Table tableOf(const QList<ViewSpec::Point> &points, const QString &unit) {
-    struct Column {
-        QString name;
-        QStringList cells;
-    };
-    QList<Column> columns{{u"Value"_s, {}}, {u"Target"_s, {}}, {u"Status"_s, {}}, {u"Note"_s, {}}};
-    for (const ViewSpec::Point &point : points) {
-        columns[0].cells.append(valueText(point, unit));
-        columns[1].cells.append(point.target ? figureText(*point.target, unit) : QString());
-        columns[2].cells.append(point.status.value_or(QString()));
-        columns[3].cells.append(point.hint.value_or(QString()));
-    }
-    columns.removeIf([](const Column &column) {
-        return std::all_of(column.cells.begin(), column.cells.end(),
-                           [](const QString &cell) { return cell.isEmpty(); });
-    });
-    Table table{{u"Name"_s}, {}};
-    for (const Column &column : columns)
-        table.columns.append(column.name);
-    for (qsizetype i = 0; i < points.size(); ++i) {
-        QStringList row{points.at(i).label};
-        for (const Column &column : columns)
-            row.append(column.cells.at(i));
-        table.rows.append(row);
-    }
-    return table;
-}
-
 } // namespace
 
 std::optional<SceneOut> buildCompare(const ViewSpec &spec) {
-    const Table table = spec.rows.isEmpty() ? tableOf(spec.points, spec.unit.value_or(QString()))
-                                            : Table{spec.columns, spec.rows};
+    const AnswerTable table = spec.rows.isEmpty()
+                                  ? pointTable(spec.points, spec.unit.value_or(QString()))
+                                  : AnswerTable{spec.columns, spec.rows};
     if (table.rows.isEmpty())
         return std::nullopt;
     SceneOut scene;

@@ -1,0 +1,73 @@
+#include "canvas/TableText.h"
+
+#include "base/Regex.h"
+
+#include <algorithm>
+
+namespace kiv::canvas {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A spreadsheet runs a cell that begins with = + - @, or with a tab or line break before one of
+/// them, as a formula, and an answer may hold what others wrote. Such a cell gets an apostrophe in
+/// front, which makes it a text. A signed figure stays as it is, with its unit and the words behind
+/// it ("-12", "+6.2% on last week", "-$1,200.50"): without an operator, a bracket or a name in
+/// front there is nothing in it to run. So does a sign alone, the dash of a missing value.
+QString guarded(const QString &cell) {
+    static const Regex formula(u"^[\\t\\r\\n]*[=+\\-@\uff1d\uff0b\uff0d\uff20]");
+    static const Regex figure(u"^[+\\-](?: ?\\p{Sc})? ?\\d[\\p{L}\\d\\p{Sc}\\s.,%‰°'’]*$");
+    static const Regex sign(u"^[+\\-]+$");
+    const bool isSafe = !formula.contains(cell) || figure.contains(cell) || sign.contains(cell);
+    return isSafe ? cell : u'\'' + cell;
+}
+
+QString written(const QString &cell, QChar separator) {
+    const bool isPlain = std::ranges::none_of(
+        cell, [&](QChar c) { return c == separator || c == u'"' || c == u'\r' || c == u'\n'; });
+    return isPlain ? cell : u'"' + QString(cell).replace(u'"', u"\"\""_s) + u'"';
+}
+
+qsizetype widthOf(const QList<AnswerTable> &tables) {
+    qsizetype width = 0;
+    for (const AnswerTable &table : tables) {
+        width = std::max(width, table.columns.size());
+        for (const QStringList &row : table.rows)
+            width = std::max(width, row.size());
+    }
+    return width;
+}
+
+QString delimited(const QList<AnswerTable> &tables, QChar separator, const QString &lineEnd) {
+    const qsizetype width = widthOf(tables);
+    QString text;
+    const auto writeRow = [&](const QStringList &row) {
+        for (qsizetype cell = 0; cell < width; ++cell) {
+            if (cell > 0)
+                text += separator;
+            text += written(guarded(row.value(cell)), separator);
+        }
+        text += lineEnd;
+    };
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        if (i > 0)
+            writeRow({});
+        if (!tables.at(i).columns.isEmpty())
+            writeRow(tables.at(i).columns);
+        std::ranges::for_each(tables.at(i).rows, writeRow);
+    }
+    return text;
+}
+
+} // namespace
+
+QString csvText(const QList<AnswerTable> &tables) {
+    return delimited(tables, u',', u"\r\n"_s);
+}
+
+QString tsvText(const QList<AnswerTable> &tables) {
+    return delimited(tables, u'\t', u"\n"_s);
+}
+
+} // namespace kiv::canvas
