@@ -177,14 +177,11 @@ std::optional<Msg> ChatRoom::newestAnswer() const {
     return *found;
 }
 
-/// The server has stored a message of ours. Its files stay with it, though the row may not repeat
-/// them, and wait for no other message.
+/// The server has stored a message of ours: its files wait for no other message.
 void ChatRoom::confirm(qsizetype row, Msg stored) {
     const Msg &sent = m_msgs.messages().at(row);
     m_store.attachments()->withdraw(sent.attachments);
-    stored.attachments = sent.attachments;
-    if (stored.files.isEmpty())
-        stored.files = sent.files;
+    stored.keepFilesOf(sent);
     m_msgs.update(row, std::move(stored));
 }
 

@@ -8,7 +8,7 @@ HistoryMerge::HistoryMerge(QList<Msg> shown, QHash<qint64, Msg> live)
     : m_shown(std::move(shown)), m_live(std::move(live)) {
     for (const Msg &message : m_shown) {
         if (message.serverID)
-            m_identities.insert(*message.serverID, message.id);
+            m_shownRows.insert(*message.serverID);
     }
 }
 
@@ -33,7 +33,11 @@ void HistoryMerge::take(Msg message) {
         if (live != m_live.cend() && live->text.size() > message.text.size())
             message = *live;
         m_live.remove(*message.serverID);
-        message.id = m_identities.value(*message.serverID, message.id);
+        const auto shown = std::ranges::find(m_shown, message.serverID, &Msg::serverID);
+        if (shown != m_shown.end()) {
+            message.id = shown->id;
+            message.keepFilesOf(*shown);
+        }
     }
     m_merged.append(std::move(message));
 }
@@ -45,6 +49,7 @@ void HistoryMerge::place(const Msg &message) {
     if (stored != m_merged.end()) {
         m_claimed.insert(*stored->serverID);
         stored->id = message.id;
+        stored->keepFilesOf(message);
         return;
     }
     while (at < m_merged.size() && m_merged.at(at).isUnsent())
@@ -67,7 +72,7 @@ bool HistoryMerge::isStoredFormOf(const Msg &message, const Msg &stored) const {
     const bool mayBeLater =
         !message.at || !stored.at || message.at->secsTo(*stored.at) > -clockSkewSeconds;
     return mayBeLater && stored.who == Who::You && stored.serverID && stored.text == message.text &&
-           !m_identities.contains(*stored.serverID) && !m_claimed.contains(*stored.serverID);
+           !m_shownRows.contains(*stored.serverID) && !m_claimed.contains(*stored.serverID);
 }
 
 } // namespace kiv::store

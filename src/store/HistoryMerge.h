@@ -25,7 +25,7 @@ private:
     bool isStoredFormOf(const Msg &message, const Msg &stored) const;
 
     QList<Msg> m_shown;
-    QHash<qint64, QUuid> m_identities; ///< of the stored rows that are shown
+    QSet<qint64> m_shownRows;
     QHash<qint64, Msg> m_live;
     QList<Msg> m_merged;
     QSet<qint64> m_claimed;

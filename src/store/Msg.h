@@ -60,6 +60,12 @@ struct Msg {
     bool fromCall = false;
     std::optional<QDateTime> at; ///< server time of the row
 
+    /// The stored form of `sent`: its files stay, though the server may not repeat them.
+    void keepFilesOf(const Msg &sent) {
+        attachments = sent.attachments;
+        if (files.isEmpty())
+            files = sent.files;
+    }
     bool isUnsent() const { return !pendingID.isEmpty() && !serverID; }
 };
 

@@ -448,6 +448,7 @@ private Q_SLOTS:
         f.backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, QString()) + "}");
         f.store->chat()->send(QString());
         SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
+        f.history(kivChat, "[" + rowJson(7, u"user"_s, QString()) + "]");
         for (int i = 0; i < 8; ++i) { // the stream stays alive, but no answer comes
             f.row(7, QString(), u"user"_s);
             QTest::qWait(10);
