@@ -16,11 +16,12 @@ Loader {
 
         Tip {
             parent: host
-            visible: true
             text: host.place?.text ?? ""
             keys: host.place?.keys ?? ""
             x: host.place?.beside ? host.width + 6 : Math.round((host.width - implicitWidth) / 2)
             y: host.place?.beside ? Math.round((host.height - implicitHeight) / 2) : host.height + 6
+            // Only now does it wait for its delay.
+            Component.onCompleted: visible = true
         }
     }
 }
