@@ -7,7 +7,8 @@
 /// How scenes write figures and names.
 namespace kiv::canvas {
 
-/// A number with grouped thousands and its unit: signs of currency lead, other units follow.
+/// A number with grouped thousands, U+2212 for minus, and its unit: signs of currency lead, other
+/// units follow.
 QString figureText(double value, const QString &unit);
 
 /// The value as the answer wrote it, else as a figure; empty without either.

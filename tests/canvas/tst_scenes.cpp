@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(scene->kpiCards.size(), 3);
         QCOMPARE(scene->kpiCards.at(0).value, u"$12\u202f000"_s);
         QCOMPARE(scene->kpiCards.at(0).tone(), Tone::Good);
-        QCOMPARE(scene->kpiCards.at(1).value, u"-$1\u202f500.5"_s);
+        QCOMPARE(scene->kpiCards.at(1).value, u"−$1\u202f500.5"_s);
         QCOMPARE(scene->kpiCards.at(1).tone(), Tone::Good);
         QCOMPARE(scene->kpiCards.at(2).value, u"1 month"_s);
         QCOMPARE(scene->kpiCards.at(2).tone(), Tone::Neutral);

@@ -3,59 +3,14 @@
 #include "canvas/AnswerBlock.h"
 #include "canvas/TableScene.h"
 #include "store/DrawnArts.h"
+#include "ui/AnswerText.h"
 #include "ui/Workspace.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
 namespace kiv::ui {
 
 namespace {
-
-constexpr int many = 200;
-
-/// 120 characters that do not fit into any column.
-QString longName(int i) {
-    const QString words = i % 2 == 0 ? u"Внедрение единой системы управления закупками "_s
-                                     : u"Consolidated procurement and supplier onboarding "_s;
-    return (QString::number(i + 1) + u' ' + words.repeated(4)).left(120).trimmed();
-}
-
-QString block(const QString &kind, const QString &art, const QString &title,
-              const QJsonObject &data) {
-    QJsonObject view = data;
-    view.insert(u"kind"_s, kind);
-    view.insert(u"art"_s, art);
-    view.insert(u"title"_s, title);
-    return u"Here it is.\n\n```view\n"_s + QString::fromUtf8(QJsonDocument(view).toJson()) +
-           u"```\n"_s;
-}
-
-QJsonObject points(const QJsonArray &rows, const QString &unit = {}) {
-    QJsonObject data{{u"points"_s, rows}};
-    if (!unit.isEmpty())
-        data.insert(u"unit"_s, unit);
-    return data;
-}
-
-/// As many points as asked for, each made from its place.
-template <typename Make>
-QJsonArray times(int count, Make make) {
-    QJsonArray rows;
-    for (int i = 0; i < count; ++i)
-        rows.append(make(i));
-    return rows;
-}
-
-QJsonObject point(const QString &label, double value, const QString &hint = {}) {
-    QJsonObject row{{u"label"_s, label}, {u"value"_s, value}};
-    if (!hint.isEmpty())
-        row.insert(u"hint"_s, hint);
-    return row;
-}
 
 QList<SceneAnswer> costs() {
     const auto answer = [](const QString &name, const QString &title, const QJsonObject &data) {
@@ -229,7 +184,7 @@ QList<SceneAnswer> sceneAnswers() {
                {u"report-plain"_s, u"report"_s, Workspace::reportAnswer()},
                {u"compare-plain"_s, u"compare"_s, Workspace::compareAnswer()},
            } +
-           costs() + workload() + status() + okr() + budget();
+           costs() + workload() + status() + okr() + budget() + chartAnswers() + cardAnswers();
 }
 
 canvas::SceneOut sceneOf(const SceneAnswer &answer) {

@@ -20,6 +20,11 @@ struct SceneAnswer {
 /// per cent, where the art takes such.
 QList<SceneAnswer> sceneAnswers();
 
+/// Those of decisions, funnels, parts and cash flows.
+QList<SceneAnswer> chartAnswers();
+/// Those of agents, briefs and retrospectives.
+QList<SceneAnswer> cardAnswers();
+
 /// The scene of an answer, as the window draws it. An answer that does not draw its art ends the
 /// test.
 canvas::SceneOut sceneOf(const SceneAnswer &answer);

@@ -247,6 +247,24 @@ void SceneTest::keys_data() {
     row("okr-plain", {Qt::Key_End, Qt::Key_Up}, u"Satisfaction at 4.6 or more, 94%"_s,
         u"Satisfaction at 4.6 or more"_s);
     row("okr-many", {Qt::Key_End}, u"Result 199, 199%"_s, u"Result 199"_s);
+    row("decision-plain", {Qt::Key_Down}, u"Running cost, A 6 · B 7"_s, u"Running cost"_s);
+    row("agents-plain", {Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right},
+        u"Load test, To do"_s, u"Load test"_s);
+    row("agents-many", {Qt::Key_End}, u"Task 179, Unknown"_s, u"Task 179"_s);
+    row("funnel-plain", {Qt::Key_Down}, u"Started a trial, 5\u202f240, 42%"_s,
+        u"Started a trial"_s);
+    row("funnel-many", {Qt::Key_End}, u"Stage 199, 1\u202f040, 96%"_s, u"Stage 199"_s);
+    row("unit-plain", {Qt::Key_End}, u"Прочее, €0.11, 6%"_s, u"Прочее"_s);
+    row("unit-many", {Qt::Key_End}, u"Part 199, €363, 0.4%"_s, u"Part 199"_s);
+    row("brief-plain", {Qt::Key_Right, Qt::Key_Down}, u"Доступ к выгрузке, Orchard · Ledger"_s,
+        u"Доступ к выгрузке"_s);
+    row("brief-many", {Qt::Key_End}, u"Task 195, Project"_s, u"Task 195"_s);
+    row("retro-plain", {Qt::Key_Right, Qt::Key_Right, Qt::Key_Right},
+        u"Book the load test in week one"_s, u"Book the load test in week one"_s);
+    row("retro-many", {Qt::Key_End}, u"Note 32 of 5"_s, u"Note 32 of 5"_s);
+    row("cashflow-plain", {Qt::Key_Right}, u"Aug, In 84 · Out 96 · Balance 102"_s, u"Aug"_s);
+    row("cashflow-many", {Qt::Key_End}, u"Day 199, In €431 · Out €431 · Balance €431"_s,
+        u"Day 199"_s);
     row("budget-plain", {Qt::Key_Down}, u"Hosting, €17\u202f300, plan €15\u202f500, +12%, Over"_s,
         u"Hosting"_s);
 }

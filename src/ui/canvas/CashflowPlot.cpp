@@ -15,6 +15,7 @@ constexpr double slotPadding = 6; ///< at the least, between the bars of two per
 constexpr double nameMost = 96;   ///< a longer name is cut where periods are narrow
 constexpr double nameGap = 8;
 constexpr double nameRoom = 30; ///< below the plot, for names alone
+constexpr double scrollRoom = 14;
 constexpr double figureGap = 6;
 constexpr double labelLeast = 38;
 constexpr double labelHeight = 20;
@@ -22,10 +23,6 @@ constexpr double labelPadding = 8;
 constexpr double labelDistance = 8; ///< from its point
 constexpr double labelGap = 4;
 constexpr qsizetype mostLabelled = 12; ///< of more periods only the ends and extremes have labels
-
-double percent(double part, double whole) {
-    return part / 100 * whole;
-}
 
 bool overlap(const PlotLabel &a, const PlotLabel &b) {
     return a.x < b.x + b.width + labelGap && b.x < a.x + a.width + labelGap &&
@@ -38,7 +35,17 @@ void CashflowPlot::setScene(const canvas::SceneOut &scene) {
     if (m_scene == scene)
         return;
     m_scene = scene;
+    const auto any = [this](QString canvas::CfMonth::*figure) {
+        return std::any_of(
+            m_scene.cfMonths.cbegin(), m_scene.cfMonths.cend(),
+            [figure](const canvas::CfMonth &month) { return !(month.*figure).isEmpty(); });
+    };
+    m_hasIn = any(&canvas::CfMonth::in);
+    m_hasOut = any(&canvas::CfMonth::out);
+    m_hasBalance = any(&canvas::CfMonth::balance);
     Q_EMIT sceneChanged();
+    Q_EMIT seriesChanged();
+    Q_EMIT belowChanged();
     layOut();
 }
 
@@ -70,6 +77,10 @@ double CashflowPlot::zeroY() const {
 }
 
 double CashflowPlot::belowHeight() const {
+    return wordsHeight() + (m_scrolls ? scrollRoom : 0);
+}
+
+double CashflowPlot::wordsHeight() const {
     const int lines = m_showsFigures ? (m_hasIn ? 1 : 0) + (m_hasOut ? 1 : 0) : 0;
     return lines > 0 ? figuresY() + lines * figureHeight() : nameRoom;
 }
@@ -80,13 +91,11 @@ void CashflowPlot::layOut() {
     m_line.clear();
     m_figures.clear();
     for (const canvas::CfMonth &month : std::as_const(m_scene.cfMonths)) {
-        m_periods.append({.month = month,
-                          .inLength = percent(month.inH, m_height),
-                          .outLength = percent(month.outH, m_height)});
+        m_periods.append({.month = month});
         if (month.balance.isEmpty())
             continue;
         m_line.append({(static_cast<double>(m_periods.size()) - 0.5) * m_slot,
-                       percent(100 - month.balY, m_height)});
+                       (100 - month.balY) / 100 * m_height});
         m_figures.append(month.balance);
     }
     placeNames();
@@ -97,22 +106,20 @@ void CashflowPlot::layOut() {
 /// How wide the periods and their bars are.
 void CashflowPlot::divide() {
     const auto &months = m_scene.cfMonths;
-    const auto any = [&months](QString canvas::CfMonth::*figure) {
-        return std::any_of(months.begin(), months.end(), [figure](const canvas::CfMonth &month) {
-            return !(month.*figure).isEmpty();
-        });
-    };
-    m_hasIn = any(&canvas::CfMonth::in);
-    m_hasOut = any(&canvas::CfMonth::out);
     const double bars = m_hasIn && m_hasOut ? 2 : 1;
     const double taken = (bars - 1) * barGap() + slotPadding;
     const auto count = static_cast<double>(std::max<qsizetype>(1, months.size()));
     m_slot = std::max(std::floor(m_width / count), bars * barLeast + taken);
     const QFontMetricsF words(m_font);
-    m_showsFigures = std::all_of(months.begin(), months.end(), [&](const canvas::CfMonth &month) {
+    const bool fits = std::all_of(months.begin(), months.end(), [&](const canvas::CfMonth &month) {
         return words.horizontalAdvance(month.in) + figureGap <= m_slot &&
                words.horizontalAdvance(month.out) + figureGap <= m_slot;
     });
+    const bool wider = m_slot * count > m_width;
+    if (std::exchange(m_showsFigures, fits) != fits || m_scrolls != wider) {
+        m_scrolls = wider;
+        Q_EMIT belowChanged();
+    }
     m_barWidth = std::clamp(std::floor((m_slot - taken) / bars * 0.8), barLeast, barMost);
 }
 

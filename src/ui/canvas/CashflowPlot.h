@@ -11,19 +11,15 @@
 
 namespace kiv::ui {
 
-/// A period of the plot. Lengths are device-independent pixels; y goes down from the plot's top.
+/// A period of the plot. Lengths are device-independent pixels.
 struct PlotPeriod {
     Q_GADGET
     QML_VALUE_TYPE(plotPeriod)
     Q_PROPERTY(kiv::canvas::CfMonth month MEMBER month)
-    Q_PROPERTY(double inLength MEMBER inLength)
-    Q_PROPERTY(double outLength MEMBER outLength)
     Q_PROPERTY(double nameX MEMBER nameX)
     Q_PROPERTY(double nameWidth MEMBER nameWidth)
 public:
     canvas::CfMonth month;
-    double inLength = 0; ///< up from the line of zero, negative goes down
-    double outLength = 0;
     double nameX = 0;     ///< from the left edge of the period's slot
     double nameWidth = 0; ///< 0: there is no room for this name
     friend bool operator==(const PlotPeriod &, const PlotPeriod &) = default;
@@ -40,7 +36,7 @@ struct PlotLabel {
 public:
     QString text;
     double x = 0; ///< from the left edge of the first period
-    double y = 0;
+    double y = 0; ///< from the top of the plot
     double width = 0;
     friend bool operator==(const PlotLabel &, const PlotLabel &) = default;
 };
@@ -58,11 +54,13 @@ class CashflowPlot : public QObject {
     Q_PROPERTY(double barGap READ barGap CONSTANT)
     Q_PROPERTY(double figuresY READ figuresY CONSTANT)
     Q_PROPERTY(double figureHeight READ figureHeight CONSTANT)
-    Q_PROPERTY(double belowHeight READ belowHeight NOTIFY changed)
-    Q_PROPERTY(bool showsFigures READ showsFigures NOTIFY changed)
-    Q_PROPERTY(bool hasIn READ hasIn NOTIFY changed)
-    Q_PROPERTY(bool hasOut READ hasOut NOTIFY changed)
-    Q_PROPERTY(bool hasBalance READ hasBalance NOTIFY changed)
+    Q_PROPERTY(double wordsHeight READ wordsHeight NOTIFY belowChanged)
+    Q_PROPERTY(double belowHeight READ belowHeight NOTIFY belowChanged)
+    Q_PROPERTY(bool scrolls READ scrolls NOTIFY belowChanged)
+    Q_PROPERTY(bool showsFigures READ showsFigures NOTIFY belowChanged)
+    Q_PROPERTY(bool hasIn READ hasIn NOTIFY seriesChanged)
+    Q_PROPERTY(bool hasOut READ hasOut NOTIFY seriesChanged)
+    Q_PROPERTY(bool hasBalance READ hasBalance NOTIFY seriesChanged)
     Q_PROPERTY(double zeroY READ zeroY NOTIFY changed)
     Q_PROPERTY(double slot READ slot NOTIFY changed)
     Q_PROPERTY(double barWidth READ barWidth NOTIFY changed)
@@ -91,12 +89,15 @@ public:
     static double figuresY() { return 34; }
     static double figureHeight() { return 18; }
     /// What the names and figures take below the plot.
+    double wordsHeight() const;
+    /// The same with a scroll bar.
     double belowHeight() const;
+    bool scrolls() const { return m_scrolls; }
     /// The figures of the bars stand below their periods where each has the room.
     bool showsFigures() const { return m_showsFigures; }
     bool hasIn() const { return m_hasIn; }
     bool hasOut() const { return m_hasOut; }
-    bool hasBalance() const { return !m_line.isEmpty(); }
+    bool hasBalance() const { return m_hasBalance; }
     double zeroY() const;
     /// The width of a period.
     double slot() const { return m_slot; }
@@ -110,6 +111,8 @@ Q_SIGNALS:
     void widthChanged();
     void heightChanged();
     void fontChanged();
+    void seriesChanged();
+    void belowChanged();
     void changed();
 
 private:
@@ -125,7 +128,9 @@ private:
     QFont m_font;
     bool m_hasIn = false;
     bool m_hasOut = false;
+    bool m_hasBalance = false;
     bool m_showsFigures = false;
+    bool m_scrolls = false;
     double m_slot = 0;
     double m_barWidth = 0;
     QList<PlotPeriod> m_periods;

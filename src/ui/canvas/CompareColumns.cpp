@@ -132,7 +132,8 @@ void CompareColumns::layOut() {
         column.width = natural - give * (natural - leastWidth(column, natural)) + spare;
         x += column.width;
     }
-    m_cellsWidth = x;
+    // Shares of the room may add up to a hair more than it is.
+    m_cellsWidth = std::abs(x - room) < 0.5 ? room : x;
     Q_EMIT changed();
 }
 

@@ -22,7 +22,7 @@ constexpr double padding = 12;
 constexpr double tightPadding = 8;
 constexpr double tightBlock = 104; ///< a narrower block has less padding
 constexpr double signGap = 6;
-constexpr double leastTitle = 36; ///< less than that tells nothing
+constexpr double leastTitle = 28; ///< less than that tells nothing
 constexpr int mostRows = 3;       ///< of blocks that would not overlap in one
 
 WorkStatus statusOf(const QString &word) {

@@ -64,10 +64,12 @@ void PlotAxis::set(T &member, const T &value) {
 
 void PlotAxis::setLow(double low) {
     set(m_low, low);
+    measure();
 }
 
 void PlotAxis::setHigh(double high) {
     set(m_high, high);
+    measure();
 }
 
 void PlotAxis::setHeight(double height) {
@@ -76,33 +78,45 @@ void PlotAxis::setHeight(double height) {
 
 void PlotAxis::setFont(const QFont &font) {
     set(m_font, font);
+    measure();
+}
+
+/// The values of the ticks, from the top down.
+QList<double> PlotAxis::valuesOf(double most) const {
+    QList<double> values{m_high};
+    if (m_high <= m_low)
+        return values;
+    const double step = stepOf(m_low, m_high, most);
+    const auto steps = std::llround((m_high - m_low) / step);
+    for (qint64 i = 1; i <= steps; ++i) {
+        // Sums of steps would drift: 0.30000000000000004.
+        const double value = std::round(m_high / step - static_cast<double>(i)) * step;
+        values.append(i == steps ? m_low : value);
+    }
+    if (m_low < 0 && m_high > 0 && !values.contains(0))
+        values.insert(std::upper_bound(values.begin(), values.end(), 0.0, std::greater<>()), 0.0);
+    return values;
 }
 
 void PlotAxis::layOut() {
     m_ticks.clear();
-    QList<double> values{m_high};
-    if (m_high > m_low) {
-        const double step =
-            stepOf(m_low, m_high, std::clamp(std::floor(m_height / leastDistance), 1.0, mostSteps));
-        const auto steps = std::llround((m_high - m_low) / step);
-        for (qint64 i = 1; i <= steps; ++i) {
-            // Sums of steps would drift: 0.30000000000000004.
-            const double value = std::round(m_high / step - static_cast<double>(i)) * step;
-            values.append(i == steps ? m_low : value);
-        }
-        if (m_low < 0 && m_high > 0 && !values.contains(0))
-            values.insert(std::upper_bound(values.begin(), values.end(), 0.0, std::greater<>()),
-                          0.0);
-    }
-    const QFontMetricsF words(m_font);
-    m_gutter = leastGutter;
-    for (const double value : std::as_const(values)) {
+    const QList<double> values =
+        valuesOf(std::clamp(std::floor(m_height / leastDistance), 1.0, mostSteps));
+    for (const double value : values) {
         const double part = m_high > m_low ? (m_high - value) / (m_high - m_low) : 1;
         m_ticks.append({textOf(value), std::round(part * m_height), value == 0});
-        m_gutter =
-            std::max(m_gutter, std::ceil(words.horizontalAdvance(m_ticks.last().text)) + gutterGap);
     }
     Q_EMIT ticksChanged();
+}
+
+void PlotAxis::measure() {
+    const QFontMetricsF words(m_font);
+    double gutter = leastGutter;
+    const QList<double> values = valuesOf(mostSteps);
+    for (const double value : values)
+        gutter = std::max(gutter, std::ceil(words.horizontalAdvance(textOf(value))) + gutterGap);
+    if (std::exchange(m_gutter, gutter) != gutter)
+        Q_EMIT gutterChanged();
 }
 
 } // namespace kiv::ui

@@ -31,7 +31,7 @@ class PlotAxis : public QObject {
     Q_PROPERTY(double height MEMBER m_height WRITE setHeight NOTIFY rangeChanged REQUIRED)
     Q_PROPERTY(QFont font MEMBER m_font WRITE setFont NOTIFY rangeChanged REQUIRED)
     Q_PROPERTY(QList<kiv::ui::PlotTick> ticks READ ticks NOTIFY ticksChanged)
-    Q_PROPERTY(double gutter READ gutter NOTIFY ticksChanged)
+    Q_PROPERTY(double gutter READ gutter NOTIFY gutterChanged)
 public:
     using QObject::QObject;
 
@@ -44,17 +44,20 @@ public:
 
     /// From the top down.
     const QList<PlotTick> &ticks() const { return m_ticks; }
-    /// The room that the figures take to the left of the plot.
+    /// The room that the figures take to the left of the plot, whatever its height.
     double gutter() const { return m_gutter; }
 
 Q_SIGNALS:
     void rangeChanged();
     void ticksChanged();
+    void gutterChanged();
 
 private:
     template <typename T>
     void set(T &member, const T &value);
+    QList<double> valuesOf(double mostSteps) const;
     void layOut();
+    void measure();
 
     double m_low = 0;
     double m_high = 0;

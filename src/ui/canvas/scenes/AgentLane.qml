@@ -6,7 +6,7 @@ import Kiv.Controls
 import Kiv.Tokens
 
 // An agent and its work.
-Item {
+FocusScope {
     id: lane
 
     required property laneRow modelData
@@ -19,6 +19,7 @@ Item {
     x: 8
     width: art.inner
     height: modelData.height
+    focus: ListView.isCurrentItem
     Accessible.role: Accessible.Row
     Accessible.name: Figures.joined([modelData.name, modelData.role], ", ")
 

@@ -13,8 +13,6 @@ ArtScene {
     readonly property int nameWidth: wide ? 196 : narrow ? 116 : 168
 
     marks: groups.count
-    Keys.onUpPressed: go(groups.beside(current, -1))
-    Keys.onDownPressed: go(groups.beside(current, 1))
 
     LaneLayout {
         id: layout
@@ -73,6 +71,8 @@ ArtScene {
         currentIndex: groups.groupOf(agents.current)
         leastRow: 56
         mostRow: 88
+        Keys.onUpPressed: agents.go(groups.beside(agents.current, -1))
+        Keys.onDownPressed: agents.go(groups.beside(agents.current, 1))
         model: SceneModel {
             rows: layout.lanes
         }

@@ -11,8 +11,6 @@ ArtScene {
     id: cashflow
 
     readonly property real plotY: legend.y + legend.height + 10 + plot.headroom
-    readonly property real below: plot.belowHeight + (periods.interactive ? 12 : 0)
-    readonly property real gutter: Math.max(axis.gutter, figureNames.visible ? figureNames.width + 12 : 0)
 
     marks: scene.cfMonths.length
 
@@ -28,8 +26,8 @@ ArtScene {
         id: plot
 
         scene: cashflow.scene
-        width: cashflow.inner - cashflow.gutter
-        height: Math.max(80, cashflow.height - cashflow.plotY - cashflow.below - cashflow.footroom)
+        width: cashflow.inner - axis.gutter
+        height: Math.max(80, cashflow.height - cashflow.plotY - plot.belowHeight - cashflow.footroom)
         font: measured.font
     }
     Label {
@@ -52,16 +50,18 @@ ArtScene {
         width: cashflow.inner
         height: plot.height
         axis: axis
-        gutter: cashflow.gutter
+        gutter: axis.gutter
     }
     Column {
         id: figureNames
 
         x: cashflow.side
         y: cashflow.plotY + plot.height + plot.figuresY
+        width: axis.gutter - 8
         visible: plot.showsFigures
 
         Label {
+            width: parent.width
             height: plot.figureHeight
             visible: plot.hasIn
             style: Tokens.type.caption
@@ -70,6 +70,7 @@ ArtScene {
             Accessible.ignored: true
         }
         Label {
+            width: parent.width
             height: plot.figureHeight
             visible: plot.hasOut
             style: Tokens.type.caption
@@ -81,19 +82,19 @@ ArtScene {
     ListView {
         id: periods
 
-        x: cashflow.side + cashflow.gutter + Math.max(0, Math.floor((plot.width - width) / 2))
+        x: cashflow.side + axis.gutter + Math.max(0, Math.floor((plot.width - width) / 2))
         y: cashflow.plotY - plot.headroom
-        width: Math.min(plot.width, plot.slot * count)
-        height: plot.headroom + plot.height + cashflow.below
+        width: Math.min(plot.width, plot.slot * cashflow.marks)
+        height: plot.headroom + plot.height + plot.belowHeight
         orientation: Qt.Horizontal
-        interactive: contentWidth > width
+        interactive: plot.scrolls
         model: SceneModel {
             rows: plot.periods
         }
         currentIndex: cashflow.current
         keyNavigationEnabled: false
         highlightMoveDuration: 0
-        clip: interactive
+        clip: plot.scrolls
         focus: true
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
@@ -107,7 +108,6 @@ ArtScene {
         delegate: PeriodBars {
             art: cashflow
             plot: plot
-            height: plot.headroom + plot.height + plot.belowHeight
         }
     }
     BalanceLine {

@@ -12,7 +12,7 @@ ArtScene {
 
     readonly property bool dense: scene.fnStages.length > 7
     readonly property int nameWidth: wide ? 204 : 148
-    readonly property int convWidth: narrow ? 64 : wide ? 128 : 96
+    readonly property int convWidth: narrow ? 88 : wide ? 128 : 96
 
     marks: scene.fnStages.length
 

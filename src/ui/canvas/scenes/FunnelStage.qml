@@ -6,7 +6,7 @@ import Kiv.Scene
 import Kiv.Tokens
 
 // A stage: its bar in the middle of the lane, its count, and how many of the stage before came here.
-Item {
+FocusScope {
     id: stage
 
     required property fnStage modelData
@@ -24,16 +24,18 @@ Item {
 
     x: 8
     width: art.inner
+    focus: ListView.isCurrentItem
 
     MarkArea {
-        ringMargin: -6
         art: stage.art
         place: stage.index
         width: parent.width
         height: stage.laneHeight
+        ringX: -6
         label: stage.modelData.name
         value: stage.modelData.n
         share: stage.modelData.conv
+        Accessible.name: Figures.joined([label, value, share], ", ")
 
         Label {
             y: Math.round((stage.words - height) / 2)

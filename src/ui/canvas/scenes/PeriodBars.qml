@@ -19,6 +19,7 @@ MarkArea {
 
     place: index
     width: plot.slot
+    height: plot.headroom + plot.height + plot.wordsHeight
     label: modelData.month.name
     value: Figures.joined([plot.hasIn ? qsTr("In %1").arg(shown(modelData.month.in)) : "",
         plot.hasOut ? qsTr("Out %1").arg(shown(modelData.month.out)) : "",
@@ -33,7 +34,8 @@ MarkArea {
         x: period.barsX
         y: period.zeroY
         width: period.plot.barWidth
-        length: period.modelData.inLength
+        part: period.modelData.month.inH
+        plotHeight: period.plot.height
         grown: period.grown
         color: Tokens.green.base
     }
@@ -42,7 +44,8 @@ MarkArea {
         x: period.barsX + period.barsWidth - width
         y: period.zeroY
         width: period.plot.barWidth
-        length: period.modelData.outLength
+        part: period.modelData.month.outH
+        plotHeight: period.plot.height
         grown: period.grown
         color: Tokens.amber.base
     }

@@ -11,7 +11,9 @@ Item {
     // The foot of a list lies in its content.
     readonly property RowList list: parent?.parent as RowList
     readonly property ArtScene art: list?.art ?? null
-    readonly property int count: art?.scene.ueKpis.length ?? 0
+    /// On a wide sheet they have a column of their own beside the parts.
+    readonly property bool shown: art !== null && !(art.wide && art.scene.ueRows.length > 0)
+    readonly property int count: shown ? art?.scene.ueKpis.length ?? 0 : 0
     readonly property int columns: Math.max(1, Math.min(count, art?.wide ? 3 : 2))
     readonly property real cardWidth: ((art?.inner ?? 0) - 12 * (columns - 1)) / columns
 
@@ -27,7 +29,7 @@ Item {
         spacing: 12
 
         Repeater {
-            model: figures.art?.scene.ueKpis ?? []
+            model: figures.shown ? figures.art?.scene.ueKpis ?? [] : []
 
             KpiCard {
                 required property kpiCard modelData

@@ -14,6 +14,7 @@ SceneRow {
     label: modelData.name
     value: modelData.value
     share: Figures.share(modelData.w, 100)
+    Accessible.name: Figures.joined([label, value, share === value ? "" : share], ", ")
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter

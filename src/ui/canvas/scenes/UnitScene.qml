@@ -46,13 +46,13 @@ ArtScene {
         visible: unit.parts > 0 && !unit.ringed
         art: unit
     }
-    RowList {
+    UnitRows {
         id: rows
 
         readonly property real room: unit.height - unit.headroom - unit.footroom
         /// Beside the ring the rows stand in the middle of the height.
         readonly property real linesHeight: Math.min(room, unit.parts * 52)
-        readonly property real below: unit.beside || unit.figures === 0 ? 0 : footerItem?.height ?? 0
+        readonly property real below: footerItem?.height ?? 0
         readonly property real lineHeight: Math.floor(Math.max(40, Math.min(52, (height - below) / Math.max(1, unit.parts))))
 
         art: unit
@@ -60,23 +60,15 @@ ArtScene {
         y: unit.ringed ? unit.headroom + Math.round((room - linesHeight) / 2) : whole.visible ? whole.y + whole.height + 12 : unit.headroom
         width: unit.side + unit.partsWidth - x + (unit.beside ? 16 : unit.side)
         height: unit.ringed ? linesHeight : unit.height - y - unit.footroom
-        leastRow: 40
-        mostRow: 52
         model: SceneModel {
             rows: unit.scene.ueRows
         }
-        footer: unit.beside ? null : figureGrid
         delegate: UnitRow {
             art: unit
             width: unit.side + unit.partsWidth - rows.x - 8
             height: rows.lineHeight
             valueWidth: values.wanted
         }
-    }
-    Component {
-        id: figureGrid
-
-        UnitFigures {}
     }
     FigureColumn {
         x: unit.side + unit.inner - width

@@ -46,7 +46,8 @@ MarkArea {
         width: block.modelData.titleWidth
         style: Tokens.type.smallMedium
         color: block.look.ink
-        wrapMode: Text.Wrap
+        // Words are not broken into syllables.
+        wrapMode: block.modelData.titleWidth < 64 ? Text.NoWrap : Text.Wrap
         maximumLineCount: 2
         text: block.modelData.title
         Accessible.ignored: true

@@ -1,0 +1,9 @@
+import QtQuick
+import Kiv.Canvas
+
+// The rows of the parts, with the figures of the answer below them.
+RowList {
+    leastRow: 40
+    mostRow: 52
+    footer: UnitFigures {}
+}
