@@ -166,10 +166,7 @@ FocusScope {
         size: bar.floating ? 36 : 32
         stopping: bar.stoppable
         enabled: bar.stoppable || bar.ready
-        onClicked: {
-            Qt.inputMethod.commit()
-            stopping ? bar.stopRequested() : bar.submit()
-        }
+        onClicked: stopping ? bar.stopRequested() : bar.submit()
     }
     DropArea {
         id: drop
