@@ -69,6 +69,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
     if (!scene)
         return false;
     m_drawnSpecKey = spec.jsonKey;
+    m_artSpec = spec;
     m_store.layout()->closeAccount();
     show(*scene, canvas::ArtInfoFactory::make(scene->art, spec, *scene, chips), entrance);
     if (record != Record::None)
@@ -129,6 +130,7 @@ QCoro::Task<void> CanvasRoom::finishBuilding(Cancel cancel) {
 
 void CanvasRoom::clearDrawnArt() {
     m_art = QString();
+    m_artSpec = canvas::ViewSpec();
     m_artScene = canvas::SceneOut();
     m_artInfo = canvas::ArtInfo();
     m_vis = 0;

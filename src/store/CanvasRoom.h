@@ -51,6 +51,8 @@ public:
     CanvasState state() const { return m_state; }
     QString art() const { return m_art; }
     canvas::SceneOut artScene() const { return m_artScene; }
+    /// What the scene was made from.
+    const canvas::ViewSpec &artSpec() const { return m_artSpec; }
     canvas::ArtInfo artInfo() const { return m_artInfo; }
     QString canvasTitle() const { return m_artInfo.value().title; }
     QString canvasHint() const { return m_canvasHint; }
@@ -161,6 +163,7 @@ private:
     QSet<qint64> m_earlyDrawnFor;
     Turn m_turn;
     std::optional<QString> m_drawnSpecKey;
+    canvas::ViewSpec m_artSpec;
     std::optional<QString> m_lastIntent;
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,

@@ -26,5 +26,6 @@ QList<Row> answerToScene();
 QList<Row> classify();
 QList<Row> explain();
 QList<Row> markdown();
+QList<Row> render();
 
 } // namespace kiv::bench

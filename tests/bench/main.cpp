@@ -20,7 +20,8 @@ struct Bench {
 const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"classify"_s, classify},
                            {u"explain"_s, explain},
-                           {u"markdown"_s, markdown}};
+                           {u"markdown"_s, markdown},
+                           {u"render"_s, render}};
 
 QString shown(double nanoseconds) {
     return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);

@@ -13,6 +13,8 @@ Item {
     required property CanvasRoom canvas
     required property ChatRoom chat
     required property ScopeRoom scope
+    /// What is drawn below, if anything is.
+    required property Item sheet
 
     readonly property bool thinking: canvas.state === Store.CanvasState.ThinkingSkeleton
     readonly property bool building: canvas.state === Store.CanvasState.BuildingScene
@@ -61,6 +63,7 @@ Item {
             : caption.canvas.artInfo.word
     }
     Label {
+        objectName: "captionLine"
         anchors.left: word.right
         anchors.leftMargin: 10
         anchors.right: actions.left
@@ -68,8 +71,9 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.small
         tabular: caption.thinking
-        color: Tokens.t3
-        text: caption.thinking ? qsTr("%1 s").arg(caption.canvas.thinkingSeconds)
+        color: drawnActions.failure === "" ? Tokens.t3 : Tokens.dangerText
+        text: drawnActions.failure !== "" ? drawnActions.failure
+            : caption.thinking ? qsTr("%1 s").arg(caption.canvas.thinkingSeconds)
             : caption.drawn && caption.canvas.query !== "" ? qsTr("Answer to “%1”").arg(caption.canvas.query)
             : ""
     }
@@ -78,7 +82,6 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 10
 
         Button {
             visible: caption.thinking && caption.chat.canStop
@@ -87,19 +90,14 @@ Item {
             text: qsTr("Stop")
             onClicked: caption.chat.stopLive()
         }
-        Button {
-            objectName: "refineButton"
+        CanvasActions {
+            id: drawnActions
+
             visible: caption.drawn
-            size: Button.Small
-            iconName: "refine"
-            text: qsTr("Refine")
-            onClicked: refine.open()
-
-            RefinePopover {
-                id: refine
-
-                onSubmitted: text => caption.chat.send(text)
-            }
+            canvas: caption.canvas
+            chat: caption.chat
+            sheet: caption.sheet
+            compact: caption.width - 48 < Tokens.mediumBody
         }
     }
 }

@@ -31,6 +31,7 @@ FocusScope {
         canvas: view.canvas
         chat: view.store.chat
         scope: view.store.scope
+        sheet: sheet.item as Item
     }
     BuildingBar {
         x: 24
@@ -45,6 +46,8 @@ FocusScope {
         shape: view.canvas.skeletonShape
     }
     SheetLoader {
+        id: sheet
+
         anchors.fill: frame
         active: view.canvas.state === Store.CanvasState.Scene
         focus: true

@@ -10,7 +10,8 @@ FocusScope {
     id: sheet
 
     required property sceneOut scene
-    required property ScopeRoom scope
+    /// Who answered; none where there is no conversation.
+    property ScopeRoom scope: null
     required property string time
     required property bool linked
     /// Whether the scene comes in with its entrance.
@@ -22,6 +23,11 @@ FocusScope {
     signal messageRequested()
     signal pointChosen(label: string)
 
+    // A picture of the sheet has the ground at its corners.
+    Rectangle {
+        anchors.fill: parent
+        color: Tokens.bg
+    }
     Rectangle {
         anchors.fill: parent
         anchors.bottomMargin: -1

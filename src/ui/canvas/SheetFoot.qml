@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Store
@@ -10,6 +11,7 @@ Item {
 
     required property string countLine
     required property int side
+    /// Who answered; may be none.
     required property ScopeRoom scope
     required property string time
     required property bool linked
@@ -34,21 +36,23 @@ Item {
 
         x: parent.width - width - foot.side
         anchors.verticalCenter: parent.verticalCenter
+        visible: foot.scope !== null
         spacing: 8
 
         Figure {
             anchors.verticalCenter: parent.verticalCenter
-            kind: foot.scope.scopeKind
-            name: foot.scope.scopeName
-            colorHex: foot.scope.scopeColorHex
+            kind: foot.scope?.scopeKind ?? Store.ScopeKind.Kiv
+            name: foot.scope?.scopeName ?? ""
+            colorHex: foot.scope?.scopeColorHex ?? ""
             size: 18
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, foot.width / 2)
             style: Tokens.type.caption
+            tabular: true
             color: Tokens.t3
-            text: foot.time === "" ? foot.scope.scopeName : qsTr("%1, %2").arg(foot.scope.scopeName).arg(foot.time)
+            text: Figures.joined([foot.scope?.scopeName ?? "", foot.time], ", ")
         }
         TextLink {
             anchors.verticalCenter: parent.verticalCenter

@@ -15,6 +15,8 @@ T.Button {
     implicitHeight: 36
     Accessible.name: text
     Accessible.role: Accessible.MenuItem
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

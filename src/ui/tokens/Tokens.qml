@@ -108,4 +108,8 @@ QtObject {
     readonly property int breathe: 1200
     readonly property int orbit: 1600
     readonly property int tipDelay: 500
+    /// How long a button says that it has done its work.
+    readonly property int confirmation: 1500
+    /// How long a line about a failure stays.
+    readonly property int notice: 8000
 }

@@ -1,0 +1,101 @@
+import QtQuick
+import Kiv.Canvas
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// What can be done with a drawn scene.
+Row {
+    id: actions
+
+    required property CanvasRoom canvas
+    required property ChatRoom chat
+    required property Item sheet
+    /// Icons alone, where room is short.
+    required property bool compact
+
+    /// Why the last export failed.
+    readonly property string failure: exporter.failure
+
+    spacing: 4
+
+    CanvasExport {
+        id: exporter
+
+        objectName: "canvasExport"
+        canvas: actions.canvas
+        sheet: actions.sheet
+        onCopied: copied.restart()
+    }
+    Timer {
+        id: copied
+
+        interval: Tokens.confirmation
+    }
+    Timer {
+        running: actions.failure !== ""
+        interval: Tokens.notice
+        onTriggered: exporter.forgetFailure()
+    }
+    Shortcut {
+        sequence: "Ctrl+E"
+        enabled: actions.visible
+        onActivated: exporter.savePicture()
+    }
+    IconButton {
+        objectName: "copyButton"
+        anchors.verticalCenter: parent.verticalCenter
+        iconName: copied.running ? "check" : "copy"
+        text: copied.running ? qsTr("Copied") : qsTr("Copy")
+        onClicked: exporter.copy()
+    }
+    Button {
+        id: exportButton
+
+        objectName: "exportButton"
+        anchors.verticalCenter: parent.verticalCenter
+        size: Button.Small
+        kind: Button.Quiet
+        iconName: "download"
+        trailingIcon: actions.compact ? "" : "down"
+        text: actions.compact ? "" : qsTr("Export")
+        labelColor: Tokens.t2
+        Accessible.name: qsTr("Export")
+        onClicked: menu.open()
+
+        ExportMenu {
+            id: menu
+
+            exporter: exporter
+        }
+        TipLoader {
+            active: actions.compact && exportButton.hovered && !menu.visible
+            text: qsTr("Export")
+        }
+    }
+    Item {
+        width: 4
+        height: 1
+    }
+    Button {
+        id: refineButton
+
+        objectName: "refineButton"
+        anchors.verticalCenter: parent.verticalCenter
+        size: Button.Small
+        iconName: "refine"
+        text: actions.compact ? "" : qsTr("Refine")
+        Accessible.name: qsTr("Refine")
+        onClicked: refine.open()
+
+        RefinePopover {
+            id: refine
+
+            onSubmitted: text => actions.chat.send(text)
+        }
+        TipLoader {
+            active: actions.compact && refineButton.hovered && !refine.visible
+            text: qsTr("Refine")
+        }
+    }
+}

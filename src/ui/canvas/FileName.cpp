@@ -1,0 +1,34 @@
+#include "ui/canvas/FileName.h"
+
+namespace kiv::ui {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// With three bytes a character and an extension within the 255 bytes of common file systems.
+constexpr qsizetype longest = 80;
+
+bool isSafe(QChar c) {
+    return (c.isPrint() || c.isSurrogate()) && !u"/\\:*?\"<>|"_s.contains(c);
+}
+
+} // namespace
+
+QString fileNameOf(const QString &title) {
+    QString name;
+    for (const QChar c : title)
+        name += isSafe(c) ? c : u' ';
+    name = name.simplified().left(longest);
+    if (!name.isEmpty() && name.back().isHighSurrogate())
+        name.chop(1);
+    // A point in front hides a file, and one at the end some systems drop.
+    const auto isEdge = [](QChar c) { return c == u'.' || c.isSpace(); };
+    while (!name.isEmpty() && isEdge(name.front()))
+        name.remove(0, 1);
+    while (!name.isEmpty() && isEdge(name.back()))
+        name.chop(1);
+    return name;
+}
+
+} // namespace kiv::ui
