@@ -150,7 +150,7 @@ private Q_SLOTS:
         QStringList shown;
         for (const CfMonth &month : scene->cfMonths)
             shown.append(month.in + u'/' + month.out + u'/' + month.balance);
-        QCOMPARE(shown, (QStringList{u"80/-50/$100"_s, u"80/30/"_s, u"//-20"_s}));
+        QCOMPARE(shown, (QStringList{u"80/−50/$100"_s, u"80/30/"_s, u"//−20"_s}));
         QCOMPARE(scene->cfLine.size(), 2);
         QCOMPARE(scene->cfLine.at(1).y(), 4);
         QCOMPARE(scene->sub, u"Jan – Mar"_s);

@@ -82,8 +82,8 @@ private Q_SLOTS:
                 {"label":"Ferry","value":0.62,"display":"62.4%","target":-80,"owner":"Ona"},
                 {"label":"Glass","value":-1234.56,"status":"blocked"}]})")
             << Lines{{u"Name"_s, u"Value"_s, u"Target"_s, u"Status"_s, u"Note"_s},
-                     {u"Ferry"_s, u"62.4%"_s, u"-€80"_s, QString(), u"Ona"_s},
-                     {u"Glass"_s, u"-€1\u202f234.56"_s, QString(), u"blocked"_s, QString()}};
+                     {u"Ferry"_s, u"62.4%"_s, u"−€80"_s, QString(), u"Ona"_s},
+                     {u"Glass"_s, u"−€1\u202f234.56"_s, QString(), u"blocked"_s, QString()}};
         QTest::newRow("a column for each series")
             << view(R"({"kind":"line","series":[{"name":"In","points":["May: 5","June: 6.25"]},
                 {"name":"Out","points":["June: -4"]}]})")

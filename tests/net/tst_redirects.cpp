@@ -3,6 +3,7 @@
 #include "ClientFixture.h"
 
 #include <QDir>
+#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace kiv;

@@ -19,7 +19,7 @@ const QString kivPost = u"POST "_s + kivChat;
 const QString table = u"| Task | Hours |\n|---|---|\n| Sails | 12 |\n| Hull | 30 |"_s;
 
 /// Signs in and asks; the question is stored as row 7.
-bool ask(StoreFixture &f, const QString &question = u"How many hours?"_s) {
+bool ask(StoreFixture &f, const QString &question = u"What is planned?"_s) {
     if (!f.signIn())
         return false;
     f.backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
@@ -165,11 +165,11 @@ private Q_SLOTS:
         QVERIFY(ask(f));
         CanvasRoom *canvas = f.store->canvas();
         QVERIFY(arrives(f, 9, table + u"\n\n"_s));
-        QCOMPARE(canvas->artScene().cpRows.size(), 2);
+        QCOMPARE(canvas->artScene().coRows.size(), 2);
         QVERIFY(arrives(f, 9, table + u"\n| Rudder | 7 |\n| Keel | 9 |"_s));
-        QCOMPARE(canvas->artScene().cpRows.size(), 2);
+        QCOMPARE(canvas->artScene().coRows.size(), 2);
         f.clock.advance(1700ms);
-        QCOMPARE(canvas->artScene().cpRows.size(), 4);
+        QCOMPARE(canvas->artScene().coRows.size(), 4);
         QCOMPARE(canvas->history()->count(), 1);
         SOON_COMPARE(drawings(f), 1);
     }
@@ -186,11 +186,11 @@ private Q_SLOTS:
         QVERIFY(arrives(f, 9, longer));
         QVERIFY(f.store->chat()->canStop());
         QVERIFY(f.msgs().index(2).data(MessageModel::GrowingRole).toBool());
-        QCOMPARE(canvas->artScene().cpRows.size(), 2);
+        QCOMPARE(canvas->artScene().coRows.size(), 2);
         f.clock.advance(2s);
         QVERIFY(!f.store->chat()->canStop());
         QCOMPARE(canvas->state(), CanvasState::Scene);
-        QCOMPARE(canvas->artScene().cpRows.size(), 3);
+        QCOMPARE(canvas->artScene().coRows.size(), 3);
         QCOMPARE(canvas->history()->count(), 1);
         QCOMPARE(canvas->history()->at(0).spec->rows.size(), 3);
         SOON_COMPARE(drawings(f), 1);
@@ -199,7 +199,7 @@ private Q_SLOTS:
         canvas->openHistory(0);
         QVERIFY(arrives(f, 9, longer + u"\n| Keel | 9 |"_s));
         f.clock.advance(2s);
-        QCOMPARE(canvas->artScene().cpRows.size(), 3);
+        QCOMPARE(canvas->artScene().coRows.size(), 3);
         QCOMPARE(canvas->history()->at(1).spec->rows.size(), 4);
         QCOMPARE(canvas->history()->count(), 2);
     }
@@ -213,7 +213,7 @@ private Q_SLOTS:
         QVERIFY(arrives(f, 9, u"Let me look that up.\n\n"_s + table));
         f.clock.advance(2s);
         QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
-        QCOMPARE(f.store->canvas()->query(), u"How many hours?"_s);
+        QCOMPARE(f.store->canvas()->query(), u"What is planned?"_s);
         QCOMPARE(f.store->canvas()->history()->count(), 1);
 
         // A stopped answer is shown and not drawn, however long it goes on.

@@ -63,7 +63,7 @@ void SceneLayoutTest::lanes_data() {
     QTest::newRow("overlapping") << Tasks{{0, 0.5}, {0.25, 0.25}} << u"0+196@8 100+96@54"_s;
     QTest::newRow("not in order") << Tasks{{0.5, 0.5}, {0, 0.5}} << u"0+196@8 200+196@8"_s;
     QTest::newRow("too short") << Tasks{{0, 0.01}, {0.01, 0.01}, {0.1, 0.1}}
-                               << u"0+32@8 4+32@54 40+36@8"_s;
+                               << u"0+33@8 4+33@54 40+36@8"_s;
     QTest::newRow("at the end") << Tasks{{0.99, 0.01}} << u"368+32@8"_s;
 }
 

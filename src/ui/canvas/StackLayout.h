@@ -37,6 +37,8 @@ class StackLayout : public QObject {
     Q_PROPERTY(QVariant parts READ parts WRITE setParts NOTIFY partsChanged REQUIRED)
     Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
     Q_PROPERTY(QList<kiv::ui::StackPiece> pieces READ pieces NOTIFY piecesChanged)
+    /// Stands for a piece that has gone while what shows it is on its way out.
+    Q_PROPERTY(kiv::ui::StackPiece none READ none CONSTANT)
 public:
     using QObject::QObject;
 
@@ -46,6 +48,7 @@ public:
     double width() const { return m_width; }
     void setWidth(double width);
     QList<StackPiece> pieces() const { return m_pieces; }
+    StackPiece none() const { return {}; }
 
 Q_SIGNALS:
     void partsChanged();

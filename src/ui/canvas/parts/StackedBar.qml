@@ -30,7 +30,7 @@ Item {
 
             required property int index
 
-            readonly property stackPiece piece: layout.pieces[index]
+            readonly property stackPiece piece: index < layout.pieces.length ? layout.pieces[index] : layout.none
 
             art: bar.art
             x: piece.x * bar.grown
