@@ -79,8 +79,8 @@ void MessageModel::update(qsizetype row, Msg message) {
     shown = std::move(message);
     const QModelIndex changed = index(static_cast<int>(row));
     Q_EMIT dataChanged(changed, changed,
-                       {BodyRole, RawTextRole, TimeRole, MemberLabelRole, FilesRole, DeliveryRole,
-                        CardTitleRole, CardArtRole, ChipsRole});
+                       {BodyRole, RawTextRole, TimeRole, DayRole, MemberLabelRole, FilesRole,
+                        DeliveryRole, CardTitleRole, CardArtRole, ChipsRole});
 }
 
 void MessageModel::remove(qsizetype row) {
@@ -160,6 +160,8 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return message.text;
     case TimeRole:
         return message.at ? message.at->toLocalTime().toString(u"HH:mm"_s) : QString();
+    case DayRole:
+        return message.at ? message.at->toLocalTime().date() : QDate();
     case MemberLabelRole:
         return message.memberLabel;
     case FilesRole:
@@ -187,12 +189,20 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
 }
 
 QHash<int, QByteArray> MessageModel::roleNames() const {
-    return {
-        {MessageIdRole, "messageId"}, {WhoRole, "who"},           {BodyRole, "body"},
-        {RawTextRole, "rawText"},     {TimeRole, "time"},         {MemberLabelRole, "memberLabel"},
-        {DeliveryRole, "delivery"},   {GrowingRole, "growing"},   {CardTitleRole, "cardTitle"},
-        {CardArtRole, "cardArt"},     {OnCanvasRole, "onCanvas"}, {ChipsRole, "chips"},
-        {FilesRole, "files"}};
+    return {{MessageIdRole, "messageId"},
+            {WhoRole, "who"},
+            {BodyRole, "body"},
+            {RawTextRole, "rawText"},
+            {TimeRole, "time"},
+            {DayRole, "day"},
+            {MemberLabelRole, "memberLabel"},
+            {FilesRole, "files"},
+            {DeliveryRole, "delivery"},
+            {GrowingRole, "growing"},
+            {CardTitleRole, "cardTitle"},
+            {CardArtRole, "cardArt"},
+            {OnCanvasRole, "onCanvas"},
+            {ChipsRole, "chips"}};
 }
 
 FeedModel::FeedModel(MessageModel *messages, QObject *parent) : QSortFilterProxyModel(parent) {

@@ -90,6 +90,47 @@ QString Workspace::reportAnswer() {
 ```)"_s;
 }
 
+QString Workspace::mixedAnswer() {
+    return uR"(# Orchard invoices, state on Sunday
+
+Two of 214 invoices are blocked, for one and the same reason: the export leaves `tax_region` empty when a customer has **two addresses**. See [the export notes](https://docs.example/export) or https://docs.example/tax.
+
+| Invoice | Customer group | Amount | Days open |
+|---|---|---|---|
+| O-2214 | Schools, north | €1,240.00 | 4 |
+| O-2219 | Мастерские, юг | €385.50 | 3 |
+
+The totals by group, as they stand **now**:
+
+| Group | Total | Share of all that is open, with the reason why it is not smaller than it was in the week before | Note |
+|---|---|---|---|
+| Schools | €2,480.00 | 41% | grows by `2` a week |
+| Shops | €12,385.50 | 59% | **watch** |
+
+## What happens next
+
+- [x] Collect the affected customers
+- [ ] Fill the region from the *billing* address
+
+```sql
+update customers set tax_region = billing_region
+where tax_region = '';
+```
+
+> Nothing is sent to customers before you approve the wording.
+
+### In this order
+
+1. Stop the export
+2. Run the update in a copy of the table and compare the totals of both, since a wrong region would be worse than an empty one
+10. Start the export
+
+- A first point with `code` in it
+- A second point that is long enough to be wrapped onto a further line, so that the hanging indent shows
+---
+Done.)"_s;
+}
+
 QString Workspace::compareAnswer(const QString &firstName) {
     return uR"(Six options, monthly figures at the current load.
 

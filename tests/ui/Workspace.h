@@ -17,6 +17,8 @@ public:
     bool settle(const QString &art);
 
     static QString reportAnswer();
+    /// Every kind of block in one answer.
+    static QString mixedAnswer();
     static QString compareAnswer(const QString &firstName = QStringLiteral("Shared cluster"));
 
 private:

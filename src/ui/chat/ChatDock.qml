@@ -91,7 +91,7 @@ FocusScope {
         anchors.top: head.bottom
         anchors.bottom: composer.top
         width: parent.width
-        rows: dock.store.chat.msgs
+        messages: dock.store.chat.msgs
         scope: dock.store.scope
         compact: false
         onRetryRequested: messageId => dock.store.chat.retry(messageId)

@@ -4,7 +4,6 @@ import QtQuick
 import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
-import Kiv.Icons
 import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
@@ -13,7 +12,7 @@ import Kiv.Tokens
 FocusScope {
     id: feed
 
-    required property QtObject rows
+    required property QtObject messages
     required property ScopeRoom scope
     required property bool compact
     property bool hasOlder: false
@@ -30,24 +29,28 @@ FocusScope {
     function reveal(messageId: string): bool {
         flashed = ""
         flashed = messageId
-        return follower.reveal(messageId)
+        return view.reveal(messageId)
     }
 
     readonly property int side: compact ? 16 : 24
     readonly property real column: Math.min(width - 2 * side, 720)
+    readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
-    ListView {
+    FeedRows {
+        id: feedRows
+
+        messages: feed.messages
+        olderBefore: feed.hasOlder
+    }
+    Flickable {
         id: list
 
         objectName: feed.compact ? "compactFeed" : "dockFeed"
         anchors.fill: parent
-        model: feed.rows
-        reuseItems: true
+        contentWidth: width
         clip: true
-        cacheBuffer: 400
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
-        topMargin: feed.compact ? 4 : 20
         bottomMargin: 12
         activeFocusOnTab: true
         Accessible.role: Accessible.List
@@ -59,65 +62,158 @@ FocusScope {
             id: bar
         }
 
-        delegate: MessageDelegate {
-            required property int index
+        FeedView {
+            id: view
 
             x: Math.round((list.width - width) / 2)
             width: feed.column
-            scope: feed.scope
-            compact: feed.compact
-            first: index === 0
-            flashing: messageId === feed.flashed
-            olderBefore: index === 0 && feed.hasOlder
-            onOlderRequested: feed.olderRequested()
-            onRetryRequested: feed.retryRequested(messageId)
-            onSceneRequested: feed.sceneRequested(messageId)
-            onChipPicked: chip => feed.chipPicked(messageId, chip)
-            onEditRequested: feed.editRequested(messageId)
+            rows: feedRows
+            flickable: list
+            upperMargin: feed.compact ? -12 : 0
+            bottomUp: feed.compact
+            held: list.moving || bar.pressed
+            distance: Tokens.followDistance
+
+            FeedDelegate {
+                kind: FeedDelegate.Older
+
+                OlderLink {
+                    compact: feed.compact
+                    onClicked: feed.olderRequested()
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Day
+
+                DayLabel {
+                    compact: feed.compact
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Unread
+
+                UnreadLine {
+                    compact: feed.compact
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Head
+
+                MessageHead {
+                    compact: feed.compact
+                    scope: feed.scope
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Files
+
+                FilesRow {
+                    compact: feed.compact
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Own
+
+                OwnMessage {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Paragraph
+
+                ParagraphBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Heading
+
+                HeadingBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.List
+
+                ListBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Tasks
+
+                TaskBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Quote
+
+                QuoteBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Code
+
+                CodeBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                    onCopyRequested: Clipboard.setText(feedRows.blockText(row.messageId, row.part.block))
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Table
+
+                TableBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                    onCopyRequested: Clipboard.setText(feedRows.blockText(row.messageId, row.part.block))
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Rule
+
+                RuleBlock {
+                    compact: feed.compact
+                    flashing: row.messageId === feed.flashed
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Tail
+
+                MessageTail {
+                    compact: feed.compact
+                    hovered: row.messageId === feed.hoveredMessage
+                    onRetryRequested: feed.retryRequested(row.messageId)
+                    onSceneRequested: feed.sceneRequested(row.messageId)
+                    onChipPicked: chip => feed.chipPicked(row.messageId, chip)
+                    onEditRequested: feed.editRequested(row.messageId)
+                    onCopyRequested: Clipboard.setText(feedRows.messageText(row.messageId))
+                }
+            }
         }
     }
-    EndFollower {
-        id: follower
-
-        view: list
-        bottomUp: feed.compact
-        held: list.moving || bar.pressed
-        distance: Tokens.followDistance
+    HoverHandler {
+        id: pointer
     }
     FocusRing {
         anchors.margins: 2
         visible: list.activeFocus
         targetRadius: 0
     }
-    T.Button {
-        id: latest
-
+    JumpButton {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 16
-        implicitWidth: 36
-        implicitHeight: 36
-        visible: !follower.following
-        text: qsTr("Jump to latest")
-        Accessible.name: text
-        onClicked: follower.jump()
-
-        background: Rectangle {
-            radius: 18
-            color: latest.hovered ? Tokens.hover : Tokens.surface
-            border.width: 1
-            border.color: Tokens.line2
-
-            FocusRing {
-                visible: latest.visualFocus
-                targetRadius: 18
-            }
-        }
-
-        Icon {
-            anchors.centerIn: parent
-            name: "down"
-            color: Tokens.t2
-        }
+        visible: !view.following
+        unseen: view.unseen
+        onClicked: view.jump()
     }
 }

@@ -103,7 +103,7 @@ FocusScope {
         anchors.topMargin: rail.signedIn ? 0 : 220
         anchors.bottom: composer.top
         width: parent.width - 1
-        rows: rail.store.chat.feedMsgs
+        messages: rail.store.chat.feedMsgs
         scope: rail.store.scope
         compact: true
         hasOlder: rail.store.chat.feedMsgs.hasOlder

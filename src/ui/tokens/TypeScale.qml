@@ -12,6 +12,8 @@ QtObject {
     readonly property TypeStyle score: TypeStyle { size: 26; line: 32; weight: Font.DemiBold; tracking: -0.52 }
     readonly property TypeStyle word: TypeStyle { size: 16; line: 20; weight: Font.Bold; tracking: 0.32 }
     readonly property TypeStyle body: TypeStyle { size: 14; line: 21 }
+    readonly property TypeStyle minorHeading: TypeStyle { size: 15; line: 21; weight: Font.DemiBold }
+    readonly property TypeStyle code: TypeStyle { size: 12; line: 20 }
     readonly property TypeStyle line: TypeStyle { size: 14; line: 20 }
     readonly property TypeStyle name: TypeStyle { size: 14; line: 20; weight: Font.Medium }
     readonly property TypeStyle strong: TypeStyle { size: 14; line: 20; weight: Font.DemiBold }

@@ -1,0 +1,196 @@
+#include "text/BlockParts.h"
+
+#include <algorithm>
+
+namespace kiv::text {
+
+namespace {
+
+using Joint = BlockPart::Joint;
+
+/// What a part holds at most. A line longer than a part is cut, so nothing is ever larger.
+struct Limits {
+    qsizetype chars;
+    qsizetype lines;
+};
+
+constexpr Limits wordLimits{4000, 60};
+constexpr Limits codeLimits{12000, 200};
+constexpr Limits tableLimits{12000, 100};
+constexpr qsizetype cellLimit = 1000;
+constexpr qsizetype columnLimit = 200;
+constexpr qsizetype cellCost = 8; ///< what laying a cell out costs beside its text, in characters
+
+/// How much of a text a part takes: up to a line's end or a word's end in the second half of what
+/// fits, and never half a character.
+qsizetype fitting(QStringView text, Limits limits) {
+    qsizetype lines = 0;
+    for (qsizetype at = text.indexOf(u'\n'); at >= 0 && at < limits.chars;
+         at = text.indexOf(u'\n', at + 1)) {
+        if (++lines == limits.lines)
+            return at + 1;
+    }
+    if (text.size() <= limits.chars)
+        return text.size();
+    const QStringView head = text.first(limits.chars);
+    for (const QChar end : {u'\n', u' '}) {
+        const qsizetype at = head.lastIndexOf(end);
+        if (at > limits.chars / 2)
+            return at + 1;
+    }
+    return limits.chars - (head.back().isHighSurrogate() && text[limits.chars].isLowSurrogate());
+}
+
+struct Piece {
+    QString text;
+    Joint joint = Joint::Block;
+};
+
+QList<Piece> piecesOf(const QString &text, Limits limits) {
+    QList<Piece> pieces;
+    Joint joint = Joint::Block;
+    QStringView rest = text;
+    do {
+        const qsizetype length = fitting(rest, limits);
+        QStringView piece = rest.first(length);
+        rest = rest.sliced(length);
+        const bool isLineEnd = !rest.isEmpty() && piece.endsWith(u'\n');
+        if (isLineEnd)
+            piece.chop(1);
+        pieces.append({piece.size() == text.size() ? text : piece.toString(), joint});
+        joint = isLineEnd ? Joint::Line : Joint::Text;
+    } while (!rest.isEmpty());
+    return pieces;
+}
+
+QString &textOf(QString &line) {
+    return line;
+}
+QString &textOf(MDBlock::OrderedItem &item) {
+    return item.text;
+}
+QString &textOf(MDBlock::TaskItem &item) {
+    return item.text;
+}
+const QString &textOf(const QString &line) {
+    return line;
+}
+const QString &textOf(const MDBlock::OrderedItem &item) {
+    return item.text;
+}
+const QString &textOf(const MDBlock::TaskItem &item) {
+    return item.text;
+}
+
+/// Appends the parts of one block.
+class Cutter {
+public:
+    Cutter(QList<BlockPart> &parts, int block) : m_parts(parts), m_block(block) {}
+
+    void operator()(const MDBlock::Heading &heading) {
+        for (const Piece &piece : piecesOf(heading.text, wordLimits))
+            append(MDBlock::Heading{heading.level, piece.text}, piece.joint);
+    }
+    void operator()(const MDBlock::Paragraph &paragraph) {
+        for (const Piece &piece : piecesOf(paragraph.text, wordLimits))
+            append(MDBlock::Paragraph{piece.text}, piece.joint);
+    }
+    void operator()(const MDBlock::Bullets &bullets) { cutLines<MDBlock::Bullets>(bullets.items); }
+    void operator()(const MDBlock::Ordered &ordered) { cutLines<MDBlock::Ordered>(ordered.items); }
+    void operator()(const MDBlock::Tasks &tasks) { cutLines<MDBlock::Tasks>(tasks.items); }
+    void operator()(const MDBlock::Quote &quote) { cutLines<MDBlock::Quote>(quote.lines); }
+    void operator()(const MDBlock::Code &code) {
+        for (const Piece &piece : piecesOf(code.text, codeLimits))
+            append(MDBlock::Code{piece.text}, piece.joint);
+    }
+    void operator()(const MDBlock::Table &table) {
+        const QStringList header = boundedCells(table.header);
+        MDBlock::Table part{header, {}};
+        qsizetype chars = 0;
+        Joint joint = Joint::Block;
+        for (const QStringList &row : table.rows) {
+            const QStringList cells = boundedCells(row);
+            qsizetype length = cells.size() * cellCost;
+            for (const QString &cell : cells)
+                length += cell.size();
+            const bool isFull =
+                part.rows.size() == tableLimits.lines || chars + length > tableLimits.chars;
+            if (!part.rows.isEmpty() && isFull) {
+                append(std::exchange(part, {header, {}}), joint);
+                joint = Joint::Line;
+                chars = 0;
+            }
+            part.rows.append(cells);
+            chars += length;
+        }
+        append(std::move(part), joint);
+    }
+    void operator()(const MDBlock::Rule &rule) { append(rule, Joint::Block); }
+
+private:
+    /// Not inlined, for GCC would then take the members of a copied variant for uninitialised.
+    Q_NEVER_INLINE void append(const MDBlock::Kind &content, Joint joint) {
+        if (joint != Joint::Block)
+            m_parts.last().ends = false;
+        m_parts.append(BlockPart{content, joint, m_block, true});
+    }
+
+    /// A cell shows its first thousand characters; copying the table takes them all.
+    static QStringList boundedCells(const QStringList &cells) {
+        QStringList bounded = cells.first(std::min(cells.size(), columnLimit));
+        for (QString &cell : bounded) {
+            if (cell.size() > cellLimit)
+                cell = cell.first(fitting(cell, {cellLimit, 1})) + u'…';
+        }
+        return bounded;
+    }
+
+    template <typename Block, typename Line>
+    void cutLines(const QList<Line> &lines) {
+        qsizetype first = 0;
+        qsizetype chars = 0;
+        Joint joint = Joint::Block;
+        const auto flush = [&](qsizetype end) {
+            if (end > first)
+                append(Block{lines.sliced(first, end - first)}, std::exchange(joint, Joint::Line));
+            first = end;
+            chars = 0;
+        };
+        for (qsizetype i = 0; i < lines.size(); ++i) {
+            const qsizetype length = textOf(lines.at(i)).size();
+            if (i - first == wordLimits.lines || chars + length > wordLimits.chars)
+                flush(i);
+            chars += length;
+            if (length <= wordLimits.chars)
+                continue;
+            for (const Piece &piece : piecesOf(textOf(lines.at(i)), wordLimits)) {
+                Line line = lines.at(i);
+                textOf(line) = piece.text;
+                append(Block{{line}}, piece.joint == Joint::Block ? joint : piece.joint);
+            }
+            joint = Joint::Line;
+            first = i + 1;
+            chars = 0;
+        }
+        flush(lines.size());
+    }
+
+    QList<BlockPart> &m_parts;
+    int m_block;
+};
+
+} // namespace
+
+QList<BlockPart> partsOf(const QList<MDBlock> &blocks) {
+    QList<BlockPart> parts;
+    parts.reserve(blocks.size());
+    for (qsizetype i = 0; i < blocks.size(); ++i)
+        std::visit(Cutter(parts, static_cast<int>(i)), blocks.at(i).kind);
+    return parts;
+}
+
+QList<BlockPart> plainParts(const QString &text) {
+    return partsOf({MDBlock{{}, MDBlock::Paragraph{text}}});
+}
+
+} // namespace kiv::text

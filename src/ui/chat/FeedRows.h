@@ -1,0 +1,79 @@
+#pragma once
+
+#include "ui/chat/FeedRow.h"
+
+#include <QAbstractListModel>
+#include <QDate>
+#include <QPointer>
+
+namespace kiv::ui {
+
+/// The rows of a feed: each message as its head, the blocks of its text and what goes with it, with
+/// the days between. A message that changes tells of the rows that changed, and of no others: an
+/// answer that grows is laid out at its end alone.
+class FeedRows : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    /// The model of the messages.
+    Q_PROPERTY(QObject *messages READ messages WRITE setMessages NOTIFY messagesChanged)
+    /// A link to older messages stands first.
+    Q_PROPERTY(bool olderBefore READ hasOlderBefore WRITE setOlderBefore NOTIFY olderBeforeChanged)
+    /// The first message that the person has not seen; empty for none.
+    Q_PROPERTY(QString unreadFrom READ unreadFrom WRITE setUnreadFrom NOTIFY unreadFromChanged)
+    Q_PROPERTY(QDate today READ today WRITE setToday NOTIFY todayChanged)
+public:
+    enum Role { RowRole = Qt::UserRole + 1 };
+
+    using QAbstractListModel::QAbstractListModel;
+
+    QObject *messages() const { return m_messages; }
+    void setMessages(QObject *model);
+    bool hasOlderBefore() const { return m_olderBefore; }
+    void setOlderBefore(bool older);
+    QString unreadFrom() const { return m_unreadFrom; }
+    void setUnreadFrom(const QString &messageId);
+    QDate today() const { return m_today; }
+    void setToday(const QDate &today);
+
+    const FeedRow &at(int row) const;
+    /// The rows of a message, from the first to behind the last; none for a stranger.
+    std::pair<int, int> rowsOf(const QString &messageId) const;
+    QString lastMessage() const;
+    /// How many messages stand behind this one.
+    int messagesAfter(const QString &messageId) const;
+    /// The words of a message as it was written, marks and all.
+    Q_INVOKABLE QString messageText(const QString &messageId) const;
+    /// What copying one block of a message gives: code as it is, a table with tabs between cells.
+    Q_INVOKABLE QString blockText(const QString &messageId, int block) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+Q_SIGNALS:
+    void messagesChanged();
+    void olderBeforeChanged();
+    void unreadFromChanged();
+    void todayChanged();
+
+private:
+    void reset();
+    void insertMessages(int first, int last);
+    void removeMessages(int first, int last);
+    void refresh(int message);
+    void exchange(int message, const QList<FeedRow> &rows);
+    QList<FeedRow> build(int message) const;
+    QString dayLabel(int message) const;
+    void sumUp(int from);
+    QVariant field(int message, int role) const;
+    int messageOf(const QString &messageId) const;
+
+    QPointer<QAbstractItemModel> m_messages;
+    QList<QList<FeedRow>> m_rows; ///< of each message
+    QList<int> m_starts{0};       ///< the first row of each message, and the count of all
+    bool m_olderBefore = false;
+    QString m_unreadFrom;
+    QDate m_today = QDate::currentDate();
+};
+
+} // namespace kiv::ui

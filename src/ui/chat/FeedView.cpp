@@ -1,0 +1,389 @@
+#include "ui/chat/FeedView.h"
+
+#include "ui/chat/RowEstimate.h"
+
+#include <QQuickWindow>
+
+#include <algorithm>
+
+namespace kiv::ui {
+
+namespace {
+
+/// What is laid out above and below what is in sight.
+constexpr double reserve = 160;
+constexpr double revealMargin = 16;
+/// How often heights may turn out to be other than estimated before the rest waits for a frame.
+constexpr int mostPasses = 8;
+constexpr qsizetype mostSpare = 16;
+
+} // namespace
+
+FeedView::FeedView(QQuickItem *parent) : QQuickItem(parent) {
+    connect(this, &FeedView::bottomUpChanged, this, &QQuickItem::polish);
+    connect(this, &FeedView::upperMarginChanged, this, &QQuickItem::polish);
+}
+
+void FeedView::setRows(FeedRows *rows) {
+    if (m_rows == rows)
+        return;
+    if (m_rows)
+        m_rows->disconnect(this);
+    m_rows = rows;
+    if (rows) {
+        connect(rows, &FeedRows::modelReset, this, &FeedView::reset);
+        connect(rows, &FeedRows::rowsInserted, this,
+                [this](const QModelIndex &, int first, int last) { insertRows(first, last); });
+        connect(rows, &FeedRows::rowsRemoved, this,
+                [this](const QModelIndex &, int first, int last) { removeRows(first, last); });
+        connect(rows, &FeedRows::dataChanged, this,
+                [this](const QModelIndex &first, const QModelIndex &last) {
+                    changeRows(first.row(), last.row());
+                });
+    }
+    reset();
+    Q_EMIT rowsChanged();
+}
+
+void FeedView::setFlickable(QQuickItem *flickable) {
+    if (m_flickable == flickable)
+        return;
+    if (m_flickable)
+        m_flickable->disconnect(this);
+    m_flickable = flickable;
+    if (flickable) {
+        // The signals are those of a flickable, whose class is not public.
+        connect(flickable, SIGNAL(contentYChanged()), this, SLOT(viewMoved()));
+        connect(flickable, SIGNAL(heightChanged()), this, SLOT(viewMoved()));
+    }
+    Q_EMIT flickableChanged();
+    polish();
+}
+
+void FeedView::componentComplete() {
+    QQuickItem::componentComplete();
+    reset();
+}
+
+void FeedView::geometryChange(const QRectF &now, const QRectF &before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.width() == before.width() || !isComponentComplete() || !m_flickable)
+        return;
+    // Every height is another one now; the row at the upper edge stays there.
+    const int anchor = anchorRow();
+    const double place = m_origin + m_heights.top(anchor);
+    estimateAll();
+    m_origin = place - m_heights.top(anchor);
+    for (const auto &[row, shown] : m_shown)
+        shown.item->setWidth(width());
+    polish();
+}
+
+void FeedView::estimateAll() {
+    QList<double> heights;
+    const int count = m_rows ? m_rows->rowCount() : 0;
+    heights.reserve(count);
+    for (int row = 0; row < count; ++row)
+        heights.append(estimate(row));
+    m_heights.assign(std::move(heights));
+}
+
+double FeedView::estimate(int row) const {
+    return estimatedHeight(m_rows->at(row), width());
+}
+
+void FeedView::reset() {
+    if (!isComponentComplete())
+        return;
+    giveBackOutside(0, 0);
+    m_origin = 0;
+    estimateAll();
+    setFollowing(true);
+    polish();
+}
+
+void FeedView::insertRows(int first, int last) {
+    QList<double> heights;
+    double sum = 0;
+    for (int row = first; row <= last; ++row) {
+        heights.append(estimate(row));
+        sum += heights.last();
+    }
+    const bool isAbove = m_heights.count() > 0 && first <= anchorRow();
+    m_heights.insert(first, heights);
+    if (isAbove)
+        m_origin -= sum;
+    moveShown(first, last - first + 1);
+    if (!m_following)
+        countUnseen();
+    polish();
+}
+
+void FeedView::removeRows(int first, int last) {
+    const int anchor = anchorRow();
+    if (first < anchor)
+        m_origin += m_heights.top(std::min(last + 1, anchor)) - m_heights.top(first);
+    for (int row = first; row <= last; ++row) {
+        if (const auto shown = m_shown.find(row); shown != m_shown.end()) {
+            giveBack(shown->second);
+            m_shown.erase(shown);
+        }
+    }
+    m_heights.remove(first, last - first + 1);
+    moveShown(last + 1, first - last - 1);
+    if (!m_following)
+        countUnseen();
+    polish();
+}
+
+void FeedView::changeRows(int first, int last) {
+    for (int row = first; row <= last; ++row) {
+        const auto shown = m_shown.find(row);
+        if (shown == m_shown.end())
+            setRowHeight(row, estimate(row));
+        else
+            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->at(row)));
+    }
+    polish();
+}
+
+/// The items from the row `from` on belong to the row that is `by` further down.
+void FeedView::moveShown(int from, int by) {
+    std::map<int, Shown> moved;
+    for (const auto &[row, shown] : m_shown)
+        moved.emplace(row < from ? row : row + by, shown);
+    m_shown = std::move(moved);
+}
+
+/// A row above what is in sight grows upwards.
+void FeedView::setRowHeight(int row, double height) {
+    const double change = height - m_heights.height(row);
+    if (change == 0)
+        return;
+    if (row < anchorRow())
+        m_origin -= change;
+    m_heights.set(row, height);
+}
+
+void FeedView::rowGrew() {
+    if (!m_layingOut)
+        polish();
+}
+
+void FeedView::updatePolish() {
+    if (!m_flickable || !m_rows)
+        return;
+    m_layingOut = true;
+    const bool isMoved = m_following && !m_held;
+    bool isSettled = false;
+    int first = 0;
+    int last = 0;
+    for (int pass = 0; pass < mostPasses && !isSettled; ++pass) {
+        setExtents();
+        if (isMoved)
+            moveTo(end());
+        isSettled = true;
+        first = m_heights.rowAt(top() - reserve - m_origin);
+        const double lower = top() + m_flickable->height() + reserve;
+        for (last = first; last < m_heights.count(); ++last) {
+            if (m_origin + m_heights.top(last) > lower)
+                break;
+            const double height = itemOf(last)->implicitHeight();
+            if (height != m_heights.height(last)) {
+                setRowHeight(last, height);
+                isSettled = false;
+            }
+        }
+    }
+    giveBackOutside(first, last);
+    if (!m_held)
+        moveOrigin();
+    for (const auto &[row, shown] : m_shown)
+        shown.item->setY(m_origin + m_heights.top(row));
+    m_layingOut = false;
+    if (!isSettled)
+        polish();
+}
+
+void FeedView::setExtents() {
+    const double height = m_origin + m_heights.total();
+    double margin = m_upperMargin - m_origin;
+    if (m_bottomUp)
+        margin = std::max(margin, m_flickable->height() - height - number("bottomMargin"));
+    setNumber("topMargin", margin);
+    setNumber("contentHeight", height);
+}
+
+double FeedView::end() const {
+    const double end =
+        m_origin + m_heights.total() + number("bottomMargin") - m_flickable->height();
+    return std::max(end, -number("topMargin"));
+}
+
+double FeedView::number(const char *property) const {
+    return m_flickable->property(property).toDouble();
+}
+
+void FeedView::setNumber(const char *property, double value) {
+    if (number(property) != value)
+        m_flickable->setProperty(property, value);
+}
+
+void FeedView::moveTo(double place) {
+    setNumber("contentY", std::max(place, -number("topMargin")));
+}
+
+/// Puts the first row back to where the content begins, and the view with it.
+void FeedView::moveOrigin() {
+    const double by = -std::exchange(m_origin, 0);
+    if (by == 0)
+        return;
+    const double place = top() + by;
+    // The content is made larger before the view moves and smaller after it, so that the view never
+    // meets its bounds.
+    if (by > 0)
+        setNumber("contentHeight", m_heights.total());
+    else
+        setNumber("topMargin", number("topMargin") - by);
+    moveTo(place);
+    setExtents();
+}
+
+QQuickItem *FeedView::itemOf(int row) {
+    if (const auto shown = m_shown.find(row); shown != m_shown.end())
+        return shown->second.item;
+    const Shown taken = take(row);
+    const auto place = m_shown.emplace(row, taken).first;
+    // The tab key goes through items in the order in which they stack.
+    if (const auto below = std::next(place); below != m_shown.end())
+        taken.item->stackBefore(below->second.item);
+    else if (place != m_shown.begin())
+        taken.item->stackAfter(std::prev(place)->second.item);
+    return taken.item;
+}
+
+FeedView::Shown FeedView::take(int row) {
+    const FeedRow &content = m_rows->at(row);
+    const QVariant value = QVariant::fromValue(content);
+    QList<QQuickItem *> &spare = m_spare[content.kind];
+    if (!spare.isEmpty()) {
+        QQuickItem *item = spare.takeLast();
+        item->setWidth(width());
+        item->setProperty("row", value);
+        item->setVisible(true);
+        return {item, content.kind};
+    }
+    const auto delegate = std::ranges::find(m_delegates, content.kind, &FeedDelegate::kind);
+    QObject *made = nullptr;
+    if (delegate != m_delegates.end()) {
+        QQmlComponent &view = *(*delegate)->view;
+        made = view.createWithInitialProperties(
+            {{QStringLiteral("row"), value}, {QStringLiteral("width"), width()}},
+            view.creationContext());
+        if (!made)
+            qWarning("QML: %s", qPrintable(view.errorString()));
+    }
+    auto *item = qobject_cast<QQuickItem *>(made);
+    if (!item)
+        item = new QQuickItem;
+    item->setParent(this);
+    item->setParentItem(this);
+    connect(item, &QQuickItem::implicitHeightChanged, this, &FeedView::rowGrew);
+    return {item, content.kind};
+}
+
+void FeedView::giveBack(const Shown &shown) {
+    QList<QQuickItem *> &spare = m_spare[shown.kind];
+    if (spare.size() == mostSpare) {
+        shown.item->deleteLater();
+        return;
+    }
+    shown.item->setVisible(false);
+    spare.append(shown.item);
+}
+
+void FeedView::giveBackOutside(int first, int last) {
+    const QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    std::erase_if(m_shown, [&](const auto &entry) {
+        const auto &[row, shown] = entry;
+        // What holds a selection keeps it while it is out of sight.
+        if ((row >= first && row < last) || (last > 0 && shown.item->isAncestorOf(focused)))
+            return false;
+        giveBack(shown);
+        return true;
+    });
+}
+
+void FeedView::setHeld(bool held) {
+    if (std::exchange(m_held, held) == held)
+        return;
+    Q_EMIT heldChanged();
+    viewMoved();
+}
+
+void FeedView::viewMoved() {
+    if (m_layingOut || !m_flickable)
+        return;
+    if (m_held) {
+        setFollowing(end() - top() <= m_distance);
+        if (top() <= m_origin + m_distance)
+            Q_EMIT topReached();
+    }
+    polish();
+}
+
+void FeedView::jump() {
+    setFollowing(true);
+    polish();
+}
+
+void FeedView::goToTop() {
+    setFollowing(false);
+    moveTo(-number("topMargin"));
+    Q_EMIT topReached();
+}
+
+bool FeedView::reveal(const QString &messageId) {
+    const auto [first, last] = m_rows ? m_rows->rowsOf(messageId) : std::pair(0, 0);
+    if (first == last)
+        return false;
+    setFollowing(false);
+    // Rows on the way may turn out to be higher than estimated.
+    for (int pass = 0; pass < 2; ++pass) {
+        const double upper = m_origin + m_heights.top(first) - revealMargin;
+        const double lower = m_origin + m_heights.top(last) + revealMargin;
+        const double height = m_flickable->height();
+        if (upper < top() || lower - upper > height)
+            moveTo(std::min(upper, end()));
+        else if (lower > top() + height)
+            moveTo(std::min(lower - height, end()));
+        updatePolish();
+    }
+    return true;
+}
+
+QString FeedView::messageAt(double y) const {
+    const double place = y - m_origin;
+    if (place < 0 || place >= m_heights.total())
+        return {};
+    return m_rows->at(m_heights.rowAt(place)).messageId;
+}
+
+void FeedView::setFollowing(bool following) {
+    if (std::exchange(m_following, following) == following)
+        return;
+    m_seen = following || !m_rows ? QString() : m_rows->lastMessage();
+    Q_EMIT followingChanged();
+    countUnseen();
+}
+
+void FeedView::countUnseen() {
+    // Another conversation has come in the place of the one that was read.
+    if (!m_following && m_rows->rowsOf(m_seen).second == 0)
+        setFollowing(true);
+    const int unseen = m_following ? 0 : m_rows->messagesAfter(m_seen);
+    if (std::exchange(m_unseen, unseen) != unseen)
+        Q_EMIT unseenChanged();
+}
+
+} // namespace kiv::ui

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "ui/chat/FeedRows.h"
+#include "ui/chat/RowHeights.h"
+
+#include <QQmlListProperty>
+#include <QQuickItem>
+
+#include <map>
+
+namespace kiv::ui {
+
+/// Lays the rows of a feed out in a flickable: only those in sight have items, which go from row to
+/// row of their kind. Rows that are out of sight have an estimated height until they come into it.
+///
+/// The view follows the end of what grows, as long as the person has not scrolled further than
+/// `distance` away from it. Otherwise what is at its upper edge stays there, whatever changes above
+/// or below. Lengths are device-independent pixels.
+class FeedView : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_CLASSINFO("DefaultProperty", "delegates")
+    Q_PROPERTY(QQmlListProperty<kiv::ui::FeedDelegate> delegates READ delegates)
+    Q_PROPERTY(kiv::ui::FeedRows *rows READ rows WRITE setRows NOTIFY rowsChanged REQUIRED)
+    Q_PROPERTY(
+        QQuickItem *flickable READ flickable WRITE setFlickable NOTIFY flickableChanged REQUIRED)
+    Q_PROPERTY(double distance MEMBER m_distance NOTIFY distanceChanged REQUIRED)
+    /// Above the first row.
+    Q_PROPERTY(double upperMargin MEMBER m_upperMargin NOTIFY upperMarginChanged REQUIRED)
+    /// Rows that do not fill the view sit at its lower edge.
+    Q_PROPERTY(bool bottomUp MEMBER m_bottomUp NOTIFY bottomUpChanged)
+    /// The person moves the view now: it is not moved under their hand.
+    Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
+    Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
+    /// How many messages came while the view did not follow them.
+    Q_PROPERTY(int unseen READ unseen NOTIFY unseenChanged)
+public:
+    explicit FeedView(QQuickItem *parent = nullptr);
+
+    QQmlListProperty<FeedDelegate> delegates() { return {this, &m_delegates}; }
+    FeedRows *rows() const { return m_rows; }
+    void setRows(FeedRows *rows);
+    QQuickItem *flickable() const { return m_flickable; }
+    void setFlickable(QQuickItem *flickable);
+    bool isHeld() const { return m_held; }
+    void setHeld(bool held);
+    bool isFollowing() const { return m_following; }
+    int unseen() const { return m_unseen; }
+
+    /// Goes to the end and follows it again.
+    Q_INVOKABLE void jump();
+    /// Goes to the first row.
+    Q_INVOKABLE void goToTop();
+    /// Brings a message into view; false when the feed does not have it.
+    Q_INVOKABLE bool reveal(const QString &messageId);
+    /// The message at `y` of the view's own; empty for none.
+    Q_INVOKABLE QString messageAt(double y) const;
+
+Q_SIGNALS:
+    void rowsChanged();
+    void flickableChanged();
+    void distanceChanged();
+    void upperMarginChanged();
+    void bottomUpChanged();
+    void heldChanged();
+    void followingChanged();
+    void unseenChanged();
+    /// The person has scrolled up to the first row.
+    void topReached();
+
+protected:
+    void componentComplete() override;
+    void geometryChange(const QRectF &now, const QRectF &before) override;
+    void updatePolish() override;
+
+private Q_SLOTS:
+    void viewMoved();
+    void rowGrew();
+
+private:
+    struct Shown {
+        QQuickItem *item = nullptr;
+        FeedDelegate::Kind kind = FeedDelegate::Paragraph;
+    };
+
+    void reset();
+    void insertRows(int first, int last);
+    void removeRows(int first, int last);
+    void changeRows(int first, int last);
+    void moveShown(int from, int by);
+    double estimate(int row) const;
+    void estimateAll();
+
+    double number(const char *property) const;
+    void setNumber(const char *property, double value);
+    /// The upper edge of what is in sight, and where it is when the last row is.
+    double top() const { return number("contentY"); }
+    double end() const;
+    int anchorRow() const { return m_heights.rowAt(top() - m_origin); }
+    void setRowHeight(int row, double height);
+    void setExtents();
+    void moveTo(double place);
+    void moveOrigin();
+
+    QQuickItem *itemOf(int row);
+    Shown take(int row);
+    void giveBack(const Shown &shown);
+    void giveBackOutside(int first, int last);
+    void setFollowing(bool following);
+    void countUnseen();
+
+    QList<FeedDelegate *> m_delegates;
+    QPointer<FeedRows> m_rows;
+    QPointer<QQuickItem> m_flickable;
+    double m_distance = 0;
+    double m_upperMargin = 0;
+    bool m_bottomUp = false;
+    bool m_held = false;
+    bool m_following = true;
+    int m_unseen = 0;
+    QString m_seen; ///< the last message when the view ceased to follow
+
+    RowHeights m_heights;
+    /// Where the first row begins. It goes up when rows above those in sight turn out to be higher
+    /// than estimated, so that nothing in sight moves.
+    double m_origin = 0;
+    std::map<int, Shown> m_shown; ///< by row
+    QHash<FeedDelegate::Kind, QList<QQuickItem *>> m_spare;
+    bool m_layingOut = false;
+};
+
+} // namespace kiv::ui

@@ -1,0 +1,82 @@
+import QtQuick
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Scene
+import Kiv.Store
+import Kiv.Tokens
+
+// What goes with a message: the card of its scene, that it was not sent, and what can be done with it.
+FocusScope {
+    id: tail
+
+    required property feedRow row
+    required property bool compact
+    property bool hovered: false
+
+    signal retryRequested()
+    signal sceneRequested()
+    signal copyRequested()
+    signal editRequested()
+    signal chipPicked(chip: replyChip)
+
+    readonly property int indent: compact || row.mine ? 0 : 40
+    readonly property bool hasCard: row.cardArt !== ""
+    readonly property bool failed: row.delivery === Store.Delivery.Failed
+
+    implicitHeight: (hasCard ? 6 + card.height : 0) + (replies.visible ? 6 + replies.height : 0)
+        + (failed ? 6 + again.height : 0)
+    z: 1
+
+    CanvasCard {
+        id: card
+
+        x: tail.indent
+        y: 6
+        width: tail.width - x
+        visible: tail.hasCard
+        title: tail.row.cardTitle
+        art: tail.row.cardArt
+        shown: tail.row.onCanvas
+        onClicked: tail.sceneRequested()
+    }
+    ReplyChips {
+        id: replies
+
+        x: tail.indent
+        y: (tail.hasCard ? 6 + card.height : 0) + 6
+        width: tail.width - x
+        chips: tail.row.chips
+        onPicked: chip => tail.chipPicked(chip)
+    }
+    TextLink {
+        id: again
+
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        visible: tail.failed
+        color: Tokens.dangerText
+        text: qsTr("Not sent. Try again")
+        onClicked: tail.retryRequested()
+    }
+    IconButton {
+        x: tail.indent - 4
+        y: tail.height - 4
+        visible: !tail.compact && !tail.row.mine && !tail.row.growing && tail.hovered
+        size: 28
+        iconSize: 16
+        iconName: "copy"
+        text: qsTr("Copy the message")
+        onClicked: tail.copyRequested()
+    }
+    IconButton {
+        objectName: "editButton"
+        x: tail.width - width + 4
+        y: tail.height - 4
+        visible: tail.row.mine && tail.row.delivery !== Store.Delivery.Pending && tail.hovered
+        size: 28
+        iconSize: 16
+        iconName: "edit"
+        text: qsTr("Edit")
+        onClicked: tail.editRequested()
+    }
+}

@@ -1,0 +1,160 @@
+#include "ui/markdown/BlockText.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QClipboard>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextLayout>
+
+#include <cmath>
+
+namespace kiv::ui {
+
+using text::MDBlock;
+
+namespace {
+
+/// Of the ground of inline code, above and below its letters.
+constexpr double codeMargin = 1;
+/// Code grows in steps of this width, so that a line that is being written does not lay out all
+/// others at every word.
+constexpr double codeStep = 160;
+
+/// The grounds of the characters from `start` to `end` of a block, line by line.
+void addChips(QList<QRectF> &chips, const QTextBlock &block, int start, int end,
+              const QFontMetricsF &metrics) {
+    const QTextLayout *layout = block.layout();
+    const QPointF origin = layout->position();
+    while (start < end) {
+        const QTextLine line = layout->lineForTextPosition(start);
+        if (!line.isValid())
+            return;
+        const int lineEnd = std::min(end, line.textStart() + line.textLength());
+        const double left = line.cursorToX(start);
+        const double right = line.cursorToX(lineEnd);
+        const double baseline = origin.y() + line.y() + line.ascent();
+        chips.append({origin.x() + std::min(left, right) - DocumentWriter::codeInset,
+                      std::round(baseline - metrics.ascent()) - codeMargin,
+                      std::abs(right - left) + DocumentWriter::codeInset,
+                      std::ceil(metrics.ascent() + metrics.descent()) + 2 * codeMargin});
+        start = std::max(lineEnd, start + 1);
+    }
+}
+
+void addChips(QList<QRectF> &chips, const QTextBlock &block, const QFontMetricsF &metrics) {
+    int start = -1;
+    int end = -1;
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        if (!DocumentWriter::isCode(fragment.charFormat()))
+            continue;
+        const int at = fragment.position() - block.position();
+        if (at != end) {
+            addChips(chips, block, start, end, metrics);
+            start = at;
+        }
+        end = at + fragment.length();
+    }
+    addChips(chips, block, start, end, metrics);
+}
+
+QRectF endOf(const QTextBlock &block) {
+    const QTextLayout *layout = block.layout();
+    const QTextLine line = layout->lineForTextPosition(block.length() - 1);
+    if (!line.isValid())
+        return {};
+    const QPointF place =
+        layout->position() + QPointF(line.cursorToX(block.length() - 1), line.y());
+    return {place, QSizeF(0, line.ascent() + line.descent())};
+}
+
+} // namespace
+
+void BlockText::setDocument(QQuickTextDocument *document) {
+    if (m_document == document)
+        return;
+    m_document = document;
+    m_writer.setDocument(document ? document->textDocument() : nullptr);
+    Q_EMIT changed();
+}
+
+void BlockText::setPart(const MarkdownPart &part) {
+    const bool isSame = m_part.content == part.content && m_part.joint == part.joint;
+    m_part = part;
+    if (!isSame)
+        Q_EMIT changed();
+}
+
+void BlockText::componentComplete() {
+    QQuickItem::componentComplete();
+    connect(this, &BlockText::changed, this, &BlockText::write);
+    write();
+}
+
+void BlockText::write() {
+    QList<TextLine> lines;
+    if (m_plain) {
+        lines = plainLines(std::get<MDBlock::Paragraph>(m_part.content).text);
+        measure(lines);
+    } else if (std::holds_alternative<MDBlock::Table>(m_part.content)) {
+        lines = m_columns.lines(m_part, m_font, m_look, m_available);
+    } else {
+        lines = textLines(m_part, m_font);
+    }
+    if (m_writer.write(std::move(lines), m_look))
+        polish();
+}
+
+void BlockText::measure(const QList<TextLine> &lines) {
+    const QFontMetricsF metrics(m_font);
+    double width = 0;
+    for (const TextLine &line : lines) {
+        for (const TextRun &run : line.runs)
+            width = std::max(width, metrics.horizontalAdvance(run.text));
+    }
+    // A pixel to spare, so that rounding never breaks a line.
+    width = std::ceil(width) + 1;
+    if (std::exchange(m_naturalWidth, width) != width)
+        Q_EMIT widthMeasured();
+}
+
+void BlockText::geometryChange(const QRectF &now, const QRectF &before) {
+    QQuickItem::geometryChange(now, before);
+    polish();
+}
+
+void BlockText::updatePolish() {
+    if (!m_document)
+        return;
+    const QTextDocument *text = m_document->textDocument();
+    const bool isTable = std::holds_alternative<MDBlock::Table>(m_part.content);
+    QFont codeFont(m_look.codeFamily);
+    codeFont.setPixelSize(m_look.codeSize);
+    const QFontMetricsF metrics(codeFont);
+    QList<QRectF> chips;
+    QList<double> tops = isTable ? m_columns.rowTops() : QList<double>();
+    for (QTextBlock block = text->begin(); block.isValid(); block = block.next()) {
+        if (!isTable)
+            tops.append(text->documentLayout()->blockBoundingRect(block).top());
+        addChips(chips, block, metrics);
+    }
+    const QRectF end = endOf(text->lastBlock());
+    if (chips != m_chips || tops != m_tops || end != m_end) {
+        m_chips = std::move(chips);
+        m_tops = std::move(tops);
+        m_end = end;
+        Q_EMIT placesChanged();
+    }
+    const double width =
+        isTable ? m_columns.width() : std::ceil(text->idealWidth() / codeStep) * codeStep;
+    if (std::exchange(m_unwrappedWidth, width) != width)
+        Q_EMIT widthMeasured();
+}
+
+void BlockText::copyCells(int start, int end) const {
+    QGuiApplication::clipboard()->setText(m_columns.cells(start, end));
+}
+
+} // namespace kiv::ui

@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kiv.Markdown
+import Kiv.Tokens
+
+// The words of a part of a block: they can be selected and copied, and their links opened.
+TextEdit {
+    id: words
+
+    required property markdownPart part
+    required property TypeStyle style
+    property bool plain: false
+    property bool growing: false
+    /// What a table can spread over before it scrolls.
+    property alias available: filler.available
+    readonly property alias tops: filler.tops
+    readonly property alias naturalWidth: filler.naturalWidth
+    readonly property alias unwrappedWidth: filler.unwrappedWidth
+
+    function copyCells() {
+        filler.copyCells(selectionStart, selectionEnd)
+    }
+
+    // A document puts what a line has beyond its letters above them: half of it goes below.
+    topPadding: -Math.round(style.lead)
+    bottomPadding: -topPadding
+    readOnly: true
+    selectByMouse: true
+    textFormat: TextEdit.PlainText
+    wrapMode: TextEdit.Wrap
+    font.family: Tokens.family
+    font.pixelSize: style.size
+    font.weight: style.weight
+    font.letterSpacing: style.tracking
+    color: Tokens.t1
+    selectionColor: Tokens.selection
+    selectedTextColor: Tokens.t1
+    onLinkActivated: link => Qt.openUrlExternally(link)
+
+    HoverHandler {
+        id: pointer
+
+        cursorShape: words.hoveredLink !== "" ? Qt.PointingHandCursor : Qt.IBeamCursor
+    }
+    BlockText {
+        id: filler
+
+        width: words.width
+        height: words.height
+        document: words.textDocument
+        part: words.part
+        plain: words.plain
+        font: words.font
+        lineHeight: words.style.line
+        linkColor: Tokens.accentText
+        faintColor: Tokens.t3
+        codeFamily: Tokens.codeFamily
+    }
+    Repeater {
+        model: filler.chips.length
+
+        Rectangle {
+            required property int index
+
+            readonly property rect place: filler.chips[index] ?? Qt.rect(0, 0, 0, 0)
+
+            z: -1
+            x: place.x
+            y: place.y + words.topPadding
+            width: place.width
+            height: place.height
+            radius: Tokens.radiusSmall
+            color: Tokens.sunken
+        }
+    }
+    Rectangle {
+        visible: words.growing
+        x: Math.min(filler.end.x + (words.length > 0 ? 5 : 0), words.width - width)
+        y: words.topPadding + filler.end.y + (filler.end.height - height) / 2
+        width: 8
+        height: 8
+        radius: 4
+        color: Tokens.accentText
+
+        SequentialAnimation on opacity {
+            running: words.growing && words.visible && !Tokens.reducedMotion
+            loops: Animation.Infinite
+
+            NumberAnimation { to: 0.55; duration: Tokens.breathe / 2; easing.type: Easing.InOutSine }
+            NumberAnimation { to: 1; duration: Tokens.breathe / 2; easing.type: Easing.InOutSine }
+        }
+    }
+    LinkTip {
+        link: words.hoveredLink
+        place: pointer.point.position
+        line: words.style.line
+    }
+}
