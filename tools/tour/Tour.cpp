@@ -1,7 +1,7 @@
 #include "Tour.h"
 
 #include <QElapsedTimer>
-#include <QTest>
+#include <QFile>
 
 #include <cstdio>
 
@@ -21,9 +21,20 @@ constexpr auto entrance = 900ms;
 
 QList<Stop> stops() {
     return {
-        {u"Weekly report"_s, u"report"_s, u"report"_s},
-        {u"Compare the hosting options"_s, u"compare"_s, u"compare"_s},
-        {u"Where are we against the plan?"_s, u"compare"_s, u"figures-as-table"_s},
+        {u"Weekly report"_s, u"report"_s},
+        {u"Compare the hosting options"_s, u"compare"_s},
+        {u"Should we build or buy invoicing?"_s, u"decision"_s},
+        {u"Who does what for the release?"_s, u"agents"_s},
+        {u"Where are we against the plan?"_s, u"status"_s},
+        {u"How is the trial funnel?"_s, u"funnel"_s},
+        {u"What does one invoice cost us?"_s, u"unit"_s},
+        {u"What needs me today?"_s, u"brief"_s},
+        {u"Show the retro"_s, u"retro"_s},
+        {u"Where does the money go?"_s, u"costs"_s},
+        {u"Cash flow of the last months"_s, u"cashflow"_s},
+        {u"How are the goals?"_s, u"okr"_s},
+        {u"Who is overloaded?"_s, u"workload"_s},
+        {u"Are we within budget?"_s, u"budget"_s},
     };
 }
 
@@ -39,7 +50,7 @@ bool Tour::take() {
     bool all = true;
     for (const Stop &stop : stops())
         all = visit(stop) && all;
-    return all;
+    return converse() && all;
 }
 
 bool Tour::signUp() {
@@ -68,28 +79,72 @@ bool Tour::signUp() {
     return true;
 }
 
-bool Tour::visit(const Stop &stop) {
-    store::CanvasRoom *canvas = m_application.store().canvas();
+bool Tour::ask(const QString &question) {
     if (!m_driver.click(u"askField"_s))
         return false;
-    m_driver.type(stop.question);
+    m_driver.type(question);
     m_driver.press(Qt::Key_Return);
+    return true;
+}
+
+bool Tour::visit(const Stop &stop) {
+    store::CanvasRoom *canvas = m_application.store().canvas();
+    if (!ask(stop.question))
+        return false;
     QElapsedTimer sinceReturn;
     sinceReturn.start();
     m_driver.waitFor([&] { return canvas->phase() == store::Phase::Thinking; }, 2s);
     m_driver.waitFor([] { return false; }, 300ms);
-    save(stop.file + u"-thinking"_s);
+    save(stop.art + u"-thinking"_s);
     const bool drawn = m_driver.waitFor(
         [&] { return canvas->phase() == store::Phase::Done && canvas->art() == stop.art; },
         answerPatience);
     const double seconds = static_cast<double>(sinceReturn.elapsed()) / 1000;
     m_driver.waitFor([&] { return !canvas->awaitingAnswer(); }, answerPatience);
     rest();
-    const QString file = save(stop.file);
+    const QString file = save(stop.art);
     std::printf("%s\t%s\t%.2f s\t%s\n", qUtf8Printable(stop.question),
                 drawn ? qUtf8Printable(stop.art) : "not drawn", seconds, qUtf8Printable(file));
     std::fflush(stdout);
     return drawn;
+}
+
+bool Tour::converse() {
+    store::AppStore &store = m_application.store();
+    if (!m_driver.click(u"historyButton"_s))
+        return false;
+    rest();
+    save(u"history"_s);
+    m_driver.press(Qt::Key_Escape);
+    store.layout()->toggleDock();
+    if (!ask(u"Explain how work gets done here"_s) || !answered())
+        return false;
+    save(u"markdown"_s);
+    if (!ask(u"What next?"_s) || !answered() || !m_driver.find(u"replyChip:0"_s))
+        return false;
+    save(u"chips"_s);
+
+    QFile plan(m_pictures.filePath(u"release-plan.csv"_s));
+    if (!plan.open(QFile::WriteOnly) || plan.write("stage,weeks\nbuild,6\ntest,2\n") < 0)
+        return false;
+    plan.close();
+    store.attachments()->uploadChatFiles({QUrl::fromLocalFile(plan.fileName())});
+    if (!m_driver.waitFor([&] { return store.attachments()->chatFiles()->count() == 1; }))
+        return false;
+    rest();
+    save(u"attached"_s);
+    if (!ask(u"Keep this plan"_s) || !answered())
+        return false;
+    save(u"attachment-sent"_s);
+    return true;
+}
+
+bool Tour::answered() const {
+    store::AppStore &store = m_application.store();
+    const bool whole =
+        m_driver.waitFor([&] { return !store.canvas()->awaitingAnswer(); }, answerPatience);
+    rest();
+    return whole;
 }
 
 void Tour::rest() const {

@@ -10,14 +10,14 @@ namespace kiv::tour {
 /// Something to ask and the scene that should come of it.
 struct Stop {
     QString question;
-    QString art;
-    QString file; ///< name of the picture, without its ending
+    QString art; ///< also the name of its pictures
 };
 
-/// The stops of the tour: one for each thing that works.
+/// The stops of the tour: one for each scene.
 QList<Stop> stops();
 
-/// Walks through the program as a new user: signs up, then asks what the stops ask.
+/// Walks through the program as a new user: signs up, asks what the stops ask, then looks at the
+/// history and at a conversation with markdown, replies and an attachment.
 class Tour {
 public:
     Tour(app::Application &application, const QDir &pictures);
@@ -27,7 +27,11 @@ public:
 
 private:
     bool signUp();
+    bool ask(const QString &question);
     bool visit(const Stop &stop);
+    bool converse();
+    /// Waits until the answer is whole.
+    bool answered() const;
     /// Lets what moves on the screen come to its end.
     void rest() const;
     QString save(const QString &name) const;

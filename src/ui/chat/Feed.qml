@@ -117,6 +117,8 @@ FocusScope {
                 OwnMessage {
                     compact: feed.compact
                     flashing: row.messageId === feed.flashed
+                    hovered: row.messageId === feed.hoveredMessage
+                    onEditRequested: feed.editRequested(row.messageId)
                 }
             }
             FeedDelegate {
@@ -194,7 +196,6 @@ FocusScope {
                     onRetryRequested: feed.retryRequested(row.messageId)
                     onSceneRequested: feed.sceneRequested(row.messageId)
                     onChipPicked: chip => feed.chipPicked(row.messageId, chip)
-                    onEditRequested: feed.editRequested(row.messageId)
                     onCopyRequested: Clipboard.setText(feedRows.messageText(row.messageId))
                 }
             }

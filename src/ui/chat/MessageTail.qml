@@ -16,7 +16,6 @@ FocusScope {
     signal retryRequested()
     signal sceneRequested()
     signal copyRequested()
-    signal editRequested()
     signal chipPicked(chip: replyChip)
 
     readonly property int indent: compact || row.mine ? 0 : 40
@@ -61,22 +60,11 @@ FocusScope {
     IconButton {
         x: tail.indent - 4
         y: tail.height - 4
-        visible: !tail.compact && !tail.row.mine && !tail.row.growing && tail.hovered
+        visible: !tail.compact && !tail.row.mine && !tail.row.growing && (tail.hovered || hovered)
         size: 28
         iconSize: 16
         iconName: "copy"
         text: qsTr("Copy the message")
         onClicked: tail.copyRequested()
-    }
-    IconButton {
-        objectName: "editButton"
-        x: tail.width - width + 4
-        y: tail.height - 4
-        visible: tail.row.mine && tail.row.delivery !== Store.Delivery.Pending && tail.hovered
-        size: 28
-        iconSize: 16
-        iconName: "edit"
-        text: qsTr("Edit")
-        onClicked: tail.editRequested()
     }
 }

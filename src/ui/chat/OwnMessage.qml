@@ -1,5 +1,6 @@
 import QtQuick
 import Kiv.Chat
+import Kiv.Controls
 import Kiv.Markdown
 import Kiv.Store
 import Kiv.Tokens
@@ -11,6 +12,9 @@ Item {
     required property feedRow row
     required property bool compact
     property bool flashing: false
+    property bool hovered: false
+
+    signal editRequested()
 
     readonly property int gap: row.first ? (compact ? 16 : 20) : 0
     readonly property int sidePadding: compact ? 12 : 14
@@ -43,5 +47,16 @@ Item {
         part: own.row.part
         plain: true
         style: own.compact ? Tokens.type.smallFeed : Tokens.type.body
+    }
+    IconButton {
+        objectName: "editButton"
+        x: bubble.x - width - 4
+        y: bubble.y + (bubble.height - height) / 2
+        visible: own.row.first && own.row.delivery !== Store.Delivery.Pending && (own.hovered || hovered)
+        size: 28
+        iconSize: 16
+        iconName: "edit"
+        text: qsTr("Edit")
+        onClicked: own.editRequested()
     }
 }
