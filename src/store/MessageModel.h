@@ -23,7 +23,7 @@ public:
         BodyRole,                         ///< the text of the bubble, as `body`
         RawTextRole,                      ///< the row's own text, for copying
         TimeRole,                         ///< local time, "09:42", as `time`; empty without one
-        DayRole, ///< local date; invalid without one
+        DayRole,                          ///< local date; invalid without one
         MemberLabelRole,
         FilesRole, ///< list of MsgFile
         DeliveryRole,

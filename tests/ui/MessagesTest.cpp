@@ -47,7 +47,8 @@ void MessagesTest::pictures() {
     const QString name = QLatin1StringView(QTest::currentDataTag());
     m_gallery->setDark(dark);
     m_gallery->open(*m_workspace->store, {1440, 900});
-    m_workspace->row(1, u"What is blocking the Orchard invoices? Коротко, пожалуйста."_s, u"user"_s);
+    m_workspace->row(1, u"What is blocking the Orchard invoices? Коротко, пожалуйста."_s,
+                     u"user"_s);
     m_workspace->row(2, Workspace::mixedAnswer());
     QTRY_COMPARE(m_workspace->msgs().count(), 3);
     m_gallery->save(u"messages-rail-"_s + name);
