@@ -19,7 +19,7 @@ QSet<QString> wordSet(const QString &words) {
     return {list.begin(), list.end()};
 }
 
-/// Without the number or the punctuation behind it: "Chapter 2", "Issue #12", "Tel."
+/// Without the number or the punctuation behind it: "Chapter 2", "Room #12", "Tel."
 QString lastWord(QStringView text) {
     QString words = text.trimmed().toString().toLower();
     while (words.size() > 1 && (words.back().isDigit() || u".:#- "_s.contains(words.back())))

@@ -99,7 +99,7 @@ public:
     }
 
     void enter(MD_SPANTYPE type, const void *detail) {
-        m_outer.emplace_back(m_styles, m_link);
+        m_open.push_back({type, m_styles, m_link});
         switch (type) {
         case MD_SPAN_EM:
             m_styles |= Style::Italic;
@@ -121,9 +121,15 @@ public:
         }
     }
 
-    void leave() {
-        std::tie(m_styles, m_link) = std::move(m_outer.back());
-        m_outer.pop_back();
+    /// The reader may leave a span that it never entered, where marks and a bare address overlap.
+    void leave(MD_SPANTYPE type) {
+        const auto last = std::find_if(m_open.rbegin(), m_open.rend(),
+                                       [type](const Open &span) { return span.type == type; });
+        if (last == m_open.rend())
+            return;
+        m_styles = last->outerStyles;
+        m_link = last->outerLink;
+        m_open.erase(std::prev(last.base()), m_open.end());
     }
 
     void append(QString text) {
@@ -136,6 +142,13 @@ public:
     }
 
 private:
+    /// A span that is open, and what holds again behind it.
+    struct Open {
+        MD_SPANTYPE type;
+        Styles outerStyles;
+        QString outerLink;
+    };
+
     static QString target(const MD_ATTRIBUTE &href) {
         const QString link = QString::fromUtf8(href.text, href.size);
         for (const auto scheme : {"http:"_L1, "https:"_L1, "mailto:"_L1}) {
@@ -148,7 +161,7 @@ private:
     QList<InlineSpan> m_spans;
     Styles m_styles;
     QString m_link;
-    std::vector<std::pair<Styles, QString>> m_outer;
+    std::vector<Open> m_open;
 };
 
 SpanBuilder &builder(void *userdata) {
@@ -172,8 +185,8 @@ MD_PARSER parser() {
         builder(userdata).enter(type, detail);
         return 0;
     };
-    parser.leave_span = [](MD_SPANTYPE, void *, void *userdata) {
-        builder(userdata).leave();
+    parser.leave_span = [](MD_SPANTYPE type, void *, void *userdata) {
+        builder(userdata).leave(type);
         return 0;
     };
     parser.text = onText;

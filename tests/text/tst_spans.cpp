@@ -57,6 +57,8 @@ private Q_SLOTS:
             u"{see }{the }(https://a.b/c?d=e&f)b{page}(https://a.b/c?d=e&f){ now}"_s);
         row("mail", u"[us](mailto:a@b.c)"_s, u"{us}(mailto:a@b.c)"_s);
         row("bare address", u"at https://a.b/c."_s, u"{at }{https://a.b/c}(https://a.b/c){.}"_s);
+        row("marks across an address", u"https://a.bm***a** b *c*"_s,
+            u"{https://a.bm*}b{a}{ b }i{c}"_s);
         row("in angles", u"<https://a.b>"_s, u"{https://a.b}(https://a.b)"_s);
         row("other schemes are words", u"[a](javascript:x) [b](file:///etc) [c](/d) [e](data:x)"_s,
             u"{a b c e}"_s);
