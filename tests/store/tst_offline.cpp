@@ -39,7 +39,7 @@ private Q_SLOTS:
         f.connectivity.setOnline(true);
         QVERIFY(!f.store->connection()->offline());
         SOON_COMPARE(f.deliveryOf(f.msgs().count() - 1), Delivery::Stored);
-        QCOMPARE(f.backend.count(kivPost), 1);
+        SOON_COMPARE(f.backend.count(kivPost), 1);
         // The line is back at once, and the answer comes in over it.
         QVERIFY(f.streaming(kivChat, streams + 1));
         f.row(8, test::reportBlock);
