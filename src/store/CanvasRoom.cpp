@@ -1,10 +1,9 @@
 #include "store/CanvasRoom.h"
 
 #include "canvas/CanvasIntents.h"
-#include "canvas/TableScene.h"
+#include "canvas/SceneAdapter.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
-#include "store/DrawnArts.h"
 #include "store/SkeletonShapes.h"
 
 #include <QLocale>
@@ -65,7 +64,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
     const bool onScreen = m_phase.value() == Phase::Building || m_phase.value() == Phase::Done;
     if (spec.jsonKey == m_drawnSpecKey && onScreen)
         return true;
-    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), spec, m_lastIntent);
+    const auto scene = canvas::SceneAdapter::vals(spec, m_lastIntent);
     if (!scene)
         return false;
     m_drawnSpecKey = spec.jsonKey;

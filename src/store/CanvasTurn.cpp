@@ -1,11 +1,10 @@
 // From a question to its drawing: when an answer is final enough to draw, and what of it.
 
 #include "canvas/CanvasIntents.h"
-#include "canvas/TableScene.h"
+#include "canvas/SceneAdapter.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/CanvasRoom.h"
-#include "store/DrawnArts.h"
 #include "store/SkeletonShapes.h"
 
 namespace kiv::store {
@@ -158,7 +157,7 @@ void CanvasRoom::drawAgain(const Msg &answer) {
         return;
     }
     // The person looks at another canvas; the history has this one as it is now.
-    const auto scene = canvas::SceneAdapter::valsAmong(drawnArts(), *answer.spec, m_turn.intent);
+    const auto scene = canvas::SceneAdapter::vals(*answer.spec, m_turn.intent);
     if (scene)
         m_history.amend(m_turn.historyEntry,
                         entryOf(m_turn.query, m_turn.intent, *answer.spec, *scene));

@@ -1,8 +1,7 @@
 #include "store/Msg.h"
 
 #include "canvas/AnswerReading.h"
-#include "canvas/TableScene.h"
-#include "store/DrawnArts.h"
+#include "canvas/SceneAdapter.h"
 
 #include <QRegularExpression>
 
@@ -55,8 +54,7 @@ void readAnswer(Msg &message, const net::ChatRow &row) {
     message.spec = std::move(reading.spec);
     message.isWhole = reading.isWhole;
     const auto scene =
-        message.spec ? canvas::SceneAdapter::valsAmong(drawnArts(), *message.spec, std::nullopt)
-                     : std::nullopt;
+        message.spec ? canvas::SceneAdapter::vals(*message.spec, std::nullopt) : std::nullopt;
     // What cannot be drawn stays to be read.
     message.shown = scene ? reading.shown : reading.text.trimmed();
     message.shownMeanwhile = canvas::withoutOpenBlock(message.shown);

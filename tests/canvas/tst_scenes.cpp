@@ -1,7 +1,6 @@
 #include "canvas/ArtInfo.h"
 #include "canvas/CanvasEngine.h"
 #include "canvas/SceneAdapter.h"
-#include "canvas/TableScene.h"
 
 #include <QMetaProperty>
 #include <QTest>
@@ -68,41 +67,6 @@ private Q_SLOTS:
         spec.kind = u"kpi"_s;
         spec.items = {{.label = label, .value = 1, .delta = delta}};
         QTEST(SceneAdapter::vals(spec, std::nullopt)->kpiCards.first().tone(), "tone");
-    }
-
-    void otherArtsAsTables_data() {
-        QTest::addColumn<QByteArray>("json");
-        QTest::addColumn<QStringList>("lines"); // "name | cells"
-        QTest::newRow("drawn itself")
-            << QByteArray(R"({"kind":"kpi","items":["a: 1"]})") << QStringList{};
-        QTest::newRow("points")
-            << QByteArray(R"({"kind":"progress","points":[{"label":"A","value":5,"target":7},
-                {"label":"B","value":6,"target":8}]})")
-            << QStringList{u"A | 5 | 7"_s, u"B | 6 | 8"_s};
-        QTest::newRow("series") << QByteArray(R"({"kind":"line","series":[
-                {"name":"In","points":["May: 5","June: 6"]},{"name":"Out","points":["June: 4"]}]})")
-                                << QStringList{u"May | 5"_s, u"June | 6 | 4"_s};
-        QTest::newRow("board") << QByteArray(R"({"kind":"board","columns":[
-                {"name":"Good","points":["Fast"]},{"name":"Bad","points":["Late","Long"]}]})")
-                               << QStringList{u"Fast | Good"_s, u"Late | Bad"_s, u"Long | Bad"_s};
-    }
-    void otherArtsAsTables() {
-        QFETCH(QByteArray, json);
-        const auto spec = CanvasEngine::spec(*JVal::parse(json), QString());
-        const auto scene =
-            SceneAdapter::valsAmong({u"report"_s, u"compare"_s}, *spec, std::nullopt);
-        QVERIFY(scene);
-        QStringList lines;
-        for (const CpRow &row : scene->cpRows) {
-            QStringList cells{row.name};
-            for (const QString &cell : row.cells) {
-                if (!cell.isEmpty())
-                    cells.append(cell);
-            }
-            lines.append(cells.join(u" | "_s));
-        }
-        QTEST(lines, "lines");
-        QCOMPARE(scene->art, lines.isEmpty() ? u"report"_s : u"compare"_s);
     }
 
     void compareRows() {

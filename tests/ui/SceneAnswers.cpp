@@ -1,8 +1,7 @@
 #include "ui/SceneAnswers.h"
 
 #include "canvas/AnswerBlock.h"
-#include "canvas/TableScene.h"
-#include "store/DrawnArts.h"
+#include "canvas/SceneAdapter.h"
 #include "ui/AnswerText.h"
 #include "ui/Workspace.h"
 
@@ -191,7 +190,7 @@ canvas::SceneOut sceneOf(const SceneAnswer &answer) {
     const auto drawable = canvas::CanvasEngine::extractViewSpec(answer.text);
     if (!drawable.spec)
         qFatal("%s: nothing to draw", qPrintable(answer.name));
-    const auto scene = canvas::SceneAdapter::valsAmong(store::drawnArts(), *drawable.spec, {});
+    const auto scene = canvas::SceneAdapter::vals(*drawable.spec, {});
     if (!scene || scene->art != answer.art)
         qFatal("%s: not drawn as %s", qPrintable(answer.name), qPrintable(answer.art));
     return *scene;

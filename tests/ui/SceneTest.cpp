@@ -1,4 +1,4 @@
-#include "store/DrawnArts.h"
+#include "canvas/CanvasEngine.h"
 #include "ui/Gallery.h"
 #include "ui/SceneAnswers.h"
 #include "ui/Workspace.h"
@@ -187,7 +187,8 @@ void SceneTest::everyArt() {
     for (const SceneAnswer &answer : sceneAnswers())
         arts.append(answer.art);
     arts.removeDuplicates();
-    QStringList drawn = store::drawnArts();
+    QStringList drawn(canvas::CanvasEngine::knownArts().begin(),
+                      canvas::CanvasEngine::knownArts().end());
     arts.sort();
     drawn.sort();
     QCOMPARE(arts, drawn);

@@ -6,8 +6,7 @@
 
 #include "canvas/AnswerReading.h"
 #include "canvas/CanvasIntents.h"
-#include "canvas/TableScene.h"
-#include "store/DrawnArts.h"
+#include "canvas/SceneAdapter.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -43,8 +42,7 @@ int render(const RenderOptions &options) {
 
     const auto spec = canvas::readAnswer(QString::fromUtf8(text)).spec;
     const auto scene =
-        spec ? canvas::SceneAdapter::valsAmong(store::drawnArts(), *spec,
-                                               canvas::CanvasIntents::classify(options.question))
+        spec ? canvas::SceneAdapter::vals(*spec, canvas::CanvasIntents::classify(options.question))
              : std::nullopt;
     if (!scene)
         return failed(NothingToDraw, u"There is nothing to draw in this answer."_s);
