@@ -19,7 +19,8 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_canvas(*this),
       m_events(*this),
       m_session(*this),
-      m_connection(*this) {
+      m_connection(*this),
+      m_calendar(clock) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();

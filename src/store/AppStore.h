@@ -4,6 +4,7 @@
 #include "net/APIClient.h"
 #include "net/ChatStreamClient.h"
 #include "store/AttachmentRoom.h"
+#include "store/Calendar.h"
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
@@ -33,6 +34,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
+    Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
 
@@ -50,6 +52,7 @@ public:
     SessionRoom *session() { return &m_session; }
     EventsRoom *events() { return &m_events; }
     ConnectionRoom *connection() { return &m_connection; }
+    Calendar *calendar() { return &m_calendar; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -78,6 +81,7 @@ private:
     EventsRoom m_events;
     SessionRoom m_session;
     ConnectionRoom m_connection;
+    Calendar m_calendar;
 };
 
 } // namespace kiv::store

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int feedWindow = 30;
+constexpr int feedStep = 30;
 constexpr auto answerPatience = 180s;
 
 const QString signedOutGreeting =
@@ -43,19 +43,40 @@ bool isUnauthorized(const std::exception &error) {
 
 ChatRoom::ChatRoom(AppStore &store, const QString &draftsFile)
     : m_store(store), m_feed(&m_msgs), m_drafts(store.clock(), draftsFile) {
-    m_feed.setWindow(feedWindow);
+    setFeedWindow(feedStep);
     m_msgs.append(localMsg(Who::Agent, signedOutGreeting));
-    connect(&m_msgs, &MessageModel::countChanged, this, [this] {
-        const LayoutRoom *layout = m_store.layout();
-        if (layout->dockOpen() || layout->railShown())
-            markSeen();
-        m_unseenMsgs = std::max(m_msgs.count() - m_seenMsgs, 0);
-    });
+    connect(&m_msgs, &MessageModel::countChanged, this, &ChatRoom::countUnseen);
+}
+
+bool ChatRoom::isShown() const {
+    const LayoutRoom *layout = m_store.layout();
+    return layout->dockOpen() || layout->railShown();
+}
+
+void ChatRoom::countUnseen() {
+    if (isShown())
+        markSeen();
+    m_unseenMsgs = std::max(m_msgs.count() - m_seenMsgs, 0);
+    if (m_unseenMsgs > 0)
+        m_unreadFrom = m_msgs.messages().at(m_seenMsgs).id.toString(QUuid::WithoutBraces);
 }
 
 void ChatRoom::markSeen() {
     m_seenMsgs = m_msgs.count();
     m_unseenMsgs = 0;
+    // What was new stays marked until the conversation goes out of sight.
+    if (!isShown())
+        m_unreadFrom = QString();
+}
+
+void ChatRoom::setFeedWindow(int window) {
+    m_feedWindow = window;
+    m_feed.setWindow(window);
+}
+
+void ChatRoom::showOlder() {
+    if (m_feed.hasOlder())
+        setFeedWindow(m_feedWindow + feedStep);
 }
 
 void ChatRoom::send(const QString &text) {
@@ -134,6 +155,7 @@ void ChatRoom::pickChip(const QString &messageId, const canvas::ReplyChip &chip)
 void ChatRoom::startTurn(const Post &post) {
     m_turn = post.message;
     m_lastPrompt = post.text;
+    m_unreadFrom = QString();
     m_chatNote = QString();
     m_liveWaiting = true;
     m_canStop = isStoppable();
@@ -274,9 +296,10 @@ void ChatRoom::newChat() {
     m_canStop = false;
     const bool signedIn = m_store.scope()->auth() == AuthPhase::SignedIn;
     m_msgs.replaceAll({signedIn ? liveGreeting() : localMsg(Who::Agent, signedOutGreeting)});
-    m_feed.setWindow(feedWindow);
+    setFeedWindow(feedStep);
     m_seenMsgs = 1;
     m_unseenMsgs = 0;
+    m_unreadFrom = QString();
     setDraft(QString());
     m_store.attachments()->clear();
 }
@@ -313,6 +336,8 @@ void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
     const QString undirected = m_connected ? QString() : m_draft.value();
     m_connected = target;
     m_lastPrompt = QString();
+    m_unreadFrom = QString();
+    setFeedWindow(feedStep);
     if (target)
         setDraft(
             joined(m_drafts.text(m_store.scope()->userEmail(), target->streamPath()), undirected));

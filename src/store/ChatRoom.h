@@ -22,7 +22,10 @@ class ChatRoom : public QObject {
     Q_PROPERTY(kiv::store::MessageModel *msgs READ msgs CONSTANT)
     Q_PROPERTY(kiv::store::FeedModel *feedMsgs READ feedMsgs CONSTANT)
     Q_PROPERTY(QString draft READ draft WRITE setDraft NOTIFY draftChanged)
+    Q_PROPERTY(int feedWindow READ feedWindow NOTIFY feedWindowChanged)
     Q_PROPERTY(int unseenMsgs READ unseenMsgs NOTIFY unseenMsgsChanged)
+    /// The first message that came while no feed was shown; empty for none.
+    Q_PROPERTY(QString unreadFrom READ unreadFrom NOTIFY unreadFromChanged)
     Q_PROPERTY(bool liveWaiting READ liveWaiting NOTIFY liveWaitingChanged)
     Q_PROPERTY(bool canStop READ canStop NOTIFY canStopChanged)
     Q_PROPERTY(bool historyLoading READ historyLoading NOTIFY historyLoadingChanged)
@@ -35,8 +38,10 @@ public:
     FeedModel *feedMsgs() { return &m_feed; }
     QString draft() const { return m_draft; }
     void setDraft(const QString &draft);
+    int feedWindow() const { return m_feedWindow; }
     int seenMsgs() const { return m_seenMsgs; }
     int unseenMsgs() const { return m_unseenMsgs; }
+    QString unreadFrom() const { return m_unreadFrom; }
     bool liveWaiting() const { return m_liveWaiting; }
     /// A running answer of an agent can be stopped; a project room's cannot.
     bool canStop() const { return m_canStop; }
@@ -59,6 +64,8 @@ public:
     Q_INVOKABLE void edit(const QString &messageId);
     /// Asks the question of the current turn once more: in its place when it was not sent.
     Q_INVOKABLE void retryTurn();
+    /// Lets the short feed hold more of the conversation, as long as there is more.
+    Q_INVOKABLE void showOlder();
 
     void connectChat();
     /// Loads and streams the connected chat anew, leaving the turn as it is.
@@ -76,8 +83,10 @@ public:
 
 Q_SIGNALS:
     void draftChanged();
+    void feedWindowChanged();
     void seenMsgsChanged();
     void unseenMsgsChanged();
+    void unreadFromChanged();
     void liveWaitingChanged();
     void canStopChanged();
     void historyLoadingChanged();
@@ -108,6 +117,9 @@ private:
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     bool isStoppable() const { return m_connected && m_connected->isAgent(); }
     void endWaiting();
+    bool isShown() const;
+    void countUnseen();
+    void setFeedWindow(int window);
     void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
     void keepUnsentText();
@@ -132,8 +144,10 @@ private:
     Drafts m_drafts;
 
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_draft, &ChatRoom::draftChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_feedWindow, &ChatRoom::feedWindowChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_seenMsgs, &ChatRoom::seenMsgsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_unseenMsgs, &ChatRoom::unseenMsgsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_unreadFrom, &ChatRoom::unreadFromChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_liveWaiting, &ChatRoom::liveWaitingChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_canStop, &ChatRoom::canStopChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, bool, m_historyLoading, &ChatRoom::historyLoadingChanged)

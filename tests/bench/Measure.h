@@ -25,7 +25,9 @@ double measure(const QString &name, const std::function<void()> &step);
 QList<Row> answerToScene();
 QList<Row> classify();
 QList<Row> explain();
+QList<Row> longChat();
 QList<Row> markdown();
 QList<Row> render();
+QList<Row> streaming();
 
 } // namespace kiv::bench

@@ -2,7 +2,7 @@
 
 #include "Measure.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 
 #include <cstdio>
@@ -20,8 +20,10 @@ struct Bench {
 const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"classify"_s, classify},
                            {u"explain"_s, explain},
+                           {u"long-chat"_s, longChat},
                            {u"markdown"_s, markdown},
-                           {u"render"_s, render}};
+                           {u"render"_s, render},
+                           {u"streaming"_s, streaming}};
 
 QString shown(double nanoseconds) {
     return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);
@@ -39,7 +41,9 @@ void print(const QStringList &cells) {
 } // namespace
 
 int main(int argc, char **argv) {
-    QCoreApplication application(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
     const QStringList wanted = QCoreApplication::arguments().mid(1);
     for (const QString &name : wanted) {
         if (std::ranges::none_of(benches, [&](const Bench &bench) { return bench.name == name; })) {

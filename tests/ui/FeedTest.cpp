@@ -46,10 +46,17 @@ private Q_SLOTS:
     void cleanup();
     void followsItsEnd();
     void staysWhereItIsRead();
+    void jumpsToTheNewest();
+    void olderComeInAtTheTop();
+    void newIsMarked();
+    void ruleGrows();
     void messageIsSelectable();
     void sceneLeadsToMessage();
 
 private:
+    void fill(int count);
+    void wheelUp();
+
     std::unique_ptr<Workspace> m_workspace;
     std::unique_ptr<Gallery> m_gallery;
 };
@@ -67,13 +74,37 @@ void FeedTest::cleanup() {
     m_workspace.reset();
 }
 
-void FeedTest::followsItsEnd() {
+/// Answers that fill the feed, which follows them.
+void FeedTest::fill(int count) {
     QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
-    for (int i = 0; i < 12; ++i)
-        m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
-    QTRY_COMPARE(m_workspace->msgs().count(), 13);
+    for (int i = 1; i <= count; ++i)
+        m_workspace->row(
+            i, u"Line %1, that is long enough to be broken once or twice in a rail. "_s.arg(i));
+    QTRY_COMPARE(m_workspace->msgs().count(), count + 1);
     QTRY_COMPARE_GT(number(feed, "contentHeight"), feed->height() * 1.5);
     QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+}
+
+/// Turns the wheel and lets it come to rest.
+void FeedTest::wheelUp() {
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    const QPointF middle = feed->mapToScene(QPointF(feed->width() / 2, feed->height() / 2));
+    for (const quint64 time : {1000, 1040}) {
+        QWheelEvent notch(middle, middle, {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        notch.setTimestamp(time);
+        QGuiApplication::sendEvent(&m_gallery->window(), &notch);
+    }
+    QTRY_COMPARE_GT(distanceToEnd(feed), 60.0);
+    // The movement has come to its end when two looks find the same.
+    double place = -1;
+    QTRY_VERIFY(std::exchange(place, number(feed, "contentY")) == number(feed, "contentY") &&
+                !feed->property("moving").toBool());
+}
+
+void FeedTest::followsItsEnd() {
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    fill(12);
     QString growing = u"The answer"_s;
     for (int i = 0; i < 20; ++i) {
         growing += u" grows by a few words"_s;
@@ -86,23 +117,9 @@ void FeedTest::followsItsEnd() {
 
 void FeedTest::staysWhereItIsRead() {
     QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
-    for (int i = 0; i < 12; ++i)
-        m_workspace->row(i + 1, u"A line that is long enough to be broken once or twice. "_s);
-    QTRY_COMPARE(m_workspace->msgs().count(), 13);
-    QTRY_COMPARE_GT(number(feed, "contentHeight"), feed->height() * 1.5);
-    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
-    const QPointF middle = feed->mapToScene(QPointF(feed->width() / 2, feed->height() / 2));
-    for (const quint64 time : {1000, 1040}) {
-        QWheelEvent notch(middle, middle, {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        notch.setTimestamp(time);
-        QGuiApplication::sendEvent(&m_gallery->window(), &notch);
-    }
-    QTRY_COMPARE_GT(distanceToEnd(feed), 60.0);
-    // The wheel's movement has come to its end when two looks find the same.
-    double place = -1;
-    QTRY_VERIFY(std::exchange(place, number(feed, "contentY")) == number(feed, "contentY") &&
-                !feed->property("moving").toBool());
+    fill(12);
+    wheelUp();
+    const double place = number(feed, "contentY");
     QString growing = u"The answer"_s;
     for (int i = 0; i < 10; ++i) {
         growing += u" grows by a few words"_s;
@@ -111,6 +128,84 @@ void FeedTest::staysWhereItIsRead() {
         m_gallery->window().grabWindow();
         QCOMPARE(number(feed, "contentY"), place);
     }
+}
+
+void FeedTest::jumpsToTheNewest() {
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    fill(12);
+    QVERIFY(!m_gallery->find(u"jumpButton"_s));
+    wheelUp();
+    QCOMPARE(number(m_gallery->item(u"jumpButton"_s), "unseen"), 0.0);
+    m_workspace->row(50, u"One more"_s);
+    m_workspace->row(51, u"Another"_s);
+    QTRY_COMPARE(number(m_gallery->item(u"jumpButton"_s), "unseen"), 2.0);
+    m_gallery->save(u"feed-unseen"_s);
+    m_gallery->click(u"jumpButton"_s);
+    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    QVERIFY(!m_gallery->find(u"jumpButton"_s));
+}
+
+void FeedTest::olderComeInAtTheTop() {
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    fill(70);
+    store::ChatRoom *chat = m_workspace->store->chat();
+    QCOMPARE(chat->feedWindow(), 30);
+    const QString first = chat->msgs()->messages().at(41).text.trimmed();
+    QVERIFY(!findText(feed, chat->msgs()->messages().at(40).text.trimmed()));
+    const QPoint corner =
+        feed->mapToScene(QPointF(feed->width() - 6, feed->height() - 6)).toPoint();
+    QTest::mousePress(&m_gallery->window(), Qt::LeftButton, {}, corner);
+    QTest::mouseMove(&m_gallery->window(), corner - QPoint(0, 40));
+    const QPoint upper = corner - QPoint(0, static_cast<int>(feed->height()));
+    QTest::mouseMove(&m_gallery->window(), upper);
+    QTRY_COMPARE(chat->feedWindow(), 60);
+    // What was the first message is read where it was, with older ones above it.
+    const auto placeOfFirst = [&] {
+        m_gallery->window().grabWindow();
+        const QQuickItem *text = findText(feed, first);
+        return text ? text->mapToItem(feed, QPointF()).y() : -1;
+    };
+    const double place = placeOfFirst();
+    QCOMPARE_GT(place, 0.0);
+    QCOMPARE_LT(place, 120.0);
+    QCOMPARE_GT(number(feed, "contentY"), number(feed, "originY"));
+    // Up once more, and there is no more to come.
+    QTest::mouseMove(&m_gallery->window(), upper + QPoint(0, 60));
+    QTest::mouseMove(&m_gallery->window(), upper);
+    QTRY_COMPARE(chat->feedWindow(), 90);
+    QVERIFY(!chat->feedMsgs()->hasOlder());
+    QTest::mouseRelease(&m_gallery->window(), Qt::LeftButton, {}, upper);
+}
+
+void FeedTest::newIsMarked() {
+    store::LayoutRoom *layout = m_workspace->store->layout();
+    layout->toggleRail();
+    m_workspace->row(1, u"One"_s);
+    m_workspace->row(2, u"Two"_s);
+    QTRY_COMPARE(m_workspace->store->chat()->unseenMsgs(), 2);
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    m_gallery->save(u"feed-new"_s);
+    const QQuickItem *feed = m_gallery->item(u"dockFeed"_s);
+    const QQuickItem *line = m_gallery->item(u"unreadLine"_s);
+    QCOMPARE_LT(line->mapToItem(feed, QPointF()).y(),
+                findText(m_gallery->item(u"dockFeed"_s), u"One"_s)->mapToItem(feed, QPointF()).y());
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QTRY_VERIFY(!m_gallery->find(u"dockFeed"_s));
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QTRY_VERIFY(m_gallery->find(u"dockFeed"_s));
+    QVERIFY(!m_gallery->find(u"unreadLine"_s));
+}
+
+void FeedTest::ruleGrows() {
+    m_workspace->store->chat()->send(u"Go on"_s);
+    m_workspace->row(50, u"One"_s);
+    QTRY_COMPARE(m_workspace->texts().last(), u"One"_s);
+    QVERIFY(!m_gallery->find(u"ruleDot"_s));
+    m_workspace->row(50, u"One\n\n---"_s);
+    QTRY_VERIFY(m_gallery->find(u"ruleDot"_s));
+    m_gallery->save(u"feed-rule"_s);
+    m_workspace->row(50, u"One\n\n---\n\nTwo"_s);
+    QTRY_VERIFY(!m_gallery->find(u"ruleDot"_s));
 }
 
 void FeedTest::messageIsSelectable() {

@@ -93,6 +93,8 @@ FocusScope {
         width: parent.width
         messages: dock.store.chat.msgs
         scope: dock.store.scope
+        calendar: dock.store.calendar
+        unreadFrom: dock.store.chat.unreadFrom
         compact: false
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)

@@ -14,12 +14,17 @@ FocusScope {
 
     required property QtObject messages
     required property ScopeRoom scope
+    required property Calendar calendar
     required property bool compact
     property bool hasOlder: false
+    /// The first message that the person has not seen.
+    property string unreadFrom: ""
 
     signal retryRequested(messageId: string)
     signal sceneRequested(messageId: string)
     signal olderRequested()
+    /// The person has scrolled up to the first message.
+    signal topReached()
     signal chipPicked(messageId: string, chip: replyChip)
     signal editRequested(messageId: string)
 
@@ -41,6 +46,8 @@ FocusScope {
 
         messages: feed.messages
         olderBefore: feed.hasOlder
+        unreadFrom: feed.unreadFrom
+        calendar: feed.calendar
     }
     Flickable {
         id: list
@@ -73,6 +80,7 @@ FocusScope {
             bottomUp: feed.compact
             held: list.moving || bar.pressed
             distance: Tokens.followDistance
+            onTopReached: feed.topReached()
 
             FeedDelegate {
                 kind: FeedDelegate.Older
@@ -210,6 +218,7 @@ FocusScope {
         targetRadius: 0
     }
     JumpButton {
+        objectName: "jumpButton"
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 16

@@ -32,6 +32,25 @@ Kind kindOf(const MDBlock::Kind &content) {
     return std::visit(KindOf(), content);
 }
 
+/// The parts of a message that rows show.
+QList<BlockPart> partsIn(const QList<FeedRow> &rows) {
+    QList<BlockPart> parts;
+    for (const FeedRow &row : rows) {
+        if (row.kind >= Kind::Own && row.kind <= Kind::Rule)
+            parts.append(row.part);
+    }
+    return parts;
+}
+
+/// The parts of a text; one that is still being written is never without any.
+QList<BlockPart> partsIn(const QString &body, bool mine, bool growing) {
+    if (mine)
+        return body.isEmpty() ? QList<BlockPart>() : text::plainParts(body);
+    const auto parts =
+        text::partsOf(growing ? text::MDParser::parse(body) : text::MDParser::blocks(body));
+    return parts.isEmpty() && growing ? text::plainParts(body) : parts;
+}
+
 QString tabbed(const MDBlock::Table &table) {
     QStringList lines{table.header.join(u'\t')};
     for (const QStringList &row : table.rows)
@@ -83,33 +102,37 @@ void FeedRows::setUnreadFrom(const QString &messageId) {
     Q_EMIT unreadFromChanged();
 }
 
-void FeedRows::setToday(const QDate &today) {
-    if (std::exchange(m_today, today) == today)
+void FeedRows::setCalendar(store::Calendar *calendar) {
+    if (m_calendar == calendar)
         return;
-    for (int message = 0; message < m_rows.size(); ++message)
-        refresh(message);
-    Q_EMIT todayChanged();
+    if (m_calendar)
+        m_calendar->disconnect(this);
+    m_calendar = calendar;
+    if (calendar)
+        connect(calendar, &store::Calendar::todayChanged, this, &FeedRows::refreshAll);
+    refreshAll();
+    Q_EMIT calendarChanged();
 }
 
 void FeedRows::reset() {
     beginResetModel();
-    m_rows.clear();
+    m_shown.clear();
     const int count = m_messages ? m_messages->rowCount() : 0;
     for (int message = 0; message < count; ++message)
-        m_rows.append(build(message));
+        m_shown.append(build(message));
     sumUp(0);
     endResetModel();
 }
 
 void FeedRows::insertMessages(int first, int last) {
-    QList<QList<FeedRow>> added;
+    QList<Shown> added;
     int count = 0;
     for (int message = first; message <= last; ++message) {
         added.append(build(message));
-        count += static_cast<int>(added.last().size());
+        count += static_cast<int>(added.last().rows.size());
     }
     beginInsertRows({}, m_starts.at(first), m_starts.at(first) + count - 1);
-    m_rows = m_rows.first(first) + added + m_rows.sliced(first);
+    m_shown = m_shown.first(first) + added + m_shown.sliced(first);
     sumUp(first);
     endInsertRows();
     refresh(last + 1);
@@ -117,21 +140,29 @@ void FeedRows::insertMessages(int first, int last) {
 
 void FeedRows::removeMessages(int first, int last) {
     beginRemoveRows({}, m_starts.at(first), m_starts.at(last + 1) - 1);
-    m_rows.remove(first, last - first + 1);
+    m_shown.remove(first, last - first + 1);
     sumUp(first);
     endRemoveRows();
     refresh(first);
 }
 
 void FeedRows::refresh(int message) {
-    if (message >= 0 && message < m_rows.size())
-        exchange(message, build(message));
+    if (message < 0 || message >= m_shown.size())
+        return;
+    const Shown now = build(message, m_shown.at(message));
+    m_shown[message].body = now.body;
+    exchange(message, now.rows);
+}
+
+void FeedRows::refreshAll() {
+    for (int message = 0; message < m_shown.size(); ++message)
+        refresh(message);
 }
 
 /// Tells of what differs between the rows that a message had and has: of rows that say something
 /// else, and of rows that came or went. A row does not turn into another kind.
 void FeedRows::exchange(int message, const QList<FeedRow> &rows) {
-    const QList<FeedRow> before = m_rows.at(message);
+    const QList<FeedRow> before = m_shown.at(message).rows;
     const qsizetype shorter = std::min(before.size(), rows.size());
     const auto fromEnd = [](const QList<FeedRow> &list, qsizetype i) -> const FeedRow & {
         return list.at(list.size() - 1 - i);
@@ -147,7 +178,7 @@ void FeedRows::exchange(int message, const QList<FeedRow> &rows) {
     while (tail < shorter - head && fromEnd(before, tail).kind == fromEnd(rows, tail).kind)
         ++tail;
 
-    QList<FeedRow> &shown = m_rows[message];
+    QList<FeedRow> &shown = m_shown[message].rows;
     const auto rowAt = [start = m_starts.at(message)](qsizetype row) {
         return start + static_cast<int>(row);
     };
@@ -176,8 +207,12 @@ QVariant FeedRows::field(int message, int role) const {
     return m_messages->index(message, 0).data(role);
 }
 
-QList<FeedRow> FeedRows::build(int message) const {
-    QList<FeedRow> rows;
+/// What shows of a message now. Parts of a text that has not changed since `before` are taken from
+/// there.
+FeedRows::Shown FeedRows::build(int message, const Shown &before) const {
+    Shown shown{field(message, MessageModel::BodyRole).toString(), {}};
+    const QString &body = shown.body;
+    QList<FeedRow> &rows = shown.rows;
     FeedRow row;
     row.messageId = field(message, MessageModel::MessageIdRole).toString();
     row.mine = field(message, MessageModel::WhoRole).value<store::Who>() == store::Who::You;
@@ -193,22 +228,19 @@ QList<FeedRow> FeedRows::build(int message) const {
     if (!m_unreadFrom.isEmpty() && row.messageId == m_unreadFrom)
         add(Kind::Unread);
 
-    const QString body = field(message, MessageModel::BodyRole).toString();
     const bool growing = field(message, MessageModel::GrowingRole).toBool();
     const auto delivery = field(message, MessageModel::DeliveryRole).value<store::Delivery>();
     const QString time = field(message, MessageModel::TimeRole).toString();
-    QList<BlockPart> parts;
-    if (row.mine) {
-        if (!body.isEmpty())
-            parts = text::plainParts(body);
-    } else {
+    if (!row.mine) {
         FeedRow &head = add(Kind::Head);
         head.time = time;
         head.memberLabel = field(message, MessageModel::MemberLabelRole).toString();
-        parts = text::partsOf(growing ? text::MDParser::parse(body) : text::MDParser::blocks(body));
-        if (parts.isEmpty() && growing)
-            parts = text::plainParts(body);
     }
+    QList<BlockPart> parts;
+    if (before.body == body)
+        parts = partsIn(before.rows);
+    if (parts.isEmpty())
+        parts = partsIn(body, row.mine, growing);
     const auto files = field(message, MessageModel::FilesRole).value<QList<store::MsgFile>>();
     if (!files.isEmpty()) {
         FeedRow &above = add(Kind::Files);
@@ -235,7 +267,7 @@ QList<FeedRow> FeedRows::build(int message) const {
     tail.cardArt = field(message, MessageModel::CardArtRole).toString();
     tail.onCanvas = field(message, MessageModel::OnCanvasRole).toBool();
     tail.chips = field(message, MessageModel::ChipsRole).value<QList<canvas::ReplyChip>>();
-    return rows;
+    return shown;
 }
 
 /// The day of a message, where it is another than that of the one before. A conversation of today
@@ -244,7 +276,7 @@ QString FeedRows::dayLabel(int message) const {
     const QDate day = field(message, MessageModel::DayRole).toDate();
     if (!day.isValid())
         return {};
-    QDate before = m_today;
+    QDate before = today();
     for (int above = message - 1; above >= 0; --above) {
         const QDate other = field(above, MessageModel::DayRole).toDate();
         if (other.isValid()) {
@@ -254,31 +286,32 @@ QString FeedRows::dayLabel(int message) const {
     }
     if (day == before)
         return {};
-    if (day == m_today)
+    if (day == today())
         return tr("Today");
-    if (day == m_today.addDays(-1))
+    if (day == today().addDays(-1))
         return tr("Yesterday");
     const QLocale english(QLocale::English);
     return english.toString(day,
-                            day.year() == m_today.year() ? u"dddd, d MMMM"_s : u"d MMMM yyyy"_s);
+                            day.year() == today().year() ? u"dddd, d MMMM"_s : u"d MMMM yyyy"_s);
 }
 
 void FeedRows::sumUp(int from) {
-    m_starts.resize(m_rows.size() + 1);
-    for (qsizetype message = from; message < m_rows.size(); ++message)
-        m_starts[message + 1] = m_starts.at(message) + static_cast<int>(m_rows.at(message).size());
+    m_starts.resize(m_shown.size() + 1);
+    for (qsizetype message = from; message < m_shown.size(); ++message)
+        m_starts[message + 1] =
+            m_starts.at(message) + static_cast<int>(m_shown.at(message).rows.size());
 }
 
 const FeedRow &FeedRows::at(int row) const {
     const auto behind = std::upper_bound(m_starts.begin(), m_starts.end(), row);
     const qsizetype message = behind - m_starts.begin() - 1;
-    return m_rows.at(message).at(row - m_starts.at(message));
+    return m_shown.at(message).rows.at(row - m_starts.at(message));
 }
 
 int FeedRows::messageOf(const QString &messageId) const {
     const auto found = std::ranges::find_if(
-        m_rows, [&](const QList<FeedRow> &rows) { return rows.first().messageId == messageId; });
-    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
+        m_shown, [&](const Shown &shown) { return shown.rows.first().messageId == messageId; });
+    return found == m_shown.end() ? -1 : static_cast<int>(found - m_shown.begin());
 }
 
 std::pair<int, int> FeedRows::rowsOf(const QString &messageId) const {
@@ -288,12 +321,12 @@ std::pair<int, int> FeedRows::rowsOf(const QString &messageId) const {
 }
 
 QString FeedRows::lastMessage() const {
-    return m_rows.isEmpty() ? QString() : m_rows.last().first().messageId;
+    return m_shown.isEmpty() ? QString() : m_shown.last().rows.first().messageId;
 }
 
 int FeedRows::messagesAfter(const QString &messageId) const {
     const int message = messageOf(messageId);
-    return message < 0 ? 0 : static_cast<int>(m_rows.size()) - message - 1;
+    return message < 0 ? 0 : static_cast<int>(m_shown.size()) - message - 1;
 }
 
 QString FeedRows::messageText(const QString &messageId) const {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "store/Calendar.h"
 #include "ui/chat/FeedRow.h"
 
 #include <QAbstractListModel>
-#include <QDate>
 #include <QPointer>
 
 namespace kiv::ui {
@@ -20,7 +20,8 @@ class FeedRows : public QAbstractListModel {
     Q_PROPERTY(bool olderBefore READ hasOlderBefore WRITE setOlderBefore NOTIFY olderBeforeChanged)
     /// The first message that the person has not seen; empty for none.
     Q_PROPERTY(QString unreadFrom READ unreadFrom WRITE setUnreadFrom NOTIFY unreadFromChanged)
-    Q_PROPERTY(QDate today READ today WRITE setToday NOTIFY todayChanged)
+    Q_PROPERTY(kiv::store::Calendar *calendar READ calendar WRITE setCalendar NOTIFY calendarChanged
+                   REQUIRED)
 public:
     enum Role { RowRole = Qt::UserRole + 1 };
 
@@ -32,8 +33,8 @@ public:
     void setOlderBefore(bool older);
     QString unreadFrom() const { return m_unreadFrom; }
     void setUnreadFrom(const QString &messageId);
-    QDate today() const { return m_today; }
-    void setToday(const QDate &today);
+    store::Calendar *calendar() const { return m_calendar; }
+    void setCalendar(store::Calendar *calendar);
 
     const FeedRow &at(int row) const;
     /// The rows of a message, from the first to behind the last; none for a stranger.
@@ -54,26 +55,34 @@ Q_SIGNALS:
     void messagesChanged();
     void olderBeforeChanged();
     void unreadFromChanged();
-    void todayChanged();
+    void calendarChanged();
 
 private:
+    /// What shows of a message.
+    struct Shown {
+        QString body; ///< that the rows were made of
+        QList<FeedRow> rows;
+    };
+
     void reset();
     void insertMessages(int first, int last);
     void removeMessages(int first, int last);
     void refresh(int message);
+    void refreshAll();
     void exchange(int message, const QList<FeedRow> &rows);
-    QList<FeedRow> build(int message) const;
+    Shown build(int message, const Shown &before = {}) const;
+    QDate today() const { return m_calendar ? m_calendar->today() : QDate(); }
     QString dayLabel(int message) const;
     void sumUp(int from);
     QVariant field(int message, int role) const;
     int messageOf(const QString &messageId) const;
 
     QPointer<QAbstractItemModel> m_messages;
-    QList<QList<FeedRow>> m_rows; ///< of each message
-    QList<int> m_starts{0};       ///< the first row of each message, and the count of all
+    QPointer<store::Calendar> m_calendar;
+    QList<Shown> m_shown;
+    QList<int> m_starts{0}; ///< the first row of each message, and the count of all
     bool m_olderBefore = false;
     QString m_unreadFrom;
-    QDate m_today = QDate::currentDate();
 };
 
 } // namespace kiv::ui

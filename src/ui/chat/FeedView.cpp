@@ -96,6 +96,7 @@ void FeedView::reset() {
     if (!isComponentComplete())
         return;
     giveBackOutside(0, 0);
+    m_gap.reset();
     m_origin = 0;
     estimateAll();
     setFollowing(true);
@@ -103,13 +104,17 @@ void FeedView::reset() {
 }
 
 void FeedView::insertRows(int first, int last) {
+    if (!isComponentComplete())
+        return;
     QList<double> heights;
     double sum = 0;
     for (int row = first; row <= last; ++row) {
         heights.append(estimate(row));
         sum += heights.last();
     }
-    const bool isAbove = m_heights.count() > 0 && first <= anchorRow();
+    const bool fillsGap = m_gap && m_gap->row == first;
+    const bool isAbove = !fillsGap && m_heights.count() > 0 && first <= anchorRow();
+    m_gap.reset();
     m_heights.insert(first, heights);
     if (isAbove)
         m_origin -= sum;
@@ -120,9 +125,13 @@ void FeedView::insertRows(int first, int last) {
 }
 
 void FeedView::removeRows(int first, int last) {
+    if (!isComponentComplete())
+        return;
     const int anchor = anchorRow();
-    if (first < anchor)
-        m_origin += m_heights.top(std::min(last + 1, anchor)) - m_heights.top(first);
+    if (last < anchor)
+        m_origin += m_heights.top(last + 1) - m_heights.top(first);
+    else if (first <= anchor)
+        m_gap = {first, m_heights.top(last + 1) - m_heights.top(first)};
     for (int row = first; row <= last; ++row) {
         if (const auto shown = m_shown.find(row); shown != m_shown.end()) {
             giveBack(shown->second);
@@ -137,6 +146,8 @@ void FeedView::removeRows(int first, int last) {
 }
 
 void FeedView::changeRows(int first, int last) {
+    if (!isComponentComplete())
+        return;
     for (int row = first; row <= last; ++row) {
         const auto shown = m_shown.find(row);
         if (shown == m_shown.end())
@@ -174,6 +185,10 @@ void FeedView::updatePolish() {
     if (!m_flickable || !m_rows)
         return;
     m_layingOut = true;
+    // What went from the upper edge has gone for good: what is below stays where it is.
+    if (m_gap)
+        m_origin += m_gap->height;
+    m_gap.reset();
     const bool isMoved = m_following && !m_held;
     bool isSettled = false;
     int first = 0;

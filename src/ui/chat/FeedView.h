@@ -7,6 +7,7 @@
 #include <QQuickItem>
 
 #include <map>
+#include <optional>
 
 namespace kiv::ui {
 
@@ -83,6 +84,12 @@ private:
         FeedDelegate::Kind kind = FeedDelegate::Paragraph;
     };
 
+    /// Rows that were at the upper edge and went, as long as others may come in their place.
+    struct Gap {
+        int row = 0;
+        double height = 0;
+    };
+
     void reset();
     void insertRows(int first, int last);
     void removeRows(int first, int last);
@@ -124,6 +131,7 @@ private:
     /// Where the first row begins. It goes up when rows above those in sight turn out to be higher
     /// than estimated, so that nothing in sight moves.
     double m_origin = 0;
+    std::optional<Gap> m_gap;
     std::map<int, Shown> m_shown; ///< by row
     QHash<FeedDelegate::Kind, QList<QQuickItem *>> m_spare;
     bool m_layingOut = false;

@@ -1,5 +1,6 @@
 import QtQuick
 import Kiv.Chat
+import Kiv.Markdown
 import Kiv.Tokens
 
 BlockRow {
@@ -9,12 +10,19 @@ BlockRow {
 
     Item {
         width: block.inner
-        height: 5
+        height: dot.visible ? dot.y + dot.height : 5
 
         Rectangle {
             width: parent.width
             height: 1
             color: Tokens.line
+        }
+        GrowingDot {
+            id: dot
+
+            objectName: "ruleDot"
+            y: 16
+            visible: block.row.growing
         }
     }
 }

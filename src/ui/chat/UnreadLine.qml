@@ -15,6 +15,7 @@ Item {
     Label {
         id: caption
 
+        objectName: "unreadLine"
         y: unread.compact ? 16 : 20
         style: Tokens.type.captionMedium
         color: Tokens.accentText

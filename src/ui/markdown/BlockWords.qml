@@ -74,22 +74,10 @@ TextEdit {
             color: Tokens.sunken
         }
     }
-    Rectangle {
+    GrowingDot {
         visible: words.growing
         x: Math.min(filler.end.x + (words.length > 0 ? 5 : 0), words.width - width)
         y: words.topPadding + filler.end.y + (filler.end.height - height) / 2
-        width: 8
-        height: 8
-        radius: 4
-        color: Tokens.accentText
-
-        SequentialAnimation on opacity {
-            running: words.growing && words.visible && !Tokens.reducedMotion
-            loops: Animation.Infinite
-
-            NumberAnimation { to: 0.55; duration: Tokens.breathe / 2; easing.type: Easing.InOutSine }
-            NumberAnimation { to: 1; duration: Tokens.breathe / 2; easing.type: Easing.InOutSine }
-        }
     }
     LinkTip {
         link: words.hoveredLink

@@ -105,9 +105,12 @@ FocusScope {
         width: parent.width - 1
         messages: rail.store.chat.feedMsgs
         scope: rail.store.scope
+        calendar: rail.store.calendar
+        unreadFrom: rail.store.chat.unreadFrom
         compact: true
         hasOlder: rail.store.chat.feedMsgs.hasOlder
         onOlderRequested: rail.store.layout.toggleDock()
+        onTopReached: rail.store.chat.showOlder()
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)

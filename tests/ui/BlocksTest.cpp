@@ -1,0 +1,166 @@
+#include "ui/Gallery.h"
+#include "ui/Workspace.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::ui {
+
+namespace {
+
+/// The selectable text that holds `words`.
+QQuickItem *textWith(QQuickItem *item, const QString &words) {
+    if (item->inherits("QQuickTextEdit") && item->property("text").toString().contains(words))
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = textWith(child, words))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+/// What a person does with the blocks of an answer, by real events.
+class BlocksTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void selectsAndCopies();
+    void copiesCode();
+    void copiesTable();
+    void opensLinks_data();
+    void opensLinks();
+
+public Q_SLOTS:
+    void open(const QUrl &link) { m_opened.append(link.toString()); }
+
+private:
+    void answer(const QString &text);
+    /// The middle of words in the dock, in the window.
+    QPoint placeOf(const QString &words);
+    QString copied() const { return QGuiApplication::clipboard()->text(); }
+
+    std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<Gallery> m_gallery;
+    QStringList m_opened;
+};
+
+void BlocksTest::init() {
+    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
+    m_workspace = std::make_unique<Workspace>();
+    m_gallery = std::make_unique<Gallery>();
+    QVERIFY(m_workspace->signIn());
+    m_gallery->setReducedMotion(true);
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    m_workspace->store->layout()->toggleDock();
+    QGuiApplication::clipboard()->clear();
+    m_opened.clear();
+    for (const QString &scheme : {u"http"_s, u"https"_s, u"mailto"_s, u"file"_s, u"ftp"_s})
+        QDesktopServices::setUrlHandler(scheme, this, "open");
+}
+
+void BlocksTest::cleanup() {
+    for (const QString &scheme : {u"http"_s, u"https"_s, u"mailto"_s, u"file"_s, u"ftp"_s})
+        QDesktopServices::unsetUrlHandler(scheme);
+    m_gallery.reset();
+    m_workspace.reset();
+}
+
+void BlocksTest::answer(const QString &text) {
+    m_workspace->row(7, text);
+    QTRY_COMPARE(m_workspace->msgs().count(), 2);
+    m_gallery->save(u"blocks"_s);
+}
+
+QPoint BlocksTest::placeOf(const QString &words) {
+    QQuickItem *text = nullptr;
+    if (!QTest::qWaitFor([&] { return (text = textWith(m_gallery->item(u"dockFeed"_s), words)); }))
+        qFatal("Nothing reads %s", qPrintable(words));
+    const auto start = static_cast<int>(text->property("text").toString().indexOf(words));
+    QRectF first;
+    QRectF behind;
+    QMetaObject::invokeMethod(text, "positionToRectangle", Q_RETURN_ARG(QRectF, first),
+                              Q_ARG(int, start));
+    QMetaObject::invokeMethod(text, "positionToRectangle", Q_RETURN_ARG(QRectF, behind),
+                              Q_ARG(int, start + static_cast<int>(words.size())));
+    return text->mapToScene((first.center() + behind.center()) / 2).toPoint();
+}
+
+void BlocksTest::selectsAndCopies() {
+    answer(u"First **bold** words.\n\nOther words."_s);
+    QTest::mousePress(&m_gallery->window(), Qt::LeftButton, {},
+                      placeOf(u"First"_s) - QPoint(14, 0));
+    QTest::mouseMove(&m_gallery->window(), placeOf(u"words."_s));
+    // Over the end of the block: the selection ends with it.
+    QTest::mouseMove(&m_gallery->window(), placeOf(u"Other"_s) + QPoint(200, 30));
+    QTest::mouseRelease(&m_gallery->window(), Qt::LeftButton, {},
+                        placeOf(u"Other"_s) + QPoint(200, 30));
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(copied(), u"First bold words."_s);
+    // While the answer grows below, what is selected stays so.
+    m_workspace->row(7, u"First **bold** words.\n\nOther words.\n\n- and more"_s);
+    QTRY_VERIFY(textWith(m_gallery->item(u"dockFeed"_s), u"and more"_s));
+    QGuiApplication::clipboard()->clear();
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(copied(), u"First bold words."_s);
+}
+
+void BlocksTest::copiesCode() {
+    answer(u"Run:\n\n```sh\nmake  all\n\tcheck\n```\n\nThen stop."_s);
+    m_gallery->click(u"copyCode"_s);
+    QCOMPARE(copied(), u"make  all\n\tcheck"_s);
+    QCOMPARE(m_gallery->item(u"copyCode"_s)->property("text"), u"Copied"_s);
+}
+
+void BlocksTest::copiesTable() {
+    // A second table, for the first may be drawn on the canvas alone.
+    answer(u"Two:\n\n| a | b |\n|---|---|\n| 1 | 2 |\n\nand\n\n"
+           "| Name | Sum |\n|---|---|\n| North, **old** | €1,240 |\n| South | €385 |"_s);
+    QTest::mouseMove(&m_gallery->window(), placeOf(u"North"_s));
+    m_gallery->click(u"copyTable"_s);
+    QCOMPARE(copied(), u"Name\tSum\nNorth, **old**\t€1,240\nSouth\t€385"_s);
+
+    // So do the cells that are selected.
+    QTest::mouseDClick(&m_gallery->window(), Qt::LeftButton, {}, placeOf(u"South"_s));
+    QTest::mousePress(&m_gallery->window(), Qt::LeftButton, {}, placeOf(u"North"_s));
+    QTest::mouseMove(&m_gallery->window(), placeOf(u"South"_s) + QPoint(2, 0));
+    QTest::mouseMove(&m_gallery->window(), placeOf(u"South"_s));
+    QTest::mouseRelease(&m_gallery->window(), Qt::LeftButton, {}, placeOf(u"South"_s));
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(copied(), u"North, old\t€1,240\nSouth\t€385"_s);
+}
+
+void BlocksTest::opensLinks_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("opened");
+    QTest::newRow("http") << u"See [there](http://a.example/b) now"_s
+                          << QStringList{u"http://a.example/b"_s};
+    QTest::newRow("https") << u"See [there](https://a.example/) now"_s
+                           << QStringList{u"https://a.example/"_s};
+    QTest::newRow("mail") << u"See [there](mailto:a@b.example) now"_s
+                          << QStringList{u"mailto:a@b.example"_s};
+    QTest::newRow("file") << u"See [there](file:///etc/passwd) now"_s << QStringList();
+    QTest::newRow("script") << u"See [there](javascript:alert(1)) now"_s << QStringList();
+    QTest::newRow("ftp") << u"See [there](ftp://a.example/) now"_s << QStringList();
+    QTest::newRow("no scheme") << u"See [there](/etc/passwd) now"_s << QStringList();
+}
+
+void BlocksTest::opensLinks() {
+    QFETCH(QString, text);
+    answer(text);
+    QTest::mouseClick(&m_gallery->window(), Qt::LeftButton, {}, placeOf(u"there"_s));
+    QTEST(m_opened, "opened");
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::BlocksTest)
+#include "BlocksTest.moc"
