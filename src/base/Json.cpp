@@ -16,6 +16,37 @@ QByteArray withNumbersInRange(QByteArrayView utf8) {
     return QJsonDocument::fromJson(utf8.toByteArray()).toJson(QJsonDocument::Compact);
 }
 
+constexpr qsizetype escapeSize = 6;
+
+/// The code unit of an escape like "\\ud83d" at `at`.
+std::optional<char16_t> escapedUnit(QByteArrayView text, qsizetype at) {
+    if (at + escapeSize > text.size() || text[at] != '\\' || text[at + 1] != 'u')
+        return std::nullopt;
+    bool isNumber = false;
+    const ushort unit = text.sliced(at + 2, 4).toByteArray().toUShort(&isNumber, 16);
+    return isNumber ? std::optional(static_cast<char16_t>(unit)) : std::nullopt;
+}
+
+/// Halves of a surrogate pair can be written as escapes, and simdjson refuses such a text. Each
+/// becomes the character that stands for an unreadable one.
+QByteArray withWholePairs(QByteArrayView utf8) {
+    QByteArray whole = utf8.toByteArray();
+    for (qsizetype at = whole.indexOf('\\'); at >= 0; at = whole.indexOf('\\', at)) {
+        const auto unit = escapedUnit(whole, at);
+        const auto next = escapedUnit(whole, at + escapeSize);
+        if (!unit) {
+            at += 2;
+        } else if (QChar::isHighSurrogate(*unit) && next && QChar::isLowSurrogate(*next)) {
+            at += 2 * escapeSize;
+        } else {
+            if (QChar::isSurrogate(*unit))
+                whole.replace(at, escapeSize, "\\ufffd");
+            at += escapeSize;
+        }
+    }
+    return whole;
+}
+
 } // namespace
 
 JsonDocument::JsonDocument(QByteArrayView utf8)
@@ -25,6 +56,8 @@ JsonDocument::JsonDocument(QByteArrayView utf8)
         return m_parser->parse(data, static_cast<size_t>(text.size())).get(m_root);
     };
     auto error = parse(utf8);
+    if (error == simdjson::STRING_ERROR)
+        error = parse(withWholePairs(utf8));
     if (error == simdjson::NUMBER_ERROR) {
         const QByteArray readable = withNumbersInRange(utf8);
         if (!readable.isEmpty())

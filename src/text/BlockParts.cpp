@@ -12,11 +12,12 @@ using Joint = BlockPart::Joint;
 struct Limits {
     qsizetype chars;
     qsizetype lines;
+    qsizetype line; ///< of one line: where lines do not wrap, many long ones show at once
 };
 
-constexpr Limits wordLimits{4000, 60};
-constexpr Limits codeLimits{12000, 200};
-constexpr Limits tableLimits{12000, 100};
+constexpr Limits wordLimits{2500, 60, 2500};
+constexpr Limits codeLimits{12000, 200, 1000};
+constexpr Limits tableLimits{12000, 100, 12000};
 constexpr qsizetype cellLimit = 1000;
 constexpr qsizetype columnLimit = 200;
 constexpr qsizetype cellCost = 8; ///< what laying a cell out costs beside its text, in characters
@@ -24,21 +25,33 @@ constexpr qsizetype cellCost = 8; ///< what laying a cell out costs beside its t
 /// How much of a text a part takes: up to a line's end or a word's end in the second half of what
 /// fits, and never half a character.
 qsizetype fitting(QStringView text, Limits limits) {
-    qsizetype lines = 0;
-    for (qsizetype at = text.indexOf(u'\n'); at >= 0 && at < limits.chars;
-         at = text.indexOf(u'\n', at + 1)) {
-        if (++lines == limits.lines)
-            return at + 1;
+    const auto nextEnd = [text](qsizetype from, qsizetype within) {
+        const qsizetype end =
+            text.sliced(from).first(std::min(text.size() - from, within)).indexOf(u'\n');
+        return end < 0 ? end : from + end;
+    };
+    qsizetype start = 0; // of a line that is not in it yet
+    for (qsizetype lines = 0; start <= limits.chars; ++lines) {
+        if (lines == limits.lines)
+            return start;
+        const qsizetype end = nextEnd(start, limits.line + 1);
+        if (end < 0 || end >= limits.chars)
+            break;
+        start = end + 1;
     }
-    if (text.size() <= limits.chars)
+    const bool isLong = text.size() - start > limits.line && nextEnd(start, limits.line + 1) < 0;
+    if (isLong && start > 0 && limits.line < limits.chars)
+        return start;
+    const qsizetype most = isLong ? limits.line : limits.chars;
+    if (text.size() <= most)
         return text.size();
-    const QStringView head = text.first(limits.chars);
+    const QStringView head = text.first(most);
     for (const QChar end : {u'\n', u' '}) {
         const qsizetype at = head.lastIndexOf(end);
-        if (at > limits.chars / 2)
+        if (at > most / 2)
             return at + 1;
     }
-    return limits.chars - (head.back().isHighSurrogate() && text[limits.chars].isLowSurrogate());
+    return most - (head.back().isHighSurrogate() && text[most].isLowSurrogate());
 }
 
 struct Piece {
@@ -140,7 +153,7 @@ private:
         QStringList bounded = cells.first(std::min(cells.size(), columnLimit));
         for (QString &cell : bounded) {
             if (cell.size() > cellLimit)
-                cell = cell.first(fitting(cell, {cellLimit, 1})) + u'…';
+                cell = cell.first(fitting(cell, {cellLimit, 1, cellLimit})) + u'…';
         }
         return bounded;
     }

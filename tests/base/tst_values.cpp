@@ -84,6 +84,7 @@ private Q_SLOTS:
         QTest::newRow("cut") << QByteArray(R"({"a":)");
         QTest::newRow("two documents") << QByteArray("{}{}");
         QTest::newRow("bad UTF-8") << QByteArray("{\"a\":\"\xff\"}");
+        QTest::newRow("cut in half a pair") << QByteArray("{\"a\":\"\\ud83d\\u12");
         QTest::newRow("bad number") << QByteArray("[01]");
         QTest::newRow("deep") << QByteArray(100000, '[');
     }
@@ -91,6 +92,15 @@ private Q_SLOTS:
         QFETCH(QByteArray, body);
         QVERIFY_THROWS_EXCEPTION(DecodingError, JsonDocument{body});
         QVERIFY(!JVal::parse(body));
+    }
+
+    /// As a text that was cut within a character is written.
+    void jsonHalfPairs() {
+        const JsonDocument document(
+            "{\"a\":\"x\\ud83dy\\\\ud83d\",\"b\":\"\\udE80\\ud83d\\ude80\\uD83D\"}");
+        const JsonObject object = *document.root().object();
+        QCOMPARE(object.find("a")->string(), u"x\ufffdy\\ud83d"_s);
+        QCOMPARE(object.find("b")->string(), u"\ufffd🚀\ufffd"_s);
     }
 
     void jsonNumbersOutOfRange() {

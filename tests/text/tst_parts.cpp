@@ -91,6 +91,8 @@ private Q_SLOTS:
         QTest::newRow("heading") << u"# "_s + repeated(word, 20'000).trimmed();
         QTest::newRow("code") << u"```\n"_s + repeated(u"let a = 1;\n"_s, 20'000);
         QTest::newRow("a line of code") << u"```\n"_s + repeated(u"z"_s, 100'000);
+        QTest::newRow("long lines of code")
+            << u"```\n"_s + repeated(repeated(u"z"_s, 1'500) + u"\nlet a = 1;\n"_s, 40);
         QTest::newRow("table") << u"|a|b|\n|---|---|\n"_s + repeated(u"|1|2|\n"_s, 5'000);
     }
     void hugeBlocksAreCut() {
@@ -110,6 +112,15 @@ private Q_SLOTS:
             QVERIFY(words.isEmpty() || !words.front().isLowSurrogate());
         }
         QCOMPARE(rejoined(parts), linesOf(blocks.first().kind));
+    }
+
+    /// Lines of code do not wrap: what shows at once is as many of them as the view is high.
+    void linesOfCodeAreBounded() {
+        const QString text = u"```\na\n"_s + repeated(u"z"_s, 100'000) + u"\nb"_s;
+        for (const BlockPart &part : partsOf(MDParser::parse(text))) {
+            for (const QString &line : linesOf(part.content))
+                QCOMPARE_LE(line.size(), 1'000);
+        }
     }
 
     void tablesAreBounded() {

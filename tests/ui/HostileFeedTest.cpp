@@ -18,6 +18,18 @@ QString lineOf(qsizetype length, const QString &piece) {
     return piece.repeated(length / piece.size() + 1).first(length);
 }
 
+/// Stand in a text for halves of surrogate pairs, which only the stream can carry.
+const QList<std::pair<QString, QByteArray>> halves{{u"\ue000"_s, "\\ud83d"},
+                                                   {u"\ue001"_s, "\\udc00"}};
+
+/// A row of the stream as a server may write it that cuts texts within characters.
+QByteArray streamed(const QString &text) {
+    QByteArray row = test::rowJson(7, u"assistant"_s, text);
+    for (const auto &[mark, half] : halves)
+        row.replace(mark.toUtf8(), half);
+    return row;
+}
+
 /// Each of the characters on its own between letters.
 template <typename Code>
 QString between(const QList<Code> &codes) {
@@ -66,8 +78,7 @@ void HostileFeedTest::shows_data() {
         << lineOf(500'000, between<char16_t>({0x2028, 0x2029, 0xfffc, 0xfdd0, 0xfdd1, 0xfffe,
                                               0xffff, 0xfeff, 0x200d, 0x0300}));
     QTest::newRow("control characters") << lineOf(500'000, controlCharacters());
-    QTest::newRow("broken surrogates")
-        << lineOf(500'000, between<char16_t>({0xd800, 0xdc00, 0xdbff, 0xdfff}));
+    QTest::newRow("broken surrogates") << lineOf(500'000, u"a\ue000b \ue001c \ue001\ue000 "_s);
     QTest::newRow("right to left") << lineOf(1'000'000, u"مرحبا abc שלום \u202e 123 "_s);
     QTest::newRow("stacked marks") << lineOf(300'000, u"a"_s + u"\u0301"_s.repeated(3000));
     QTest::newRow("joined emoji") << lineOf(300'000, u"👩\u200d👩\u200d👧\u200d👦"_s);
@@ -84,7 +95,7 @@ void HostileFeedTest::shows() {
     gallery.item(u"dockFeed"_s);
     FrameMeter meter(gallery.window());
     meter.rest();
-    workspace.row(7, text);
+    workspace.backend.sendRow(workspace.store->scope()->chatTarget()->streamPath(), streamed(text));
     QTRY_COMPARE_WITH_TIMEOUT(workspace.msgs().count(), 2, 20000);
     meter.frameTime([] {});
 
@@ -117,8 +128,9 @@ void HostileFeedTest::shows() {
     }
     QTest::mouseRelease(&gallery.window(), Qt::LeftButton, {},
                         corner - QPoint(0, static_cast<int>(feed->height())));
-    QCOMPARE_LT(feed->property("contentY").toDouble(), feed->height());
     frame(u"a wider window"_s, [&] { gallery.window().resize(1500, 900); });
+    QCOMPARE_LT(feed->property("contentY").toDouble(),
+                feed->property("contentHeight").toDouble() / 2 + feed->height());
     frame(u"a word more"_s, [&] { workspace.row(8, u"Done."_s); });
     for (int next = 0; next < 6; ++next)
         frame(u"what follows"_s, [] {});

@@ -20,27 +20,44 @@ constexpr double bulletColumn = 10;
 constexpr double figureColumn = 18;
 constexpr double checkBox = 16;
 
+/// As many marks as a character is shown with.
+constexpr int mostMarks = 8;
+
 /// What can be shown of a character: not what ends a line, stands for an object or frames text in a
 /// document, no control characters and no half of a pair.
+bool isKept(QChar c) {
+    return (c >= u' ' && c < u'\u007f') || c == u'\t' ||
+           (c > u'\u009f' && !c.isSurrogate() && c != QChar::LineSeparator &&
+            c != QChar::ParagraphSeparator && c != QChar::ObjectReplacementCharacter &&
+            (c < u'\ufdd0' || c > u'\ufdef') && c < u'\ufffe');
+}
+
+bool isPlain(QChar c) {
+    return isKept(c) && c < u'\u0300';
+}
+
+/// What can be shown of a text. Marks that are heaped up on a character would take long to place.
 QString displayed(const QString &text) {
-    const auto isKept = [](QChar c) {
-        return (c >= u' ' && c < u'\u007f') || c == u'\t' ||
-               (c > u'\u009f' && !c.isSurrogate() && c != QChar::LineSeparator &&
-                c != QChar::ParagraphSeparator && c != QChar::ObjectReplacementCharacter &&
-                (c < u'\ufdd0' || c > u'\ufdef') && c < u'\ufffe');
-    };
-    if (std::all_of(text.begin(), text.end(), isKept))
+    if (std::all_of(text.begin(), text.end(), isPlain))
         return text;
-    QString shown = text;
-    for (qsizetype i = 0; i < shown.size(); ++i) {
-        const bool isPair = shown.at(i).isHighSurrogate() && i + 1 < shown.size() &&
-                            shown.at(i + 1).isLowSurrogate();
-        if (isPair)
-            ++i;
-        else if (shown.at(i).isSpace())
-            shown[i] = u' ';
-        else if (!isKept(shown.at(i)))
-            shown[i] = QChar::ReplacementCharacter;
+    QString shown;
+    shown.reserve(text.size());
+    int marks = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isPair =
+            c.isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+        const char32_t code = isPair ? QChar::surrogateToUcs4(c, text.at(i + 1)) : c.unicode();
+        marks = QChar::isMark(code) ? marks + 1 : 0;
+        if (marks <= mostMarks) {
+            if (isPair)
+                shown += QStringView(text).sliced(i, 2);
+            else if (isKept(c))
+                shown += c;
+            else
+                shown += c.isSpace() ? QChar(u' ') : QChar(QChar::ReplacementCharacter);
+        }
+        i += isPair;
     }
     return shown;
 }
