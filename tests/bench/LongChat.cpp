@@ -51,6 +51,26 @@ double documentTime() {
     return ui::mainThreadTime() - start;
 }
 
+/// The longest frame of a plain list of texts that moves to each of these places, of which 1 is the
+/// end.
+double listTime(const QList<double> &places) {
+    QStringList texts;
+    for (int number = 0; number < messages; ++number)
+        texts.append(words(number));
+    ui::Gallery gallery;
+    QQuickItem *list = gallery.show(u"MarkdownList.qml"_s, {720, 700}, {{u"model"_s, texts}});
+    const auto number = [list](const char *name) { return list->property(name).toDouble(); };
+    ui::FrameMeter meter(gallery.window());
+    double longest = 0;
+    for (const double place : places) {
+        longest = std::max(longest, meter.frameTime([&] {
+            const double end = number("contentHeight") - list->height();
+            list->setProperty("contentY", number("originY") + end * place);
+        }));
+    }
+    return longest;
+}
+
 /// From the answer's first byte to the end of the conversation on the screen.
 double openTime(ChatWindow &window) {
     window.workspace().history(u"api/v2/custom-agents/ledger/chat"_s, conversation());
@@ -104,12 +124,17 @@ QList<Row> longChat() {
     const double opened = openTime(window);
     if (window.gallery().item(u"dockFeed"_s)->property("contentHeight").toDouble() < messages * 40)
         qFatal("The conversation does not show");
-    const double document = documentTime();
     const double wheel = wheelTime(window);
     const double drag = dragTime(window);
-    return {{u"long-chat, open"_s, opened, u"setMarkdown once"_s, document, openMost},
-            {u"long-chat, wheel"_s, wheel, u"setMarkdown once"_s, document, frameMost},
-            {u"long-chat, drag"_s, drag, u"setMarkdown once"_s, document, frameMost}};
+    QList<double> near;
+    for (int frame = 0; frame < notches; ++frame)
+        near.append(1 - 0.0002 * frame);
+    QList<double> far;
+    for (int page = 0; page <= pages; ++page)
+        far.append(1 - static_cast<double>(page) / pages);
+    return {{u"long-chat, open"_s, opened, u"setMarkdown once"_s, documentTime(), openMost},
+            {u"long-chat, wheel"_s, wheel, u"ListView of Text"_s, listTime(near), frameMost},
+            {u"long-chat, drag"_s, drag, u"ListView of Text"_s, listTime(far), frameMost}};
 }
 
 } // namespace kiv::bench

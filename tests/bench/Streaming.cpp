@@ -95,10 +95,6 @@ QList<Row> streaming() {
         const QList<double> times = pieceTimes(text);
         first.append(mean(times.first(some)));
         last.append(mean(times.last(some)));
-        if (qEnvironmentVariableIsSet("KIV_TRACE")) {
-            for (int i = 0; i < pieces; i += 20)
-                qInfo("%d: %.2f ms", i, mean(times.sliced(i, 20)) / 1e6);
-        }
     }
     return {
         {u"streaming, last"_s, median(last), u"first 20 pieces"_s, median(first),

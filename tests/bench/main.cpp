@@ -43,6 +43,7 @@ void print(const QStringList &cells) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("QT_LOGGING_RULES", "qt.text.font.*=false");
     QGuiApplication application(argc, argv);
     const QStringList wanted = QCoreApplication::arguments().mid(1);
     for (const QString &name : wanted) {

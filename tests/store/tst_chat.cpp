@@ -268,8 +268,22 @@ private Q_SLOTS:
         f.row(1, u"a"_s);
         f.row(2, u"b"_s);
         SOON_COMPARE(f.store->chat()->unseenMsgs(), 2);
+        const auto idOf = [&f](int row) {
+            return f.msgs().messages().at(row).id.toString(QUuid::WithoutBraces);
+        };
         f.store->layout()->toggleDock();
         QCOMPARE(f.store->chat()->unseenMsgs(), 0);
+        // What was new stays marked while it is looked at, whatever comes meanwhile.
+        QCOMPARE(f.store->chat()->unreadFrom(), idOf(1));
+        f.row(3, u"c"_s);
+        SOON_COMPARE(f.msgs().count(), 4);
+        QCOMPARE(f.store->chat()->unreadFrom(), idOf(1));
+        f.store->layout()->toggleDock();
+        QCOMPARE(f.store->chat()->unreadFrom(), QString());
+        f.row(4, u"d"_s);
+        SOON_COMPARE(f.store->chat()->unreadFrom(), idOf(4));
+        f.store->chat()->send(u"Thanks"_s);
+        QCOMPARE(f.store->chat()->unreadFrom(), QString());
     }
 
     void goneInTheMiddle() {

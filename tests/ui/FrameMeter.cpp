@@ -22,7 +22,7 @@ double mainThreadTime() {
 FrameMeter::FrameMeter(QQuickWindow &window) : m_window(window) {
     // Off screen all of a frame is made on the main thread.
     connect(
-        &window, &QQuickWindow::afterSynchronizing, this, [this] { m_laidOut = mainThreadTime(); },
+        &window, &QQuickWindow::afterAnimating, this, [this] { m_laidOut = mainThreadTime(); },
         Qt::DirectConnection);
     connect(
         &window, &QQuickWindow::frameSwapped, this, [this] { ++m_frames; }, Qt::DirectConnection);

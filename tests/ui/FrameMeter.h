@@ -17,8 +17,7 @@ class FrameMeter : public QObject {
 public:
     explicit FrameMeter(QQuickWindow &window);
 
-    /// Nanoseconds from the start of `step` until everything it changed is laid out and handed to
-    /// the renderer.
+    /// Nanoseconds from the start of `step` until everything it changed is laid out.
     double layoutTime(const std::function<void()> &step);
     /// Nanoseconds from the start of `step` until the frame behind it is drawn.
     double frameTime(const std::function<void()> &step);
