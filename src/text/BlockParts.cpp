@@ -31,7 +31,7 @@ qsizetype fitting(QStringView text, Limits limits) {
         return end < 0 ? end : from + end;
     };
     qsizetype start = 0; // of a line that is not in it yet
-    for (qsizetype lines = 0; start <= limits.chars; ++lines) {
+    for (qsizetype lines = 0;; ++lines) {
         if (lines == limits.lines)
             return start;
         const qsizetype end = nextEnd(start, limits.line + 1);

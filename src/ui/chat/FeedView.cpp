@@ -2,8 +2,6 @@
 
 #include "ui/chat/RowEstimate.h"
 
-#include <QQuickWindow>
-
 #include <algorithm>
 
 namespace kiv::ui {
@@ -15,7 +13,6 @@ constexpr double reserve = 160;
 constexpr double revealMargin = 16;
 /// How often heights may turn out to be other than estimated before the rest waits for a frame.
 constexpr int mostPasses = 8;
-constexpr qsizetype mostSpare = 16;
 
 } // namespace
 
@@ -113,8 +110,10 @@ void FeedView::insertRows(int first, int last) {
         sum += heights.last();
     }
     const bool fillsGap = m_gap && m_gap->row == first;
+    if (fillsGap)
+        m_gap.reset();
+    closeGap();
     const bool isAbove = !fillsGap && m_heights.count() > 0 && first <= anchorRow();
-    m_gap.reset();
     m_heights.insert(first, heights);
     if (isAbove)
         m_origin -= sum;
@@ -127,6 +126,7 @@ void FeedView::insertRows(int first, int last) {
 void FeedView::removeRows(int first, int last) {
     if (!isComponentComplete())
         return;
+    closeGap();
     const int anchor = anchorRow();
     if (last < anchor)
         m_origin += m_heights.top(last + 1) - m_heights.top(first);
@@ -145,6 +145,13 @@ void FeedView::removeRows(int first, int last) {
     polish();
 }
 
+/// What went from the upper edge has gone for good: what is below stays where it is.
+void FeedView::closeGap() {
+    if (m_gap)
+        m_origin += m_gap->height;
+    m_gap.reset();
+}
+
 void FeedView::changeRows(int first, int last) {
     if (!isComponentComplete())
         return;
@@ -156,14 +163,6 @@ void FeedView::changeRows(int first, int last) {
             shown->second.item->setProperty("row", QVariant::fromValue(m_rows->at(row)));
     }
     polish();
-}
-
-/// The items from the row `from` on belong to the row that is `by` further down.
-void FeedView::moveShown(int from, int by) {
-    std::map<int, Shown> moved;
-    for (const auto &[row, shown] : m_shown)
-        moved.emplace(row < from ? row : row + by, shown);
-    m_shown = std::move(moved);
 }
 
 /// A row above what is in sight grows upwards.
@@ -185,10 +184,7 @@ void FeedView::updatePolish() {
     if (!m_flickable || !m_rows)
         return;
     m_layingOut = true;
-    // What went from the upper edge has gone for good: what is below stays where it is.
-    if (m_gap)
-        m_origin += m_gap->height;
-    m_gap.reset();
+    closeGap();
     const bool isMoved = m_following && !m_held;
     bool isSettled = false;
     int first = 0;
@@ -262,71 +258,6 @@ void FeedView::moveOrigin() {
         setNumber("topMargin", number("topMargin") - by);
     moveTo(place);
     setExtents();
-}
-
-QQuickItem *FeedView::itemOf(int row) {
-    if (const auto shown = m_shown.find(row); shown != m_shown.end())
-        return shown->second.item;
-    const Shown taken = take(row);
-    const auto place = m_shown.emplace(row, taken).first;
-    // The tab key goes through items in the order in which they stack.
-    if (const auto below = std::next(place); below != m_shown.end())
-        taken.item->stackBefore(below->second.item);
-    else if (place != m_shown.begin())
-        taken.item->stackAfter(std::prev(place)->second.item);
-    return taken.item;
-}
-
-FeedView::Shown FeedView::take(int row) {
-    const FeedRow &content = m_rows->at(row);
-    const QVariant value = QVariant::fromValue(content);
-    QList<QQuickItem *> &spare = m_spare[content.kind];
-    if (!spare.isEmpty()) {
-        QQuickItem *item = spare.takeLast();
-        item->setWidth(width());
-        item->setProperty("row", value);
-        item->setVisible(true);
-        return {item, content.kind};
-    }
-    const auto delegate = std::ranges::find(m_delegates, content.kind, &FeedDelegate::kind);
-    QObject *made = nullptr;
-    if (delegate != m_delegates.end()) {
-        QQmlComponent &view = *(*delegate)->view;
-        made = view.createWithInitialProperties(
-            {{QStringLiteral("row"), value}, {QStringLiteral("width"), width()}},
-            view.creationContext());
-        if (!made)
-            qWarning("QML: %s", qPrintable(view.errorString()));
-    }
-    auto *item = qobject_cast<QQuickItem *>(made);
-    if (!item)
-        item = new QQuickItem;
-    item->setParent(this);
-    item->setParentItem(this);
-    connect(item, &QQuickItem::implicitHeightChanged, this, &FeedView::rowGrew);
-    return {item, content.kind};
-}
-
-void FeedView::giveBack(const Shown &shown) {
-    QList<QQuickItem *> &spare = m_spare[shown.kind];
-    if (spare.size() == mostSpare) {
-        shown.item->deleteLater();
-        return;
-    }
-    shown.item->setVisible(false);
-    spare.append(shown.item);
-}
-
-void FeedView::giveBackOutside(int first, int last) {
-    const QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
-    std::erase_if(m_shown, [&](const auto &entry) {
-        const auto &[row, shown] = entry;
-        // What holds a selection keeps it while it is out of sight.
-        if ((row >= first && row < last) || (last > 0 && shown.item->isAncestorOf(focused)))
-            return false;
-        giveBack(shown);
-        return true;
-    });
 }
 
 void FeedView::setHeld(bool held) {

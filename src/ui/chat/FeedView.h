@@ -105,6 +105,7 @@ private:
     double end() const;
     int anchorRow() const { return m_heights.rowAt(top() - m_origin); }
     void setRowHeight(int row, double height);
+    void closeGap();
     void setExtents();
     void moveTo(double place);
     void moveOrigin();
