@@ -56,6 +56,7 @@ private Q_SLOTS:
 private:
     void fill(int count);
     void wheelUp();
+    void savePictures(const QString &name);
 
     std::unique_ptr<Workspace> m_workspace;
     std::unique_ptr<Gallery> m_gallery;
@@ -100,6 +101,13 @@ void FeedTest::wheelUp() {
     double place = -1;
     QTRY_VERIFY(std::exchange(place, number(feed, "contentY")) == number(feed, "contentY") &&
                 !feed->property("moving").toBool());
+}
+
+void FeedTest::savePictures(const QString &name) {
+    m_gallery->setDark(true);
+    m_gallery->save(name + u"dark"_s);
+    m_gallery->setDark(false);
+    m_gallery->save(name + u"light"_s);
 }
 
 void FeedTest::followsItsEnd() {
@@ -185,7 +193,7 @@ void FeedTest::newIsMarked() {
     m_workspace->row(2, u"Two"_s);
     QTRY_COMPARE(m_workspace->store->chat()->unseenMsgs(), 2);
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    m_gallery->save(u"feed-new"_s);
+    savePictures(u"feed-new-"_s);
     const QQuickItem *feed = m_gallery->item(u"dockFeed"_s);
     const QQuickItem *line = m_gallery->item(u"unreadLine"_s);
     QCOMPARE_LT(line->mapToItem(feed, QPointF()).y(),
@@ -204,7 +212,7 @@ void FeedTest::ruleGrows() {
     QVERIFY(!m_gallery->find(u"ruleDot"_s));
     m_workspace->row(50, u"One\n\n---"_s);
     QTRY_VERIFY(m_gallery->find(u"ruleDot"_s));
-    m_gallery->save(u"feed-rule"_s);
+    savePictures(u"feed-rule-"_s);
     m_workspace->row(50, u"One\n\n---\n\nTwo"_s);
     QTRY_VERIFY(!m_gallery->find(u"ruleDot"_s));
 }
