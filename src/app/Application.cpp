@@ -12,25 +12,36 @@ using namespace Qt::StringLiterals;
 Application::Application(const Options &options)
     : m_options(options),
       m_settings(options.places.settingsFile, QSettings::IniFormat),
+      m_frame(m_settings, m_clock),
       m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)) {
     m_store = std::make_unique<store::AppStore>(
         m_clock, *m_net, m_settings, options.places.draftsFile,
         options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
     m_store->attachments()->setChooser(&m_chooser);
+    m_delegate = std::make_unique<AppDelegate>(*m_store);
 }
 
 Application::~Application() {
     m_start.cancel();
+    if (!m_options.snapshot)
+        m_frame.save();
     m_settings.sync();
 }
 
 void Application::start() {
     // The server comes up while the window is being made.
     m_start.start([this](Cancel cancel) { return connectToBackend(std::move(cancel)); });
-    ui::showMainWindow(m_engine, *m_store,
-                       m_options.theme == Theme::Dark ? ui::Appearance::Dark
-                                                      : ui::Appearance::Light);
+    ui::WindowLook look;
+    look.theme = m_options.theme == Theme::Dark ? ui::Appearance::Dark : ui::Appearance::Light;
+    if (!m_options.snapshot) {
+        look.frame = m_frame.restored();
+        look.maximized = m_frame.wasMaximized();
+    }
+    ui::showMainWindow(m_engine, *m_store, *m_delegate, look);
+    m_delegate->setWindow(window());
     m_chooser.setWindow(window());
+    if (window() && !m_options.snapshot)
+        m_frame.follow(window(), look.frame.value_or(window()->geometry()));
 }
 
 QCoro::Task<void> Application::connectToBackend(Cancel cancel) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "app/AppDelegate.h"
 #include "app/EmbeddedServer.h"
 #include "app/Options.h"
+#include "app/WindowFrame.h"
 #include "base/SystemClock.h"
 #include "base/Work.h"
 #include "net/APIClient.h"
@@ -38,11 +40,13 @@ private:
     Options m_options;
     SystemClock m_clock;
     QSettings m_settings;
+    WindowFrame m_frame;
     net::SystemConnectivity m_connectivity;
     std::unique_ptr<net::APIClient> m_net;
     std::unique_ptr<EmbeddedServer> m_server;
     ui::DialogChooser m_chooser;
     std::unique_ptr<store::AppStore> m_store;
+    std::unique_ptr<AppDelegate> m_delegate;
     QQmlApplicationEngine m_engine;
     Work m_start;
 };

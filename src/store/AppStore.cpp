@@ -20,7 +20,8 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_events(*this),
       m_session(*this),
       m_connection(*this),
-      m_calendar(clock) {
+      m_calendar(clock),
+      m_update(*this) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();

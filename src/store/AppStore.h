@@ -5,6 +5,7 @@
 #include "net/ChatStreamClient.h"
 #include "store/AttachmentRoom.h"
 #include "store/Calendar.h"
+#include "store/CallRoom.h"
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
@@ -12,6 +13,7 @@
 #include "store/LayoutRoom.h"
 #include "store/ScopeRoom.h"
 #include "store/SessionRoom.h"
+#include "store/UpdateRoom.h"
 
 #include <QObject>
 #include <QTimeZone>
@@ -35,6 +37,8 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
+    Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
+    Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
 
@@ -53,6 +57,8 @@ public:
     EventsRoom *events() { return &m_events; }
     ConnectionRoom *connection() { return &m_connection; }
     Calendar *calendar() { return &m_calendar; }
+    CallRoom *call() { return &m_call; }
+    UpdateRoom *update() { return &m_update; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -82,6 +88,8 @@ private:
     SessionRoom m_session;
     ConnectionRoom m_connection;
     Calendar m_calendar;
+    CallRoom m_call;
+    UpdateRoom m_update;
 };
 
 } // namespace kiv::store

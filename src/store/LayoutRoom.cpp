@@ -19,6 +19,7 @@ const QString dockWKey = u"zandor.dockW"_s;
 const QString railCollapsedKey = u"zandor.railCollapsed"_s;
 const QString dockOpenKey = u"zandor.dockOpen"_s;
 constexpr auto saveDelay = 200ms;
+const QString firstAccountTab = u"profile"_s;
 
 /// A saved width within its limits; nothing when there is none or it is no number.
 std::optional<double> savedWidth(const QSettings &settings, const QString &key, double least,
@@ -107,6 +108,20 @@ void LayoutRoom::closePopovers() {
     m_histOpen = false;
     m_scopeOpen = false;
     m_topScopeOpen = false;
+}
+
+void LayoutRoom::focusAsk() {
+    m_focusAskRequests = m_focusAskRequests + 1;
+}
+
+void LayoutRoom::openAccount(const QString &tab) {
+    closePopovers();
+    m_account = tab.isEmpty() ? firstAccountTab : tab;
+}
+
+void LayoutRoom::startCreate(const QString &kind) {
+    closePopovers();
+    m_creating = kind;
 }
 
 void LayoutRoom::closeSurfaces() {

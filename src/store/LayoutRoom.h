@@ -28,6 +28,7 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY profileOpenChanged)
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
     Q_PROPERTY(QString creating READ creating NOTIFY creatingChanged)
+    Q_PROPERTY(int focusAskRequests READ focusAskRequests NOTIFY focusAskRequestsChanged)
     Q_PROPERTY(double shownRailW READ shownRailW NOTIFY shownRailWChanged)
     Q_PROPERTY(double shownDockW READ shownDockW NOTIFY shownDockWChanged)
     Q_PROPERTY(bool railShown READ railShown NOTIFY railShownChanged)
@@ -53,6 +54,9 @@ public:
     bool isCreating() const { return !m_creating.value().isEmpty(); }
     bool isFeed() const { return !isAccount() && !isCreating(); }
 
+    /// Counts how often the cursor was asked into the ask bar; the view follows each.
+    int focusAskRequests() const { return m_focusAskRequests; }
+
     /// What fits the window now; narrowness never changes what the person set.
     double shownRailW() const { return m_shownRailW; }
     double shownDockW() const { return m_shownDockW; }
@@ -70,6 +74,11 @@ public:
     Q_INVOKABLE void toggleHist();
     Q_INVOKABLE void toggleProfile();
     Q_INVOKABLE void closePopovers();
+    Q_INVOKABLE void focusAsk();
+    /// Opens the account pages, at the first one when no tab is named.
+    Q_INVOKABLE void openAccount(const QString &tab = {});
+    /// Opens the wizard for a "project" or an "agent".
+    Q_INVOKABLE void startCreate(const QString &kind);
 
     /// Closes account, wizard and scope popovers before the scope changes.
     void closeSurfaces();
@@ -93,6 +102,7 @@ Q_SIGNALS:
     void profileOpenChanged();
     void accountChanged();
     void creatingChanged();
+    void focusAskRequestsChanged();
     void windowWidthChanged();
     void shownRailWChanged();
     void shownDockWChanged();
@@ -117,6 +127,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_profileOpen, &LayoutRoom::profileOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_account, &LayoutRoom::accountChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_creating, &LayoutRoom::creatingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, int, m_focusAskRequests,
+                               &LayoutRoom::focusAskRequestsChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_windowWidth, 1440,
                                          &LayoutRoom::windowWidthChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownRailW, &LayoutRoom::shownRailWChanged)

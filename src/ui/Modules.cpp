@@ -3,9 +3,11 @@
 #include "store/AppStore.h"
 #include "ui/controls/ShadowProvider.h"
 #include "ui/icons/IconProvider.h"
+#include "ui/shell/Commands.h"
 #include "ui/tokens/Typefaces.h"
 
 #include <QQmlApplicationEngine>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -40,10 +42,20 @@ Appearance &registerModules(QQmlEngine &engine) {
     return *new Appearance(engine);
 }
 
-void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store,
-                    Appearance::Theme theme) {
-    registerModules(engine).setDark(theme == Appearance::Dark);
-    engine.setInitialProperties({{u"store"_s, QVariant::fromValue(&store)}});
+void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store, Commands &commands,
+                    const WindowLook &look) {
+    registerModules(engine).setDark(look.theme == Appearance::Dark);
+    QVariantMap properties = {{u"store"_s, QVariant::fromValue(&store)},
+                              {u"commands"_s, QVariant::fromValue(&commands)}};
+    if (look.frame) {
+        properties.insert({{u"x"_s, look.frame->x()},
+                           {u"y"_s, look.frame->y()},
+                           {u"width"_s, look.frame->width()},
+                           {u"height"_s, look.frame->height()}});
+    }
+    if (look.maximized)
+        properties.insert(u"visibility"_s, QWindow::Maximized);
+    engine.setInitialProperties(properties);
     engine.load(QUrl(u"qrc:/qt/qml/Kiv/Shell/MainWindow.qml"_s));
 }
 

@@ -2,6 +2,10 @@
 
 #include "ui/tokens/Appearance.h"
 
+#include <QRect>
+
+#include <optional>
+
 class QQmlApplicationEngine;
 class QQmlEngine;
 
@@ -11,12 +15,23 @@ class AppStore;
 
 namespace kiv::ui {
 
+class Commands;
+
+/// How the window is opened.
+struct WindowLook {
+    Appearance::Theme theme = Appearance::Light;
+    /// Where it stands; nothing leaves that to the system.
+    std::optional<QRect> frame = {};
+    bool maximized = false;
+};
+
 /// Makes every view of the program known to `engine`: modules, pictures and the type face.
 /// Called once for an engine, after the application object was made and before its first view is
 /// loaded. What comes back belongs to the engine and sets the look of its views.
 Appearance &registerModules(QQmlEngine &engine);
 
-/// Opens the program's one window on `store`, which outlives the engine.
-void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store, Appearance::Theme theme);
+/// Opens the program's one window on `store`; it and the commands outlive the engine.
+void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store, Commands &commands,
+                    const WindowLook &look);
 
 } // namespace kiv::ui

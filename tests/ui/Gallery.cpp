@@ -39,6 +39,7 @@ void Gallery::close() {
     m_own.reset();
     m_window = nullptr;
     m_engine.reset();
+    m_delegate.reset();
 }
 
 QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariantMap &properties) {
@@ -65,10 +66,13 @@ QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariant
 void Gallery::open(store::AppStore &store, const QSize &size) {
     close();
     m_engine = std::make_unique<QQmlApplicationEngine>();
-    showMainWindow(*m_engine, store, m_dark ? Appearance::Dark : Appearance::Light);
+    m_delegate = std::make_unique<app::AppDelegate>(store);
+    showMainWindow(*m_engine, store, *m_delegate,
+                   {.theme = m_dark ? Appearance::Dark : Appearance::Light});
     if (m_engine->rootObjects().isEmpty())
         qFatal("The window cannot be made");
     m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
+    m_delegate->setWindow(m_window);
     present(size);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AppDelegate.h"
 #include "ui/Modules.h"
 
 #include <QQmlApplicationEngine>
@@ -30,6 +31,8 @@ public:
     /// The same at once.
     QImage grab(const QString &name);
 
+    /// What carries out the main menu of the program's window.
+    app::AppDelegate &commands() const { return *m_delegate; }
     QQuickWindow &window() const { return *m_window; }
     /// The visible item with this objectName; null without one.
     QQuickItem *find(const QString &name) const;
@@ -45,6 +48,7 @@ public:
 private:
     void present(const QSize &size);
 
+    std::unique_ptr<app::AppDelegate> m_delegate;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow *m_window = nullptr;
     std::unique_ptr<QQuickWindow> m_own;

@@ -10,8 +10,10 @@ Rectangle {
     required property string text
     required property string action
     property DataColor tone: Tokens.amber
+    property bool closable: false
 
     signal acted()
+    signal closed()
 
     implicitHeight: 40
     color: tone.tint
@@ -40,11 +42,22 @@ Rectangle {
         id: link
 
         objectName: "bannerAction"
-        x: parent.width - width - 24
+        x: parent.width - width - (banner.closable ? 64 : 24)
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.smallMedium
         color: banner.tone.text
         text: banner.action
         onClicked: banner.acted()
+    }
+    IconButton {
+        objectName: "bannerClose"
+        x: parent.width - width - 16
+        anchors.verticalCenter: parent.verticalCenter
+        visible: banner.closable
+        size: 32
+        iconName: "close"
+        color: banner.tone.text
+        text: qsTr("Close")
+        onClicked: banner.closed()
     }
 }

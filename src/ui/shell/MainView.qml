@@ -11,6 +11,7 @@ FocusScope {
     id: view
 
     required property AppStore store
+    required property Commands commands
 
     readonly property LayoutRoom layout: store.layout
     readonly property bool floats: !layout.railShown && !layout.dockOpen
@@ -42,11 +43,12 @@ FocusScope {
 
         width: parent.width
         store: view.store
+        commands: view.commands
         railWidth: view.layout.railShown ? view.layout.shownRailW : 0
         popoverHeight: view.height * 0.7
     }
     Banner {
-        id: banner
+        id: offlineBanner
 
         anchors.top: topBar.bottom
         width: parent.width
@@ -57,10 +59,25 @@ FocusScope {
         action: qsTr("Retry now")
         onActed: view.store.connection.retryNow()
     }
+    Banner {
+        id: updateBanner
+
+        anchors.top: offlineBanner.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: view.store.update.offered
+        iconName: "download"
+        tone: Tokens.violet
+        text: qsTr("KIV %1 is available.").arg(view.store.update.version)
+        action: qsTr("Open downloads")
+        closable: true
+        onActed: Qt.openUrlExternally(view.store.update.page)
+        onClosed: view.store.update.dismiss()
+    }
     Rail {
         id: rail
 
-        anchors.top: banner.bottom
+        anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         visible: view.layout.railShown
         width: view.layout.shownRailW
@@ -70,13 +87,13 @@ FocusScope {
     Strip {
         id: strip
 
-        anchors.top: banner.bottom
+        anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         visible: !view.layout.railShown
         scope: view.store.scope
     }
     EdgeHandle {
-        anchors.top: banner.bottom
+        anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         x: view.layout.shownRailW - width / 2
         visible: view.layout.railShown
@@ -86,7 +103,7 @@ FocusScope {
     FocusScope {
         id: stage
 
-        anchors.top: banner.bottom
+        anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         x: view.side
         width: parent.width - x
@@ -113,7 +130,7 @@ FocusScope {
     Item {
         id: dockPlace
 
-        anchors.top: banner.bottom
+        anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
@@ -131,19 +148,33 @@ FocusScope {
     AreaCycle {
         id: areas
 
-        areas: [topBar, banner, view.layout.railShown ? rail : strip, stage, dockPlace]
+        areas: [topBar, offlineBanner, updateBanner, view.layout.railShown ? rail : strip, stage, dockPlace]
+    }
+    AboutDialog {
+        id: about
+
+        commands: view.commands
+    }
+    MenuKeys {
+        commands: view.commands
+    }
+    Connections {
+        target: view.commands
+
+        function onAboutRequested() {
+            about.open()
+        }
+    }
+    Connections {
+        target: view.layout
+
+        function onFocusAskRequestsChanged() {
+            view.focusAsk()
+        }
     }
     Shortcut {
-        sequence: "Ctrl+K"
-        onActivated: view.focusAsk()
-    }
-    Shortcut {
-        sequence: "Ctrl+J"
-        onActivated: view.layout.toggleDock()
-    }
-    Shortcut {
-        sequence: "Ctrl+\\"
-        onActivated: view.layout.toggleRail()
+        sequence: "F10"
+        onActivated: topBar.toggleMenu()
     }
     Shortcut {
         sequence: "F6"

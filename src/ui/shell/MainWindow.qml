@@ -7,6 +7,7 @@ Window {
     id: window
 
     required property AppStore store
+    required property Commands commands
 
     title: "KIV"
     width: 1440
@@ -19,5 +20,6 @@ Window {
     MainView {
         anchors.fill: parent
         store: window.store
+        commands: window.commands
     }
 }

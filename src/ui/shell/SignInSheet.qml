@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Store
@@ -7,7 +6,7 @@ import Kiv.Tokens
 
 // Signing in, and making an account. What was typed stays through errors and through the switch
 // between the two.
-T.Popup {
+Dialog {
     id: sheet
 
     required property SessionRoom session
@@ -19,36 +18,12 @@ T.Popup {
             session.submitAuth(email.field.text, password.field.text, signup)
     }
 
-    anchors.centerIn: T.Overlay.overlay
     width: 424
-    padding: 36
-    bottomPadding: 28
-    modal: true
-    focus: true
-    closePolicy: T.Popup.CloseOnEscape
     visible: session.authSheet !== Store.AuthSheetMode.Closed
-    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     onAboutToShow: email.field.forceActiveFocus(Qt.PopupFocusReason)
     onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()
     onClosed: password.field.clear()
 
-    T.Overlay.modal: Rectangle {
-        color: Tokens.scrim
-    }
-    background: Item {
-        Shadow {
-            level: Shadow.High
-            targetRadius: Tokens.radiusDialog
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: Tokens.radiusDialog
-            color: Tokens.surface
-        }
-    }
-    enter: Transition {
-        NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
-    }
     contentItem: Item {
         implicitHeight: form.height
     }

@@ -10,11 +10,16 @@ FocusScope {
     id: bar
 
     required property AppStore store
+    required property Commands commands
     /// Where the rail ends, or 0 while it is collapsed.
     required property real railWidth
     required property real popoverHeight
 
     readonly property bool signedIn: store.scope.auth === Store.AuthPhase.SignedIn
+
+    function toggleMenu() {
+        menuButton.toggle()
+    }
 
     implicitHeight: Tokens.topBarHeight
     Accessible.role: Accessible.ToolBar
@@ -39,25 +44,17 @@ FocusScope {
         keys: "Ctrl \\"
         onClicked: bar.store.layout.toggleRail()
     }
-    Mark {
-        id: mark
+    MenuButton {
+        id: menuButton
 
         anchors.left: railButton.right
-        anchors.leftMargin: 10
+        anchors.leftMargin: 4
         anchors.verticalCenter: parent.verticalCenter
-        color: bar.store.connection.offline ? Tokens.t3 : Tokens.accentText
-    }
-    Label {
-        id: word
-
-        anchors.left: mark.right
-        anchors.leftMargin: 8
-        anchors.verticalCenter: parent.verticalCenter
-        style: Tokens.type.word
-        text: "KIV"
+        commands: bar.commands
+        offline: bar.store.connection.offline
     }
     ScopeButton {
-        x: bar.railWidth > 0 ? bar.railWidth + 24 : word.x + word.width + 60
+        x: bar.railWidth > 0 ? bar.railWidth + 24 : menuButton.x + menuButton.width + 24
         anchors.verticalCenter: parent.verticalCenter
         store: bar.store
         popoverHeight: bar.popoverHeight
@@ -80,7 +77,7 @@ FocusScope {
             HistoryPopover {
                 canvas: bar.store.canvas
                 most: bar.popoverHeight
-                visible: bar.store.layout.histOpen
+                visible: bar.signedIn && bar.store.layout.histOpen
                 onAboutToHide: bar.store.layout.closePopovers()
             }
         }

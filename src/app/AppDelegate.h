@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/shell/Commands.h"
+
+class QWindow;
+
+namespace kiv::store {
+class AppStore;
+enum class AuthSheetMode;
+} // namespace kiv::store
+
+namespace kiv::app {
+
+/// Carries out the commands of the main menu on the store and on the window.
+class AppDelegate : public ui::Commands {
+    Q_OBJECT
+public:
+    /// The store outlives the delegate.
+    explicit AppDelegate(store::AppStore &store);
+
+    void setWindow(QWindow *window) { m_window = window; }
+
+    QList<ui::MenuDescription> menus() const override;
+    void perform(ui::Command command) override;
+
+private:
+    void showSheet(store::AuthSheetMode mode);
+    void toWindow(ui::Command command);
+
+    store::AppStore &m_store;
+    QWindow *m_window = nullptr;
+};
+
+} // namespace kiv::app

@@ -1,0 +1,57 @@
+import QtQuick
+import Kiv.Controls
+import Kiv.Shell
+import Kiv.Tokens
+
+// What program this is, and which version of it.
+Dialog {
+    id: dialog
+
+    required property Commands commands
+
+    width: 360
+    objectName: "aboutDialog"
+    onAboutToShow: close.forceActiveFocus(Qt.PopupFocusReason)
+
+    contentItem: Item {
+        implicitHeight: lines.height
+    }
+
+    Column {
+        id: lines
+
+        width: dialog.availableWidth
+        spacing: 12
+
+        Mark {
+            anchors.horizontalCenter: parent.horizontalCenter
+            size: 56
+        }
+        Label {
+            anchors.horizontalCenter: parent.horizontalCenter
+            style: Tokens.type.title
+            text: "KIV"
+            Accessible.role: Accessible.Heading
+        }
+        Label {
+            objectName: "aboutVersion"
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: Tokens.t2
+            text: qsTr("Version %1").arg(dialog.commands.version)
+        }
+        Label {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            color: Tokens.t2
+            text: qsTr("Talk to your agents and see what they answer.")
+        }
+        Button {
+            id: close
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTr("Close")
+            onClicked: dialog.close()
+        }
+    }
+}

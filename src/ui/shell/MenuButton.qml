@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Shell
+import Kiv.Tokens
+
+// The program's mark and name, which open the main menu.
+T.Button {
+    id: button
+
+    required property Commands commands
+    property bool offline: false
+
+    function toggle() {
+        menu.visible = !menu.visible
+    }
+
+    objectName: "menuButton"
+    implicitWidth: word.x + word.width + 8
+    implicitHeight: 36
+    text: qsTr("Main menu")
+    Accessible.name: text
+    Accessible.role: Accessible.ButtonMenu
+    onClicked: toggle()
+
+    background: Rectangle {
+        radius: Tokens.radiusControl
+        color: button.down || menu.visible ? Tokens.press : button.hovered ? Tokens.hover : "transparent"
+
+        FocusRing {
+            visible: button.visualFocus
+        }
+    }
+
+    Mark {
+        id: mark
+
+        x: 6
+        anchors.verticalCenter: parent.verticalCenter
+        color: button.offline ? Tokens.t3 : Tokens.accentText
+    }
+    Label {
+        id: word
+
+        anchors.left: mark.right
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.word
+        text: "KIV"
+        Accessible.ignored: true
+    }
+    TipLoader {
+        active: button.hovered && !menu.visible
+        text: qsTr("Main menu")
+        keys: "F10"
+    }
+    MainMenuView {
+        id: menu
+
+        commands: button.commands
+    }
+}
