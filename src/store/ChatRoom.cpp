@@ -265,6 +265,8 @@ void ChatRoom::answerSettled() {
     m_watchdog.cancel();
     m_canStop = false;
     m_msgs.setGrowing({});
+    // An agent that answers may have done something worth an event.
+    m_store.events()->loadEvents();
 }
 
 void ChatRoom::stopLive() {

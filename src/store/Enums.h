@@ -63,4 +63,8 @@ Q_ENUM_NS(FileKind)
 enum class RailRow { Kiv, SectionLabel, Project, Agent };
 Q_ENUM_NS(RailRow)
 
+/// What an event says about how things go.
+enum class EventTone { Neutral, Good, Warning, Bad };
+Q_ENUM_NS(EventTone)
+
 } // namespace kiv::store

@@ -9,12 +9,13 @@ namespace {
 constexpr int eventLimit = 50;
 }
 
-EventsRoom::EventsRoom(AppStore &store) : m_store(store) {}
+EventsRoom::EventsRoom(AppStore &store) : m_store(store), m_events(store.clock()) {}
 
 void EventsRoom::loadEvents() {
     const auto project = m_store.scope()->currentProject();
     if (m_store.isSnapshot() || !project)
         return;
+    m_events.refreshAges();
     if (project->id != m_project) {
         clear();
         m_project = project->id;
@@ -25,8 +26,8 @@ void EventsRoom::loadEvents() {
 QCoro::Task<void> EventsRoom::load(QString project, Cancel cancel) {
     m_eventsLoading = true;
     try {
-        m_events = co_await net::KivAPI::projectEvents(&m_store.net(), project, eventLimit, cancel);
-        Q_EMIT eventsChanged();
+        m_events.replaceAll(
+            co_await net::KivAPI::projectEvents(&m_store.net(), project, eventLimit, cancel));
     } catch (const std::exception &) {
         // The events of before stay.
         cancel.throwIfRequested();
@@ -38,8 +39,7 @@ void EventsRoom::clear() {
     m_load.cancel();
     m_eventsLoading = false;
     m_project = QString();
-    m_events.clear();
-    Q_EMIT eventsChanged();
+    m_events.replaceAll({});
 }
 
 } // namespace kiv::store

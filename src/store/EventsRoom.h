@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Work.h"
-#include "net/ProjectRecords.h"
+#include "store/EventModel.h"
 
 #include <QObject>
 #include <QProperty>
@@ -16,17 +16,18 @@ class EventsRoom : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("owned by the store")
+    Q_PROPERTY(kiv::store::EventModel *events READ events CONSTANT)
     Q_PROPERTY(bool eventsLoading READ eventsLoading NOTIFY eventsLoadingChanged)
 public:
     explicit EventsRoom(AppStore &store);
 
-    const QList<net::KivAPI::ProjectEvent> &events() const { return m_events; }
+    EventModel *events() { return &m_events; }
     bool eventsLoading() const { return m_eventsLoading; }
-    void loadEvents();
+    /// Asks for the events of the current project; the ones of before stay until they are here.
+    Q_INVOKABLE void loadEvents();
     void clear();
 
 Q_SIGNALS:
-    void eventsChanged();
     void eventsLoadingChanged();
 
 private:
@@ -34,7 +35,7 @@ private:
 
     AppStore &m_store;
     QString m_project; ///< whose events these are
-    QList<net::KivAPI::ProjectEvent> m_events;
+    EventModel m_events;
     Q_OBJECT_BINDABLE_PROPERTY(EventsRoom, bool, m_eventsLoading, &EventsRoom::eventsLoadingChanged)
     Work m_load;
 };

@@ -97,6 +97,14 @@ void LayoutRoom::toggleHist() {
     m_histOpen = open;
 }
 
+void LayoutRoom::toggleEvents() {
+    const bool open = !m_eventsOpen;
+    closePopovers();
+    m_eventsOpen = open;
+    if (open)
+        m_store.events()->loadEvents();
+}
+
 void LayoutRoom::toggleProfile() {
     const bool open = !m_profileOpen;
     closePopovers();
@@ -106,6 +114,7 @@ void LayoutRoom::toggleProfile() {
 void LayoutRoom::closePopovers() {
     m_profileOpen = false;
     m_histOpen = false;
+    m_eventsOpen = false;
     m_scopeOpen = false;
     m_topScopeOpen = false;
 }

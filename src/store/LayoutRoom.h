@@ -25,6 +25,7 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(bool scopeOpen READ scopeOpen NOTIFY scopeOpenChanged)
     Q_PROPERTY(bool topScopeOpen READ topScopeOpen NOTIFY topScopeOpenChanged)
     Q_PROPERTY(bool histOpen READ histOpen NOTIFY histOpenChanged)
+    Q_PROPERTY(bool eventsOpen READ eventsOpen NOTIFY eventsOpenChanged)
     Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY profileOpenChanged)
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
     Q_PROPERTY(QString creating READ creating NOTIFY creatingChanged)
@@ -47,6 +48,7 @@ public:
     bool scopeOpen() const { return m_scopeOpen; }
     bool topScopeOpen() const { return m_topScopeOpen; }
     bool histOpen() const { return m_histOpen; }
+    bool eventsOpen() const { return m_eventsOpen; }
     bool profileOpen() const { return m_profileOpen; }
     QString account() const { return m_account; }
     QString creating() const { return m_creating; }
@@ -72,6 +74,7 @@ public:
     Q_INVOKABLE void toggleScope();
     Q_INVOKABLE void toggleTopScope();
     Q_INVOKABLE void toggleHist();
+    Q_INVOKABLE void toggleEvents();
     Q_INVOKABLE void toggleProfile();
     Q_INVOKABLE void closePopovers();
     Q_INVOKABLE void focusAsk();
@@ -99,6 +102,7 @@ Q_SIGNALS:
     void scopeOpenChanged();
     void topScopeOpenChanged();
     void histOpenChanged();
+    void eventsOpenChanged();
     void profileOpenChanged();
     void accountChanged();
     void creatingChanged();
@@ -124,6 +128,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_scopeOpen, &LayoutRoom::scopeOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_topScopeOpen, &LayoutRoom::topScopeOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_histOpen, &LayoutRoom::histOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_eventsOpen, &LayoutRoom::eventsOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_profileOpen, &LayoutRoom::profileOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_account, &LayoutRoom::accountChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_creating, &LayoutRoom::creatingChanged)

@@ -67,6 +67,10 @@ ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_c
         const auto project = currentProject();
         return project ? project->name : u"KIV"_s;
     });
+    m_projectName.setBinding([this] {
+        const auto project = currentProject();
+        return project ? project->name : QString();
+    });
     m_scopeKind.setBinding([this] {
         if (currentAgent())
             return ScopeKind::Agent;

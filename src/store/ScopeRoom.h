@@ -28,6 +28,7 @@ class ScopeRoom : public QObject {
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(kiv::store::AuthPhase auth READ auth NOTIFY authChanged)
     Q_PROPERTY(QString project READ project NOTIFY projectChanged)
+    Q_PROPERTY(QString projectName READ projectName NOTIFY projectNameChanged)
     Q_PROPERTY(QString agent READ agent NOTIFY agentChanged)
     Q_PROPERTY(QString userName READ userName NOTIFY userNameChanged)
     Q_PROPERTY(QString userEmail READ userEmail NOTIFY userEmailChanged)
@@ -48,6 +49,8 @@ public:
     QList<Project> projects() const { return m_projects; }
     QList<Agent> standaloneAgents() const { return m_standaloneAgents; }
     QString project() const { return m_project; }
+    /// The name of the current project, also while one of its agents is selected.
+    QString projectName() const { return m_projectName; }
     QString agent() const { return m_agent; }
     QString kivID() const { return m_kivID; }
     QString userName() const { return m_userName; }
@@ -100,6 +103,7 @@ Q_SIGNALS:
     void projectsChanged();
     void standaloneAgentsChanged();
     void projectChanged();
+    void projectNameChanged();
     void agentChanged();
     void kivIDChanged();
     void userNameChanged();
@@ -128,6 +132,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Agent>, m_standaloneAgents,
                                &ScopeRoom::standaloneAgentsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_project, &ScopeRoom::projectChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_projectName, &ScopeRoom::projectNameChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_agent, &ScopeRoom::agentChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_kivID, &ScopeRoom::kivIDChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QString, m_userName, &ScopeRoom::userNameChanged)

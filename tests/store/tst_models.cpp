@@ -1,13 +1,16 @@
 // Every list of the store keeps the promises of a list model while it changes.
 
+#include "store/EventModel.h"
 #include "store/HistoryModel.h"
 #include "store/MessageModel.h"
 #include "store/RailModel.h"
+#include "support/ManualClock.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace kiv;
 using namespace kiv::store;
 
 namespace {
@@ -72,6 +75,48 @@ private Q_SLOTS:
         QVERIFY(!model.amend(QUuid(), {}));
         model.clear();
         QCOMPARE(model.count(), 0);
+    }
+
+    void events() {
+        test::ManualClock clock;
+        EventModel model(clock);
+        const QAbstractItemModelTester tester(&model);
+        const auto ageOf = [&](qint64 seconds) {
+            const QString at = clock.now().addSecs(-seconds).toString(Qt::ISODateWithMs);
+            model.replaceAll({{.createdAt = at}});
+            return model.index(0).data(EventModel::AgeRole).toString();
+        };
+        QCOMPARE(ageOf(-5), u"now"_s);
+        QCOMPARE(ageOf(59), u"now"_s);
+        QCOMPARE(ageOf(60), u"1 m"_s);
+        QCOMPARE(ageOf(3599), u"59 m"_s);
+        QCOMPARE(ageOf(3600), u"1 h"_s);
+        QCOMPARE(ageOf(47 * 3600), u"1 d"_s);
+        clock.advance(std::chrono::hours(1));
+        QCOMPARE(model.index(0).data(EventModel::AgeRole).toString(), u"2 d"_s);
+
+        // What the server leaves out or writes in its own way stays empty.
+        model.replaceAll({{.kind = u"note"_s, .createdAt = u"yesterday"_s}, {}});
+        QCOMPARE(model.index(0).data(EventModel::AgeRole).toString(), QString());
+        QCOMPARE(model.index(0).data(EventModel::TitleRole).toString(), u"note"_s);
+        QCOMPARE(model.index(1).data(EventModel::TitleRole).toString(), QString());
+    }
+
+    void tones_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<EventTone>("tone");
+        QTest::newRow("done") << u"task_done"_s << EventTone::Good;
+        QTest::newRow("release") << u"Release"_s << EventTone::Good;
+        QTest::newRow("alert") << u"alert"_s << EventTone::Bad;
+        QTest::newRow("failed") << u"run.failed"_s << EventTone::Bad;
+        QTest::newRow("to be approved") << u"approval_needed"_s << EventTone::Warning;
+        QTest::newRow("approved") << u"approved"_s << EventTone::Good;
+        QTest::newRow("else") << u"comment"_s << EventTone::Neutral;
+        QTest::newRow("nothing") << QString() << EventTone::Neutral;
+    }
+    void tones() {
+        QFETCH(QString, kind);
+        QTEST(toneOf(kind), "tone");
     }
 
     void rail() {

@@ -135,21 +135,21 @@ private Q_SLOTS:
     void eventsFollowTheProject() {
         StoreFixture f;
         QVERIFY(f.signIn());
-        QCOMPARE(f.store->events()->events().size(), 0);
+        QCOMPARE(f.store->events()->events()->count(), 0);
         f.store->scope()->enterProject(u"ferry"_s);
         QVERIFY(f.store->events()->eventsLoading());
-        SOON_COMPARE(f.store->events()->events().size(), 1);
+        SOON_COMPARE(f.store->events()->events()->count(), 1);
         QVERIFY(!f.store->events()->eventsLoading());
         f.backend.answer(u"GET api/v2/projects/ferry/events"_s, "{}", 500);
         f.store->events()->loadEvents();
         SOON_VERIFY(!f.store->events()->eventsLoading());
-        QCOMPARE(f.store->events()->events().size(), 1);
+        QCOMPARE(f.store->events()->events()->count(), 1);
 
         // Those of one project never stand for another's.
         f.backend.answer(u"GET api/v2/projects/lantern/events"_s, "{}", 500);
         f.store->scope()->enterProject(u"lantern"_s);
         SOON_VERIFY(!f.store->events()->eventsLoading());
-        QCOMPARE(f.store->events()->events().size(), 0);
+        QCOMPARE(f.store->events()->events()->count(), 0);
     }
 };
 

@@ -1,10 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Tokens
 
 // A sheet in the middle of the window that everything else waits for.
 T.Popup {
     id: dialog
+
+    readonly property FocusReturn focusBefore: FocusReturn {}
 
     anchors.centerIn: T.Overlay.overlay
     padding: 36
@@ -17,6 +20,9 @@ T.Popup {
     T.Overlay.modal: Rectangle {
         color: Tokens.scrim
     }
+    onAboutToShow: focusBefore.remember()
+    onClosed: focusBefore.giveBack()
+
     background: Item {
         Shadow {
             level: Shadow.High

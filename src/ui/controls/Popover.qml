@@ -1,11 +1,13 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Tokens
 
 // A panel that opens below its button, right edges aligned, and closes on Escape or an outside press.
 T.Popup {
     id: popover
 
+    readonly property FocusReturn focusBefore: FocusReturn {}
     property bool alignLeft: false
 
     x: alignLeft ? 0 : parent.width - width
@@ -16,6 +18,8 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     transformOrigin: alignLeft ? T.Popup.TopLeft : T.Popup.TopRight
+    onAboutToShow: focusBefore.remember()
+    onClosed: focusBefore.giveBack()
 
     background: Item {
         Shadow {

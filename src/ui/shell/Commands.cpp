@@ -4,6 +4,8 @@
 
 namespace kiv::ui {
 
+using namespace Qt::StringLiterals;
+
 QString Commands::version() {
     return AppVersion::running().display();
 }
@@ -18,6 +20,23 @@ QList<MenuEntry> Commands::bound() const {
         }
     }
     return found;
+}
+
+QList<MenuEntry> Commands::everyKey() const {
+    const auto beside = [](const QString &title, const QString &keys) {
+        return MenuEntry{.title = title, .shortcuts = {keys}};
+    };
+    return bound() + QList<MenuEntry>{
+                         beside(tr("Command palette"), u"Ctrl+Shift+P"_s),
+                         beside(tr("Main menu"), u"F10"_s),
+                         beside(tr("Find in the conversation"), u"Ctrl+F"_s),
+                         beside(tr("Export the picture"), u"Ctrl+E"_s),
+                         beside(tr("Next area of the window"), u"F6"_s),
+                         beside(tr("Send"), u"Return"_s),
+                         beside(tr("New line"), u"Shift+Return"_s),
+                         beside(tr("Last message again, in an empty field"), u"Up"_s),
+                         beside(tr("Close what is on top, or stop the answer"), u"Esc"_s),
+                     };
 }
 
 } // namespace kiv::ui

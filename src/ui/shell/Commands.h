@@ -11,6 +11,7 @@ class Commands : public QObject {
     QML_UNCREATABLE("made by the program")
     Q_PROPERTY(QList<kiv::ui::MenuDescription> menus READ menus NOTIFY menusChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
+    Q_PROPERTY(QList<kiv::ui::MenuEntry> everyKey READ everyKey NOTIFY menusChanged)
     Q_PROPERTY(QList<kiv::ui::MenuEntry> bound READ bound NOTIFY menusChanged)
 public:
     using QObject::QObject;
@@ -24,6 +25,8 @@ public:
     static QString version();
     /// The entries that keys give, of all menus.
     QList<MenuEntry> bound() const;
+    /// The same with the keys that the window knows beside the menu, for reading.
+    QList<MenuEntry> everyKey() const;
 
 Q_SIGNALS:
     void menusChanged();

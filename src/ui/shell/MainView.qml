@@ -155,6 +155,18 @@ FocusScope {
 
         commands: view.commands
     }
+    ShortcutsSheet {
+        id: shortcuts
+
+        commands: view.commands
+    }
+    CommandPalette {
+        id: commandPalette
+
+        store: view.store
+        commands: view.commands
+        onShortcutsRequested: shortcuts.open()
+    }
     MenuKeys {
         commands: view.commands
     }
@@ -171,6 +183,10 @@ FocusScope {
         function onFocusAskRequestsChanged() {
             view.focusAsk()
         }
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+P"
+        onActivated: commandPalette.visible = !commandPalette.visible
     }
     Shortcut {
         sequence: "F10"

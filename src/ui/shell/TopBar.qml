@@ -67,6 +67,13 @@ FocusScope {
         spacing: 4
 
         IconButton {
+            objectName: "callButton"
+            iconName: "phone"
+            text: qsTr("Call")
+            keys: "Ctrl D"
+            onClicked: bar.store.call.callAction()
+        }
+        IconButton {
             objectName: "historyButton"
             iconName: "history"
             text: qsTr("History")
@@ -78,6 +85,20 @@ FocusScope {
                 canvas: bar.store.canvas
                 most: bar.popoverHeight
                 visible: bar.signedIn && bar.store.layout.histOpen
+                onAboutToHide: bar.store.layout.closePopovers()
+            }
+        }
+        IconButton {
+            objectName: "eventsButton"
+            iconName: "events"
+            text: qsTr("Events")
+            active: bar.store.layout.eventsOpen
+            onClicked: bar.store.layout.toggleEvents()
+
+            EventFeed {
+                store: bar.store
+                most: bar.popoverHeight
+                visible: bar.store.layout.eventsOpen
                 onAboutToHide: bar.store.layout.closePopovers()
             }
         }
