@@ -54,7 +54,7 @@ FocusScope {
         }
         Column {
             x: 64
-            width: close.x - x - 12
+            width: search.x - x - 12
             anchors.verticalCenter: parent.verticalCenter
 
             Label {
@@ -71,6 +71,19 @@ FocusScope {
             }
         }
         IconButton {
+            id: search
+
+            objectName: "findButton"
+            anchors.right: close.left
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "search"
+            active: dock.store.find.shown
+            text: qsTr("Find in the conversation")
+            keys: "Ctrl F"
+            onClicked: dock.store.find.open()
+        }
+        IconButton {
             id: close
 
             x: parent.width - width - 12
@@ -85,15 +98,26 @@ FocusScope {
             width: parent.width
         }
     }
+    FindBar {
+        id: finding
+
+        anchors.top: head.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        find: dock.store.find
+        feed: feed
+        onClosed: composer.forceActiveFocus(Qt.OtherFocusReason)
+    }
     Feed {
         id: feed
 
-        anchors.top: head.bottom
+        anchors.top: finding.bottom
         anchors.bottom: composer.top
         width: parent.width
         messages: dock.store.chat.msgs
         scope: dock.store.scope
         compact: false
+        finder: dock.store.find
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)

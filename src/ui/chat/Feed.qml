@@ -16,6 +16,8 @@ FocusScope {
     required property ScopeRoom scope
     required property bool compact
     property bool hasOlder: false
+    /// Marks what it finds in this feed.
+    property FindRoom finder: null
 
     signal retryRequested(messageId: string)
     signal sceneRequested(messageId: string)
@@ -32,6 +34,11 @@ FocusScope {
         return view.reveal(messageId)
     }
 
+    /// The message at the upper edge of what is in sight.
+    function topMessage(): string {
+        return view.topMessage()
+    }
+
     readonly property int side: compact ? 16 : 24
     readonly property real column: Math.min(width - 2 * side, 720)
     readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
@@ -41,6 +48,14 @@ FocusScope {
 
         messages: feed.messages
         olderBefore: feed.hasOlder
+        finder: feed.finder
+    }
+    Connections {
+        target: feed.finder
+
+        function onStepped() {
+            view.revealFound(feed.finder.currentMessage, feed.finder.currentPart)
+        }
     }
     Flickable {
         id: list

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/FindRoom.h"
 #include "ui/chat/FeedRow.h"
 
 #include <QAbstractListModel>
@@ -20,6 +21,8 @@ class FeedRows : public QAbstractListModel {
     Q_PROPERTY(bool olderBefore READ hasOlderBefore WRITE setOlderBefore NOTIFY olderBeforeChanged)
     /// The first message that the person has not seen; empty for none.
     Q_PROPERTY(QString unreadFrom READ unreadFrom WRITE setUnreadFrom NOTIFY unreadFromChanged)
+    /// Marks the words that it found; null for none.
+    Q_PROPERTY(kiv::store::FindRoom *finder READ finder WRITE setFinder NOTIFY finderChanged)
     Q_PROPERTY(QDate today READ today WRITE setToday NOTIFY todayChanged)
 public:
     enum Role { RowRole = Qt::UserRole + 1 };
@@ -32,10 +35,16 @@ public:
     void setOlderBefore(bool older);
     QString unreadFrom() const { return m_unreadFrom; }
     void setUnreadFrom(const QString &messageId);
+    store::FindRoom *finder() const { return m_finder; }
+    void setFinder(store::FindRoom *finder);
     QDate today() const { return m_today; }
     void setToday(const QDate &today);
 
     const FeedRow &at(int row) const;
+    /// A row as it shows now: with what was found in it.
+    FeedRow shown(int row) const;
+    /// The row of a part of a message's text; -1 for none.
+    int rowOfPart(const QString &messageId, int part) const;
     /// The rows of a message, from the first to behind the last; none for a stranger.
     std::pair<int, int> rowsOf(const QString &messageId) const;
     QString lastMessage() const;
@@ -55,6 +64,9 @@ Q_SIGNALS:
     void olderBeforeChanged();
     void unreadFromChanged();
     void todayChanged();
+    void finderChanged();
+    /// Other words are marked, or the current ones are others.
+    void marksChanged();
 
 private:
     void reset();
@@ -67,12 +79,14 @@ private:
     void sumUp(int from);
     QVariant field(int message, int role) const;
     int messageOf(const QString &messageId) const;
+    int messageAt(int row) const;
 
     QPointer<QAbstractItemModel> m_messages;
     QList<QList<FeedRow>> m_rows; ///< of each message
     QList<int> m_starts{0};       ///< the first row of each message, and the count of all
     bool m_olderBefore = false;
     QString m_unreadFrom;
+    QPointer<store::FindRoom> m_finder;
     QDate m_today = QDate::currentDate();
 };
 

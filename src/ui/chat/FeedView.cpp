@@ -40,6 +40,7 @@ void FeedView::setRows(FeedRows *rows) {
                 [this](const QModelIndex &first, const QModelIndex &last) {
                     changeRows(first.row(), last.row());
                 });
+        connect(rows, &FeedRows::marksChanged, this, &FeedView::showMarks);
     }
     reset();
     Q_EMIT rowsChanged();
@@ -142,7 +143,7 @@ void FeedView::changeRows(int first, int last) {
         if (shown == m_shown.end())
             setRowHeight(row, estimate(row));
         else
-            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->at(row)));
+            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
     }
     polish();
 }
@@ -263,7 +264,7 @@ QQuickItem *FeedView::itemOf(int row) {
 }
 
 FeedView::Shown FeedView::take(int row) {
-    const FeedRow &content = m_rows->at(row);
+    const FeedRow content = m_rows->shown(row);
     const QVariant value = QVariant::fromValue(content);
     QList<QQuickItem *> &spare = m_spare[content.kind];
     if (!spare.isEmpty()) {

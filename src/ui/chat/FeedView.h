@@ -53,6 +53,10 @@ public:
     Q_INVOKABLE void goToTop();
     /// Brings a message into view; false when the feed does not have it.
     Q_INVOKABLE bool reveal(const QString &messageId);
+    /// Brings the words that a search is at into view, sideways too; false when no part shows them.
+    Q_INVOKABLE bool revealFound(const QString &messageId, int part);
+    /// The message at the upper edge of what is in sight; empty for none.
+    Q_INVOKABLE QString topMessage() const { return messageAt(top()); }
     /// The message at `y` of the view's own; empty for none.
     Q_INVOKABLE QString messageAt(double y) const;
 
@@ -87,6 +91,7 @@ private:
     void insertRows(int first, int last);
     void removeRows(int first, int last);
     void changeRows(int first, int last);
+    void showMarks();
     void moveShown(int from, int by);
     double estimate(int row) const;
     void estimateAll();

@@ -138,6 +138,18 @@ FocusScope {
         onActivated: view.focusAsk()
     }
     Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: view.store.find.open()
+    }
+    Shortcut {
+        sequence: "F3"
+        onActivated: view.store.find.next()
+    }
+    Shortcut {
+        sequence: "Shift+F3"
+        onActivated: view.store.find.previous()
+    }
+    Shortcut {
         sequence: "Ctrl+J"
         onActivated: view.layout.toggleDock()
     }
