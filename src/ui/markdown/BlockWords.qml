@@ -69,7 +69,7 @@ TextEdit {
 
             readonly property rect place: filler.chips[index] ?? Qt.rect(0, 0, 0, 0)
 
-            z: -1
+            z: -2
             x: place.x
             y: place.y + words.topPadding
             width: place.width
