@@ -74,7 +74,7 @@ FocusScope {
             id: search
 
             objectName: "findButton"
-            anchors.right: close.left
+            anchors.right: more.left
             anchors.rightMargin: 4
             anchors.verticalCenter: parent.verticalCenter
             iconName: "search"
@@ -82,6 +82,32 @@ FocusScope {
             text: qsTr("Find in the conversation")
             keys: "Ctrl F"
             onClicked: dock.store.find.open()
+        }
+        IconButton {
+            id: more
+
+            objectName: "moreButton"
+            anchors.right: close.left
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "more"
+            active: menu.visible
+            text: qsTr("More")
+            onClicked: menu.open()
+
+            ConversationExport {
+                id: exporter
+
+                objectName: "conversationExport"
+                store: dock.store
+            }
+            ConversationMenu {
+                id: menu
+
+                store: dock.store
+                exporter: exporter
+                onAboutToHide: more.forceActiveFocus(Qt.PopupFocusReason)
+            }
         }
         IconButton {
             id: close
@@ -119,6 +145,7 @@ FocusScope {
         compact: false
         finder: dock.store.find
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
+        onAskAgainRequested: messageId => dock.store.chat.askAgain(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)
         onEditRequested: messageId => {

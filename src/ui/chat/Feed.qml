@@ -24,6 +24,7 @@ FocusScope {
     signal olderRequested()
     signal chipPicked(messageId: string, chip: replyChip)
     signal editRequested(messageId: string)
+    signal askAgainRequested(messageId: string)
 
     property string flashed: ""
 
@@ -39,8 +40,24 @@ FocusScope {
         return view.topMessage()
     }
 
+    function copyMessage(messageId: string) {
+        if (feedRows.tailOf(messageId).mine)
+            Clipboard.setText(feedRows.messageText(messageId))
+        else
+            Clipboard.setMarkdown(feedRows.messageText(messageId), feedRows.messageBody(messageId))
+    }
+    function openMenu(messageId: string) {
+        if (messageId === "")
+            return
+        view.setCursor(messageId)
+        menu.row = feedRows.tailOf(messageId)
+        menu.open()
+    }
+
     readonly property int side: compact ? 16 : 24
     readonly property real column: Math.min(width - 2 * side, 720)
+    /// The message whose actions show.
+    readonly property string activeMessage: hoveredMessage !== "" ? hoveredMessage : activeFocus ? view.cursor : ""
     readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
     FeedRows {
@@ -66,12 +83,21 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
-        bottomMargin: 12
+        bottomMargin: 20
         activeFocusOnTab: true
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Conversation")
-        Keys.onUpPressed: flick(0, 900)
-        Keys.onDownPressed: flick(0, -900)
+        onActiveFocusChanged: if (activeFocus) view.enterCursor()
+        Keys.onUpPressed: view.stepCursor(-1)
+        Keys.onDownPressed: view.stepCursor(1)
+        Keys.onReturnPressed: feed.openMenu(view.cursor)
+        Keys.onEnterPressed: feed.openMenu(view.cursor)
+        Keys.onMenuPressed: feed.openMenu(view.cursor)
+        Keys.onPressed: event => {
+            event.accepted = event.matches(StandardKey.Copy) && view.cursor !== ""
+            if (event.accepted)
+                feed.copyMessage(view.cursor)
+        }
 
         T.ScrollBar.vertical: ScrollBar {
             id: bar
@@ -132,7 +158,7 @@ FocusScope {
                 OwnMessage {
                     compact: feed.compact
                     flashing: row.messageId === feed.flashed
-                    hovered: row.messageId === feed.hoveredMessage
+                    hovered: row.messageId === feed.activeMessage
                     onEditRequested: feed.editRequested(row.messageId)
                 }
             }
@@ -207,21 +233,51 @@ FocusScope {
 
                 MessageTail {
                     compact: feed.compact
-                    hovered: row.messageId === feed.hoveredMessage
+                    hovered: row.messageId === feed.activeMessage
                     onRetryRequested: feed.retryRequested(row.messageId)
                     onSceneRequested: feed.sceneRequested(row.messageId)
                     onChipPicked: chip => feed.chipPicked(row.messageId, chip)
-                    onCopyRequested: Clipboard.setText(feedRows.messageText(row.messageId))
+                    onCopyRequested: feed.copyMessage(row.messageId)
+                    onAskAgainRequested: feed.askAgainRequested(row.messageId)
                 }
+            }
+        }
+        Rectangle {
+            id: ring
+
+            objectName: "messageRing"
+            x: view.x - 10
+            y: view.cursorPlace.y + 8
+            width: view.width + 20
+            height: view.cursorPlace.height + (feed.compact ? 4 : 16)
+            visible: (list.activeFocus || menu.visible) && height > 0
+            radius: Tokens.radiusCard
+            color: "transparent"
+            border.width: 2
+            border.color: Tokens.focus
+
+            MessageMenu {
+                id: menu
+
+                onAboutToHide: list.forceActiveFocus(Qt.PopupFocusReason)
+                onCopyRequested: feed.copyMessage(row.messageId)
+                onEditRequested: feed.editRequested(row.messageId)
+                onRetryRequested: feed.retryRequested(row.messageId)
+                onAskAgainRequested: feed.askAgainRequested(row.messageId)
+                onSceneRequested: feed.sceneRequested(row.messageId)
             }
         }
     }
     HoverHandler {
         id: pointer
     }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => feed.openMenu(view.messageAt(point.position.y + list.contentY))
+    }
     FocusRing {
         anchors.margins: 2
-        visible: list.activeFocus
+        visible: list.activeFocus && view.cursor === ""
         targetRadius: 0
     }
     JumpButton {

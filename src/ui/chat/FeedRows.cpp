@@ -331,6 +331,17 @@ QString FeedRows::lastMessage() const {
     return m_rows.isEmpty() ? QString() : m_rows.last().first().messageId;
 }
 
+QString FeedRows::messageBeside(const QString &messageId, int by) const {
+    const int message = messageOf(messageId);
+    const QList<FeedRow> rows = message < 0 ? QList<FeedRow>() : m_rows.value(message + by);
+    return rows.isEmpty() ? QString() : rows.first().messageId;
+}
+
+FeedRow FeedRows::tailOf(const QString &messageId) const {
+    const int message = messageOf(messageId);
+    return message < 0 ? FeedRow() : m_rows.at(message).last();
+}
+
 int FeedRows::messagesAfter(const QString &messageId) const {
     const int message = messageOf(messageId);
     return message < 0 ? 0 : static_cast<int>(m_rows.size()) - message - 1;
@@ -339,6 +350,11 @@ int FeedRows::messagesAfter(const QString &messageId) const {
 QString FeedRows::messageText(const QString &messageId) const {
     const int message = messageOf(messageId);
     return message < 0 ? QString() : field(message, MessageModel::RawTextRole).toString();
+}
+
+QString FeedRows::messageBody(const QString &messageId) const {
+    const int message = messageOf(messageId);
+    return message < 0 ? QString() : field(message, MessageModel::BodyRole).toString();
 }
 
 QString FeedRows::blockText(const QString &messageId, int block) const {

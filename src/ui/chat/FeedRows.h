@@ -48,10 +48,16 @@ public:
     /// The rows of a message, from the first to behind the last; none for a stranger.
     std::pair<int, int> rowsOf(const QString &messageId) const;
     QString lastMessage() const;
+    /// The message `by` places further down; empty for none.
+    QString messageBeside(const QString &messageId, int by) const;
+    /// The last row of a message: what can be done with it.
+    Q_INVOKABLE kiv::ui::FeedRow tailOf(const QString &messageId) const;
     /// How many messages stand behind this one.
     int messagesAfter(const QString &messageId) const;
     /// The words of a message as it was written, marks and all.
     Q_INVOKABLE QString messageText(const QString &messageId) const;
+    /// The words of a message as they show.
+    Q_INVOKABLE QString messageBody(const QString &messageId) const;
     /// What copying one block of a message gives: code as it is, a table with tabs between cells.
     Q_INVOKABLE QString blockText(const QString &messageId, int block) const;
 

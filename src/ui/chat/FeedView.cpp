@@ -201,6 +201,7 @@ void FeedView::updatePolish() {
         moveOrigin();
     for (const auto &[row, shown] : m_shown)
         shown.item->setY(m_origin + m_heights.top(row));
+    placeCursor();
     m_layingOut = false;
     if (!isSettled)
         polish();

@@ -34,6 +34,9 @@ class FeedView : public QQuickItem {
     Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
     /// How many messages came while the view did not follow them.
     Q_PROPERTY(int unseen READ unseen NOTIFY unseenChanged)
+    /// The message that keys act on, and where it is in the view; empty for none.
+    Q_PROPERTY(QString cursor READ cursor NOTIFY cursorChanged)
+    Q_PROPERTY(QRectF cursorPlace READ cursorPlace NOTIFY cursorPlaceChanged)
 public:
     explicit FeedView(QQuickItem *parent = nullptr);
 
@@ -46,6 +49,8 @@ public:
     void setHeld(bool held);
     bool isFollowing() const { return m_following; }
     int unseen() const { return m_unseen; }
+    QString cursor() const { return m_cursor; }
+    QRectF cursorPlace() const { return m_cursorPlace; }
 
     /// Goes to the end and follows it again.
     Q_INVOKABLE void jump();
@@ -56,7 +61,13 @@ public:
     /// Brings the words that a search is at into view, sideways too; false when no part shows them.
     Q_INVOKABLE bool revealFound(const QString &messageId, int part);
     /// The message at the upper edge of what is in sight; empty for none.
-    Q_INVOKABLE QString topMessage() const { return messageAt(top()); }
+    Q_INVOKABLE QString topMessage() const { return messageAt(m_following ? end() : top()); }
+    /// Puts the keys onto a message in sight, unless they are on one.
+    Q_INVOKABLE void enterCursor();
+    /// Goes to the next message, or with -1 to the one before; through one that is longer than the
+    /// view in several steps.
+    Q_INVOKABLE void stepCursor(int by);
+    Q_INVOKABLE void setCursor(const QString &messageId);
     /// The message at `y` of the view's own; empty for none.
     Q_INVOKABLE QString messageAt(double y) const;
 
@@ -69,6 +80,8 @@ Q_SIGNALS:
     void heldChanged();
     void followingChanged();
     void unseenChanged();
+    void cursorChanged();
+    void cursorPlaceChanged();
     /// The person has scrolled up to the first row.
     void topReached();
 
@@ -92,6 +105,7 @@ private:
     void removeRows(int first, int last);
     void changeRows(int first, int last);
     void showMarks();
+    void placeCursor();
     void moveShown(int from, int by);
     double estimate(int row) const;
     void estimateAll();
@@ -124,6 +138,9 @@ private:
     bool m_following = true;
     int m_unseen = 0;
     QString m_seen; ///< the last message when the view ceased to follow
+
+    QString m_cursor;
+    QRectF m_cursorPlace;
 
     RowHeights m_heights;
     /// Where the first row begins. It goes up when rows above those in sight turn out to be higher

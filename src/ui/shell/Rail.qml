@@ -109,6 +109,7 @@ FocusScope {
         hasOlder: rail.store.chat.feedMsgs.hasOlder
         onOlderRequested: rail.store.layout.toggleDock()
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
+        onAskAgainRequested: messageId => rail.store.chat.askAgain(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)
         onEditRequested: messageId => {
