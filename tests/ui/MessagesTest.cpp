@@ -54,15 +54,19 @@ void MessagesTest::cleanup() {
 
 void MessagesTest::pictures_data() {
     QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("light") << false << QSize(1440, 900);
+    QTest::newRow("dark") << true << QSize(1440, 900);
+    QTest::newRow("light-small") << false << QSize(1024, 680);
+    QTest::newRow("dark-small") << true << QSize(1024, 680);
 }
 
 void MessagesTest::pictures() {
     QFETCH(bool, dark);
+    QFETCH(QSize, size);
     const QString name = QLatin1StringView(QTest::currentDataTag());
     m_gallery->setDark(dark);
-    m_gallery->open(*m_workspace->store, {1440, 900});
+    m_gallery->open(*m_workspace->store, size);
     m_workspace->row(1, u"What is blocking the Orchard invoices? Коротко, пожалуйста."_s,
                      u"user"_s);
     m_workspace->row(2, Workspace::mixedAnswer());
@@ -71,6 +75,15 @@ void MessagesTest::pictures() {
     m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
     m_gallery->save(u"messages-dock-"_s + name);
+    m_gallery->item(u"dockFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Return);
+    m_gallery->save(u"messages-menu-"_s + name);
+    m_gallery->press(Qt::Key_Escape);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->save(u"messages-focus-"_s + name);
+    m_gallery->click(u"moreButton"_s);
+    m_gallery->save(u"messages-more-"_s + name);
 }
 
 void MessagesTest::openDock() {
@@ -80,20 +93,21 @@ void MessagesTest::openDock() {
     m_workspace->row(3, Workspace::compareAnswer());
     QTRY_COMPARE(m_workspace->msgs().count(), 4);
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    // It has slid in.
+    const double left = 1440 - m_workspace->store->layout()->shownDockW();
+    QTRY_COMPARE(m_gallery->item(u"dockFeed"_s)->mapToScene({}).x(), left);
     m_gallery->item(u"dockFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
-    m_gallery->save(u"messages-focus"_s);
+    QTRY_VERIFY(m_gallery->find(u"messageRing"_s));
 }
 
 /// The newest message first; the keys go up, and Enter shows what can be done there.
 void MessagesTest::messagesByKeys() {
     openDock();
-    QVERIFY(m_gallery->find(u"messageRing"_s));
     const auto ringTop = [&] { return m_gallery->item(u"messageRing"_s)->y(); };
     const double newest = ringTop();
-    QVERIFY(m_gallery->find(u"showOnCanvas"_s));
+    QTRY_VERIFY(m_gallery->find(u"showOnCanvas"_s));
     m_gallery->press(Qt::Key_Return);
     QTRY_VERIFY(m_gallery->hasFocus(u"copyMessageRow"_s));
-    m_gallery->save(u"messages-menu"_s);
     m_gallery->press(Qt::Key_Down);
     QVERIFY(m_gallery->hasFocus(u"showMessageRow"_s));
     m_gallery->press(Qt::Key_Return);
@@ -122,10 +136,8 @@ void MessagesTest::sentByKeys() {
     m_gallery->type(u"hello"_s);
     m_gallery->press(Qt::Key_Return);
     QTRY_COMPARE(stateOf(u"sentState"_s), u"Sending…"_s);
-    m_gallery->save(u"messages-sending"_s);
     m_workspace->backend.release(post);
     QTRY_COMPARE(m_workspace->deliveryOf(1), store::Delivery::Failed);
-    m_gallery->save(u"messages-failed"_s);
     QVERIFY(!m_gallery->find(u"sentState"_s));
 
     m_workspace->backend.answer(post,
@@ -174,7 +186,6 @@ void MessagesTest::conversationIsSaved() {
     saver->setProperty("folder", QUrl::fromLocalFile(QDir::cleanPath(place)));
     m_gallery->click(u"moreButton"_s);
     QTRY_VERIFY(m_gallery->hasFocus(u"findRow"_s));
-    m_gallery->save(u"messages-more-menu"_s);
     m_gallery->press(Qt::Key_Down);
     m_gallery->press(Qt::Key_Return);
     if (!writable) {

@@ -250,7 +250,7 @@ FocusScope {
             y: view.cursorPlace.y + 8
             width: view.width + 20
             height: view.cursorPlace.height + (feed.compact ? 4 : 16)
-            visible: (list.activeFocus || menu.visible) && height > 0
+            visible: (list.activeFocus || menu.visible) && view.cursorPlace.height > 0
             radius: Tokens.radiusCard
             color: "transparent"
             border.width: 2
