@@ -10,6 +10,7 @@
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
 #include "store/EventsRoom.h"
+#include "store/FindRoom.h"
 #include "store/LayoutRoom.h"
 #include "store/ScopeRoom.h"
 #include "store/SessionRoom.h"
@@ -32,6 +33,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::LayoutRoom *layout READ layout CONSTANT)
     Q_PROPERTY(kiv::store::ChatRoom *chat READ chat CONSTANT)
     Q_PROPERTY(kiv::store::AttachmentRoom *attachments READ attachments CONSTANT)
+    Q_PROPERTY(kiv::store::FindRoom *find READ find CONSTANT)
     Q_PROPERTY(kiv::store::CanvasRoom *canvas READ canvas CONSTANT)
     Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
@@ -52,6 +54,7 @@ public:
     LayoutRoom *layout() { return &m_layout; }
     ChatRoom *chat() { return &m_chat; }
     AttachmentRoom *attachments() { return &m_attachments; }
+    FindRoom *find() { return &m_find; }
     CanvasRoom *canvas() { return &m_canvas; }
     SessionRoom *session() { return &m_session; }
     EventsRoom *events() { return &m_events; }
@@ -83,6 +86,7 @@ private:
     LayoutRoom m_layout;
     ChatRoom m_chat;
     AttachmentRoom m_attachments;
+    FindRoom m_find;
     CanvasRoom m_canvas;
     EventsRoom m_events;
     SessionRoom m_session;

@@ -74,6 +74,7 @@ void ChatRoom::disconnectChat() {
     m_posts.cancel();
     m_unsent.clear();
     m_live.clear();
+    keepFiles();
     m_connected.reset();
     m_lastPrompt = QString();
     m_store.attachments()->clear();

@@ -12,7 +12,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int feedStep = 30;
 constexpr auto answerPatience = 180s;
 
 const QString signedOutGreeting =
@@ -27,11 +26,6 @@ QString liveSendNote(const std::exception &error) {
             return u"⚠ Not enough tokens to run this agent."_s;
     }
     return net::errorText(error);
-}
-
-QString joined(const QString &above, const QString &below) {
-    const bool isBreakNeeded = !above.isEmpty() && !below.isEmpty();
-    return above + (isBreakNeeded ? u"\n"_s : QString()) + below;
 }
 
 bool isUnauthorized(const std::exception &error) {
@@ -228,7 +222,7 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
 
 void ChatRoom::failPost(const Post &post, const std::exception &error) {
     if (isUnauthorized(error)) {
-        keepUnsentText();
+        keepUnsent();
         m_store.session()->resetToAnon();
         m_store.session()->openAuthSheet(AuthSheetMode::Login);
         return;
@@ -325,55 +319,6 @@ std::optional<qint64> ChatRoom::newestRow() const {
     if (found != messages.crend())
         return found->serverID;
     return m_rowsKnown ? std::optional<qint64>(0) : std::nullopt;
-}
-
-void ChatRoom::setDraft(const QString &draft) {
-    m_draft = draft;
-    if (m_connected)
-        m_drafts.setText(m_store.scope()->userEmail(), m_connected->streamPath(), draft);
-}
-
-/// Each chat has a draft of its own. What was typed before it was clear whom it asks goes along.
-void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
-    const QString undirected = m_connected ? QString() : m_draft.value();
-    m_connected = target;
-    m_lastPrompt = QString();
-    m_unreadFrom = QString();
-    setFeedWindow(feedStep);
-    if (target)
-        setDraft(
-            joined(m_drafts.text(m_store.scope()->userEmail(), target->streamPath()), undirected));
-    else
-        m_draft = undirected;
-}
-
-/// Messages that an expired session kept from being sent become what is being typed in their chat.
-void ChatRoom::keepUnsentText() {
-    const QString user = m_store.scope()->userEmail();
-    setUnsentAside();
-    for (auto chat = m_unsent.cbegin(); chat != m_unsent.cend(); ++chat) {
-        QString text;
-        for (const Msg &message : chat.value())
-            text = joined(text, message.text);
-        m_drafts.setText(user, chat.key(), joined(text, m_drafts.text(user, chat.key())));
-    }
-}
-
-void ChatRoom::forgetDrafts() {
-    m_drafts.forget(m_store.scope()->userEmail());
-}
-
-void ChatRoom::edit(const QString &messageId) {
-    const qsizetype row = m_msgs.rowOf(QUuid::fromString(messageId));
-    if (row < 0 || m_msgs.messages().at(row).who != Who::You)
-        return;
-    const Msg message = m_msgs.messages().at(row);
-    setDraft(joined(m_draft.value().trimmed(), message.text));
-    if (!message.failed)
-        return;
-    m_msgs.remove(row);
-    if (m_store.canvas()->state() == CanvasState::Failed)
-        m_store.canvas()->clearCanvas();
 }
 
 } // namespace kiv::store

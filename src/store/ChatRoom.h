@@ -32,6 +32,9 @@ class ChatRoom : public QObject {
     Q_PROPERTY(QString chatNote READ chatNote NOTIFY chatNoteChanged)
     Q_PROPERTY(QString lastPrompt READ lastPrompt NOTIFY lastPromptChanged)
 public:
+    /// How many messages more a feed shows each time that its top is reached.
+    static constexpr int feedStep = 30;
+
     ChatRoom(AppStore &store, const QString &draftsFile);
 
     MessageModel *msgs() { return &m_msgs; }
@@ -60,8 +63,10 @@ public:
     /// Sends a message that had failed once more, in its place.
     Q_INVOKABLE void retry(const QString &messageId);
     /// Puts a message of ours back into the draft, behind what is typed there; one that was not
-    /// sent leaves the conversation.
+    /// sent leaves the conversation, and its files are attached anew.
     Q_INVOKABLE void edit(const QString &messageId);
+    /// Sends the question above an answer as a new one.
+    Q_INVOKABLE void askAgain(const QString &messageId);
     /// Asks the question of the current turn once more: in its place when it was not sent.
     Q_INVOKABLE void retryTurn();
     /// Lets the short feed hold more of the conversation, as long as there is more.
@@ -79,7 +84,7 @@ public:
     /// The answer is no longer waited for; the canvas says so when it settled or gave up.
     void answerSettled();
     /// The person leaves for good: nothing of what they typed is kept.
-    void forgetDrafts();
+    void forgetTyped();
 
 Q_SIGNALS:
     void draftChanged();
@@ -122,7 +127,8 @@ private:
     void setFeedWindow(int window);
     void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
-    void keepUnsentText();
+    void keepUnsent();
+    void keepFiles();
     void enterChat(const std::optional<net::ChatTarget> &target);
     std::optional<Msg> newestAnswer() const;
     QString newestQuestion() const;
@@ -142,6 +148,9 @@ private:
     /// The rows of the connected chat have been loaded.
     bool m_rowsKnown = false;
     Drafts m_drafts;
+    /// Of an expired session: files that wait for their person, by who it is and the chat's path.
+    using ChatOfUser = std::pair<QString, QString>;
+    QHash<ChatOfUser, QList<ChatAttachment>> m_keptFiles;
 
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_draft, &ChatRoom::draftChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, int, m_feedWindow, &ChatRoom::feedWindowChanged)

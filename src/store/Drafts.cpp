@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QtConcurrentRun>
 
 #include <algorithm>
 
@@ -16,7 +17,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto saveDelay = 500ms;
+/// What is typed is saved in its pauses, and now and then when there are none.
+constexpr auto pause = 150ms;
+constexpr auto longestUnsaved = 500ms;
 constexpr qsizetype mostSaved = 50;
 /// In UTF-16 units, of one draft and of all.
 constexpr qsizetype longestSaved = 64 * 1024;
@@ -36,6 +39,12 @@ QString beginning(const QString &text) {
                                                                   : longestSaved);
 }
 
+void write(const QString &file, const QByteArray &content) {
+    const QString failure = PrivateFile::write(file, content);
+    if (!failure.isEmpty())
+        qWarning("What is being typed cannot be saved: %s", qUtf8Printable(failure));
+}
+
 } // namespace
 
 Drafts::Drafts(Clock &clock, QString file) : m_clock(clock), m_file(std::move(file)) {
@@ -43,8 +52,9 @@ Drafts::Drafts(Clock &clock, QString file) : m_clock(clock), m_file(std::move(fi
 }
 
 Drafts::~Drafts() {
-    if (m_savePending)
-        save();
+    m_writing.waitForFinished();
+    if (m_unsavedSince)
+        write(m_file, content());
 }
 
 QString Drafts::text(const QString &user, const QString &chat) const {
@@ -83,15 +93,28 @@ void Drafts::load() {
 }
 
 void Drafts::scheduleSave() {
-    m_savePending = true;
-    m_saveTimer = m_clock.after(saveDelay, [this] { save(); });
+    if (m_file.isEmpty())
+        return;
+    const auto now = m_clock.elapsed();
+    if (!m_unsavedSince)
+        m_unsavedSince = now;
+    const auto latest = *m_unsavedSince + longestUnsaved;
+    m_saveTimer = m_clock.after(std::clamp(latest - now, 0ms, Clock::Milliseconds(pause)),
+                                [this] { save(); });
+}
+
+/// A disk can be slow: it is written to on another thread, one writing after the other.
+void Drafts::save() {
+    if (m_writing.isRunning()) {
+        m_saveTimer = m_clock.after(pause, [this] { save(); });
+        return;
+    }
+    m_unsavedSince.reset();
+    m_writing = QtConcurrent::run(write, m_file, content());
 }
 
 /// As many of the newest as fit.
-void Drafts::save() {
-    m_savePending = false;
-    if (m_file.isEmpty())
-        return;
+QByteArray Drafts::content() const {
     QJsonArray entries;
     qsizetype room = allSaved;
     for (auto draft = m_drafts.crbegin(); draft != m_drafts.crend(); ++draft) {
@@ -102,10 +125,7 @@ void Drafts::save() {
         entries.prepend(
             QJsonObject{{userKey, draft->user}, {chatKey, draft->chat}, {textKey, text}});
     }
-    const QString failure =
-        PrivateFile::write(m_file, QJsonDocument(entries).toJson(QJsonDocument::Compact));
-    if (!failure.isEmpty())
-        qWarning("What is being typed cannot be saved: %s", qUtf8Printable(failure));
+    return QJsonDocument(entries).toJson(QJsonDocument::Compact);
 }
 
 } // namespace kiv::store

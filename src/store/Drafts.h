@@ -2,8 +2,11 @@
 
 #include "base/Clock.h"
 
+#include <QFuture>
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 namespace kiv::store {
 
@@ -32,12 +35,15 @@ private:
     void load();
     void scheduleSave();
     void save();
+    QByteArray content() const;
 
     Clock &m_clock;
     QString m_file;
     QList<Draft> m_drafts; ///< the one typed last at the end
     Clock::Timer m_saveTimer;
-    bool m_savePending = false;
+    /// Since when something is not saved, on the clock's scale.
+    std::optional<Clock::Milliseconds> m_unsavedSince;
+    QFuture<void> m_writing;
 };
 
 } // namespace kiv::store

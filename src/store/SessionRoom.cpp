@@ -133,7 +133,7 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
         // Signing out here does not depend on the server.
         cancel.throwIfRequested();
     }
-    m_store.chat()->forgetDrafts();
+    m_store.chat()->forgetTyped();
     resetToAnon();
 }
 

@@ -17,6 +17,7 @@ void qml_register_types_Kiv_Store();
 void qml_register_types_Kiv_Tokens();
 void qml_register_types_Kiv_Icons();
 void qml_register_types_Kiv_Controls();
+void qml_register_types_Kiv_Files();
 void qml_register_types_Kiv_Markdown();
 void qml_register_types_Kiv_Chat();
 void qml_register_types_Kiv_Canvas();
@@ -29,8 +30,8 @@ Appearance &registerModules(QQmlEngine &engine) {
         qml_register_types_Kiv_Scene,    qml_register_types_Kiv_Store,
         qml_register_types_Kiv_Tokens,   qml_register_types_Kiv_Icons,
         qml_register_types_Kiv_Controls, qml_register_types_Kiv_Markdown,
-        qml_register_types_Kiv_Chat,     qml_register_types_Kiv_Canvas,
-        qml_register_types_Kiv_Shell,
+        qml_register_types_Kiv_Files,    qml_register_types_Kiv_Chat,
+        qml_register_types_Kiv_Canvas,   qml_register_types_Kiv_Shell,
     };
     Q_UNUSED(registrations)
 

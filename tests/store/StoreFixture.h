@@ -70,7 +70,12 @@ public:
 QByteArray rowJson(qint64 id, const QString &role, const QString &text);
 
 inline const QString kivChat = QStringLiteral("api/v2/custom-agents/kiv/chat");
+inline const QString kivPost = QStringLiteral("POST ") + kivChat;
 inline const QString ferryChat = QStringLiteral("api/v2/projects/ferry/chat");
+
+/// What an empty conversation with the orchestrator begins with.
+inline const QString kivGreeting =
+    QStringLiteral("KIV here. I see all projects and every agent under them.");
 
 /// A closed block that is drawn as a report.
 inline const QString reportBlock =

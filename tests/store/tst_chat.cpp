@@ -9,15 +9,10 @@ using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::kivChat;
+using test::kivGreeting;
+using test::kivPost;
 using test::rowJson;
 using test::StoreFixture;
-
-namespace {
-
-const QString kivPost = u"POST "_s + kivChat;
-const QString kivGreeting = u"KIV here. I see all projects and every agent under them."_s;
-
-} // namespace
 
 class ChatTest : public QObject {
     Q_OBJECT

@@ -7,12 +7,12 @@ using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::kivChat;
+using test::kivPost;
 using test::rowJson;
 using test::StoreFixture;
 
 namespace {
 
-const QString kivPost = u"POST "_s + kivChat;
 const QString kivStream = u"GET "_s + kivChat + u"/stream"_s;
 
 } // namespace

@@ -5,6 +5,7 @@
 using namespace Qt::StringLiterals;
 using namespace kiv;
 using namespace kiv::store;
+using test::kivGreeting;
 using test::StoreFixture;
 
 class ScopeTest : public QObject {
@@ -70,8 +71,7 @@ private Q_SLOTS:
         StoreFixture f;
         f.backend.answer(u"GET api/v2/orchestrator"_s, "{}", 500);
         f.store->boot();
-        SOON_COMPARE(f.msgs().messages().last().text,
-                     u"KIV here. I see all projects and every agent under them."_s);
+        SOON_COMPARE(f.msgs().messages().last().text, kivGreeting);
         f.store->chat()->send(u"hello"_s);
         QCOMPARE(f.texts().last(), u"This one exists only in the prototype so far — pick a real "
                                    "project or agent to chat."_s);

@@ -9,13 +9,13 @@ using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::kivChat;
+using test::kivPost;
 using test::reportBlock;
 using test::rowJson;
 using test::StoreFixture;
 
 namespace {
 
-const QString kivPost = u"POST "_s + kivChat;
 const QString table = u"| Task | Hours |\n|---|---|\n| Sails | 12 |\n| Hull | 30 |"_s;
 
 /// Signs in and asks; the question is stored as row 7.

@@ -1,7 +1,7 @@
 #include "ui/Gallery.h"
 #include "ui/Workspace.h"
 #include "ui/canvas/CanvasExport.h"
-#include "ui/canvas/FileName.h"
+#include "ui/files/FileName.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -82,9 +82,9 @@ void ExportTest::open(const QSize &size) {
     QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
     m_export = m_gallery->window().findChild<CanvasExport *>(u"canvasExport"_s);
     QVERIFY(m_export);
-    m_export->setProperty("dialog",
+    m_export->saver()->setProperty("dialog",
                           QUrl::fromLocalFile(QStringLiteral(KIV_PAGES "/ChosenFile.qml")));
-    m_export->setProperty("folder", QUrl::fromLocalFile(m_folder->path()));
+    m_export->saver()->setProperty("folder", QUrl::fromLocalFile(m_folder->path()));
 }
 
 void ExportTest::picture_data() {
@@ -172,7 +172,7 @@ void ExportTest::tableOnClipboard() {
 
 void ExportTest::failureIsSaid() {
     open();
-    m_export->setProperty("folder", QUrl::fromLocalFile(savedFile(u"gone"_s)));
+    m_export->saver()->setProperty("folder", QUrl::fromLocalFile(savedFile(u"gone"_s)));
     m_gallery->press(Qt::Key_E, Qt::ControlModifier);
     QTRY_VERIFY(!m_export->failure().isEmpty());
     QVERIFY2(m_export->failure().startsWith(
@@ -189,7 +189,7 @@ void ExportTest::failureIsSaid() {
 /// The platform's own dialog, until the person changes their mind.
 void ExportTest::dialogOpens() {
     open();
-    m_export->setProperty("dialog", QUrl(u"qrc:/qt/qml/Kiv/Canvas/SaveDialog.qml"_s));
+    m_export->saver()->setProperty("dialog", QUrl(u"qrc:/qt/qml/Kiv/Files/SaveDialog.qml"_s));
     m_export->saveTable();
     auto *dialog = m_export->findChild<QObject *>(u"saveDialog"_s);
     QVERIFY(dialog);

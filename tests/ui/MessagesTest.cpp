@@ -1,8 +1,12 @@
 #include "ui/Gallery.h"
 #include "ui/Workspace.h"
+#include "ui/chat/ConversationExport.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
+#include <QMimeData>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -18,8 +22,20 @@ private Q_SLOTS:
     void cleanup();
     void pictures_data();
     void pictures();
+    void messagesByKeys();
+    void sentByKeys();
+    void copiedAsBoth();
+    void conversationIsSaved_data();
+    void conversationIsSaved();
 
 private:
+    /// The window with a question and two answers in the dock, whose feed has the keys.
+    void openDock();
+    QString focused() const { return m_gallery->window().activeFocusItem()->objectName(); }
+    QString stateOf(const QString &name) const {
+        return m_gallery->item(name)->property("text").toString();
+    }
+
     std::unique_ptr<Workspace> m_workspace;
     std::unique_ptr<Gallery> m_gallery;
 };
@@ -38,15 +54,19 @@ void MessagesTest::cleanup() {
 
 void MessagesTest::pictures_data() {
     QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("light") << false << QSize(1440, 900);
+    QTest::newRow("dark") << true << QSize(1440, 900);
+    QTest::newRow("light-small") << false << QSize(1024, 680);
+    QTest::newRow("dark-small") << true << QSize(1024, 680);
 }
 
 void MessagesTest::pictures() {
     QFETCH(bool, dark);
+    QFETCH(QSize, size);
     const QString name = QLatin1StringView(QTest::currentDataTag());
     m_gallery->setDark(dark);
-    m_gallery->open(*m_workspace->store, {1440, 900});
+    m_gallery->open(*m_workspace->store, size);
     m_workspace->row(1, u"What is blocking the Orchard invoices? Коротко, пожалуйста."_s,
                      u"user"_s);
     m_workspace->row(2, Workspace::mixedAnswer());
@@ -55,6 +75,130 @@ void MessagesTest::pictures() {
     m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
     m_gallery->save(u"messages-dock-"_s + name);
+    m_gallery->item(u"dockFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Return);
+    m_gallery->save(u"messages-menu-"_s + name);
+    m_gallery->press(Qt::Key_Escape);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->save(u"messages-focus-"_s + name);
+    m_gallery->click(u"moreButton"_s);
+    m_gallery->save(u"messages-more-"_s + name);
+}
+
+void MessagesTest::openDock() {
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    m_workspace->row(1, u"What is *open*?"_s, u"user"_s);
+    m_workspace->row(2, u"Two **things**: <a> & b."_s);
+    m_workspace->row(3, Workspace::compareAnswer());
+    QTRY_COMPARE(m_workspace->msgs().count(), 4);
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    // It has slid in.
+    const double left = 1440 - m_workspace->store->layout()->shownDockW();
+    QTRY_COMPARE(m_gallery->item(u"dockFeed"_s)->mapToScene({}).x(), left);
+    m_gallery->item(u"dockFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(m_gallery->find(u"messageRing"_s));
+}
+
+/// The newest message first; the keys go up, and Enter shows what can be done there.
+void MessagesTest::messagesByKeys() {
+    openDock();
+    const auto ringTop = [&] { return m_gallery->item(u"messageRing"_s)->y(); };
+    const double newest = ringTop();
+    QTRY_VERIFY(m_gallery->find(u"showOnCanvas"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->hasFocus(u"copyMessageRow"_s));
+    m_gallery->press(Qt::Key_Down);
+    QVERIFY(m_gallery->hasFocus(u"showMessageRow"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->store->canvas()->art(), u"compare"_s);
+    QTRY_COMPARE(focused(), u"dockFeed"_s);
+
+    m_gallery->press(Qt::Key_Up);
+    QTRY_COMPARE_LT(ringTop(), newest);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_Menu);
+    QTRY_VERIFY(m_gallery->hasFocus(u"copyMessageRow"_s));
+    m_gallery->press(Qt::Key_Down);
+    QVERIFY(m_gallery->hasFocus(u"editMessageRow"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(focused(), u"askField"_s);
+    QCOMPARE(stateOf(u"askField"_s), u"What is *open*?"_s);
+}
+
+/// A message of ours says how it stands, and a failed one goes out again from its menu.
+void MessagesTest::sentByKeys() {
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    const QString post = u"POST "_s + test::kivChat;
+    m_workspace->backend.answer(post, "{}", 500);
+    m_workspace->backend.hold(post);
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"hello"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(stateOf(u"sentState"_s), u"Sending…"_s);
+    m_workspace->backend.release(post);
+    QTRY_COMPARE(m_workspace->deliveryOf(1), store::Delivery::Failed);
+    QVERIFY(!m_gallery->find(u"sentState"_s));
+
+    m_workspace->backend.answer(post,
+                                R"({"message":)" + test::rowJson(7, u"user"_s, u"hello"_s) + "}");
+    m_gallery->item(u"compactFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->hasFocus(u"copyMessageRow"_s));
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Down);
+    QVERIFY(m_gallery->hasFocus(u"retryMessageRow"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(m_workspace->deliveryOf(1), store::Delivery::Stored);
+    QTRY_VERIFY(stateOf(u"sentState"_s)
+                    .contains(m_workspace->clock.now().toLocalTime().toString(u"HH:mm"_s)));
+}
+
+void MessagesTest::copiedAsBoth() {
+    openDock();
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    const QMimeData *held = QGuiApplication::clipboard()->mimeData();
+    QCOMPARE(held->text(), u"Two **things**: <a> & b."_s);
+    QVERIFY(held->html().contains(u"<p>Two <strong>things</strong>: &lt;a&gt; &amp; b.</p>"_s));
+    // What the person typed is no markdown.
+    m_gallery->press(Qt::Key_Up);
+    m_gallery->press(Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"What is *open*?"_s);
+    QVERIFY(!QGuiApplication::clipboard()->mimeData()->hasHtml());
+}
+
+void MessagesTest::conversationIsSaved_data() {
+    QTest::addColumn<bool>("writable");
+    QTest::newRow("written") << true;
+    QTest::newRow("no such folder") << false;
+}
+
+void MessagesTest::conversationIsSaved() {
+    QFETCH(bool, writable);
+    openDock();
+    const QTemporaryDir folder;
+    const QString place = folder.filePath(writable ? u"."_s : u"gone"_s);
+    FileSaver *saver =
+        m_gallery->window().findChild<ConversationExport *>(u"conversationExport"_s)->saver();
+    saver->setProperty("dialog", QUrl::fromLocalFile(QStringLiteral(KIV_PAGES "/ChosenFile.qml")));
+    saver->setProperty("folder", QUrl::fromLocalFile(QDir::cleanPath(place)));
+    m_gallery->click(u"moreButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"findRow"_s));
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Return);
+    if (!writable) {
+        QTRY_VERIFY(stateOf(u"chatNote"_s).startsWith(u"KIV.md could not be saved: "_s));
+        return;
+    }
+    const QString file = folder.filePath(u"KIV.md"_s);
+    QTRY_VERIFY(QFile::exists(file));
+    QFile saved(file);
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(saved.readAll());
+    QVERIFY(text.startsWith(u"# KIV\n\n**You** · "_s));
+    QVERIFY(text.contains(u"Two **things**: <a> & b."_s));
 }
 
 } // namespace kiv::ui

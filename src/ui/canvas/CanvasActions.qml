@@ -91,7 +91,9 @@ Row {
         RefinePopover {
             id: refine
 
+            chips: actions.canvas.artInfo.chips
             onSubmitted: text => actions.chat.send(text)
+            onPicked: chip => actions.chat.pickChip(actions.canvas.sourceMessageId, chip)
         }
         TipLoader {
             active: actions.compact && refineButton.hovered && !refine.visible

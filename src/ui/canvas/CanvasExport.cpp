@@ -1,28 +1,21 @@
 #include "ui/canvas/CanvasExport.h"
 
 #include "canvas/TableText.h"
-#include "ui/canvas/FileName.h"
+#include "ui/files/FileName.h"
 
 #include <QBuffer>
 #include <QClipboard>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickWindow>
-#include <QSaveFile>
-#include <QStandardPaths>
 
 namespace kiv::ui {
 
 using namespace Qt::StringLiterals;
 
-CanvasExport::CanvasExport(QObject *parent)
-    : QObject(parent),
-      m_dialogSource(u"qrc:/qt/qml/Kiv/Canvas/SaveDialog.qml"_s),
-      m_folder(QUrl::fromLocalFile(
-          QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))) {}
+CanvasExport::CanvasExport(QObject *parent) : QObject(parent) {
+    connect(&m_saver, &FileSaver::failed, this, &CanvasExport::fail);
+}
 
 void CanvasExport::savePicture() {
     grab([this](const QImage &picture) {
@@ -88,40 +81,10 @@ void CanvasExport::grab(UsePicture use) {
         Qt::QueuedConnection);
 }
 
-void CanvasExport::ask(const Format &format, const QByteArray &content) {
-    QString name = fileNameOf(m_canvas->canvasTitle());
-    if (name.isEmpty())
-        name = m_canvas->artInfo().word;
-    const QString file = m_folder.toLocalFile() + u'/' + name + u'.' + format.suffix;
-    QWindow *window = m_sheet ? m_sheet->window() : nullptr;
-    QQmlComponent component(qmlEngine(this), m_dialogSource);
-    delete m_dialog;
-    m_dialog =
-        component.createWithInitialProperties({{u"parentWindow"_s, QVariant::fromValue(window)},
-                                               {u"title"_s, format.title},
-                                               {u"nameFilters"_s, QStringList{format.filter}},
-                                               {u"defaultSuffix"_s, format.suffix},
-                                               {u"currentFolder"_s, m_folder}});
-    if (!m_dialog) {
-        fail(tr("The file dialog does not open: %1").arg(component.errorString().trimmed()));
-        return;
-    }
-    m_dialog->setParent(this);
-    // A file that is not there yet can only be named once the dialog is one for saving.
-    m_dialog->setProperty("selectedFile", QUrl::fromLocalFile(file));
-    m_content = content;
-    connect(m_dialog, SIGNAL(chosen(QUrl)), this, SLOT(save(QUrl)));
-    QMetaObject::invokeMethod(m_dialog, "open");
-}
-
-void CanvasExport::save(const QUrl &file) {
-    m_folder = file.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
-    QSaveFile target(file.toLocalFile());
-    const bool isSaved = target.open(QIODevice::WriteOnly) &&
-                         target.write(m_content) == m_content.size() && target.commit();
-    m_content.clear();
-    if (!isSaved)
-        fail(tr("%1 could not be saved: %2").arg(file.fileName(), target.errorString()));
+void CanvasExport::ask(const FileSaver::Format &format, const QByteArray &content) {
+    const QString title = m_canvas->canvasTitle();
+    const QString name = fileNameOf(title).isEmpty() ? m_canvas->artInfo().word : title;
+    m_saver.ask(m_sheet ? m_sheet->window() : nullptr, format, name, content);
 }
 
 void CanvasExport::fail(const QString &reason) {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "store/CanvasRoom.h"
+#include "ui/files/FileSaver.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickItemGrabResult>
-#include <QUrl>
 #include <QtQmlIntegration>
 
 #include <functional>
@@ -20,8 +20,7 @@ class CanvasExport : public QObject {
     QML_ELEMENT
     Q_PROPERTY(kiv::store::CanvasRoom *canvas READ canvas WRITE setCanvas REQUIRED)
     Q_PROPERTY(QQuickItem *sheet READ sheet WRITE setSheet REQUIRED)
-    Q_PROPERTY(QUrl dialog MEMBER m_dialogSource)
-    Q_PROPERTY(QUrl folder MEMBER m_folder)
+    Q_PROPERTY(kiv::ui::FileSaver *saver READ saver CONSTANT)
     Q_PROPERTY(QString failure READ failure NOTIFY failureChanged)
 public:
     /// Pixels of a picture to one of the sheet.
@@ -33,6 +32,7 @@ public:
     void setCanvas(store::CanvasRoom *canvas) { m_canvas = canvas; }
     QQuickItem *sheet() const { return m_sheet; }
     void setSheet(QQuickItem *sheet) { m_sheet = sheet; }
+    FileSaver *saver() { return &m_saver; }
     /// Why the last export did not come about; empty when it did.
     QString failure() const { return m_failure; }
 
@@ -48,31 +48,20 @@ Q_SIGNALS:
     void copied();
     void failureChanged();
 
-private Q_SLOTS:
-    void save(const QUrl &file);
-
 private:
-    struct Format {
-        QString title;
-        QString suffix;
-        QString filter;
-    };
     using UsePicture = std::function<void(const QImage &picture)>;
 
     void grab(UsePicture use);
     /// Asks where `content` is to go, and saves it there.
-    void ask(const Format &format, const QByteArray &content);
+    void ask(const FileSaver::Format &format, const QByteArray &content);
     QString tableText() const;
     void fail(const QString &reason);
 
     QPointer<store::CanvasRoom> m_canvas;
     QPointer<QQuickItem> m_sheet;
-    QUrl m_dialogSource;
-    QUrl m_folder;
+    FileSaver m_saver{this};
     QString m_failure;
     QSharedPointer<QQuickItemGrabResult> m_grab;
-    QPointer<QObject> m_dialog; ///< a child
-    QByteArray m_content;
 };
 
 } // namespace kiv::ui

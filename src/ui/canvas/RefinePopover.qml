@@ -1,12 +1,18 @@
 import QtQuick
+import Kiv.Chat
 import Kiv.Controls
+import Kiv.Scene
 import Kiv.Tokens
 
 // Asks for a change of what is drawn.
 Popover {
     id: popover
 
+    /// The replies that the answer offers.
+    required property list<replyChip> chips
+
     signal submitted(text: string)
+    signal picked(chip: replyChip)
 
     width: 340
     padding: 12
@@ -14,7 +20,7 @@ Popover {
     onClosed: wish.clear()
 
     contentItem: Item {
-        implicitHeight: 40
+        implicitHeight: replies.visible ? replies.y + replies.height : 40
     }
 
     TextField {
@@ -26,6 +32,18 @@ Popover {
         Accessible.name: placeholderText
         onAccepted: if (/\S/.test(text)) {
             popover.submitted(text)
+            popover.close()
+        }
+    }
+    ReplyChips {
+        id: replies
+
+        y: 48
+        width: popover.availableWidth
+        chips: popover.chips
+        most: 3
+        onPicked: chip => {
+            popover.picked(chip)
             popover.close()
         }
     }

@@ -54,7 +54,7 @@ FocusScope {
         }
         Column {
             x: 64
-            width: close.x - x - 12
+            width: search.x - x - 12
             anchors.verticalCenter: parent.verticalCenter
 
             Label {
@@ -68,6 +68,45 @@ FocusScope {
                 style: Tokens.type.caption
                 color: Tokens.t3
                 text: dock.store.scope.scopeDetail
+            }
+        }
+        IconButton {
+            id: search
+
+            objectName: "findButton"
+            anchors.right: more.left
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "search"
+            active: dock.store.find.shown
+            text: qsTr("Find in the conversation")
+            keys: "Ctrl F"
+            onClicked: dock.store.find.open()
+        }
+        IconButton {
+            id: more
+
+            objectName: "moreButton"
+            anchors.right: close.left
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "more"
+            active: menu.visible
+            text: qsTr("More")
+            onClicked: menu.open()
+
+            ConversationExport {
+                id: exporter
+
+                objectName: "conversationExport"
+                store: dock.store
+            }
+            ConversationMenu {
+                id: menu
+
+                store: dock.store
+                exporter: exporter
+                onAboutToHide: more.forceActiveFocus(Qt.PopupFocusReason)
             }
         }
         IconButton {
@@ -85,10 +124,20 @@ FocusScope {
             width: parent.width
         }
     }
+    FindBar {
+        id: finding
+
+        anchors.top: head.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        find: dock.store.find
+        feed: feed
+        onClosed: composer.forceActiveFocus(Qt.OtherFocusReason)
+    }
     Feed {
         id: feed
 
-        anchors.top: head.bottom
+        anchors.top: finding.bottom
         anchors.bottom: composer.top
         width: parent.width
         messages: dock.store.chat.msgs
@@ -96,7 +145,9 @@ FocusScope {
         calendar: dock.store.calendar
         unreadFrom: dock.store.chat.unreadFrom
         compact: false
+        finder: dock.store.find
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
+        onAskAgainRequested: messageId => dock.store.chat.askAgain(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)
         onEditRequested: messageId => {

@@ -1,5 +1,8 @@
 #include "ui/chat/Clipboard.h"
 
+#include "text/HtmlText.h"
+#include "text/MDParser.h"
+
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -28,6 +31,15 @@ std::optional<QByteArray> pngOf(const QImage &picture) {
 
 void Clipboard::setText(const QString &text) {
     QGuiApplication::clipboard()->setText(text);
+}
+
+void Clipboard::setMarkdown(const QString &text, const QString &shown) {
+    auto *both = new QMimeData;
+    both->setText(text);
+    const QString html = text::htmlOf(text::MDParser::parse(shown));
+    if (!html.isEmpty())
+        both->setHtml(html);
+    QGuiApplication::clipboard()->setMimeData(both);
 }
 
 bool Clipboard::holdsFiles() {

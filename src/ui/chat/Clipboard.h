@@ -16,6 +16,8 @@ public:
     using QObject::QObject;
 
     Q_INVOKABLE static void setText(const QString &text);
+    /// Puts Markdown there together with what it shows, for programs that take rich text.
+    Q_INVOKABLE static void setMarkdown(const QString &text, const QString &shown);
     /// Whether it holds files, or a picture that is not also text.
     Q_INVOKABLE static bool holdsFiles();
     /// Attaches what holdsFiles() speaks of.

@@ -19,6 +19,8 @@ FocusScope {
     property bool hasOlder: false
     /// The first message that the person has not seen.
     property string unreadFrom: ""
+    /// Marks what it finds in this feed.
+    property FindRoom finder: null
 
     signal retryRequested(messageId: string)
     signal sceneRequested(messageId: string)
@@ -27,6 +29,7 @@ FocusScope {
     signal topReached()
     signal chipPicked(messageId: string, chip: replyChip)
     signal editRequested(messageId: string)
+    signal askAgainRequested(messageId: string)
 
     property string flashed: ""
 
@@ -37,8 +40,29 @@ FocusScope {
         return view.reveal(messageId)
     }
 
+    /// The message at the upper edge of what is in sight.
+    function topMessage(): string {
+        return view.topMessage()
+    }
+
+    function copyMessage(messageId: string) {
+        if (feedRows.tailOf(messageId).mine)
+            Clipboard.setText(feedRows.messageText(messageId))
+        else
+            Clipboard.setMarkdown(feedRows.messageText(messageId), feedRows.messageBody(messageId))
+    }
+    function openMenu(messageId: string) {
+        if (messageId === "")
+            return
+        view.setCursor(messageId)
+        menu.row = feedRows.tailOf(messageId)
+        menu.open()
+    }
+
     readonly property int side: compact ? 16 : 24
     readonly property real column: Math.min(width - 2 * side, 720)
+    /// The message whose actions show.
+    readonly property string activeMessage: hoveredMessage !== "" ? hoveredMessage : activeFocus ? view.cursor : ""
     readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
     FeedRows {
@@ -48,6 +72,14 @@ FocusScope {
         olderBefore: feed.hasOlder
         unreadFrom: feed.unreadFrom
         calendar: feed.calendar
+        finder: feed.finder
+    }
+    Connections {
+        target: feed.finder
+
+        function onStepped() {
+            view.revealFound(feed.finder.currentMessage, feed.finder.currentPart)
+        }
     }
     Flickable {
         id: list
@@ -58,12 +90,21 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
-        bottomMargin: 12
+        bottomMargin: 20
         activeFocusOnTab: true
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Conversation")
-        Keys.onUpPressed: flick(0, 900)
-        Keys.onDownPressed: flick(0, -900)
+        onActiveFocusChanged: if (activeFocus) view.enterCursor()
+        Keys.onUpPressed: view.stepCursor(-1)
+        Keys.onDownPressed: view.stepCursor(1)
+        Keys.onReturnPressed: feed.openMenu(view.cursor)
+        Keys.onEnterPressed: feed.openMenu(view.cursor)
+        Keys.onMenuPressed: feed.openMenu(view.cursor)
+        Keys.onPressed: event => {
+            event.accepted = event.matches(StandardKey.Copy) && view.cursor !== ""
+            if (event.accepted)
+                feed.copyMessage(view.cursor)
+        }
 
         T.ScrollBar.vertical: ScrollBar {
             id: bar
@@ -125,7 +166,7 @@ FocusScope {
                 OwnMessage {
                     compact: feed.compact
                     flashing: row.messageId === feed.flashed
-                    hovered: row.messageId === feed.hoveredMessage
+                    hovered: row.messageId === feed.activeMessage
                     onEditRequested: feed.editRequested(row.messageId)
                 }
             }
@@ -200,21 +241,51 @@ FocusScope {
 
                 MessageTail {
                     compact: feed.compact
-                    hovered: row.messageId === feed.hoveredMessage
+                    hovered: row.messageId === feed.activeMessage
                     onRetryRequested: feed.retryRequested(row.messageId)
                     onSceneRequested: feed.sceneRequested(row.messageId)
                     onChipPicked: chip => feed.chipPicked(row.messageId, chip)
-                    onCopyRequested: Clipboard.setText(feedRows.messageText(row.messageId))
+                    onCopyRequested: feed.copyMessage(row.messageId)
+                    onAskAgainRequested: feed.askAgainRequested(row.messageId)
                 }
+            }
+        }
+        Rectangle {
+            id: ring
+
+            objectName: "messageRing"
+            x: view.x - 10
+            y: view.cursorPlace.y + 8
+            width: view.width + 20
+            height: view.cursorPlace.height + (feed.compact ? 4 : 16)
+            visible: (list.activeFocus || menu.visible) && view.cursorPlace.height > 0
+            radius: Tokens.radiusCard
+            color: "transparent"
+            border.width: 2
+            border.color: Tokens.focus
+
+            MessageMenu {
+                id: menu
+
+                onAboutToHide: list.forceActiveFocus(Qt.PopupFocusReason)
+                onCopyRequested: feed.copyMessage(row.messageId)
+                onEditRequested: feed.editRequested(row.messageId)
+                onRetryRequested: feed.retryRequested(row.messageId)
+                onAskAgainRequested: feed.askAgainRequested(row.messageId)
+                onSceneRequested: feed.sceneRequested(row.messageId)
             }
         }
     }
     HoverHandler {
         id: pointer
     }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => feed.openMenu(view.messageAt(point.position.y + list.contentY))
+    }
     FocusRing {
         anchors.margins: 2
-        visible: list.activeFocus
+        visible: list.activeFocus && view.cursor === ""
         targetRadius: 0
     }
     JumpButton {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "store/Calendar.h"
+#include "store/FindRoom.h"
 #include "ui/chat/FeedRow.h"
 
 #include <QAbstractListModel>
@@ -22,6 +23,8 @@ class FeedRows : public QAbstractListModel {
     Q_PROPERTY(QString unreadFrom READ unreadFrom WRITE setUnreadFrom NOTIFY unreadFromChanged)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar WRITE setCalendar NOTIFY calendarChanged
                    REQUIRED)
+    /// Marks the words that it found; null for none.
+    Q_PROPERTY(kiv::store::FindRoom *finder READ finder WRITE setFinder NOTIFY finderChanged)
 public:
     enum Role { RowRole = Qt::UserRole + 1 };
 
@@ -35,15 +38,27 @@ public:
     void setUnreadFrom(const QString &messageId);
     store::Calendar *calendar() const { return m_calendar; }
     void setCalendar(store::Calendar *calendar);
+    store::FindRoom *finder() const { return m_finder; }
+    void setFinder(store::FindRoom *finder);
 
     const FeedRow &at(int row) const;
+    /// A row as it shows now: with what was found in it.
+    FeedRow shown(int row) const;
+    /// The row of a part of a message's text; -1 for none.
+    int rowOfPart(const QString &messageId, int part) const;
     /// The rows of a message, from the first to behind the last; none for a stranger.
     std::pair<int, int> rowsOf(const QString &messageId) const;
     QString lastMessage() const;
+    /// The message `by` places further down; empty for none.
+    QString messageBeside(const QString &messageId, int by) const;
+    /// The last row of a message: what can be done with it.
+    Q_INVOKABLE kiv::ui::FeedRow tailOf(const QString &messageId) const;
     /// How many messages stand behind this one.
     int messagesAfter(const QString &messageId) const;
     /// The words of a message as it was written, marks and all.
     Q_INVOKABLE QString messageText(const QString &messageId) const;
+    /// The words of a message as they show.
+    Q_INVOKABLE QString messageBody(const QString &messageId) const;
     /// What copying one block of a message gives: code as it is, a table with tabs between cells.
     Q_INVOKABLE QString blockText(const QString &messageId, int block) const;
 
@@ -56,6 +71,9 @@ Q_SIGNALS:
     void olderBeforeChanged();
     void unreadFromChanged();
     void calendarChanged();
+    void finderChanged();
+    /// Other words are marked, or the current ones are others.
+    void marksChanged();
 
 private:
     /// What shows of a message.
@@ -76,6 +94,7 @@ private:
     void sumUp(int from);
     QVariant field(int message, int role) const;
     int messageOf(const QString &messageId) const;
+    int messageAt(int row) const;
 
     QPointer<QAbstractItemModel> m_messages;
     QPointer<store::Calendar> m_calendar;
@@ -83,6 +102,7 @@ private:
     QList<int> m_starts{0}; ///< the first row of each message, and the count of all
     bool m_olderBefore = false;
     QString m_unreadFrom;
+    QPointer<store::FindRoom> m_finder;
 };
 
 } // namespace kiv::ui

@@ -37,6 +37,7 @@ void FeedView::setRows(FeedRows *rows) {
                 [this](const QModelIndex &first, const QModelIndex &last) {
                     changeRows(first.row(), last.row());
                 });
+        connect(rows, &FeedRows::marksChanged, this, &FeedView::showMarks);
     }
     reset();
     Q_EMIT rowsChanged();
@@ -160,7 +161,7 @@ void FeedView::changeRows(int first, int last) {
         if (shown == m_shown.end())
             setRowHeight(row, estimate(row));
         else
-            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->at(row)));
+            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
     }
     polish();
 }
@@ -211,6 +212,7 @@ void FeedView::updatePolish() {
         moveOrigin();
     for (const auto &[row, shown] : m_shown)
         shown.item->setY(m_origin + m_heights.top(row));
+    placeCursor();
     m_layingOut = false;
     if (!isSettled)
         polish();

@@ -35,6 +35,9 @@ class FeedView : public QQuickItem {
     Q_PROPERTY(bool following READ isFollowing NOTIFY followingChanged)
     /// How many messages came while the view did not follow them.
     Q_PROPERTY(int unseen READ unseen NOTIFY unseenChanged)
+    /// The message that keys act on, and where it is in the view; empty for none.
+    Q_PROPERTY(QString cursor READ cursor NOTIFY cursorChanged)
+    Q_PROPERTY(QRectF cursorPlace READ cursorPlace NOTIFY cursorPlaceChanged)
 public:
     explicit FeedView(QQuickItem *parent = nullptr);
 
@@ -47,6 +50,8 @@ public:
     void setHeld(bool held);
     bool isFollowing() const { return m_following; }
     int unseen() const { return m_unseen; }
+    QString cursor() const { return m_cursor; }
+    QRectF cursorPlace() const { return m_cursorPlace; }
 
     /// Goes to the end and follows it again.
     Q_INVOKABLE void jump();
@@ -54,6 +59,16 @@ public:
     Q_INVOKABLE void goToTop();
     /// Brings a message into view; false when the feed does not have it.
     Q_INVOKABLE bool reveal(const QString &messageId);
+    /// Brings the words that a search is at into view, sideways too; false when no part shows them.
+    Q_INVOKABLE bool revealFound(const QString &messageId, int part);
+    /// The message at the upper edge of what is in sight; empty for none.
+    Q_INVOKABLE QString topMessage() const { return messageAt(m_following ? end() : top()); }
+    /// Puts the keys onto a message in sight, unless they are on one.
+    Q_INVOKABLE void enterCursor();
+    /// Goes to the next message, or with -1 to the one before; through one that is longer than the
+    /// view in several steps.
+    Q_INVOKABLE void stepCursor(int by);
+    Q_INVOKABLE void setCursor(const QString &messageId);
     /// The message at `y` of the view's own; empty for none.
     Q_INVOKABLE QString messageAt(double y) const;
 
@@ -66,6 +81,8 @@ Q_SIGNALS:
     void heldChanged();
     void followingChanged();
     void unseenChanged();
+    void cursorChanged();
+    void cursorPlaceChanged();
     /// The person has scrolled up to the first row.
     void topReached();
 
@@ -94,6 +111,8 @@ private:
     void insertRows(int first, int last);
     void removeRows(int first, int last);
     void changeRows(int first, int last);
+    void showMarks();
+    void placeCursor();
     void moveShown(int from, int by);
     double estimate(int row) const;
     void estimateAll();
@@ -127,6 +146,9 @@ private:
     bool m_following = true;
     int m_unseen = 0;
     QString m_seen; ///< the last message when the view ceased to follow
+
+    QString m_cursor;
+    QRectF m_cursorPlace;
 
     RowHeights m_heights;
     /// Where the first row begins. It goes up when rows above those in sight turn out to be higher

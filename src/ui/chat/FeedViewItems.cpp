@@ -28,7 +28,7 @@ QQuickItem *FeedView::itemOf(int row) {
 }
 
 FeedView::Shown FeedView::take(int row) {
-    const FeedRow &content = m_rows->at(row);
+    const FeedRow content = m_rows->shown(row);
     const QVariant value = QVariant::fromValue(content);
     QList<QQuickItem *> &spare = m_spare[content.kind];
     if (!spare.isEmpty()) {

@@ -16,6 +16,7 @@ FocusScope {
     signal retryRequested()
     signal sceneRequested()
     signal copyRequested()
+    signal askAgainRequested()
     signal chipPicked(chip: replyChip)
 
     readonly property int indent: compact || row.mine ? 0 : 40
@@ -57,14 +58,51 @@ FocusScope {
         text: qsTr("Not sent. Try again")
         onClicked: tail.retryRequested()
     }
-    IconButton {
+    Label {
+        objectName: "sentState"
+        anchors.right: parent.right
+        y: tail.height
+        visible: tail.row.mine && !tail.failed
+        style: tail.compact ? Tokens.type.micro : Tokens.type.caption
+        tabular: true
+        color: Tokens.t3
+        text: tail.row.delivery === Store.Delivery.Pending ? qsTr("Sending…")
+            : tail.hovered ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
+    }
+    Row {
+        id: actions
+
         x: tail.indent - 4
         y: tail.height - 4
-        visible: !tail.compact && !tail.row.mine && !tail.row.growing && (tail.hovered || hovered)
-        size: 28
-        iconSize: 16
-        iconName: "copy"
-        text: qsTr("Copy the message")
-        onClicked: tail.copyRequested()
+        visible: !tail.compact && !tail.row.mine && !tail.row.growing && (tail.hovered || over.hovered)
+
+        HoverHandler {
+            id: over
+        }
+        IconButton {
+            objectName: "copyMessage"
+            size: 28
+            iconSize: 16
+            iconName: "copy"
+            text: qsTr("Copy the message")
+            onClicked: tail.copyRequested()
+        }
+        IconButton {
+            objectName: "showOnCanvas"
+            visible: tail.hasCard && !tail.row.onCanvas
+            size: 28
+            iconSize: 16
+            iconName: "layers"
+            text: qsTr("Show on the canvas")
+            onClicked: tail.sceneRequested()
+        }
+        IconButton {
+            objectName: "askAgain"
+            size: 28
+            iconSize: 16
+            iconName: "refresh"
+            text: qsTr("Ask again")
+            onClicked: tail.askAgainRequested()
+        }
     }
 }

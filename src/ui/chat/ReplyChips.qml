@@ -10,6 +10,8 @@ FocusScope {
     id: replies
 
     required property list<replyChip> chips
+    /// How many are offered.
+    property int most: chips.length
 
     readonly property int lineHeight: 32
     readonly property int gap: 8
@@ -52,7 +54,8 @@ FocusScope {
                 required property int index
 
                 objectName: "replyChip:" + index
-                enabled: y < replies.lines * (replies.lineHeight + replies.gap)
+                visible: index < replies.most
+                enabled: visible && y < replies.lines * (replies.lineHeight + replies.gap)
                 opacity: enabled ? 1 : 0
                 focus: index === replies.current
                 focusPolicy: index === replies.current ? Qt.StrongFocus : Qt.ClickFocus

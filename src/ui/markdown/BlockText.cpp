@@ -25,22 +25,8 @@ constexpr double codeStep = 160;
 /// The grounds of the characters from `start` to `end` of a block, line by line.
 void addChips(QList<QRectF> &chips, const QTextBlock &block, int start, int end,
               const QFontMetricsF &metrics) {
-    const QTextLayout *layout = block.layout();
-    const QPointF origin = layout->position();
-    while (start < end) {
-        const QTextLine line = layout->lineForTextPosition(start);
-        if (!line.isValid())
-            return;
-        const int lineEnd = std::min(end, line.textStart() + line.textLength());
-        const double left = line.cursorToX(start);
-        const double right = line.cursorToX(lineEnd);
-        const double baseline = origin.y() + line.y() + line.ascent();
-        chips.append({origin.x() + std::min(left, right) - DocumentWriter::codeInset,
-                      std::round(baseline - metrics.ascent()) - codeMargin,
-                      std::abs(right - left) + DocumentWriter::codeInset,
-                      std::ceil(metrics.ascent() + metrics.descent()) + 2 * codeMargin});
-        start = std::max(lineEnd, start + 1);
-    }
+    for (const QRectF &place : placesOf(block, start, end, metrics))
+        chips.append(place.adjusted(-DocumentWriter::codeInset, -codeMargin, 0, codeMargin));
 }
 
 void addChips(QList<QRectF> &chips, const QTextBlock &block, const QFontMetricsF &metrics) {
@@ -72,6 +58,10 @@ QRectF endOf(const QTextBlock &block) {
 
 } // namespace
 
+BlockText::BlockText(QQuickItem *parent) : QQuickItem(parent) {
+    connect(this, &BlockText::marksChanged, this, &QQuickItem::update);
+}
+
 void BlockText::setDocument(QQuickTextDocument *document) {
     if (m_document == document)
         return;
@@ -82,9 +72,12 @@ void BlockText::setDocument(QQuickTextDocument *document) {
 
 void BlockText::setPart(const MarkdownPart &part) {
     const bool isSame = m_part.content == part.content && m_part.joint == part.joint;
+    const bool isMarkedSame = m_part.found == part.found;
     m_part = part;
     if (!isSame)
         Q_EMIT changed();
+    if (!isMarkedSame)
+        polish();
 }
 
 void BlockText::componentComplete() {
@@ -147,10 +140,37 @@ void BlockText::updatePolish() {
         m_end = end;
         Q_EMIT placesChanged();
     }
+    placeMarks();
     const double width =
         isTable ? m_columns.width() : std::ceil(text->idealWidth() / codeStep) * codeStep;
     if (std::exchange(m_unwrappedWidth, width) != width)
         Q_EMIT widthMeasured();
+}
+
+void BlockText::placeMarks() {
+    if (m_part.found.isEmpty() && m_marks.isEmpty())
+        return;
+    const QTextDocument &text = *m_document->textDocument();
+    m_marks.clear();
+    for (const FoundWords &words : std::as_const(m_part.found)) {
+        const auto state = words.isCurrent ? FoundMarks::State::Current : FoundMarks::State::Other;
+        if (!std::holds_alternative<MDBlock::Table>(m_part.content)) {
+            const QTextBlock block = text.findBlockByNumber(words.place.line);
+            const int start = m_writer.wordsStart(words.place.line) + words.place.start;
+            m_marks.add(block, start, start + words.place.length, state);
+            continue;
+        }
+        for (const auto &[start, end] : m_columns.placesOf(words.place)) {
+            const QTextBlock block = text.findBlock(start);
+            m_marks.add(block, start - block.position(), end - block.position(), state);
+        }
+    }
+    setFlag(ItemHasContents);
+    Q_EMIT marksChanged();
+}
+
+QSGNode *BlockText::updatePaintNode(QSGNode *node, UpdatePaintNodeData *) {
+    return m_marks.paint(node, *window(), m_foundColor, m_foundEdge);
 }
 
 void BlockText::copyCells(int start, int end) const {

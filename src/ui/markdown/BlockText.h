@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/markdown/DocumentWriter.h"
+#include "ui/markdown/FoundMarks.h"
 #include "ui/markdown/MarkdownPart.h"
 #include "ui/markdown/TableColumns.h"
 
@@ -21,6 +22,9 @@ class BlockText : public QQuickItem {
     Q_PROPERTY(kiv::ui::MarkdownPart part READ part WRITE setPart NOTIFY changed REQUIRED)
     /// The text stands as it is, marks and all.
     Q_PROPERTY(bool plain MEMBER m_plain NOTIFY changed)
+    /// Of the ground of words that the person looks for, and of the edge of those they are at.
+    Q_PROPERTY(QColor foundColor MEMBER m_foundColor NOTIFY marksChanged)
+    Q_PROPERTY(QColor foundEdge MEMBER m_foundEdge NOTIFY marksChanged)
     /// Of the text edit.
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed REQUIRED)
     Q_PROPERTY(double lineHeight READ lineHeight WRITE setLineHeight NOTIFY changed REQUIRED)
@@ -41,7 +45,7 @@ class BlockText : public QQuickItem {
     /// The width of code or of a table, which do not wrap.
     Q_PROPERTY(double unwrappedWidth READ unwrappedWidth NOTIFY widthMeasured)
 public:
-    explicit BlockText(QQuickItem *parent = nullptr) : QQuickItem(parent) {}
+    explicit BlockText(QQuickItem *parent = nullptr);
 
     QQuickTextDocument *document() const { return m_document; }
     void setDocument(QQuickTextDocument *document);
@@ -62,6 +66,9 @@ public:
     double naturalWidth() const { return m_naturalWidth; }
     double unwrappedWidth() const { return m_unwrappedWidth; }
 
+    /// Where the words show that the search is at; null without any.
+    QRectF currentMark() const { return m_marks.current(); }
+
     /// Puts the cells that a selection in a table touches on the clipboard, with tabs between them.
     Q_INVOKABLE void copyCells(int start, int end) const;
 
@@ -69,11 +76,13 @@ Q_SIGNALS:
     void changed();
     void placesChanged();
     void widthMeasured();
+    void marksChanged();
 
 protected:
     void componentComplete() override;
     void geometryChange(const QRectF &now, const QRectF &before) override;
     void updatePolish() override;
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
 
 private:
     template <typename Value>
@@ -85,6 +94,7 @@ private:
     }
     void write();
     void measure(const QList<TextLine> &lines);
+    void placeMarks();
 
     QPointer<QQuickTextDocument> m_document;
     MarkdownPart m_part;
@@ -94,6 +104,9 @@ private:
     TextLook m_look;
     DocumentWriter m_writer;
     TableColumns m_columns;
+    FoundMarks m_marks;
+    QColor m_foundColor;
+    QColor m_foundEdge;
     QList<QRectF> m_chips;
     QList<double> m_tops;
     QRectF m_end;

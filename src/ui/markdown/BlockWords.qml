@@ -46,6 +46,8 @@ TextEdit {
     BlockText {
         id: filler
 
+        z: -1
+        y: words.topPadding
         width: words.width
         height: words.height
         document: words.textDocument
@@ -56,6 +58,8 @@ TextEdit {
         linkColor: Tokens.accentText
         faintColor: Tokens.t3
         codeFamily: Tokens.codeFamily
+        foundColor: Tokens.found
+        foundEdge: Tokens.foundEdge
     }
     Repeater {
         model: filler.chips.length
@@ -65,7 +69,7 @@ TextEdit {
 
             readonly property rect place: filler.chips[index] ?? Qt.rect(0, 0, 0, 0)
 
-            z: -1
+            z: -2
             x: place.x
             y: place.y + words.topPadding
             width: place.width

@@ -189,6 +189,12 @@ QTextCharFormat DocumentWriter::charFormat(const TextRun &run) const {
     return format;
 }
 
+int DocumentWriter::wordsStart(qsizetype line) const {
+    if (line >= m_lines.size() || m_lines.at(line).hanging == 0 || m_lines.at(line).runs.isEmpty())
+        return 0;
+    return static_cast<int>(m_lines.at(line).runs.first().text.size());
+}
+
 bool DocumentWriter::isCode(const QTextCharFormat &format) {
     return format.boolProperty(codeProperty);
 }

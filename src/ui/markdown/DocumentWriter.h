@@ -31,6 +31,8 @@ public:
     bool write(QList<TextLine> lines, const TextLook &look);
 
     const QList<TextLine> &lines() const { return m_lines; }
+    /// Where the words of a line begin: behind the mark of an item.
+    int wordsStart(qsizetype line) const;
     static bool isCode(const QTextCharFormat &format);
 
 private:

@@ -1,10 +1,17 @@
 #pragma once
 
-#include "text/BlockParts.h"
+#include "text/SearchText.h"
 
 #include <QtQmlIntegration>
 
 namespace kiv::ui {
+
+/// Words in a part that the person looks for.
+struct FoundWords {
+    text::WordPlace place;
+    bool isCurrent = false; ///< the one that the person is at
+    friend bool operator==(const FoundWords &, const FoundWords &) = default;
+};
 
 /// A part of a block as the views hand it on: what it says is for `BlockText`.
 struct MarkdownPart : text::BlockPart {
@@ -20,6 +27,8 @@ public:
     MarkdownPart() = default;
     MarkdownPart(text::BlockPart part) : BlockPart(std::move(part)) {}
 
+    QList<FoundWords> found;
+
     /// Of a heading, 1 to 3.
     int level() const;
     /// A block begins with it.
@@ -30,6 +39,8 @@ public:
     int place() const { return block; }
     /// Which tasks of a task list are done.
     QList<bool> done() const;
+
+    friend bool operator==(const MarkdownPart &, const MarkdownPart &) = default;
 };
 
 } // namespace kiv::ui

@@ -73,9 +73,9 @@ QList<TextLine> TableColumns::lines(const text::BlockPart &part, const QFont &fo
     m_rowTops.clear();
     m_placed.clear();
     m_text.clear();
-    const bool hasHead = part.joint == text::BlockPart::Joint::Block;
+    m_firstRow = part.joint == text::BlockPart::Joint::Block ? 0 : 1;
     double top = 0;
-    for (qsizetype row = hasHead ? 0 : 1; row < m_rows.size(); ++row) {
+    for (qsizetype row = m_firstRow; row < m_rows.size(); ++row) {
         m_rowTops.append(top);
         const qsizetype before = lines.size();
         addRow(lines, row);
@@ -222,6 +222,30 @@ void TableColumns::addRow(QList<TextLine> &lines, qsizetype row) {
         }
         lines.append(line);
     }
+}
+
+QList<std::pair<int, int>> TableColumns::placesOf(const text::WordPlace &words) const {
+    qsizetype column = words.line;
+    int row = m_firstRow;
+    while (row < m_rows.size() && column >= m_rows.at(row).size())
+        column -= m_rows.at(row++).size();
+    QList<std::pair<int, int>> places;
+    int before = 0; // of the cell, on the lines above
+    for (qsizetype i = 0; i < m_placed.size(); ++i) {
+        const Placed &piece = m_placed.at(i);
+        if (piece.row != row || piece.column != column)
+            continue;
+        // A tab or a line's end stands before what follows.
+        const qsizetype next =
+            i + 1 < m_placed.size() ? m_placed.at(i + 1).start - 1 : m_text.size();
+        const int length = static_cast<int>(next) - piece.start;
+        const int start = std::max(words.start - before, 0);
+        const int end = std::min(words.start + words.length - before, length);
+        if (start < end)
+            places.append({piece.start + start, piece.start + end});
+        before += length;
+    }
+    return places;
 }
 
 QString TableColumns::cells(int start, int end) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "text/SearchText.h"
 #include "ui/markdown/DocumentWriter.h"
 
 #include <QFontMetricsF>
@@ -24,6 +25,9 @@ public:
     /// The cells that the characters from `start` to `end` of the text touch, with tabs between
     /// them; whole rows when there are several, and from within one cell the characters themselves.
     QString cells(int start, int end) const;
+    /// Where in the text some words of a cell stand, as starts and ends. Cells are counted from the
+    /// first that shows, row by row.
+    QList<std::pair<int, int>> placesOf(const text::WordPlace &words) const;
 
 private:
     struct Cell {
@@ -58,6 +62,7 @@ private:
     QFont m_font;
     TextLook m_look;
     QList<QList<Cell>> m_rows; ///< the head first
+    int m_firstRow = 0;        ///< that shows
     QList<Column> m_columns;
     QList<double> m_rowTops;
     QList<Placed> m_placed;

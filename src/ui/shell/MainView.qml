@@ -193,6 +193,18 @@ FocusScope {
         onActivated: topBar.toggleMenu()
     }
     Shortcut {
+        sequence: "Ctrl+F"
+        onActivated: view.store.find.open()
+    }
+    Shortcut {
+        sequence: "F3"
+        onActivated: view.store.find.next()
+    }
+    Shortcut {
+        sequence: "Shift+F3"
+        onActivated: view.store.find.previous()
+    }
+    Shortcut {
         sequence: "F6"
         onActivated: areas.next()
     }

@@ -112,6 +112,7 @@ FocusScope {
         onOlderRequested: rail.store.layout.toggleDock()
         onTopReached: rail.store.chat.showOlder()
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
+        onAskAgainRequested: messageId => rail.store.chat.askAgain(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)
         onEditRequested: messageId => {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/tokens/Typefaces.h"
+
 #include <QObject>
 #include <QtQmlIntegration>
 
@@ -17,6 +19,7 @@ class Appearance : public QObject {
     Q_PROPERTY(bool dark READ dark WRITE setDark NOTIFY darkChanged)
     Q_PROPERTY(
         bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
+    Q_PROPERTY(QString codeFamily READ codeFamily CONSTANT)
 public:
     enum Theme { Light, Dark };
 
@@ -29,6 +32,8 @@ public:
     bool reducedMotion() const { return m_reducedMotion; }
     void setReducedMotion(bool reduced);
 
+    QString codeFamily() const { return m_codeFamily; }
+
 Q_SIGNALS:
     void darkChanged();
     void reducedMotionChanged();
@@ -36,6 +41,7 @@ Q_SIGNALS:
 private:
     bool m_dark = false;
     bool m_reducedMotion = false;
+    QString m_codeFamily = ui::codeFamily();
 };
 
 } // namespace kiv::ui

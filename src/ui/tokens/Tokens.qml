@@ -37,6 +37,9 @@ QtObject {
     readonly property color accentLine: dark ? "#453c86" : "#d6ccfb"
     readonly property color focus: dark ? "#a996ff" : "#6644e6"
     readonly property color selection: dark ? "#473a8f" : "#d9d0ff"
+    /// The ground of words that are looked for, and the edge of those that the search is at.
+    readonly property color found: dark ? "#6a5023" : "#fbd9a0"
+    readonly property color foundEdge: dark ? "#fbbf4a" : "#8a5200"
     readonly property color danger: dark ? "#cc3336" : "#c9282f"
     readonly property color dangerText: dark ? "#ff8f90" : "#b91f28"
     readonly property color dangerTint: dark ? "#3c232c" : "#fdecec"
@@ -78,7 +81,7 @@ QtObject {
     readonly property string family: "Inter"
     /// Every digit of one width, for columns, timers, time stamps and labels that count.
     readonly property string tabularFamily: "KIV Tabular"
-    readonly property string codeFamily: "DejaVu Sans Mono"
+    readonly property string codeFamily: Appearance.codeFamily
     readonly property TypeScale type: TypeScale {}
 
     readonly property int radiusSmall: 4

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 
 namespace kiv::ui {
@@ -31,6 +32,17 @@ void useTypefaces() {
     QFont font(u"Inter"_s);
     font.setPixelSize(14);
     QGuiApplication::setFont(font);
+}
+
+QString codeFamily() {
+    const QFontInfo system(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    if (system.fixedPitch())
+        return system.family();
+    for (const QString &family : {u"DejaVu Sans Mono"_s, u"SF Mono"_s, u"Consolas"_s}) {
+        if (QFontDatabase::hasFamily(family))
+            return family;
+    }
+    return u"monospace"_s;
 }
 
 } // namespace kiv::ui

@@ -1,4 +1,4 @@
-#include "ui/canvas/FileName.h"
+#include "ui/files/FileName.h"
 
 namespace kiv::ui {
 

@@ -1,0 +1,62 @@
+import QtQuick
+import Kiv.Chat
+import Kiv.Controls
+import Kiv.Store
+
+// What can be done with the conversation as a whole.
+Popover {
+    id: menu
+
+    required property AppStore store
+    required property ConversationExport exporter
+
+    width: 260
+    onAboutToShow: find.forceActiveFocus(Qt.PopupFocusReason)
+
+    contentItem: Item {
+        implicitHeight: 108
+    }
+
+    Column {
+        MenuRow {
+            id: find
+
+            objectName: "findRow"
+            width: menu.availableWidth
+            iconName: "search"
+            text: qsTr("Find in the conversation")
+            hint: qsTr("Ctrl F")
+            KeyNavigation.down: save
+            onClicked: {
+                menu.close()
+                menu.store.find.open()
+            }
+        }
+        MenuRow {
+            id: save
+
+            objectName: "saveConversationRow"
+            width: menu.availableWidth
+            iconName: "download"
+            text: qsTr("Save as Markdown")
+            KeyNavigation.down: copy
+            onClicked: {
+                menu.close()
+                menu.exporter.save()
+            }
+        }
+        MenuRow {
+            id: copy
+
+            objectName: "copyConversationRow"
+            width: menu.availableWidth
+            iconName: "copy"
+            text: qsTr("Copy as Markdown")
+            KeyNavigation.down: find
+            onClicked: {
+                menu.close()
+                menu.exporter.copy()
+            }
+        }
+    }
+}
