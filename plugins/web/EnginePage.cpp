@@ -53,6 +53,7 @@ void EnginePage::open(const QUrl &url, const QList<QNetworkCookie> &session) {
     m_wanted = url;
     m_lastCookie = QUuid::createUuid().toByteArray(QUuid::Id128);
     m_hasContent = false;
+    m_status.url = url;
     setState(PageState::Loading);
     QWebEngineCookieStore *cookies = m_profile.cookieStore();
     for (const QNetworkCookie &cookie : session)
@@ -105,7 +106,9 @@ void EnginePage::handOver(const QUrl &url) {
     m_watcher.pageLeft(url);
 }
 
-void EnginePage::noteLoad(int status, int domain, int code, const QString &text) {
+void EnginePage::noteLoad(int status, const QUrl &url, int domain, int code, const QString &text) {
+    // The view itself goes back to the page before when a load fails.
+    m_status.url = url;
     switch (status) {
     case QWebEngineLoadingInfo::LoadStartedStatus:
         m_leftForBrowser = false;
@@ -145,7 +148,8 @@ void EnginePage::noteEnd() {
 }
 
 void EnginePage::notePlace(const QUrl &url, int progress, bool canGoBack) {
-    m_status.url = url;
+    if (m_status.state == PageState::Shown)
+        m_status.url = url;
     m_status.progress = progress;
     m_status.canGoBack = canGoBack;
     m_watcher.pageChanged();
@@ -153,7 +157,11 @@ void EnginePage::notePlace(const QUrl &url, int progress, bool canGoBack) {
 
 void EnginePage::setState(PageState state, const QString &failure) {
     m_status.state = state;
+    if (state == PageState::Shown)
+        m_status.url = m_view->property("url").toUrl();
     m_status.failure = failure;
+    // Before there is a page the view is white, in the dark too.
+    m_view->setOpacity(m_hasContent ? 1 : 0);
     m_watcher.pageChanged();
 }
 

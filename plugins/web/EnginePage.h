@@ -33,7 +33,8 @@ public:
     Q_INVOKABLE bool admits(const QUrl &url, bool isMainFrame);
     Q_INVOKABLE void follow(const QUrl &url);
     Q_INVOKABLE void handOver(const QUrl &url);
-    Q_INVOKABLE void noteLoad(int status, int domain, int code, const QString &text);
+    Q_INVOKABLE void noteLoad(int status, const QUrl &url, int domain, int code,
+                              const QString &text);
     Q_INVOKABLE void noteEnd();
     Q_INVOKABLE void notePlace(const QUrl &url, int progress, bool canGoBack);
 

@@ -32,7 +32,7 @@ WebEngineView {
     onUrlChanged: report()
     onLoadProgressChanged: report()
     onCanGoBackChanged: report()
-    onLoadingChanged: info => page.noteLoad(info.status, info.errorDomain, info.errorCode, info.errorString)
+    onLoadingChanged: info => page.noteLoad(info.status, info.url, info.errorDomain, info.errorCode, info.errorString)
     onRenderProcessTerminated: page.noteEnd()
 
     onNavigationRequested: request => {

@@ -34,6 +34,8 @@ table{border-collapse:collapse;width:100%}
 th,td{text-align:left;padding:8px 16px 8px 0;border-bottom:1px solid var(--line);font-weight:400}
 thead th{color:var(--t3);font-size:12px;font-weight:600}
 tbody th{font-weight:500}
+::-webkit-scrollbar{width:12px;height:12px}
+::-webkit-scrollbar-thumb{background:var(--line);border:3px solid var(--bg);border-radius:6px}
 .n{text-align:right;white-space:nowrap;padding-right:0;padding-left:16px}
 )"_s;
 

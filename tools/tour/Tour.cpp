@@ -117,7 +117,7 @@ bool Tour::visitPage() {
     const bool shown = m_driver.waitFor(
         [&] {
             const QQuickItem *page = m_driver.find(u"page"_s);
-            return page && page->property("state") == shownPage;
+            return page && page->property("state").toInt() == shownPage;
         },
         answerPatience);
     rest();
