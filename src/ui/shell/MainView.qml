@@ -133,8 +133,8 @@ FocusScope {
         target: LinkOpener
 
         function onFollowed(link) {
-            const elsewhere = view.store.canvas.openLink(link)
-            if (elsewhere.toString() !== "")
+            const elsewhere = "" + view.store.canvas.openLink(link)
+            if (elsewhere !== "")
                 Qt.openUrlExternally(elsewhere)
         }
     }
