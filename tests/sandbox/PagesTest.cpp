@@ -43,7 +43,8 @@ private Q_SLOTS:
         const auto row = [](const char *path, const QString &words) {
             QTest::newRow(path) << QString::fromLatin1(path) << words;
         };
-        row("/project/orchard?tab=tasks", u"^Orchard .* 33 open tasks .*Confirm the new tax code"_s);
+        row("/project/orchard?tab=tasks",
+            u"^Orchard .* 33 open tasks .*Confirm the new tax code"_s);
         row("/project/orchard", u"Confirm the new tax code .*Done lately"_s);
         row("/project/orchard?tab=nothing", u"Confirm the new tax code"_s);
         row("/project/orchard?tab=feed", u"Done 55% Planned by now 72%"_s);
