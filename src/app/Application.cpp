@@ -9,16 +9,24 @@ namespace kiv::app {
 
 using namespace Qt::StringLiterals;
 
+void Application::prepareProcess() {
+    // A web engine that is loaded later draws with what the window draws with.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+}
+
 Application::Application(const Options &options)
     : m_options(options),
       m_settings(options.places.settingsFile, QSettings::IniFormat),
       m_frame(m_settings, m_clock),
-      m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)) {
+      m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)),
+      m_webHost(options.places.webPlugin) {
     m_store = std::make_unique<store::AppStore>(
         m_clock, *m_net, m_settings, options.places.draftsFile,
         options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
     m_store->attachments()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
+    m_store->setWebHost(&m_webHost);
 }
 
 Application::~Application() {

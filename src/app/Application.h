@@ -11,6 +11,7 @@
 #include "net/PersistentCookieJar.h"
 #include "store/AppStore.h"
 #include "ui/chat/DialogChooser.h"
+#include "web/WebHost.h"
 
 #include <QQmlApplicationEngine>
 #include <QSettings>
@@ -25,6 +26,9 @@ namespace kiv::app {
 /// embedded workspace. Needs a QGuiApplication.
 class Application {
 public:
+    /// To be called before the application object is made.
+    static void prepareProcess();
+
     explicit Application(const Options &options);
     ~Application();
 
@@ -45,6 +49,7 @@ private:
     std::unique_ptr<net::APIClient> m_net;
     std::unique_ptr<EmbeddedServer> m_server;
     ui::DialogChooser m_chooser;
+    web::WebHost m_webHost;
     std::unique_ptr<store::AppStore> m_store;
     std::unique_ptr<AppDelegate> m_delegate;
     QQmlApplicationEngine m_engine;

@@ -22,6 +22,10 @@ QString findSandbox() {
     return {};
 }
 
+QString besideProgram(const QString &path) {
+    return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(path));
+}
+
 QString folder(QStandardPaths::StandardLocation location) {
     return QStandardPaths::writableLocation(location) + u"/kiv"_s;
 }
@@ -33,7 +37,8 @@ Places Places::standard() {
             .cookieFile = folder(QStandardPaths::GenericDataLocation) + u"/cookies"_s,
             .draftsFile = folder(QStandardPaths::GenericDataLocation) + u"/drafts"_s,
             .workspaceDir = folder(QStandardPaths::GenericDataLocation) + u"/workspace"_s,
-            .sandboxProgram = findSandbox()};
+            .sandboxProgram = findSandbox(),
+            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s)};
 }
 
 Places Places::below(const QString &profile) {
@@ -42,7 +47,8 @@ Places Places::below(const QString &profile) {
             .cookieFile = dir.absoluteFilePath(u"cookies"_s),
             .draftsFile = dir.absoluteFilePath(u"drafts"_s),
             .workspaceDir = dir.absoluteFilePath(u"workspace"_s),
-            .sandboxProgram = findSandbox()};
+            .sandboxProgram = findSandbox(),
+            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s)};
 }
 
 } // namespace kiv::app

@@ -11,6 +11,7 @@ struct Places {
     QString draftsFile;     ///< what is being typed: readable by this user only
     QString workspaceDir;   ///< data of the embedded workspace
     QString sandboxProgram; ///< the embedded workspace server
+    QString webPlugin;      ///< what shows pages, its file's ending left out
 
     /// The user's own folders and the helpers installed beside the program.
     static Places standard();

@@ -7,6 +7,7 @@
 #include <cstdio>
 
 int main(int argc, char **argv) {
+    kiv::app::Application::prepareProcess();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("kiv"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("KIV"));

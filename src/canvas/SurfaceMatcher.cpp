@@ -41,18 +41,23 @@ QString tabName(const QString &tab) {
 std::optional<SurfaceLink> SurfaceMatcher::match(QStringView text, const QUrl &baseUrl) {
     LinkScanner links(text);
     while (const auto found = links.next()) {
-        const QString target = withoutPunctuation(*found).toString();
-        QUrl url(target, QUrl::StrictMode);
-        if (target.isEmpty() || !url.isValid())
-            continue;
-        if (url.isRelative())
-            url = baseUrl.resolved(url);
-        const bool isOurs =
-            !url.host().isEmpty() && url.host().compare(baseUrl.host(), Qt::CaseInsensitive) == 0;
-        if (isOurs && isSurfacePath(url.path(QUrl::FullyEncoded)))
-            return SurfaceLink{url, title(url)};
+        if (const auto link = page(withoutPunctuation(*found).toString(), baseUrl))
+            return link;
     }
     return std::nullopt;
+}
+
+std::optional<SurfaceLink> SurfaceMatcher::page(const QString &link, const QUrl &baseUrl) {
+    QUrl url(link, QUrl::StrictMode);
+    if (link.isEmpty() || !url.isValid())
+        return std::nullopt;
+    if (url.isRelative())
+        url = baseUrl.resolved(url);
+    const bool isOurs =
+        !url.host().isEmpty() && url.host().compare(baseUrl.host(), Qt::CaseInsensitive) == 0;
+    if (!isOurs || !isSurfacePath(url.path(QUrl::FullyEncoded)))
+        return std::nullopt;
+    return SurfaceLink{url, title(url)};
 }
 
 QString SurfaceMatcher::title(const QUrl &url) {

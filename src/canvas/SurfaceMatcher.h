@@ -26,6 +26,9 @@ namespace SurfaceMatcher {
 /// The first link of a text that leads to such a page; `baseUrl` is the platform's own address.
 std::optional<SurfaceLink> match(QStringView text, const QUrl &baseUrl);
 
+/// The page that a link leads to, which may be a path.
+std::optional<SurfaceLink> page(const QString &link, const QUrl &baseUrl);
+
 QString title(const QUrl &url);
 
 } // namespace SurfaceMatcher

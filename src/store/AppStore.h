@@ -21,6 +21,10 @@
 
 class QSettings;
 
+namespace kiv::web {
+class WebHost;
+}
+
 namespace kiv::store {
 
 /// All state of the window and every action of the person: one room per concern. Lives on the main
@@ -67,6 +71,10 @@ public:
     net::APIClient &net() { return m_net; }
     net::ChatStreamClient &chatStream() { return m_chatStream; }
     QSettings &settings() { return m_settings; }
+    /// Where the canvas has its pages from; null where there is no such place.
+    web::WebHost *webHost() const { return m_webHost; }
+    /// `host` outlives the views.
+    void setWebHost(web::WebHost *host) { m_webHost = host; }
     bool isSnapshot() const { return m_mode == Mode::Snapshot; }
 
     /// Asks the backend who is signed in; called once when the window is there.
@@ -81,6 +89,7 @@ private:
     net::APIClient &m_net;
     QSettings &m_settings;
     Mode m_mode;
+    web::WebHost *m_webHost = nullptr;
     net::ChatStreamClient m_chatStream;
     ScopeRoom m_scope;
     LayoutRoom m_layout;

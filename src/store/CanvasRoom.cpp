@@ -173,6 +173,15 @@ void CanvasRoom::openSurface(const canvas::SurfaceLink &link) {
     net::KivAPI::rum(&m_store.net(), u"canvas_open"_s, {{u"page"_s, link.title}});
 }
 
+QUrl CanvasRoom::openLink(const QString &link) {
+    const QUrl &base = m_store.net().baseUrl();
+    const auto page = canvas::SurfaceMatcher::page(link, base);
+    if (!page)
+        return base.resolved(QUrl(link));
+    openSurface(*page);
+    return {};
+}
+
 void CanvasRoom::openHistory(int row) {
     if (row < 0 || row >= m_history.count())
         return;

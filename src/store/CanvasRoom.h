@@ -85,6 +85,9 @@ public:
     /// Draws what a message carries once more.
     Q_INVOKABLE void showMessageCanvas(const QString &messageId);
     Q_INVOKABLE void clearCanvas();
+    /// Opens a link of a message in the canvas when it leads to a page of the platform. What comes
+    /// back is the address to open in the browser; empty when there is none.
+    Q_INVOKABLE QUrl openLink(const QString &link);
 
     /// A question was sent: the old scene goes, the skeleton comes.
     void beginTurn(const QString &question, QSet<qint64> knownIds);

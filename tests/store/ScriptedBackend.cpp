@@ -35,6 +35,11 @@ void ScriptedBackend::answer(const QString &route, const QByteArray &json, int s
     m_answers[route] = {status, json};
 }
 
+void ScriptedBackend::answerPage(const QString &route, const QByteArray &html, int status,
+                                 const QByteArray &headers) {
+    m_answers[route] = {status, html, "Content-Type: text/html; charset=utf-8\r\n" + headers};
+}
+
 void ScriptedBackend::hold(const QString &route) {
     m_answers[route].held = true;
 }
@@ -86,17 +91,23 @@ void ScriptedBackend::read(QTcpSocket *socket) {
         return;
     const QList<QByteArray> lines = received.first(head).split('\n');
     qsizetype length = 0;
+    QByteArray cookies;
     for (const QByteArray &line : lines) {
         if (line.toLower().startsWith("content-length:"))
             length = line.mid(15).trimmed().toLongLong();
+        if (line.toLower().startsWith("cookie:"))
+            cookies = line.mid(7).trimmed();
     }
     if (received.size() < head + 4 + length)
         return;
     const QList<QByteArray> words = lines.first().split(' ');
     const QUrl target = QUrl::fromEncoded(words.value(1));
-    Request request{QString::fromLatin1(words.value(0)), target.path().mid(1), target.query(),
+    Request request{QString::fromLatin1(words.value(0)),
+                    target.path().mid(1),
+                    target.query(),
                     QJsonDocument::fromJson(received.sliced(head + 4, length)).object(),
-                    received.sliced(head + 4, length)};
+                    received.sliced(head + 4, length),
+                    cookies};
     received.remove(0, head + 4 + length);
     m_requests.append(request);
     serve(socket, request);
@@ -120,9 +131,9 @@ void ScriptedBackend::serve(QTcpSocket *socket, const Request &request) {
 }
 
 void ScriptedBackend::reply(QTcpSocket *socket, const Answer &answer) {
-    socket->write("HTTP/1.1 " + QByteArray::number(answer.status) +
-                  " Scripted\r\nContent-Type: application/json\r\nContent-Length: " +
-                  QByteArray::number(answer.body.size()) + "\r\n\r\n" + answer.body);
+    socket->write("HTTP/1.1 " + QByteArray::number(answer.status) + " Scripted\r\n" +
+                  answer.headers + "Content-Length: " + QByteArray::number(answer.body.size()) +
+                  "\r\n\r\n" + answer.body);
     socket->flush();
 }
 

@@ -19,6 +19,7 @@ public:
         QString query;
         QJsonObject body; ///< empty unless it is JSON
         QByteArray raw;
+        QByteArray cookies;
     };
 
     ScriptedBackend();
@@ -26,6 +27,9 @@ public:
 
     /// What `method path` answers from now on; JSON text.
     void answer(const QString &route, const QByteArray &json, int status = 200);
+    /// The same for a page; `headers` are whole lines, each with its end.
+    void answerPage(const QString &route, const QByteArray &html, int status = 200,
+                    const QByteArray &headers = {});
     /// Requests of the route wait until release().
     void hold(const QString &route);
     void release(const QString &route);
@@ -44,6 +48,7 @@ private:
     struct Answer {
         int status = 404;
         QByteArray body = R"({"error":"no such route"})";
+        QByteArray headers = "Content-Type: application/json\r\n";
         bool held = false;
         bool broken = false;
     };

@@ -169,6 +169,28 @@ private Q_SLOTS:
             QCOMPARE(canvas->query(), u"Weekly report"_s);
     }
 
+    void followedLinks_data() {
+        QTest::addColumn<QString>("link"); // PLATFORM stands for the backend's address
+        QTest::addColumn<QString>("browser");
+        QTest::newRow("a path of a page") << u"/team/ferry"_s << QString();
+        QTest::newRow("a page") << u"PLATFORM/p/ferry?x=1"_s << QString();
+        QTest::newRow("another path") << u"/downloads/"_s << u"PLATFORM/downloads/"_s;
+        QTest::newRow("elsewhere")
+            << u"https://kiv.example/team/ferry"_s << u"https://kiv.example/team/ferry"_s;
+        QTest::newRow("a letter") << u"mailto:ada@example.org"_s << u"mailto:ada@example.org"_s;
+    }
+    void followedLinks() {
+        QFETCH(QString, link);
+        QFETCH(QString, browser);
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        const QString platform = f.backend.url().toString();
+        const QUrl rest = f.store->canvas()->openLink(link.replace(u"PLATFORM"_s, platform));
+        QCOMPARE(rest.toString(), browser.replace(u"PLATFORM"_s, platform));
+        QCOMPARE(f.store->canvas()->state(),
+                 browser.isEmpty() ? CanvasState::Page : CanvasState::Empty);
+    }
+
     void linkedPage() {
         StoreFixture f;
         QVERIFY(ask(f, u"Where do I see it?"_s));

@@ -60,8 +60,10 @@ private Q_SLOTS:
         row("marks across an address", u"https://a.bm***a** b *c*"_s,
             u"{https://a.bm*}b{a}{ b }i{c}"_s);
         row("in angles", u"<https://a.b>"_s, u"{https://a.b}(https://a.b)"_s);
-        row("other schemes are words", u"[a](javascript:x) [b](file:///etc) [c](/d) [e](data:x)"_s,
+        row("other schemes are words", u"[a](javascript:x) [b](file:///etc) [c](//d) [e](data:x)"_s,
             u"{a b c e}"_s);
+        row("a path of the platform", u"[a](/project/b?tab=tasks)"_s,
+            u"{a}(/project/b?tab=tasks)"_s);
         row("an image shows its words", u"![a *cat*](https://a.b/c.png)"_s, u"{a }i{cat}"_s);
 
         row("HTML is text", u"<b>a</b> <script>x</script>"_s, u"{<b>a</b> <script>x</script>}"_s);

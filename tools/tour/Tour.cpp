@@ -16,6 +16,8 @@ namespace {
 constexpr auto answerPatience = 30s;
 /// Sheets and scenes come in with a movement: what is drawn after it stands still.
 constexpr auto entrance = 900ms;
+/// PageHost::Shown
+constexpr int shownPage = 1;
 
 } // namespace
 
@@ -50,7 +52,7 @@ bool Tour::take() {
     bool all = true;
     for (const Stop &stop : stops())
         all = visit(stop) && all;
-    return converse() && all;
+    return visitPage() && converse() && all;
 }
 
 bool Tour::signUp() {
@@ -107,6 +109,23 @@ bool Tour::visit(const Stop &stop) {
                 drawn ? qUtf8Printable(stop.art) : "not drawn", seconds, qUtf8Printable(file));
     std::fflush(stdout);
     return drawn;
+}
+
+bool Tour::visitPage() {
+    if (!ask(u"Open the dashboard of Orchard"_s))
+        return false;
+    const bool shown = m_driver.waitFor(
+        [&] {
+            const QQuickItem *page = m_driver.find(u"page"_s);
+            return page && page->property("state").toInt() == shownPage;
+        },
+        answerPatience);
+    rest();
+    const QString file = save(u"page"_s);
+    std::printf("Open the dashboard of Orchard\t%s\t%s\n", shown ? "page" : "no page",
+                qUtf8Printable(file));
+    std::fflush(stdout);
+    return shown;
 }
 
 bool Tour::converse() {

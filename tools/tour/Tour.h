@@ -29,6 +29,8 @@ private:
     bool signUp();
     bool ask(const QString &question);
     bool visit(const Stop &stop);
+    /// Opens a page of the platform in the canvas.
+    bool visitPage();
     bool converse();
     /// Waits until the answer is whole.
     bool answered() const;

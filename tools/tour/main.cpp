@@ -13,6 +13,7 @@
 
 int main(int argc, char **argv) {
     using namespace Qt::StringLiterals;
+    kiv::app::Application::prepareProcess();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(u"kiv-tour"_s);
     QGuiApplication::setApplicationVersion(QStringLiteral(KIV_VERSION));

@@ -50,7 +50,7 @@ FocusScope {
 
         anchors.fill: frame
         active: view.canvas.state === Store.CanvasState.Scene
-        focus: true
+        focus: active
         store: view.store
         onMessageRequested: view.messageRequested(view.canvas.sourceMessageId)
     }
@@ -71,15 +71,12 @@ FocusScope {
         questions: view.store.scope.starters
         onAsked: question => view.store.chat.send(question)
     }
-    CanvasMessage {
+    PageLoader {
         anchors.fill: parent
-        anchors.bottomMargin: view.reserved
-        visible: view.canvas.state === Store.CanvasState.Page
-        iconName: "globe"
-        heading: view.canvas.pageView.title
-        body: "" + view.canvas.pageView.url
-        questions: [qsTr("Open in the browser")]
-        onAsked: Qt.openUrlExternally(view.canvas.pageView.url)
+        active: view.canvas.state === Store.CanvasState.Page
+        focus: active
+        store: view.store
+        reserved: view.reserved
     }
     CanvasMessage {
         anchors.fill: parent

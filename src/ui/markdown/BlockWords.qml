@@ -36,7 +36,7 @@ TextEdit {
     color: Tokens.t1
     selectionColor: Tokens.selection
     selectedTextColor: Tokens.t1
-    onLinkActivated: link => Qt.openUrlExternally(link)
+    onLinkActivated: link => LinkOpener.followed(link)
 
     HoverHandler {
         id: pointer

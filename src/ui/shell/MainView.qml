@@ -2,6 +2,7 @@ import QtQuick
 import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Markdown
 import Kiv.Shell
 import Kiv.Store
 import Kiv.Tokens
@@ -144,6 +145,15 @@ FocusScope {
     }
     SignInSheet {
         session: view.store.session
+    }
+    Connections {
+        target: LinkOpener
+
+        function onFollowed(link) {
+            const elsewhere = "" + view.store.canvas.openLink(link)
+            if (elsewhere !== "")
+                Qt.openUrlExternally(elsewhere)
+        }
     }
     AreaCycle {
         id: areas

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+/// What has to be settled before the engine starts, since it has no way back then.
+namespace kiv::web::EngineGuard {
+
+/// Why the engine would end the process; empty when it will run.
+QString refusal();
+
+/// Tells the engine the theme, which it takes from its command line alone.
+void chooseFlags(bool dark);
+
+} // namespace kiv::web::EngineGuard

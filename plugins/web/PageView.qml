@@ -1,0 +1,63 @@
+import QtQuick
+import QtWebEngine
+import Kiv.Web
+
+// The engine's view of a page, closed to everything that a page of the platform does not need.
+WebEngineView {
+    id: view
+
+    required property EnginePage page
+
+    function report() {
+        page.notePlace(url, loadProgress, canGoBack)
+    }
+
+    profile: page.profile
+    Accessible.name: title
+    settings.autoLoadImages: true
+    settings.dnsPrefetchEnabled: false
+    settings.errorPageEnabled: false
+    settings.focusOnNavigationEnabled: false
+    settings.fullScreenSupportEnabled: false
+    settings.hyperlinkAuditingEnabled: false
+    settings.localContentCanAccessFileUrls: false
+    settings.localContentCanAccessRemoteUrls: false
+    settings.localStorageEnabled: true
+    settings.navigateOnDropEnabled: false
+    settings.pdfViewerEnabled: false
+    settings.pluginsEnabled: false
+    settings.screenCaptureEnabled: false
+    settings.unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
+
+    onUrlChanged: report()
+    onLoadProgressChanged: report()
+    onCanGoBackChanged: report()
+    onLoadingChanged: info => page.noteLoad(info.status, info.url, info.errorDomain, info.errorCode, info.errorString)
+    onRenderProcessTerminated: page.noteEnd()
+
+    onNavigationRequested: request => {
+        if (!page.admits(request.url, request.isMainFrame))
+            request.reject()
+    }
+    onNewWindowRequested: request => page.follow(request.requestedUrl)
+    onContextMenuRequested: request => request.accepted = true
+    onCertificateError: error => error.rejectCertificate()
+    onAuthenticationDialogRequested: request => {
+        request.accepted = true
+        request.dialogReject()
+    }
+    onFeaturePermissionRequested: (origin, feature) => grantFeaturePermission(origin, feature, false)
+    onFullScreenRequested: request => request.reject()
+    onRegisterProtocolHandlerRequested: request => request.reject()
+    onFileSystemAccessRequested: request => request.reject()
+    onQuotaRequested: request => request.reject()
+
+    Connections {
+        target: view.page.profile
+
+        function onDownloadRequested(download) {
+            download.cancel()
+            view.page.handOver(download.url)
+        }
+    }
+}
