@@ -62,15 +62,27 @@ void LayoutRoom::dragDock(double width) {
 }
 
 void LayoutRoom::toggleRail() {
-    m_railCollapsed = !m_railCollapsed;
+    // What the canvas hides comes back before it is changed.
+    if (!leaveCanvasFull())
+        m_railCollapsed = !m_railCollapsed;
     m_dockOpen = false;
     m_topScopeOpen = false;
     m_store.chat()->markSeen();
 }
 
 void LayoutRoom::toggleDock() {
-    m_dockOpen = !m_dockOpen;
+    m_dockOpen = leaveCanvasFull() || !m_dockOpen;
     m_store.chat()->markSeen();
+}
+
+void LayoutRoom::toggleCanvasFull() {
+    m_canvasFull = !m_canvasFull && m_store.canvas()->framed();
+}
+
+bool LayoutRoom::leaveCanvasFull() {
+    const bool wasFull = m_canvasFull;
+    m_canvasFull = false;
+    return wasFull;
 }
 
 void LayoutRoom::dockToRail() {
