@@ -42,14 +42,14 @@ void CanvasExport::saveTable() {
 void CanvasExport::copyPicture() {
     grab([this](const QImage &picture) {
         QGuiApplication::clipboard()->setImage(picture);
-        Q_EMIT copied();
+        Q_EMIT copied(tr("Picture copied"));
     });
 }
 
 void CanvasExport::copyTable() {
     forgetFailure();
     QGuiApplication::clipboard()->setText(tableText());
-    Q_EMIT copied();
+    Q_EMIT copied(tr("Table copied"));
 }
 
 void CanvasExport::copy() {
@@ -58,7 +58,7 @@ void CanvasExport::copy() {
         both->setImageData(picture);
         both->setText(tableText());
         QGuiApplication::clipboard()->setMimeData(both);
-        Q_EMIT copied();
+        Q_EMIT copied(tr("Copied as a picture and a table"));
     });
 }
 
@@ -70,8 +70,10 @@ void CanvasExport::grab(UsePicture use) {
     forgetFailure();
     if (!m_sheet)
         return;
+    m_sheet->setProperty("pictured", true);
     m_grab = m_sheet->grabToImage((m_sheet->size() * scale).toSize());
     if (!m_grab) {
+        m_sheet->setProperty("pictured", false);
         fail(tr("The picture could not be drawn"));
         return;
     }
@@ -80,6 +82,8 @@ void CanvasExport::grab(UsePicture use) {
         m_grab.data(), &QQuickItemGrabResult::ready, this,
         [this, use = std::move(use)] {
             const QImage picture = std::exchange(m_grab, {})->image();
+            if (m_sheet)
+                m_sheet->setProperty("pictured", false);
             if (picture.isNull())
                 fail(tr("The picture could not be drawn"));
             else
@@ -120,7 +124,9 @@ void CanvasExport::save(const QUrl &file) {
     const bool isSaved = target.open(QIODevice::WriteOnly) &&
                          target.write(m_content) == m_content.size() && target.commit();
     m_content.clear();
-    if (!isSaved)
+    if (isSaved)
+        Q_EMIT saved(tr("Saved %1").arg(file.fileName()), m_folder);
+    else
         fail(tr("%1 could not be saved: %2").arg(file.fileName(), target.errorString()));
 }
 

@@ -111,6 +111,8 @@ QtObject {
     readonly property int tipDelay: 500
     /// How long a button says that it has done its work.
     readonly property int confirmation: 1500
-    /// How long a line about a failure stays.
+    /// How long news stays.
+    readonly property int toast: 5000
+    /// How long a line about a failure stays, or news with something to do.
     readonly property int notice: 8000
 }
