@@ -95,6 +95,8 @@ QtObject {
     readonly property int stripWidth: 56
     readonly property int wideBody: 880
     readonly property int mediumBody: 600
+    /// Wider than this, a row is hard to follow from its name to its figure.
+    readonly property int widestBody: 1760
     /// A view follows the end of what grows while it is within this of it.
     readonly property int followDistance: 48
 

@@ -16,9 +16,9 @@ FocusScope {
     readonly property bool asks: body?.asks ?? false
     readonly property bool pictured: body?.pictured ?? false
     /// Padding above the first row.
-    readonly property int headroom: side === 32 ? 24 : 16
+    readonly property int headroom: side >= 32 ? 24 : 16
     /// Padding below the last one.
-    readonly property int footroom: side === 32 ? 20 : 16
+    readonly property int footroom: side >= 32 ? 20 : 16
     readonly property real inner: width - 2 * side
     readonly property bool wide: inner >= Tokens.wideBody
     readonly property bool narrow: inner < Tokens.mediumBody
