@@ -123,6 +123,11 @@ void CanvasTest::stepsByKeysAndButtons() {
     QCOMPARE(canvas()->art(), u"report"_s);
     QVERIFY(!m_gallery->item(u"stepForward"_s)->isEnabled());
     QCOMPARE(canvas()->history()->count(), 2);
+    // An answer without anything to draw is a step on, too.
+    QVERIFY(m_workspace->ask(u"Tell me a story"_s, u"Once there was a ferry."_s, QString()));
+    m_gallery->save(u"canvas-hint-step"_s);
+    m_gallery->click(u"stepBack"_s);
+    QCOMPARE(canvas()->art(), u"report"_s);
 }
 
 /// Every sample draws its art, says that it is one, and asks nothing.

@@ -36,6 +36,13 @@ FocusScope {
         scope: view.store.scope
         sheet: sheet.item as Item
     }
+    HistorySteps {
+        x: parent.width - width - 24
+        y: 16
+        // Above a page stands a bar of its own.
+        visible: any && !view.canvas.framed && view.canvas.state !== Store.CanvasState.Page
+        canvas: view.canvas
+    }
     BuildingBar {
         x: 24
         y: 56

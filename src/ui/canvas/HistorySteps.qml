@@ -8,7 +8,9 @@ Row {
 
     required property CanvasRoom canvas
 
-    visible: canvas.hasEarlier || canvas.hasLater
+    readonly property bool any: canvas.hasEarlier || canvas.hasLater
+
+    visible: any
 
     IconButton {
         objectName: "stepBack"
