@@ -98,18 +98,21 @@ void LayoutRoom::toggleScope() {
 }
 
 void LayoutRoom::toggleTopScope() {
+    leaveCanvasFull();
     const bool open = !m_topScopeOpen;
     closePopovers();
     m_topScopeOpen = open;
 }
 
 void LayoutRoom::toggleHist() {
+    leaveCanvasFull();
     const bool open = !m_histOpen;
     closePopovers();
     m_histOpen = open;
 }
 
 void LayoutRoom::toggleEvents() {
+    leaveCanvasFull();
     const bool open = !m_eventsOpen;
     closePopovers();
     m_eventsOpen = open;
@@ -118,6 +121,7 @@ void LayoutRoom::toggleEvents() {
 }
 
 void LayoutRoom::toggleProfile() {
+    leaveCanvasFull();
     const bool open = !m_profileOpen;
     closePopovers();
     m_profileOpen = open;
@@ -136,11 +140,13 @@ void LayoutRoom::focusAsk() {
 }
 
 void LayoutRoom::openAccount(const QString &tab) {
+    leaveCanvasFull();
     closePopovers();
     m_account = tab.isEmpty() ? firstAccountTab : tab;
 }
 
 void LayoutRoom::startCreate(const QString &kind) {
+    leaveCanvasFull();
     closePopovers();
     m_creating = kind;
 }

@@ -92,6 +92,7 @@ void CanvasTest::windowComesBack_data() {
     QTest::addColumn<QString>("shown");
     QTest::newRow("for the ask bar") << Qt::Key_K << u"askField"_s;
     QTest::newRow("for the dock") << Qt::Key_J << u"dockFeed"_s;
+    QTest::newRow("for the history") << Qt::Key_Y << u"historyButton"_s;
     QTest::newRow("for the rail") << Qt::Key_Backslash << u"railButton"_s;
 }
 
