@@ -17,22 +17,27 @@ Clock::Milliseconds SystemClock::elapsed() const {
 }
 
 quint64 SystemClock::schedule(Milliseconds delay, Callback callback) {
-    const int id = startTimer(delay, Qt::PreciseTimer);
-    m_due.insert(id, std::move(callback));
-    return static_cast<quint64>(id);
+    const int timer = startTimer(delay, Qt::PreciseTimer);
+    m_due.insert(timer, {++m_lastId, std::move(callback)});
+    m_timers.insert(m_lastId, timer);
+    return m_lastId;
 }
 
 void SystemClock::unschedule(quint64 id) {
-    const int timer = static_cast<int>(id);
-    if (m_due.remove(timer))
-        killTimer(timer);
+    const auto timer = m_timers.constFind(id);
+    if (timer == m_timers.cend())
+        return;
+    killTimer(*timer);
+    m_due.remove(*timer);
+    m_timers.erase(timer);
 }
 
 void SystemClock::timerEvent(QTimerEvent *event) {
-    const Callback callback = m_due.take(event->timerId());
+    const Due due = m_due.take(event->timerId());
+    m_timers.remove(due.id);
     killTimer(event->timerId());
-    if (callback)
-        callback();
+    if (due.callback)
+        due.callback();
 }
 
 } // namespace kiv

@@ -23,8 +23,15 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    struct Due {
+        quint64 id = 0;
+        Callback callback;
+    };
+
     QElapsedTimer m_since;
-    QHash<int, Callback> m_due;
+    quint64 m_lastId = 0;
+    QHash<int, Due> m_due;        ///< by Qt's number of the timer, which a later one may get again
+    QHash<quint64, int> m_timers; ///< Qt's numbers of those that are due
 };
 
 } // namespace kiv

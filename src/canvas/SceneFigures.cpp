@@ -63,6 +63,10 @@ std::optional<int> wholePercent(double percent) {
 
 QString shareText(double part, double whole) {
     const double percent = part / whole * 100;
+    if (percent > 0 && percent < 0.1)
+        return u"<0.1%"_s;
+    if (percent > 99.9 && percent < 100)
+        return u">99.9%"_s;
     const bool extreme = (percent > 0 && percent < 1) || (percent > 99 && percent < 100);
     const double tenths = std::round(percent * 10) / 10;
     return CanvasNum::decimal(extreme ? tenths : std::round(percent)) + u'%';

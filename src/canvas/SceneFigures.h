@@ -16,7 +16,8 @@ bool isDrawable(const std::optional<double> &value);
 /// Rounded half away from zero; nothing past a million per cent.
 std::optional<int> wholePercent(double percent);
 
-/// "42%", below one per cent and above 99 with a decimal so that little does not read as nothing.
+/// "42%", below one per cent and above 99 with a decimal, and "<0.1%" for less: little does not
+/// read as nothing, nor most as all.
 QString shareText(double part, double whole);
 
 /// The view's points; without any, those of its only series, its key figures or its

@@ -5,6 +5,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <cmath>
 
 namespace kiv::canvas {
@@ -20,10 +21,21 @@ QString valueOf(const std::optional<QString> &display, std::optional<double> val
     return isDrawable(value) ? figureText(*value, unit) : QString();
 }
 
+/// A fraction without an end, such as that of a third, gets one: three digits that count, and two
+/// decimals at least. Four decimals are somebody's choice and stay.
+double shortened(double size) {
+    constexpr double chosen = 1e4;
+    if (size == 0 || std::round(size * chosen) / chosen == size)
+        return size;
+    const int decimals = std::max(2, 2 - static_cast<int>(std::floor(std::log10(size))));
+    const double scale = std::pow(10.0, decimals);
+    return std::round(size * scale) / scale;
+}
+
 } // namespace
 
 QString figureText(double value, const QString &unit) {
-    const QString number = CanvasNum::out(CanvasNum::decimal(std::abs(value)));
+    const QString number = CanvasNum::out(CanvasNum::decimal(shortened(std::abs(value))));
     const QString sign = value < 0 ? u"−"_s : QString();
     const QString sort = unit.trimmed();
     const bool leads = !sort.isEmpty() && u"$€£¥"_s.contains(sort.front());

@@ -44,6 +44,17 @@ CanvasRoom::CanvasRoom(AppStore &store) : m_store(store) {
     });
     connect(store.scope(), &ScopeRoom::authChanged, this,
             [this] { m_signedOut = m_store.scope()->auth() == AuthPhase::Anon; });
+    connect(&m_history, &HistoryModel::countChanged, this, &CanvasRoom::stepsChanged);
+    connect(this, &CanvasRoom::stateChanged, this, [this] {
+        if (!framed())
+            m_store.layout()->leaveCanvasFull();
+    });
+}
+
+bool CanvasRoom::framed() const {
+    const CanvasState state = m_state;
+    return state == CanvasState::ThinkingSkeleton || state == CanvasState::BuildingScene ||
+           state == CanvasState::Scene;
 }
 
 void CanvasRoom::setIdle() {
@@ -78,6 +89,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
 
 void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info,
                       Entrance entrance) {
+    setPlace({});
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
     m_failed = false;
@@ -100,9 +112,12 @@ void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info
 }
 
 void CanvasRoom::remember(const HistoryEntry &entry, Record record) {
-    if (record == Record::Turn && m_history.amend(m_turn.historyEntry, entry))
+    if (record == Record::Turn && m_history.amend(m_turn.historyEntry, entry)) {
+        setPlace(m_turn.historyEntry);
         return;
+    }
     m_history.record(entry);
+    setPlace(entry.id);
     if (record == Record::Turn)
         m_turn.historyEntry = entry.id;
     net::KivAPI::rum(&m_store.net(), u"canvas_scenario"_s,
@@ -118,7 +133,8 @@ HistoryEntry CanvasRoom::entryOf(const QString &query, const std::optional<QStri
             .spec = spec,
             .intent = intent,
             .title = scene.title,
-            .page = std::nullopt};
+            .page = std::nullopt,
+            .message = {}};
 }
 
 QCoro::Task<void> CanvasRoom::finishBuilding(Cancel cancel) {
@@ -134,6 +150,7 @@ void CanvasRoom::clearDrawnArt() {
     m_artInfo = canvas::ArtInfo();
     m_vis = 0;
     m_artSkeleton = false;
+    setPlace({});
     forgetSource();
 }
 
@@ -155,7 +172,7 @@ void CanvasRoom::forgetAll() {
     m_history.clear();
 }
 
-void CanvasRoom::openSurface(const canvas::SurfaceLink &link) {
+void CanvasRoom::openSurface(const canvas::SurfaceLink &link, Record record) {
     m_store.layout()->closePages();
     clearDrawnArt();
     m_drawnSpecKey.reset();
@@ -163,13 +180,16 @@ void CanvasRoom::openSurface(const canvas::SurfaceLink &link) {
     m_failed = false;
     m_pageView = link;
     setIdle();
-    HistoryEntry entry;
-    entry.query = m_lastQuery;
-    entry.time = m_store.stamp();
-    entry.intent = m_lastIntent;
-    entry.title = link.title;
-    entry.page = link;
-    m_history.record(entry);
+    if (record != Record::None) {
+        HistoryEntry entry;
+        entry.query = m_lastQuery;
+        entry.time = m_store.stamp();
+        entry.intent = m_lastIntent;
+        entry.title = link.title;
+        entry.page = link;
+        m_history.record(entry);
+        setPlace(entry.id);
+    }
     net::KivAPI::rum(&m_store.net(), u"canvas_open"_s, {{u"page"_s, link.title}});
 }
 
@@ -183,20 +203,48 @@ QUrl CanvasRoom::openLink(const QString &link) {
 }
 
 void CanvasRoom::openHistory(int row) {
+    if (row >= 0 && row < m_history.count())
+        reopen(HistoryEntry(m_history.at(row)), Record::New);
+}
+
+bool CanvasRoom::hasEarlier() const {
+    return m_history.rowOf(m_place) + 1 < m_history.count();
+}
+
+bool CanvasRoom::hasLater() const {
+    return m_history.rowOf(m_place) > 0;
+}
+
+void CanvasRoom::step(int rows) {
+    const int row = m_history.rowOf(m_place) + rows;
     if (row < 0 || row >= m_history.count())
         return;
     const HistoryEntry entry = m_history.at(row);
+    reopen(entry, Record::None);
+    setPlace(entry.id);
+}
+
+void CanvasRoom::setPlace(const QUuid &entry) {
+    if (std::exchange(m_place, entry) != entry)
+        Q_EMIT stepsChanged();
+}
+
+void CanvasRoom::reopen(const HistoryEntry &entry, Record record) {
     m_store.layout()->closeHistory();
     m_store.layout()->closePages();
     m_lastQuery = entry.query;
     m_lastIntent = entry.intent;
     if (entry.page) {
-        openSurface(*entry.page);
+        openSurface(*entry.page, record);
     } else if (entry.spec) {
         m_drawnSpecKey.reset();
         forgetSource();
         m_phase = Phase::Done;
-        drawScenario(*entry.spec, {}, Entrance::Still, Record::New);
+        const bool isDrawn = drawScenario(*entry.spec, {}, Entrance::Still, record);
+        const MessageModel *messages = m_store.chat()->msgs();
+        const qsizetype source = messages->rowOf(entry.message);
+        if (isDrawn && source >= 0)
+            nameSource(messages->messages().at(source));
     }
 }
 
@@ -239,6 +287,7 @@ void CanvasRoom::refinePoint(const QString &label) {
 }
 
 void CanvasRoom::nameSource(const Msg &message) {
+    m_history.setMessage(m_place, message.id);
     m_sourceTime =
         message.at ? QLocale().toString(message.at->toLocalTime(), u"d MMM, HH:mm"_s) : QString();
     m_sourceMessageId = message.id.toString(QUuid::WithoutBraces);

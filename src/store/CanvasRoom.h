@@ -27,6 +27,7 @@ class CanvasRoom : public QObject {
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(kiv::store::Phase phase READ phase NOTIFY phaseChanged)
     Q_PROPERTY(kiv::store::CanvasState state READ state NOTIFY stateChanged)
+    Q_PROPERTY(bool framed READ framed NOTIFY stateChanged)
     Q_PROPERTY(QString art READ art NOTIFY artChanged)
     Q_PROPERTY(kiv::canvas::SceneOut artScene READ artScene NOTIFY artSceneChanged)
     Q_PROPERTY(kiv::canvas::ArtInfo artInfo READ artInfo NOTIFY artInfoChanged)
@@ -43,12 +44,16 @@ class CanvasRoom : public QObject {
     Q_PROPERTY(QString sourceMessageId READ sourceMessageId NOTIFY sourceMessageIdChanged)
     Q_PROPERTY(kiv::canvas::SurfaceLink pageView READ pageView NOTIFY pageViewChanged)
     Q_PROPERTY(kiv::store::HistoryModel *history READ history CONSTANT)
+    Q_PROPERTY(bool hasEarlier READ hasEarlier NOTIFY stepsChanged)
+    Q_PROPERTY(bool hasLater READ hasLater NOTIFY stepsChanged)
 public:
     explicit CanvasRoom(AppStore &store);
 
     Phase phase() const { return m_phase; }
     /// What the view shows: a scene only in the phases building and done.
     CanvasState state() const { return m_state; }
+    /// Whether there is a scene, or a scene is on its way.
+    bool framed() const;
     QString art() const { return m_art; }
     canvas::SceneOut artScene() const { return m_artScene; }
     /// What the scene was made from.
@@ -71,6 +76,9 @@ public:
     /// The page of the platform that the canvas shows; without an address for none.
     canvas::SurfaceLink pageView() const { return m_pageView; }
     HistoryModel *history() { return &m_history; }
+    /// Whether the history holds something older than what the canvas shows, or newer.
+    bool hasEarlier() const;
+    bool hasLater() const;
 
     bool awaitingAnswer() const { return m_awaitingAnswer; }
     /// Whether a row of the agent's side belongs to the answer of the current turn: one that is
@@ -81,6 +89,9 @@ public:
     void addKnown(const QSet<qint64> &ids) { m_knownIds.unite(ids); }
 
     Q_INVOKABLE void openHistory(int row);
+    /// Go through the history without adding to it.
+    Q_INVOKABLE void stepBack() { step(1); }
+    Q_INVOKABLE void stepForward() { step(-1); }
     Q_INVOKABLE void refinePoint(const QString &label);
     /// Draws what a message carries once more.
     Q_INVOKABLE void showMessageCanvas(const QString &messageId);
@@ -123,6 +134,7 @@ Q_SIGNALS:
     void sourceTimeChanged();
     void sourceMessageIdChanged();
     void pageViewChanged();
+    void stepsChanged();
 
 private:
     enum class Entrance { Animated, Still };
@@ -150,16 +162,20 @@ private:
                       Entrance entrance, Record record);
     void show(const canvas::SceneOut &scene, const canvas::ArtInfo &info, Entrance entrance);
     void remember(const HistoryEntry &entry, Record record);
+    void step(int rows);
+    void reopen(const HistoryEntry &entry, Record record);
+    void setPlace(const QUuid &entry);
     HistoryEntry entryOf(const QString &query, const std::optional<QString> &intent,
                          const canvas::ViewSpec &spec, const canvas::SceneOut &scene) const;
     void showHint();
     void clearDrawnArt();
-    void openSurface(const canvas::SurfaceLink &link);
+    void openSurface(const canvas::SurfaceLink &link, Record record);
     void nameSource(const Msg &message);
     void forgetSource();
 
     AppStore &m_store;
     HistoryModel m_history;
+    QUuid m_place; ///< the entry of the history that the canvas shows; null for none
     bool m_awaitingAnswer = false;
     QSet<qint64> m_knownIds;
     QSet<qint64> m_scenarioDone;

@@ -139,7 +139,7 @@ void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
     } else if (links == LinkOpening::Open) {
         const auto link = canvas::SurfaceMatcher::match(message.text, m_store.net().baseUrl());
         if (link) {
-            openSurface(*link);
+            openSurface(*link, Record::New);
             return;
         }
     }
@@ -151,7 +151,10 @@ void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
 void CanvasRoom::drawAgain(const Msg &answer) {
     if (!hasNewDrawing(answer))
         return;
-    const bool isShown = m_sourceMessageId.value() == answer.id.toString(QUuid::WithoutBraces);
+    // A copy that was opened from the history stays as it was.
+    const bool isOwn = m_place.isNull() || m_place == m_turn.historyEntry;
+    const bool isShown =
+        isOwn && m_sourceMessageId.value() == answer.id.toString(QUuid::WithoutBraces);
     if (isShown || m_state.value() == CanvasState::Hint) {
         runScenario(answer, LinkOpening::Leave);
         return;

@@ -16,15 +16,25 @@ void HistoryModel::record(HistoryEntry entry) {
     Q_EMIT countChanged();
 }
 
-bool HistoryModel::amend(const QUuid &id, HistoryEntry entry) {
+int HistoryModel::rowOf(const QUuid &id) const {
     const auto found = std::ranges::find(m_entries, id, &HistoryEntry::id);
-    if (found == m_entries.end())
+    return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
+}
+
+bool HistoryModel::amend(const QUuid &id, HistoryEntry entry) {
+    const int row = rowOf(id);
+    if (row < 0)
         return false;
     entry.id = id;
-    *found = std::move(entry);
-    const QModelIndex changed = index(static_cast<int>(found - m_entries.begin()));
-    Q_EMIT dataChanged(changed, changed);
+    m_entries[row] = std::move(entry);
+    Q_EMIT dataChanged(index(row), index(row));
     return true;
+}
+
+void HistoryModel::setMessage(const QUuid &id, const QUuid &message) {
+    const int row = rowOf(id);
+    if (row >= 0)
+        m_entries[row].message = message;
 }
 
 void HistoryModel::clear() {

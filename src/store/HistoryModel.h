@@ -21,6 +21,7 @@ struct HistoryEntry {
     std::optional<QString> intent;
     QString title;
     std::optional<canvas::SurfaceLink> page;
+    QUuid message; ///< the answer that it was drawn from; null for none
 };
 
 /// The canvases drawn and pages opened in this run, newest first.
@@ -37,9 +38,13 @@ public:
 
     int count() const { return static_cast<int>(m_entries.size()); }
     const HistoryEntry &at(int row) const { return m_entries.at(row); }
+    /// -1 for an entry that is not kept.
+    int rowOf(const QUuid &id) const;
     void record(HistoryEntry entry);
     /// Puts a later state of a canvas in its place; false when it is no longer kept.
     bool amend(const QUuid &id, HistoryEntry entry);
+    /// Names the answer that a canvas was drawn from.
+    void setMessage(const QUuid &id, const QUuid &message);
     void clear();
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -62,15 +62,27 @@ void LayoutRoom::dragDock(double width) {
 }
 
 void LayoutRoom::toggleRail() {
-    m_railCollapsed = !m_railCollapsed;
+    // What the canvas hides comes back before it is changed.
+    if (!leaveCanvasFull())
+        m_railCollapsed = !m_railCollapsed;
     m_dockOpen = false;
     m_topScopeOpen = false;
     m_store.chat()->markSeen();
 }
 
 void LayoutRoom::toggleDock() {
-    m_dockOpen = !m_dockOpen;
+    m_dockOpen = leaveCanvasFull() || !m_dockOpen;
     m_store.chat()->markSeen();
+}
+
+void LayoutRoom::toggleCanvasFull() {
+    m_canvasFull = !m_canvasFull && m_store.canvas()->framed();
+}
+
+bool LayoutRoom::leaveCanvasFull() {
+    const bool wasFull = m_canvasFull;
+    m_canvasFull = false;
+    return wasFull;
 }
 
 void LayoutRoom::dockToRail() {
@@ -86,18 +98,21 @@ void LayoutRoom::toggleScope() {
 }
 
 void LayoutRoom::toggleTopScope() {
+    leaveCanvasFull();
     const bool open = !m_topScopeOpen;
     closePopovers();
     m_topScopeOpen = open;
 }
 
 void LayoutRoom::toggleHist() {
+    leaveCanvasFull();
     const bool open = !m_histOpen;
     closePopovers();
     m_histOpen = open;
 }
 
 void LayoutRoom::toggleEvents() {
+    leaveCanvasFull();
     const bool open = !m_eventsOpen;
     closePopovers();
     m_eventsOpen = open;
@@ -106,6 +121,7 @@ void LayoutRoom::toggleEvents() {
 }
 
 void LayoutRoom::toggleProfile() {
+    leaveCanvasFull();
     const bool open = !m_profileOpen;
     closePopovers();
     m_profileOpen = open;
@@ -124,11 +140,13 @@ void LayoutRoom::focusAsk() {
 }
 
 void LayoutRoom::openAccount(const QString &tab) {
+    leaveCanvasFull();
     closePopovers();
     m_account = tab.isEmpty() ? firstAccountTab : tab;
 }
 
 void LayoutRoom::startCreate(const QString &kind) {
+    leaveCanvasFull();
     closePopovers();
     m_creating = kind;
 }

@@ -33,6 +33,7 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(double shownRailW READ shownRailW NOTIFY shownRailWChanged)
     Q_PROPERTY(double shownDockW READ shownDockW NOTIFY shownDockWChanged)
     Q_PROPERTY(bool railShown READ railShown NOTIFY railShownChanged)
+    Q_PROPERTY(bool canvasFull READ canvasFull NOTIFY canvasFullChanged)
 public:
     static constexpr double stripW = 56;
     static constexpr double canvasMinW = 360;
@@ -63,6 +64,8 @@ public:
     double shownRailW() const { return m_shownRailW; }
     double shownDockW() const { return m_shownDockW; }
     bool railShown() const { return m_railShown; }
+    /// Whether the canvas has the window for itself.
+    bool canvasFull() const { return m_canvasFull; }
 
     Q_INVOKABLE void setWindowWidth(double width);
     Q_INVOKABLE void dragRail(double width);
@@ -82,6 +85,10 @@ public:
     Q_INVOKABLE void openAccount(const QString &tab = {});
     /// Opens the wizard for a "project" or an "agent".
     Q_INVOKABLE void startCreate(const QString &kind);
+    /// Does nothing while there is no scene.
+    Q_INVOKABLE void toggleCanvasFull();
+    /// Whether the canvas had the window for itself.
+    Q_INVOKABLE bool leaveCanvasFull();
 
     /// Closes account, wizard and scope popovers before the scope changes.
     void closeSurfaces();
@@ -111,6 +118,7 @@ Q_SIGNALS:
     void shownRailWChanged();
     void shownDockWChanged();
     void railShownChanged();
+    void canvasFullChanged();
 
 private:
     AppStore &m_store;
@@ -139,6 +147,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownRailW, &LayoutRoom::shownRailWChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownDockW, &LayoutRoom::shownDockWChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railShown, &LayoutRoom::railShownChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_canvasFull, &LayoutRoom::canvasFullChanged)
 };
 
 } // namespace kiv::store

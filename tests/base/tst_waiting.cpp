@@ -112,6 +112,24 @@ private Q_SLOTS:
         QCOMPARE(unwound, 1);
     }
 
+    /// Qt gives the number of a timer that fired to a later one before long: stopping the first
+    /// must not stop the later one.
+    void firedTimersStopNothing() {
+        SystemClock clock;
+        constexpr int numbers = 300;
+        std::vector<Clock::Timer> fired;
+        for (int i = 0; i < numbers; ++i) {
+            bool isDue = false;
+            fired.push_back(clock.after(0ms, [&] { isDue = true; }));
+            while (!isDue)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        bool isDue = false;
+        const Clock::Timer timer = clock.after(1ms, [&] { isDue = true; });
+        fired.clear();
+        QTRY_VERIFY_WITH_TIMEOUT(isDue, 1000);
+    }
+
     void timersOfTheSystemClock() {
         SystemClock clock;
         QStringList log;

@@ -28,6 +28,7 @@ QList<Row> explain();
 QList<Row> longChat();
 QList<Row> markdown();
 QList<Row> render();
+QList<Row> sceneFrame();
 QList<Row> streaming();
 
 } // namespace kiv::bench

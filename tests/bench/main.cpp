@@ -23,6 +23,7 @@ const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"long-chat"_s, longChat},
                            {u"markdown"_s, markdown},
                            {u"render"_s, render},
+                           {u"scene-frame"_s, sceneFrame},
                            {u"streaming"_s, streaming}};
 
 QString shown(double nanoseconds) {
@@ -30,7 +31,7 @@ QString shown(double nanoseconds) {
 }
 
 void print(const QStringList &cells) {
-    static constexpr int widths[] = {18, 12, 30, 8, 12, 6};
+    static constexpr int widths[] = {28, 12, 30, 8, 12, 6};
     QString line;
     for (qsizetype cell = 0; cell < cells.size(); ++cell)
         line += cells.at(cell).leftJustified(widths[cell]) + u' ';

@@ -115,7 +115,8 @@ private Q_SLOTS:
         QVERIFY(!reply.value(u"error"_s).toString().isEmpty());
     }
 
-    /// Every example of docs/answers.md draws the scene that its heading names.
+    /// Every example of docs/answers.md draws the scene that its heading names, and a picture shows
+    /// it.
     void guideIsTrue() {
         QFile guide(QStringLiteral(KIV_DOCS "/answers.md"));
         QVERIFY(guide.open(QIODevice::ReadOnly));
@@ -130,6 +131,8 @@ private Q_SLOTS:
             const QJsonObject reply = explained(QJsonObject{{u"text"_s, match.captured(2)}});
             QCOMPARE(reply.value(u"art"_s), match.captured(1));
             QVERIFY2(reply.value(u"scene"_s).isObject(), qPrintable(match.captured(1)));
+            QVERIFY(
+                QFile::exists(QStringLiteral(KIV_DOCS "/pictures/%1.png").arg(match.captured(1))));
             arts.insert(match.captured(1));
         }
         QCOMPARE(arts.size(), canvas::CanvasEngine::knownArts().size());

@@ -1,5 +1,7 @@
 #include "canvas/CanvasIntents.h"
 #include "canvas/CanvasNum.h"
+#include "canvas/SceneFigures.h"
+#include "canvas/SceneText.h"
 #include "canvas/TextCues.h"
 
 #include <QTest>
@@ -89,6 +91,43 @@ private Q_SLOTS:
     void out() {
         QFETCH(QString, text);
         QTEST(CanvasNum::out(text), "shown");
+    }
+
+    void figureText_data() {
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("unit");
+        QTest::addColumn<QString>("text");
+        const auto row = [](double value, const QString &unit, const QString &text) {
+            QTest::newRow(qPrintable(text)) << value << unit << text;
+        };
+        row(-1234.5, u"€"_s, u"−€1\u202f234.5"_s);
+        row(1.0842, u"€/$"_s, u"€1.0842/$"_s); // a rate
+        // Fractions without an end.
+        row(1.0 / 3, {}, u"0.333"_s);
+        row(-200.0 / 3, u"%"_s, u"−66.67%"_s);
+        row(100000.0 / 7, u"days"_s, u"14\u202f285.71\u00a0days"_s);
+        row(2.0 / 3000, {}, u"0.000667"_s);
+        row(0, {}, u"0"_s);
+    }
+    void figureText() {
+        QFETCH(double, value);
+        QFETCH(QString, unit);
+        QTEST(kiv::canvas::figureText(value, unit), "text");
+    }
+
+    void shareText_data() {
+        QTest::addColumn<double>("percent");
+        QTest::addColumn<QString>("text");
+        const QList<std::pair<double, const char *>> cases{
+            {0, "0%"},     {0.0001, "<0.1%"}, {0.0999, "<0.1%"}, {0.1, "0.1%"}, {0.96, "1%"},
+            {41.4, "41%"}, {99.4, "99.4%"},   {99.95, ">99.9%"}, {100, "100%"}, {250, "250%"},
+        };
+        for (const auto &[percent, text] : cases)
+            QTest::newRow(text) << percent << QString::fromLatin1(text);
+    }
+    void shareText() {
+        QFETCH(double, percent);
+        QTEST(kiv::canvas::shareText(percent, 100), "text");
     }
 
     void numsIn() {

@@ -222,6 +222,49 @@ private Q_SLOTS:
         QCOMPARE(canvas->state(), CanvasState::Scene);
     }
 
+    /// Scenes and pages, back and forth, without new entries; a question is one step on.
+    void stepsThroughTheHistory() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Where do I see it?"_s));
+        f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
+        SOON_COMPARE(f.msgs().count(), 3);
+        f.clock.advance(1200ms);
+        CanvasRoom *canvas = f.store->canvas();
+        QSignalSpy steps(canvas, &CanvasRoom::stepsChanged);
+        QVERIFY(!canvas->hasEarlier());
+        f.store->chat()->send(u"Weekly report"_s);
+        QVERIFY(canvas->hasEarlier());
+        QVERIFY(!steps.isEmpty());
+        f.row(11, reportBlock);
+        SOON_COMPARE(canvas->phase(), Phase::Building);
+        f.clock.advance(2s);
+        const QString source = canvas->sourceMessageId();
+
+        canvas->stepBack();
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QCOMPARE(canvas->query(), u"Where do I see it?"_s);
+        canvas->stepBack();
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QVERIFY(!canvas->hasEarlier());
+        canvas->stepForward();
+        QCOMPARE(canvas->state(), CanvasState::Scene);
+        QVERIFY(!canvas->animated());
+        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
+        QCOMPARE(canvas->sourceMessageId(), source);
+        canvas->stepForward();
+        QVERIFY(!canvas->hasLater());
+        QCOMPARE(canvas->history()->count(), 2);
+
+        // The skeleton of a new question stands before the newest entry.
+        f.store->chat()->send(u"And now?"_s);
+        QVERIFY(!canvas->hasLater());
+        canvas->stepBack();
+        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
+        f.row(13, QString(reportBlock).replace(u"47"_s, u"48"_s));
+        SOON_COMPARE(canvas->canvasTitle(), u"Week 48"_s);
+        QCOMPARE(canvas->history()->count(), 3);
+    }
+
     void historyKeepsTwenty() {
         StoreFixture f;
         QVERIFY(f.signIn());

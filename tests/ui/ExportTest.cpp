@@ -30,6 +30,15 @@ double difference(const QImage &one, const QImage &other) {
     return sum / one.width() / one.height();
 }
 
+int pixelsOf(const QImage &picture, const QColor &color) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixelColor(x, y) == color ? 1 : 0;
+    }
+    return count;
+}
+
 } // namespace
 
 /// What leaves the canvas: pictures and tables, in files and on the clipboard.
@@ -41,6 +50,7 @@ private Q_SLOTS:
     void cleanup();
     void picture_data();
     void picture();
+    void pictureWithoutFocus();
     void table();
     void copyButton();
     void menuByKeys();
@@ -116,12 +126,30 @@ void ExportTest::picture() {
     saved.save(QStringLiteral(KIV_PICTURES "/export-%1.png").arg(dark ? u"dark"_s : u"light"_s));
 }
 
+/// The ring of the row that has the focus is on the screen, not in the picture.
+void ExportTest::pictureWithoutFocus() {
+    open();
+    m_gallery->item(u"compareRows"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Down);
+    const QColor ring(0x6644e6);
+    QVERIFY(pixelsOf(m_gallery->save(u"export-focus"_s), ring) > 500);
+    m_gallery->press(Qt::Key_E, Qt::ControlModifier);
+    const QString file = savedFile(u"Hosting options for Glasshouse.png"_s);
+    QTRY_VERIFY(QFile::exists(file));
+    QCOMPARE(pixelsOf(QImage(file), ring), 0);
+    QTRY_VERIFY(pixelsOf(m_gallery->grab(u"export-focus"_s), ring) > 500);
+}
+
 void ExportTest::table() {
     open();
     m_gallery->click(u"exportButton"_s);
     m_gallery->click(u"saveTableRow"_s);
     const QString file = savedFile(u"Hosting options for Glasshouse.csv"_s);
     QTRY_VERIFY(QFile::exists(file));
+    const QQuickItem *news = m_gallery->item(u"toast:0"_s);
+    QCOMPARE(news->property("words").toString(), u"Saved Hosting options for Glasshouse.csv"_s);
+    QCOMPARE(news->property("target").toUrl(), QUrl::fromLocalFile(m_folder->path()));
+    m_gallery->save(u"export-saved"_s);
     const QList<QByteArray> lines = contentOf(file).split('\n');
     QCOMPARE(lines.size(), 8);
     QCOMPARE(lines.at(0), "Option,Price per month,Uptime,\"Latency, p95\",Backups\r");
@@ -141,6 +169,8 @@ void ExportTest::copyButton() {
     QVERIFY(
         copied->text().startsWith(u"Option\tPrice per month\tUptime\tLatency, p95\tBackups\n"_s));
     QTRY_COMPARE(button->property("iconName").toString(), u"copy"_s);
+    QCOMPARE(m_gallery->item(u"toast:0"_s)->property("words").toString(),
+             u"Copied as a picture and a table"_s);
 }
 
 void ExportTest::menuByKeys() {

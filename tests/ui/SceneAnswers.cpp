@@ -186,6 +186,14 @@ QList<SceneAnswer> sceneAnswers() {
            costs() + workload() + status() + okr() + budget() + chartAnswers() + cardAnswers();
 }
 
+SceneAnswer answerNamed(const QString &name) {
+    for (const SceneAnswer &answer : sceneAnswers()) {
+        if (answer.name == name)
+            return answer;
+    }
+    qFatal("No answer is called %s", qPrintable(name));
+}
+
 canvas::SceneOut sceneOf(const SceneAnswer &answer) {
     const auto drawable = canvas::CanvasEngine::extractViewSpec(answer.text);
     if (!drawable.spec)

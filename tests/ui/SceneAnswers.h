@@ -19,6 +19,8 @@ struct SceneAnswer {
 /// characters in two scripts, and figures that are negative, zero, missing or beyond a hundred
 /// per cent, where the art takes such.
 QList<SceneAnswer> sceneAnswers();
+/// One of them.
+SceneAnswer answerNamed(const QString &name);
 
 /// Those of decisions, funnels, parts and cash flows.
 QList<SceneAnswer> chartAnswers();

@@ -236,7 +236,7 @@ void WindowTest::areasByKey() {
     m_gallery->press(Qt::Key_K, Qt::ControlModifier);
     QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
     m_gallery->press(Qt::Key_F6);
-    QVERIFY(m_gallery->hasFocus(u"copyButton"_s));
+    QVERIFY(m_gallery->hasFocus(u"fullButton"_s));
     m_gallery->press(Qt::Key_F6);
     QVERIFY(m_gallery->hasFocus(u"railButton"_s));
     m_gallery->press(Qt::Key_F6);

@@ -25,7 +25,11 @@ Row {
         objectName: "canvasExport"
         canvas: actions.canvas
         sheet: actions.sheet
-        onCopied: copied.restart()
+        onCopied: words => {
+            copied.restart()
+            Toasts.show(words)
+        }
+        onSaved: (words, folder) => Toasts.show(words, qsTr("Open the folder"), folder)
     }
     Timer {
         id: copied

@@ -13,6 +13,7 @@ Item {
     required property CanvasRoom canvas
     required property ChatRoom chat
     required property ScopeRoom scope
+    required property LayoutRoom layout
     /// What is drawn below, if anything is.
     required property Item sheet
 
@@ -82,7 +83,18 @@ Item {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
 
+        HistorySteps {
+            canvas: caption.canvas
+        }
+        IconButton {
+            objectName: "fullButton"
+            iconName: caption.layout.canvasFull ? "shrink" : "expand"
+            text: caption.layout.canvasFull ? qsTr("Back to the window") : qsTr("Fill the window")
+            keys: caption.layout.canvasFull ? qsTr("Esc") : qsTr("Ctrl Shift F")
+            onClicked: caption.layout.toggleCanvasFull()
+        }
         Button {
             visible: caption.thinking && caption.chat.canStop
             size: Button.Small

@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 CanvasExport::CanvasExport(QObject *parent) : QObject(parent) {
     connect(&m_saver, &FileSaver::failed, this, &CanvasExport::fail);
+    connect(&m_saver, &FileSaver::saved, this, &CanvasExport::saved);
 }
 
 void CanvasExport::savePicture() {
@@ -35,14 +36,14 @@ void CanvasExport::saveTable() {
 void CanvasExport::copyPicture() {
     grab([this](const QImage &picture) {
         QGuiApplication::clipboard()->setImage(picture);
-        Q_EMIT copied();
+        Q_EMIT copied(tr("Picture copied"));
     });
 }
 
 void CanvasExport::copyTable() {
     forgetFailure();
     QGuiApplication::clipboard()->setText(tableText());
-    Q_EMIT copied();
+    Q_EMIT copied(tr("Table copied"));
 }
 
 void CanvasExport::copy() {
@@ -51,7 +52,7 @@ void CanvasExport::copy() {
         both->setImageData(picture);
         both->setText(tableText());
         QGuiApplication::clipboard()->setMimeData(both);
-        Q_EMIT copied();
+        Q_EMIT copied(tr("Copied as a picture and a table"));
     });
 }
 
@@ -63,8 +64,10 @@ void CanvasExport::grab(UsePicture use) {
     forgetFailure();
     if (!m_sheet)
         return;
+    m_sheet->setProperty("pictured", true);
     m_grab = m_sheet->grabToImage((m_sheet->size() * scale).toSize());
     if (!m_grab) {
+        m_sheet->setProperty("pictured", false);
         fail(tr("The picture could not be drawn"));
         return;
     }
@@ -73,6 +76,8 @@ void CanvasExport::grab(UsePicture use) {
         m_grab.data(), &QQuickItemGrabResult::ready, this,
         [this, use = std::move(use)] {
             const QImage picture = std::exchange(m_grab, {})->image();
+            if (m_sheet)
+                m_sheet->setProperty("pictured", false);
             if (picture.isNull())
                 fail(tr("The picture could not be drawn"));
             else

@@ -45,7 +45,9 @@ public:
     Q_INVOKABLE void forgetFailure();
 
 Q_SIGNALS:
-    void copied();
+    /// Both come with words that tell it.
+    void copied(const QString &words);
+    void saved(const QString &words, const QUrl &folder);
     void failureChanged();
 
 private:

@@ -13,25 +13,35 @@ FocusScope {
     property int reserved: 0
 
     readonly property CanvasRoom canvas: store.canvas
-    readonly property bool framed: canvas.state === Store.CanvasState.ThinkingSkeleton
-        || canvas.state === Store.CanvasState.BuildingScene || canvas.state === Store.CanvasState.Scene
 
     signal messageRequested(messageId: string)
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Canvas")
 
+    HistoryKeys {
+        anchors.fill: parent
+        canvas: view.canvas
+    }
     CanvasCaption {
         id: caption
 
         x: 24
         y: 16
         width: parent.width - 48
-        visible: view.framed
+        visible: view.canvas.framed
         canvas: view.canvas
         chat: view.store.chat
+        layout: view.store.layout
         scope: view.store.scope
         sheet: sheet.item as Item
+    }
+    HistorySteps {
+        x: parent.width - width - 24
+        y: 16
+        // Above a page stands a bar of its own.
+        visible: any && !view.canvas.framed && view.canvas.state !== Store.CanvasState.Page
+        canvas: view.canvas
     }
     BuildingBar {
         x: 24
@@ -62,10 +72,15 @@ FocusScope {
         width: parent.width - 48
         height: parent.height - y - 24 - view.reserved
     }
+    GalleryLoader {
+        anchors.fill: parent
+        anchors.bottomMargin: view.reserved
+        active: view.canvas.state === Store.CanvasState.SignedOut
+    }
     CanvasMessage {
         anchors.fill: parent
         anchors.bottomMargin: view.reserved
-        visible: view.canvas.state === Store.CanvasState.Empty || view.canvas.state === Store.CanvasState.SignedOut
+        visible: view.canvas.state === Store.CanvasState.Empty
         heading: qsTr("Ask for something with numbers")
         body: qsTr("The answer is drawn here, and the text stays in the conversation.")
         questions: view.store.scope.starters

@@ -52,6 +52,7 @@ MarkArea {
             visible: text !== ""
             width: Math.min(implicitWidth, parent.width)
             card: tile.card
+            Accessible.ignored: true
         }
     }
 }

@@ -10,6 +10,10 @@ Loader {
     required property int side
     /// Whether the scene comes in with its entrance.
     required property bool animated
+    /// Whether its marks ask about what they stand for.
+    required property bool asks
+    /// Whether a picture is taken of it.
+    required property bool pictured
 
     signal pointChosen(label: string)
 

@@ -16,9 +16,14 @@ FocusScope {
     required property bool linked
     /// Whether the scene comes in with its entrance.
     required property bool animated
+    /// Whether a mark that is activated asks about what it stands for.
+    property bool asks: true
+    /// While a picture of the sheet is taken, which does not show where the keyboard stands.
+    property bool pictured: false
 
     /// Padding at the sides, by the width of the sheet.
-    readonly property int side: width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
+    readonly property int side: width - 64 > Tokens.widestBody ? (width - Tokens.widestBody) / 2
+        : width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
 
     signal messageRequested()
     signal pointChosen(label: string)
@@ -58,6 +63,8 @@ FocusScope {
         scene: sheet.scene
         side: sheet.side
         animated: sheet.animated
+        asks: sheet.asks
+        pictured: sheet.pictured
         onPointChosen: label => sheet.pointChosen(label)
     }
     Label {
@@ -83,6 +90,7 @@ FocusScope {
         scope: sheet.scope
         time: sheet.time
         linked: sheet.linked
+        pictured: sheet.pictured
         onMessageRequested: sheet.messageRequested()
     }
 }

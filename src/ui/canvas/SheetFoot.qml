@@ -15,6 +15,7 @@ Item {
     required property ScopeRoom scope
     required property string time
     required property bool linked
+    required property bool pictured
 
     signal messageRequested()
 
@@ -58,6 +59,7 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
             objectName: "showMessage"
             visible: foot.linked
+            ringed: visualFocus && !foot.pictured
             text: qsTr("Show message")
             onClicked: foot.messageRequested()
         }

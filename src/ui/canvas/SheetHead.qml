@@ -10,7 +10,7 @@ Column {
     required property string sub
     required property int side
 
-    topPadding: side === 32 ? 28 : 24
+    topPadding: side >= 32 ? 28 : 24
     leftPadding: side
     rightPadding: side
     spacing: 4

@@ -12,6 +12,7 @@ Loader {
     sourceComponent: Sheet {
         readonly property SheetLoader place: parent as SheetLoader
 
+        objectName: "sheet"
         focus: true
         scene: place?.store.canvas.artScene
         scope: place?.store.scope

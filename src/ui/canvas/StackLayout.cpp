@@ -18,6 +18,7 @@ constexpr double leastPiece = 6;
 void StackLayout::setParts(const QVariant &parts) {
     if (m_parts == parts)
         return;
+    setRedrawn(!m_pieces.isEmpty());
     m_parts = parts;
     m_all.clear();
     for (const canvas::Seg &part : parts.value<QList<canvas::Seg>>())
@@ -34,8 +35,14 @@ void StackLayout::setParts(const QVariant &parts) {
 void StackLayout::setWidth(double width) {
     if (std::exchange(m_width, width) == width)
         return;
+    setRedrawn(false);
     Q_EMIT widthChanged();
     layOut();
+}
+
+void StackLayout::setRedrawn(bool redrawn) {
+    if (std::exchange(m_redrawn, redrawn) != redrawn)
+        Q_EMIT redrawnChanged();
 }
 
 double StackLayout::whole(const QList<Part> &parts) {

@@ -37,8 +37,8 @@ class StackLayout : public QObject {
     Q_PROPERTY(QVariant parts READ parts WRITE setParts NOTIFY partsChanged REQUIRED)
     Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
     Q_PROPERTY(QList<kiv::ui::StackPiece> pieces READ pieces NOTIFY piecesChanged)
-    /// Stands for a piece that has gone while what shows it is on its way out.
-    Q_PROPERTY(kiv::ui::StackPiece none READ none CONSTANT)
+    /// Whether the pieces lie as they do because of other parts, not of another width.
+    Q_PROPERTY(bool redrawn READ isRedrawn NOTIFY redrawnChanged)
 public:
     using QObject::QObject;
 
@@ -48,15 +48,17 @@ public:
     double width() const { return m_width; }
     void setWidth(double width);
     QList<StackPiece> pieces() const { return m_pieces; }
-    StackPiece none() const { return {}; }
+    bool isRedrawn() const { return m_redrawn; }
 
 Q_SIGNALS:
     void partsChanged();
     void widthChanged();
     void piecesChanged();
+    void redrawnChanged();
 
 private:
     void layOut();
+    void setRedrawn(bool redrawn);
 
     struct Part {
         StackPiece piece;
@@ -68,6 +70,7 @@ private:
 
     QVariant m_parts;
     double m_width = 0;
+    bool m_redrawn = false;
     QList<Part> m_all;
     QList<StackPiece> m_pieces;
 };

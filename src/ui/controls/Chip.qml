@@ -22,6 +22,8 @@ Rectangle {
 
     implicitWidth: label.implicitWidth + reserved
     implicitHeight: 24
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
     radius: Tokens.radiusChip
     color: tone === Chip.Good ? Tokens.green.tint
         : tone === Chip.Bad ? Tokens.red.tint
@@ -49,6 +51,7 @@ Rectangle {
             style: Tokens.type.captionMedium
             color: chip.textColor
             text: chip.text
+            Accessible.ignored: true
         }
     }
 }

@@ -13,7 +13,7 @@ T.Button {
     property bool active: false
     property string keys: ""
     property int badge: 0
-    property color color: active ? Tokens.accentText : hovered ? Tokens.t1 : Tokens.t2
+    property color color: !enabled ? Tokens.tDisabled : active ? Tokens.accentText : hovered ? Tokens.t1 : Tokens.t2
 
     implicitWidth: size
     implicitHeight: size

@@ -8,6 +8,7 @@ T.Button {
 
     property TypeStyle style: Tokens.type.captionMedium
     property color color: Tokens.accentText
+    property bool ringed: visualFocus
 
     implicitWidth: caption.implicitWidth
     implicitHeight: caption.implicitHeight + bottomPadding
@@ -24,7 +25,7 @@ T.Button {
         Accessible.ignored: true
     }
     FocusRing {
-        visible: link.visualFocus
+        visible: link.ringed
         targetRadius: 2
     }
     HoverHandler {

@@ -47,7 +47,9 @@ void FileSaver::save(const QUrl &file) {
     const bool isSaved = target.open(QIODevice::WriteOnly) &&
                          target.write(m_content) == m_content.size() && target.commit();
     m_content.clear();
-    if (!isSaved)
+    if (isSaved)
+        Q_EMIT saved(tr("Saved %1").arg(file.fileName()), m_folder);
+    else
         Q_EMIT failed(tr("%1 could not be saved: %2").arg(file.fileName(), target.errorString()));
 }
 

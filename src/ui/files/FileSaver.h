@@ -30,6 +30,8 @@ public:
     void ask(QWindow *window, const Format &format, const QString &name, const QByteArray &content);
 
 Q_SIGNALS:
+    /// Comes with words that tell it.
+    void saved(const QString &words, const QUrl &folder);
     void failed(const QString &reason);
 
 private Q_SLOTS:

@@ -15,17 +15,22 @@ FocusScope {
     required property Commands commands
 
     readonly property LayoutRoom layout: store.layout
-    readonly property bool floats: !layout.railShown && !layout.dockOpen
-    readonly property real side: layout.railShown ? layout.shownRailW : Tokens.stripWidth
+    /// Whether the canvas has the window for itself.
+    readonly property bool full: sole.active
+    readonly property bool railShown: layout.railShown && !full
+    readonly property bool floats: !layout.railShown && !layout.dockOpen && !full
+    readonly property real side: full ? 0 : layout.railShown ? layout.shownRailW : Tokens.stripWidth
 
     /// Puts the cursor into the ask bar that shows.
     function focusAsk() {
+        layout.leaveCanvasFull()
         const bar = layout.dockOpen ? dockLoader.item : layout.railShown ? rail.composer : floating
         bar?.forceActiveFocus(Qt.ShortcutFocusReason)
     }
 
     /// Shows the message that a scene came from, in the feed that shows or in the dock.
     function reveal(messageId: string) {
+        layout.leaveCanvasFull()
         if (!view.layout.dockOpen && view.layout.railShown && rail.feed.reveal(messageId))
             return
         dockLoader.reveal(messageId)
@@ -43,6 +48,8 @@ FocusScope {
         id: topBar
 
         width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: !view.full
         store: view.store
         commands: view.commands
         railWidth: view.layout.railShown ? view.layout.shownRailW : 0
@@ -80,7 +87,7 @@ FocusScope {
 
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
-        visible: view.layout.railShown
+        visible: view.railShown
         width: view.layout.shownRailW
         focus: true
         store: view.store
@@ -90,14 +97,14 @@ FocusScope {
 
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
-        visible: !view.layout.railShown
+        visible: !view.layout.railShown && !view.full
         scope: view.store.scope
     }
     EdgeHandle {
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
         x: view.layout.shownRailW - width / 2
-        visible: view.layout.railShown
+        visible: view.railShown
         onDragged: place => view.layout.dragRail(place)
         onResetRequested: view.layout.resetRail()
     }
@@ -108,6 +115,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         x: view.side
         width: parent.width - x
+        Keys.onEscapePressed: event => event.accepted = view.layout.leaveCanvasFull()
 
         CanvasView {
             anchors.fill: parent
@@ -135,13 +143,21 @@ FocusScope {
         anchors.bottom: parent.bottom
         width: parent.width
         clip: true
-        visible: dockLoader.active
+        visible: dockLoader.active && !view.full
 
         DockLoader {
             id: dockLoader
 
             store: view.store
         }
+    }
+    ToastStack {
+        readonly property real besideBar: (stage.width - floating.width) / 2
+
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
     SignInSheet {
         session: view.store.session
@@ -154,6 +170,12 @@ FocusScope {
             if (elsewhere !== "")
                 Qt.openUrlExternally(elsewhere)
         }
+    }
+    SoleView {
+        id: sole
+
+        area: stage
+        wanted: view.layout.canvasFull
     }
     AreaCycle {
         id: areas
@@ -213,6 +235,11 @@ FocusScope {
     Shortcut {
         sequence: "Shift+F3"
         onActivated: view.store.find.previous()
+    }
+    Shortcut {
+        sequence: "Ctrl+Shift+F"
+        enabled: view.store.canvas.framed
+        onActivated: view.layout.toggleCanvasFull()
     }
     Shortcut {
         sequence: "F6"

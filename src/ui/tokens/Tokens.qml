@@ -98,6 +98,8 @@ QtObject {
     readonly property int stripWidth: 56
     readonly property int wideBody: 880
     readonly property int mediumBody: 600
+    /// Wider than this, a row is hard to follow from its name to its figure.
+    readonly property int widestBody: 1760
     /// A view follows the end of what grows while it is within this of it.
     readonly property int followDistance: 48
 
@@ -114,6 +116,8 @@ QtObject {
     readonly property int tipDelay: 500
     /// How long a button says that it has done its work.
     readonly property int confirmation: 1500
-    /// How long a line about a failure stays.
+    /// How long news stays.
+    readonly property int toast: 5000
+    /// How long a line about a failure stays, or news with something to do.
     readonly property int notice: 8000
 }

@@ -13,10 +13,12 @@ FocusScope {
     /// Padding at the sides.
     readonly property int side: body?.side ?? 0
     readonly property bool animated: body?.animated ?? false
+    readonly property bool asks: body?.asks ?? false
+    readonly property bool pictured: body?.pictured ?? false
     /// Padding above the first row.
-    readonly property int headroom: side === 32 ? 24 : 16
+    readonly property int headroom: side >= 32 ? 24 : 16
     /// Padding below the last one.
-    readonly property int footroom: side === 32 ? 20 : 16
+    readonly property int footroom: side >= 32 ? 20 : 16
     readonly property real inner: width - 2 * side
     readonly property bool wide: inner >= Tokens.wideBody
     readonly property bool narrow: inner < Tokens.mediumBody
@@ -53,9 +55,13 @@ FocusScope {
     focus: true
     opacity: entrance.fade
     onMarksChanged: go(current)
-    onPointChosen: label => art.body?.pointChosen(label)
-    Accessible.role: Accessible.Grouping
+    onPointChosen: label => {
+        if (asks)
+            body.pointChosen(label)
+    }
+    Accessible.role: Accessible.Table
     Accessible.name: scene.title
+    Accessible.description: scene.insight === "" ? scene.countLine : scene.insight
 
     Keys.onUpPressed: go(current - 1)
     Keys.onLeftPressed: go(current - 1)

@@ -17,6 +17,8 @@ Item {
     property string share: ""
     /// What the colour says, in words.
     property string tone: ""
+    /// What else is said of it.
+    property string note: ""
     property int ringRadius: Tokens.radiusSmall
     /// How far inside the ring stands: at the sides, above and below.
     property int ringX: -2
@@ -29,7 +31,7 @@ Item {
         art.marked = mark
     onActivated: art.pointChosen(label)
     Accessible.role: Accessible.Row
-    Accessible.name: Figures.joined([label, value, tone], ", ")
+    Accessible.name: Figures.joined([label, value, tone, note], ", ")
     Accessible.focusable: place >= 0
     Accessible.focused: activeFocus
     Accessible.onPressAction: activated()
@@ -40,7 +42,7 @@ Item {
     HoverHandler {
         id: pointer
 
-        cursorShape: Qt.PointingHandCursor
+        cursorShape: mark.art.asks ? Qt.PointingHandCursor : Qt.ArrowCursor
     }
     TapHandler {
         onTapped: mark.activated()
@@ -51,7 +53,7 @@ Item {
         anchors.topMargin: mark.ringY
         anchors.bottomMargin: mark.ringY
         targetRadius: mark.ringRadius
-        visible: mark.activeFocus
+        visible: mark.activeFocus && !mark.art.pictured
     }
     Item {
         x: pointer.hovered ? pointer.point.position.x : parent.width / 2

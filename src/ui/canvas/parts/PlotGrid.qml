@@ -28,6 +28,7 @@ Item {
 
             Label {
                 y: -8
+                tabular: true
                 style: Tokens.type.caption
                 color: Tokens.t3
                 elide: Text.ElideNone

@@ -27,8 +27,6 @@ ListView {
     focus: true
     boundsBehavior: Flickable.StopAtBounds
     flickDeceleration: Tokens.flickDeceleration
-    Accessible.role: Accessible.Table
-    Accessible.name: art.scene.title
 
     T.ScrollBar.vertical: ScrollBar {}
 }

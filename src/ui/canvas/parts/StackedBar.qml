@@ -23,27 +23,39 @@ Item {
         width: bar.width
     }
     Repeater {
-        model: layout.pieces.length
+        model: SceneModel {
+            rows: layout.pieces
+        }
 
         MarkArea {
             id: mark
 
-            required property int index
+            required property stackPiece modelData
 
-            readonly property stackPiece piece: index < layout.pieces.length ? layout.pieces[index] : layout.none
+            property real from: modelData.x
+            property real extent: modelData.width
 
             art: bar.art
-            x: piece.x * bar.grown
-            width: piece.width * bar.grown
+            x: from * bar.grown
+            width: extent * bar.grown
             height: bar.height
-            label: piece.others > 0 ? qsTr("%1 more").arg(piece.others) : piece.label
-            share: piece.share
+            label: modelData.others > 0 ? qsTr("%1 more").arg(modelData.others) : modelData.label
+            share: modelData.share
             Accessible.ignored: true
+
+            Behavior on from {
+                enabled: layout.redrawn
+                NumberAnimation { duration: Tokens.draw; easing.type: Easing.OutCubic }
+            }
+            Behavior on extent {
+                enabled: layout.redrawn
+                NumberAnimation { duration: Tokens.draw; easing.type: Easing.OutCubic }
+            }
 
             Rectangle {
                 anchors.fill: parent
                 radius: Math.min(Tokens.radiusSmall, width / 2)
-                color: mark.piece.others > 0 ? Tokens.control : bar.art.dataColor(mark.piece.color).base
+                color: mark.modelData.others > 0 ? Tokens.control : bar.art.dataColor(mark.modelData.color).base
             }
         }
     }

@@ -20,7 +20,7 @@ FocusScope {
     width: art.inner
     height: modelData.height
     focus: ListView.isCurrentItem
-    Accessible.role: Accessible.Row
+    Accessible.role: Accessible.Grouping
     Accessible.name: Figures.joined([modelData.name, modelData.role], ", ")
 
     Divider {

@@ -40,6 +40,7 @@ Item {
 
             Label {
                 anchors.centerIn: parent
+                tabular: true
                 style: Tokens.type.captionStrong
                 color: Tokens.violet.text
                 text: chip.modelData.text

@@ -15,7 +15,6 @@ MarkArea {
     ringRadius: Tokens.radiusBlock
     label: modelData.text
     value: modelData.meta
-    Accessible.role: Accessible.ListItem
 
     Rectangle {
         anchors.fill: parent

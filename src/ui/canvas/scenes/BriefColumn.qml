@@ -20,7 +20,7 @@ Rectangle {
     color: Tokens.inset
     border.width: 1
     border.color: Tokens.line
-    Accessible.role: Accessible.Column
+    Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("%1, %2").arg(modelData.name).arg(modelData.count)
 
     Rectangle {

@@ -35,6 +35,7 @@ Item {
 
         rows: columns.art.scene.bgRows
         field: "plan"
+        tabular: true
         style: Tokens.type.line
         least: columns.art.wide ? 80 : 40
         most: Math.max(80, columns.art.inner * 0.16)
@@ -44,6 +45,7 @@ Item {
 
         rows: columns.art.scene.bgRows
         field: "actual"
+        tabular: true
         style: Tokens.type.strong
         least: columns.art.wide ? 80 : 44
         most: Math.max(80, columns.art.inner * 0.18)
@@ -53,6 +55,7 @@ Item {
 
         rows: columns.art.scene.bgRows
         field: "delta"
+        tabular: true
         style: Tokens.type.name
     }
 }

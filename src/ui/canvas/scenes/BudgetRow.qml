@@ -69,6 +69,7 @@ SceneRow {
         anchors.verticalCenter: parent.verticalCenter
         visible: width > 0
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.line
         color: Tokens.t2
         wrapMode: Text.Wrap
@@ -81,6 +82,7 @@ SceneRow {
         width: row.columns.actual
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.strong
         wrapMode: Text.Wrap
         maximumLineCount: 2
@@ -92,6 +94,7 @@ SceneRow {
         width: row.columns.delta
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.name
         color: !row.planned ? Tokens.t2 : row.modelData.deltaGood ? Tokens.green.text : Tokens.red.text
         elide: Text.ElideNone

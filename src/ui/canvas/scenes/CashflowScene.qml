@@ -34,6 +34,7 @@ ArtScene {
         id: measured
 
         visible: false
+        tabular: true
         style: Tokens.type.captionStrong
     }
     PlotLegend {
@@ -98,8 +99,6 @@ ArtScene {
         focus: true
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
-        Accessible.role: Accessible.Table
-        Accessible.name: cashflow.scene.title
 
         T.ScrollBar.horizontal: ScrollBar {
             policy: T.ScrollBar.AlwaysOn

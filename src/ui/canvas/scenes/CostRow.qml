@@ -21,6 +21,7 @@ SceneRow {
 
     label: modelData.name
     value: modelData.amount
+    note: modelData.sub
     share: Figures.share(modelData.pct, whole)
 
     Rectangle {
@@ -54,6 +55,7 @@ SceneRow {
         width: row.amountWidth
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.strong
         wrapMode: Text.Wrap
         maximumLineCount: 2

@@ -40,6 +40,7 @@ ArtScene {
 
         rows: costs.scene.coRows
         field: "amount"
+        tabular: true
         style: Tokens.type.strong
         least: costs.narrow ? 56 : 88
         most: Math.max(88, costs.inner * 0.3)

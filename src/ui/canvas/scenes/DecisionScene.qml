@@ -39,7 +39,6 @@ ArtScene {
         style: Tokens.type.captionMedium
         color: Tokens.t3
         text: qsTr("Total")
-        Accessible.ignored: true
     }
     OptionCard {
         id: second
@@ -59,6 +58,7 @@ ArtScene {
     TextMetrics {
         id: widest
 
+        font.family: Tokens.tabularFamily
         font.pixelSize: Tokens.type.strong.size
         font.weight: Tokens.type.strong.weight
         text: decision.scene.scoreMost

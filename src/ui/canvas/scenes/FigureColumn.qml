@@ -20,12 +20,16 @@ ScrollArea {
         spacing: 12
 
         Repeater {
-            model: column.art.scene.ueKpis
+            model: SceneModel {
+                rows: column.art.scene.ueKpis
+            }
 
             KpiCard {
                 required property kpiCard modelData
+                required property int index
 
                 art: column.art
+                place: column.art.scene.ueRows.length + index
                 width: column.width
                 height: column.cardHeight
                 card: modelData

@@ -21,6 +21,7 @@ ArtScene {
 
         rows: funnel.scene.fnStages
         field: "n"
+        tabular: true
         style: Tokens.type.subheading
         least: 84
     }

@@ -79,6 +79,7 @@ FocusScope {
             x: parent.width - stage.convWidth - width
             y: Math.round((stage.words - height) / 2)
             elide: Text.ElideNone
+            tabular: true
             style: stage.narrow ? Tokens.type.strong : Tokens.type.subheading
             text: stage.modelData.n
             Accessible.ignored: true
@@ -87,6 +88,7 @@ FocusScope {
             x: parent.width - width
             y: Math.round((stage.words - height) / 2)
             elide: Text.ElideNone
+            tabular: true
             style: Tokens.type.line
             color: Tokens.t2
             text: stage.modelData.conv === "" ? "—" : stage.modelData.conv

@@ -43,6 +43,7 @@ MarkArea {
         width: Math.max(44, implicitWidth)
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.strong
         elide: Text.ElideNone
         text: row.value

@@ -12,7 +12,7 @@ Item {
     required property DataColor colors
 
     implicitHeight: Math.max(56, words.height)
-    Accessible.role: Accessible.Heading
+    Accessible.role: Accessible.RowHeader
     Accessible.name: Figures.joined([objective.name, objective.owner, objective.score], ", ")
 
     Rectangle {

@@ -70,6 +70,7 @@ MarkArea {
             visible: period.plot.hasIn
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideNone
+            tabular: true
             style: Tokens.type.captionMedium
             text: period.shown(period.modelData.month.in)
             Accessible.ignored: true
@@ -80,6 +81,7 @@ MarkArea {
             visible: period.plot.hasOut
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideNone
+            tabular: true
             style: Tokens.type.captionMedium
             text: period.shown(period.modelData.month.out)
             Accessible.ignored: true

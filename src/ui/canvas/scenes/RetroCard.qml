@@ -15,7 +15,6 @@ MarkArea {
     height: Math.max(68, words.height + 28)
     ringRadius: Tokens.radiusBlock
     label: modelData.text
-    Accessible.role: Accessible.ListItem
 
     Rectangle {
         anchors.fill: parent

@@ -18,7 +18,7 @@ Item {
 
     width: board.columnWidth
     height: board.height
-    Accessible.role: Accessible.Column
+    Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("%1, %2").arg(modelData.name).arg(modelData.count)
 
     FullLabel {

@@ -34,6 +34,7 @@ Item {
         width: half.figureWidth
         horizontalAlignment: half.mirrored ? Text.AlignLeft : Text.AlignRight
         elide: Text.ElideNone
+        tabular: true
         style: half.score > half.other ? Tokens.type.strong : Tokens.type.line
         color: half.score < half.other ? Tokens.t2 : Tokens.t1
         text: half.score

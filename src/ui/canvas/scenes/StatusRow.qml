@@ -28,6 +28,7 @@ SceneRow {
     value: qsTr("%1%").arg(modelData.pct)
     share: goal
     tone: Figures.joined([goal, verdict], ", ")
+    note: modelData.note
 
     NameAndNote {
         width: row.nameWidth
@@ -62,6 +63,7 @@ SceneRow {
         y: Math.round((row.height - height - (row.art.narrow && aim.visible ? aim.height : 0)) / 2)
         width: row.figureWidth
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.heading
         elide: Text.ElideNone
         text: row.value
@@ -72,8 +74,11 @@ SceneRow {
 
         x: (row.art.narrow ? row.figureEnd : chip.x - 16) - width
         y: row.art.narrow ? figure.y + figure.height : Math.round((row.height - height) / 2)
-        width: row.art.narrow ? implicitWidth : row.goalWidth
+        width: row.art.narrow ? row.figureWidth + 60 : row.goalWidth
+        horizontalAlignment: row.art.narrow ? Text.AlignRight : Text.AlignLeft
         visible: text !== ""
+        elide: Text.ElideNone
+        tabular: true
         style: Tokens.type.caption
         color: Tokens.t3
         text: row.goal
@@ -89,5 +94,6 @@ SceneRow {
         tone: row.modelData.good ? Chip.Good : Chip.Bad
         iconName: row.modelData.good ? "check" : "bang"
         text: row.verdict
+        Accessible.ignored: true
     }
 }

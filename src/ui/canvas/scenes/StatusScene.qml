@@ -37,6 +37,7 @@ ArtScene {
 
         rows: status.scene.streams
         field: "pct"
+        tabular: true
         style: Tokens.type.heading
         least: 36
     }

@@ -29,12 +29,16 @@ Item {
         spacing: 12
 
         Repeater {
-            model: figures.shown ? figures.art?.scene.ueKpis ?? [] : []
+            model: SceneModel {
+                rows: figures.shown ? figures.art?.scene.ueKpis ?? [] : []
+            }
 
             KpiCard {
                 required property kpiCard modelData
+                required property int index
 
                 art: figures.art
+                place: (figures.art?.scene.ueRows.length ?? 0) + index
                 width: figures.cardWidth
                 height: 118
                 card: modelData

@@ -39,6 +39,7 @@ SceneRow {
         width: row.valueWidth
         horizontalAlignment: Text.AlignRight
         elide: Text.ElideNone
+        tabular: true
         style: Tokens.type.line
         color: Tokens.t2
         text: row.modelData.value
@@ -48,6 +49,7 @@ SceneRow {
         x: row.width - width
         y: Math.round((row.height - height) / 2)
         elide: Text.ElideNone
+        tabular: true
         style: Tokens.type.strong
         // A part that is given as its share.
         visible: row.share !== row.value

@@ -17,13 +17,18 @@ ArtScene {
     readonly property bool beside: wide && parts > 0 && figures > 0
     readonly property real partsWidth: beside ? inner - 300 : inner
 
-    marks: parts
+    marks: parts + figures
+    onCurrentChanged: {
+        if (current >= parts)
+            rows.positionViewAtEnd()
+    }
 
     ColumnWidth {
         id: values
 
         rows: unit.scene.ueRows
         field: "value"
+        tabular: true
         style: Tokens.type.line
         least: 64
     }
@@ -34,7 +39,7 @@ ArtScene {
         anchors.verticalCenter: rows.verticalCenter
         visible: unit.ringed
         art: unit
-        parts: unit.scene.ueRows
+        parts: unit.ringed ? unit.scene.ueRows : []
         total: unit.scene.coTotal
     }
     WholeBar {
@@ -45,6 +50,7 @@ ArtScene {
         width: unit.partsWidth
         visible: unit.parts > 0 && !unit.ringed
         art: unit
+        parts: visible ? unit.scene.ueRows : []
     }
     UnitRows {
         id: rows
@@ -56,6 +62,8 @@ ArtScene {
         readonly property real lineHeight: Math.floor(Math.max(40, Math.min(52, (height - below) / Math.max(1, unit.parts))))
 
         art: unit
+        focus: !unit.beside || unit.current < unit.parts
+        currentIndex: unit.current < unit.parts ? unit.current : -1
         x: (unit.ringed ? unit.side + ring.width + 36 : unit.side) - 8
         y: unit.ringed ? unit.headroom + Math.round((room - linesHeight) / 2) : whole.visible ? whole.y + whole.height + 12 : unit.headroom
         width: unit.side + unit.partsWidth - x + (unit.beside ? 16 : unit.side)

@@ -10,7 +10,8 @@ Item {
 
     required property ArtScene art
 
-    readonly property var parts: art.scene.ueRows
+    /// The scene's list of parts.
+    required property var parts
     /// How much of the whole the parts are, in per cent.
     readonly property real told: shares.sum
 

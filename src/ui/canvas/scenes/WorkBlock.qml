@@ -22,7 +22,6 @@ MarkArea {
     ringRadius: Tokens.radiusControl
     label: modelData.title
     value: look.word
-    Accessible.role: Accessible.ListItem
 
     Rectangle {
         anchors.fill: parent

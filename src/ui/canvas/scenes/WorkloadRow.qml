@@ -16,6 +16,7 @@ SceneRow {
 
     label: modelData.name
     value: qsTr("%1%").arg(modelData.pct)
+    note: modelData.role
     tone: modelData.color === Scene.SceneColor.Red ? qsTr("over 100%")
         : modelData.color === Scene.SceneColor.Amber ? qsTr("90–100%") : qsTr("under 90%")
 
@@ -48,6 +49,7 @@ SceneRow {
         width: row.loadWidth
         anchors.verticalCenter: parent.verticalCenter
         horizontalAlignment: Text.AlignRight
+        tabular: true
         style: Tokens.type.subheading
         color: row.colors.text
         elide: Text.ElideNone

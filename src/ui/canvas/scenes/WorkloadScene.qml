@@ -29,6 +29,7 @@ ArtScene {
 
         rows: workload.scene.wlRows
         field: "pct"
+        tabular: true
         style: Tokens.type.subheading
         least: 32
     }

@@ -1,0 +1,64 @@
+import QtQuick
+import Kiv.Controls
+import Kiv.Tokens
+
+// A piece of news on a dark ground. It goes by itself, but not while it is pointed at.
+Rectangle {
+    id: toast
+
+    required property string words
+    required property string action
+    required property url target
+    required property int index
+
+    implicitWidth: Math.min(440, label.implicitWidth + (link.visible ? link.width + 16 : 0) + 32)
+    implicitHeight: 44
+    radius: Tokens.radiusBlock
+    color: Tokens.tip
+    opacity: 0
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: words
+    Component.onCompleted: opacity = 1
+
+    Behavior on opacity {
+        NumberAnimation { duration: Tokens.quick; easing.type: Easing.OutCubic }
+    }
+    Shadow {
+        z: -1
+        targetRadius: toast.radius
+    }
+    HoverHandler {
+        id: pointer
+    }
+    Timer {
+        running: !pointer.hovered && !link.visualFocus
+        interval: toast.action === "" ? Tokens.toast : Tokens.notice
+        onTriggered: Toasts.dismiss(toast.index)
+    }
+    Label {
+        id: label
+
+        x: 16
+        width: parent.width - x - 16 - (link.visible ? link.width + 16 : 0)
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.smallMedium
+        color: Tokens.tipInk
+        text: toast.words
+        Accessible.ignored: true
+    }
+    TextLink {
+        id: link
+
+        objectName: "toastAction"
+        x: parent.width - width - 16
+        anchors.verticalCenter: parent.verticalCenter
+        visible: toast.action !== ""
+        style: Tokens.type.smallMedium
+        color: Tokens.tipInk
+        text: toast.action
+        onClicked: {
+            Qt.openUrlExternally(toast.target)
+            Toasts.dismiss(toast.index)
+        }
+    }
+}

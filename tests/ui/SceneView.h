@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ui/Gallery.h"
+#include "ui/SceneAnswers.h"
+#include "ui/Workspace.h"
+
+#include <QColor>
+
+namespace kiv::ui {
+
+/// A text of the window as it is seen.
+struct SeenText {
+    QString words;
+    QRectF box; ///< what of it is not clipped, in the window
+    QColor color;
+    bool cut = false; ///< elided, or running out of its room
+};
+
+/// What of an item's area no clipping item above it cuts off.
+QRectF shownPart(const QQuickItem *item, const QRectF &area);
+
+/// A sheet with a scene in a window off screen.
+class SceneView {
+public:
+    QQuickItem *show(const canvas::SceneOut &scene, const QVariantMap &more = {},
+                     const QSize &size = {1000, 720});
+    QQuickItem *sheet() const { return gallery.item(QStringLiteral("sheet")); }
+    /// The items of a QML type in the window, from top to bottom.
+    QList<QQuickItem *> itemsOf(const char *type) const;
+    QList<SeenText> texts() const;
+    bool seesText(const QString &words) const;
+
+    Gallery gallery;
+
+private:
+    Workspace m_workspace;
+};
+
+} // namespace kiv::ui
