@@ -198,7 +198,7 @@ QUrl CanvasRoom::openLink(const QString &link) {
     const auto page = canvas::SurfaceMatcher::page(link, base);
     if (!page)
         return base.resolved(QUrl(link));
-    openSurface(*page);
+    openSurface(*page, Record::New);
     return {};
 }
 
