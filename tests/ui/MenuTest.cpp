@@ -102,6 +102,11 @@ void MenuTest::accountFollowsTheSession() {
     QVERIFY(!titles().contains(u"Log Out"_s));
     QVERIFY(titles().contains(u"Sign In…"_s));
     QVERIFY(titles().contains(u"Create Account…"_s));
+    // The keys are those of the new menu.
+    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+    QVERIFY(layout().railCollapsed());
+    m_gallery->press(Qt::Key_L, Qt::ControlModifier);
+    QCOMPARE(m_workspace->store->session()->authSheet(), store::AuthSheetMode::Login);
 }
 
 void MenuTest::panelsByKeys() {

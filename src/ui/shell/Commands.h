@@ -12,7 +12,6 @@ class Commands : public QObject {
     Q_PROPERTY(QList<kiv::ui::MenuDescription> menus READ menus NOTIFY menusChanged)
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QList<kiv::ui::MenuEntry> everyKey READ everyKey NOTIFY menusChanged)
-    Q_PROPERTY(QList<kiv::ui::MenuEntry> bound READ bound NOTIFY menusChanged)
 public:
     using QObject::QObject;
 
@@ -23,9 +22,9 @@ public:
 
     /// The version of the program, for people.
     static QString version();
-    /// The entries that keys give, of all menus.
+    /// The entries whose keys the window takes, of all menus. Keys that edit are the fields' own.
     QList<MenuEntry> bound() const;
-    /// The same with the keys that the window knows beside the menu, for reading.
+    /// Every entry that has keys, and the keys that the window knows beside the menu.
     QList<MenuEntry> everyKey() const;
 
 Q_SIGNALS:

@@ -201,6 +201,7 @@ FocusScope {
     }
     MenuKeys {
         commands: view.commands
+        window: view.Window.window
     }
     Connections {
         target: view.commands

@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QStringList>
-#include <QVariantList>
 #include <QtQmlIntegration>
 
 namespace kiv::ui {
@@ -41,13 +40,17 @@ enum class Command {
     NewAgent,
 };
 
+/// Whether a command is one of the field that has the focus, by keys of its own.
+inline bool isEditing(Command command) {
+    return command >= Command::Undo && command <= Command::SelectAll;
+}
+
 /// One line of a menu; a separator has no title.
 struct MenuEntry {
     Q_GADGET
     QML_VALUE_TYPE(menuEntry)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(int command READ commandNumber)
-    Q_PROPERTY(QVariantList sequences READ sequences)
     Q_PROPERTY(QString keys READ keys)
     Q_PROPERTY(bool afterGap MEMBER afterGap)
     Q_PROPERTY(bool works READ works)
@@ -64,7 +67,6 @@ public:
     bool separator() const { return title.isEmpty(); }
     bool works() const { return command != Command::None; }
     int commandNumber() const { return static_cast<int>(command); }
-    QVariantList sequences() const { return {shortcuts.begin(), shortcuts.end()}; }
     friend bool operator==(const MenuEntry &, const MenuEntry &) = default;
 };
 

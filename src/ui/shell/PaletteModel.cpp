@@ -8,11 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What needs the field that had the focus before the palette came.
-bool edits(Command command) {
-    return command >= Command::Undo && command <= Command::SelectAll;
-}
-
 /// How well an entry meets the typed words: 0 for a title that begins with them, 1 for one in
 /// which a word does, 2 for a match elsewhere; nothing for none.
 std::optional<int> rank(const QString &title, const QString &detail, const QStringList &words) {
@@ -41,7 +36,7 @@ void PaletteModel::addCommands() {
     const QList<MenuDescription> menus = m_commands->menus();
     for (const MenuDescription &menu : menus) {
         for (const MenuEntry &entry : menu.entries) {
-            if (!entry.separator() && entry.works() && !edits(entry.command))
+            if (!entry.separator() && entry.works() && !isEditing(entry.command))
                 m_entries.append(
                     {entry.title, menu.title, u"right"_s, entry.keys(),
                      [this, command = entry.command] { m_commands->perform(command); }});
