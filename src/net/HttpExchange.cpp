@@ -35,6 +35,13 @@ bool isBroken(QNetworkReply::NetworkError error, int status) {
     return error < QNetworkReply::ContentAccessDenied && !demandsProxyLogin;
 }
 
+/// Why no answer came. The network layer has no words for a kept connection that the server ended.
+QString failureText(const QNetworkReply &reply) {
+    if (reply.error() == QNetworkReply::UnknownNetworkError)
+        return HttpExchange::tr("The server ended the connection.");
+    return reply.errorString();
+}
+
 } // namespace
 
 struct HttpExchange::Arrival {
@@ -77,7 +84,7 @@ QCoro::Task<int> HttpExchange::open() {
         co_await waitFor(headers);
         if (status() == 0) {
             const bool broken = m_reply->error() != QNetworkReply::NoError;
-            throw APIError::transport(broken ? m_reply->errorString() : u"Non-HTTP response"_s);
+            throw APIError::transport(broken ? failureText(*m_reply) : u"Non-HTTP response"_s);
         }
         const auto target = redirectTarget();
         if (!target)
