@@ -151,6 +151,12 @@ void FeedTest::jumpsToTheNewest() {
     m_gallery->click(u"jumpButton"_s);
     QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
     QVERIFY(!m_gallery->find(u"jumpButton"_s));
+
+    // So does a message of one's own.
+    wheelUp();
+    m_workspace->store->chat()->send(u"And what about this?"_s);
+    QTRY_COMPARE_LE(std::abs(distanceToEnd(feed)), 1.0);
+    QVERIFY(!m_gallery->find(u"jumpButton"_s));
 }
 
 void FeedTest::olderComeInAtTheTop() {

@@ -119,6 +119,10 @@ void FeedView::insertRows(int first, int last) {
     if (isAbove)
         m_origin -= sum;
     moveShown(first, last - first + 1);
+    // Who writes goes on from there.
+    const FeedRow &newest = m_rows->at(last);
+    if (last + 1 == m_heights.count() && newest.mine && newest.delivery == store::Delivery::Pending)
+        setFollowing(true);
     if (!m_following)
         countUnseen();
     polish();
