@@ -78,6 +78,8 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
     const auto scene = canvas::SceneAdapter::vals(spec, m_lastIntent);
     if (!scene)
         return false;
+    if (entrance == Entrance::OfAnotherArt)
+        entrance = scene->art == m_art.value() ? Entrance::Still : Entrance::Animated;
     m_drawnSpecKey = spec.jsonKey;
     m_artSpec = spec;
     m_store.layout()->closeAccount();
@@ -93,13 +95,14 @@ void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
     m_failed = false;
+    // Known before the scene shows.
+    m_animated = entrance == Entrance::Animated;
     m_artScene = scene;
     m_artInfo = info;
     m_art = scene.art;
     // What is still a skeleton has the shape of what comes.
     m_skeletonShape = skeletonShapeFor(scene.art);
     m_artSkeleton = false;
-    m_animated = entrance == Entrance::Animated;
     m_seconds.cancel();
     if (entrance == Entrance::Animated) {
         m_phase = Phase::Building;

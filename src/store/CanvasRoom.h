@@ -137,7 +137,8 @@ Q_SIGNALS:
     void stepsChanged();
 
 private:
-    enum class Entrance { Animated, Still };
+    /// How a scene comes: with its entrance, without, or with it unless that art is drawn already.
+    enum class Entrance { Animated, Still, OfAnotherArt };
     /// What of the history a drawn canvas becomes: the entry of the current turn, a new one, none.
     enum class Record { Turn, New, None };
     enum class LinkOpening { Open, Leave };
@@ -151,6 +152,7 @@ private:
     };
 
     bool mayDrawEarly(const Msg &message) const;
+    bool isDrawn(const Msg &message) const;
     bool hasNewDrawing(const Msg &answer) const;
     QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);
     QCoro::Task<void> finishBuilding(Cancel cancel);

@@ -113,14 +113,20 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
     m_awaitingAnswer = false;
     if (!answer.serverID)
         co_return; // drawn when it came
-    const bool settledBefore = m_turn.answer == answer.id;
+    const bool isDrawnBefore =
+        m_turn.answer == answer.id || m_earlyDrawnFor.contains(*answer.serverID);
     m_turn.answer = answer.id;
     m_scenarioDone.insert(*answer.serverID);
-    if (settledBefore)
+    if (isDrawnBefore)
         drawAgain(answer);
-    else if (!m_earlyDrawnFor.contains(*answer.serverID) || hasNewDrawing(answer))
+    else
         runScenario(answer, LinkOpening::Open);
-    // Else it is drawn as it is; the person may look at another canvas by now.
+}
+
+/// Whether the scene on the canvas was made from this message.
+bool CanvasRoom::isDrawn(const Msg &message) const {
+    return m_state.value() == CanvasState::Scene &&
+           m_sourceMessageId.value() == message.id.toString(QUuid::WithoutBraces);
 }
 
 bool CanvasRoom::hasNewDrawing(const Msg &answer) const {
@@ -132,7 +138,9 @@ void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
     m_lastIntent = m_turn.intent;
     if (message.spec) {
         m_turn.drawnSpecKey = message.spec->jsonKey;
-        if (drawScenario(*message.spec, message.chips, Entrance::Animated, Record::Turn)) {
+        // An answer that goes on moves the marks of its scene.
+        const Entrance entrance = isDrawn(message) ? Entrance::OfAnotherArt : Entrance::Animated;
+        if (drawScenario(*message.spec, message.chips, entrance, Record::Turn)) {
             nameSource(message);
             return;
         }
@@ -147,15 +155,13 @@ void CanvasRoom::runScenario(const Msg &message, LinkOpening links) {
     net::KivAPI::rum(&m_store.net(), u"canvas_no_data"_s, QJsonObject());
 }
 
-/// An answer that had settled went on and settled anew.
+/// An answer whose figures were drawn or told to be missing has settled, and may have gone on.
 void CanvasRoom::drawAgain(const Msg &answer) {
     if (!hasNewDrawing(answer))
         return;
     // A copy that was opened from the history stays as it was.
     const bool isOwn = m_place.isNull() || m_place == m_turn.historyEntry;
-    const bool isShown =
-        isOwn && m_sourceMessageId.value() == answer.id.toString(QUuid::WithoutBraces);
-    if (isShown || m_state.value() == CanvasState::Hint) {
+    if ((isOwn && isDrawn(answer)) || m_state.value() == CanvasState::Hint) {
         runScenario(answer, LinkOpening::Leave);
         return;
     }

@@ -168,10 +168,34 @@ private Q_SLOTS:
         QCOMPARE(canvas->artScene().coRows.size(), 2);
         QVERIFY(arrives(f, 9, table + u"\n| Rudder | 7 |\n| Keel | 9 |"_s));
         QCOMPARE(canvas->artScene().coRows.size(), 2);
-        f.clock.advance(1700ms);
+        // Its marks move; the scene does not come in once more.
+        f.clock.advance(500ms);
+        QVERIFY(canvas->animated());
+        QCOMPARE(canvas->state(), CanvasState::Scene);
+        QSignalSpy states(canvas, &CanvasRoom::stateChanged);
+        f.clock.advance(1200ms);
         QCOMPARE(canvas->artScene().coRows.size(), 4);
+        QVERIFY(!canvas->animated());
+        QCOMPARE(states.count(), 0);
         QCOMPARE(canvas->history()->count(), 1);
         SOON_COMPARE(drawings(f), 1);
+    }
+
+    /// The canvas that the person turned to meanwhile stays; the history has the whole table.
+    void earlyTableThatGrewOutOfSight() {
+        StoreFixture f;
+        QVERIFY(ask(f));
+        CanvasRoom *canvas = f.store->canvas();
+        QVERIFY(arrives(f, 9, table + u"\n\n"_s));
+        canvas->openLink(u"/team/ferry"_s);
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QVERIFY(arrives(f, 9, table + u"\n| Rudder | 7 |"_s));
+        f.clock.advance(2s);
+        QVERIFY(!canvas->awaitingAnswer());
+        QCOMPARE(canvas->state(), CanvasState::Page);
+        QCOMPARE(canvas->history()->at(1).spec->rows.size(), 3);
+        canvas->stepBack();
+        QCOMPARE(canvas->artScene().coRows.size(), 3);
     }
 
     void growsOnAfterASilence() {

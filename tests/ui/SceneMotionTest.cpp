@@ -14,6 +14,7 @@ private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u"qrc:|QML|file:"_s)); }
     void entrance_data();
     void entrance();
+    void entranceTakenBack();
     void redrawn();
     void stackRedrawn();
 
@@ -48,7 +49,15 @@ void SceneMotionTest::entrance() {
     QTest::qWait(700);
     QCOMPARE(lengthOf(0), track);
     QCOMPARE(lengthOf(5), 0.52 * track);
-    QCOMPARE(m_view.sheet()->opacity(), 1.0);
+    QCOMPARE(m_view.itemsOf("WorkloadScene").first()->opacity(), 1.0);
+}
+
+/// A scene that turns out to be one of before is there at once.
+void SceneMotionTest::entranceTakenBack() {
+    QQuickItem *page =
+        m_view.show(sceneOf(answerNamed(u"workload-plain"_s)), {{u"animated"_s, true}});
+    page->setProperty("animated", false);
+    QCOMPARE(m_view.itemsOf("WorkloadScene").first()->opacity(), 1.0);
 }
 
 /// Other figures of the same scene: rows stay, and only the bar that changed moves.

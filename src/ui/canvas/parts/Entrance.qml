@@ -8,8 +8,9 @@ QtObject {
 
     required property bool animated
 
-    /// Of the whole scene.
-    property real fade: 1
+    /// Of the whole scene, which is never left half way.
+    readonly property real fade: fading.running ? faded : 1
+    property real faded: 1
     /// Milliseconds since the scene came.
     property real elapsed: longest
 
@@ -19,7 +20,7 @@ QtObject {
 
     readonly property NumberAnimation fading: NumberAnimation {
         target: entrance
-        property: "fade"
+        property: "faded"
         running: entrance.animated
         from: 0
         to: 1
