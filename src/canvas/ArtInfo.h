@@ -21,6 +21,7 @@ struct ArtInfo {
     Q_PROPERTY(QString countLine MEMBER countLine)
     Q_PROPERTY(QList<kiv::canvas::ReplyChip> chips MEMBER chips)
     Q_PROPERTY(QList<kiv::canvas::CanvasFollowup> followups MEMBER followups)
+    Q_PROPERTY(QList<kiv::canvas::ReplyChip> offers READ offers STORED false)
 public:
     QString art;       ///< empty when nothing is drawn
     QString word;      ///< the art as a word, such as "Cash flow"
@@ -28,6 +29,10 @@ public:
     QString countLine; ///< the scene's count line
     QList<ReplyChip> chips;
     QList<CanvasFollowup> followups;
+
+    /// What one click says next: the replies that came with the answer, else what the scene
+    /// invites.
+    QList<ReplyChip> offers() const;
     friend bool operator==(const ArtInfo &, const ArtInfo &) = default;
 };
 

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void windowComesBack_data();
     void windowComesBack();
     void stepsByKeysAndButtons();
+    void backFromAPage();
+    void refineOffersQuestions();
     void samples();
 
 private:
@@ -129,6 +131,37 @@ void CanvasTest::stepsByKeysAndButtons() {
     m_gallery->save(u"canvas-hint-step"_s);
     m_gallery->click(u"stepBack"_s);
     QCOMPARE(canvas()->art(), u"report"_s);
+}
+
+/// The first page leads back to the scene before it, which is there at once.
+void CanvasTest::backFromAPage() {
+    open();
+    canvas()->openLink(u"/team/ferry"_s);
+    QTRY_VERIFY(m_gallery->find(u"pageBack"_s));
+    m_gallery->click(u"pageBack"_s);
+    QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
+    for (const QQuickItem *item = m_gallery->item(u"compareRows"_s); item;
+         item = item->parentItem())
+        QCOMPARE(item->opacity(), 1.0);
+}
+
+/// An answer without replies of its own is asked about what stands out in its scene.
+void CanvasTest::refineOffersQuestions() {
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, {1440, 900});
+    QVERIFY(m_workspace->ask(u"Show the trial funnel"_s,
+                             u"```chart\n{\"kind\":\"funnel\",\"points\":["
+                             "{\"label\":\"Visits\",\"value\":900},"
+                             "{\"label\":\"Trials\",\"value\":90}]}\n```"_s,
+                             u"funnel"_s));
+    m_gallery->click(u"refineButton"_s);
+    QTRY_VERIFY(m_gallery->find(u"replyChip:0"_s));
+    const QString question = u"Why do so few reach Trials?"_s;
+    QCOMPARE(m_gallery->item(u"replyChip:0"_s)->property("text").toString(), question);
+    m_gallery->save(u"canvas-refine"_s);
+    m_gallery->click(u"replyChip:0"_s);
+    QCOMPARE(m_workspace->store->chat()->lastPrompt(), question);
+    QTRY_VERIFY(!m_gallery->find(u"refineField"_s));
 }
 
 /// Every sample draws its art, says that it is one, and asks nothing.

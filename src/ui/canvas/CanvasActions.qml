@@ -95,9 +95,10 @@ Row {
         RefinePopover {
             id: refine
 
-            chips: actions.canvas.artInfo.chips
+            chips: actions.canvas.artInfo.offers
             onSubmitted: text => actions.chat.send(text)
-            onPicked: chip => actions.chat.pickChip(actions.canvas.sourceMessageId, chip)
+            onPicked: chip => actions.canvas.artInfo.chips.length > 0 ? actions.chat.pickChip(actions.canvas.sourceMessageId, chip)
+                : actions.chat.send(chip.send)
         }
         TipLoader {
             active: actions.compact && refineButton.hovered && !refine.visible

@@ -8,7 +8,7 @@ import Kiv.Tokens
 Popover {
     id: popover
 
-    /// The replies that the answer offers.
+    /// What may be asked with one click.
     required property list<replyChip> chips
 
     signal submitted(text: string)

@@ -2,6 +2,7 @@ import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
 import Kiv.Icons
+import Kiv.Store
 import Kiv.Tokens
 
 // The line above a page of the platform.
@@ -10,7 +11,10 @@ FocusScope {
 
     required property string title
     required property PageHost host
+    required property CanvasRoom canvas
 
+    /// The first page leads back to what the canvas showed before it.
+    readonly property bool leaves: !host.canGoBack && canvas.hasEarlier
     readonly property string browserText: qsTr("Open in the browser")
     readonly property bool narrow: width - 48 < Tokens.mediumBody
 
@@ -67,10 +71,10 @@ FocusScope {
         IconButton {
             objectName: "pageBack"
             iconName: "left"
-            text: qsTr("Back")
-            enabled: bar.host.canGoBack
+            text: bar.leaves ? qsTr("Earlier canvas") : qsTr("Back")
+            enabled: bar.leaves || bar.host.canGoBack
             opacity: enabled ? 1 : 0.45
-            onClicked: bar.host.back()
+            onClicked: bar.leaves ? bar.canvas.stepBack() : bar.host.back()
         }
         IconButton {
             objectName: "pageReload"

@@ -31,6 +31,7 @@ FocusScope {
         focus: true
         title: sheet.link.title
         host: host
+        canvas: sheet.store.canvas
         onBrowserRequested: sheet.browserRequested(host.address)
     }
     Rectangle {
