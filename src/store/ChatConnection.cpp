@@ -138,7 +138,6 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
                                answer->serverID == answerBefore->serverID;
     if (opening == Opening::Again && missedNothing)
         return; // what the person looks at stays
-    canvas->setIdle();
     using canvas::ConversationLine;
     QList<ConversationLine> lines;
     for (const Msg &message : m_msgs.messages())

@@ -20,7 +20,9 @@ QList<MsgFile> msgFiles(const net::ChatRow &row) {
     if (!row.metadata || !row.metadata->attachments)
         return files;
     for (const auto &attachment : *row.metadata->attachments) {
-        const QString url = attachment.url.value_or(attachment.publicUrl.value_or(QString()));
+        QString url = attachment.url.value_or(QString());
+        if (!isWebAddress(url))
+            url = attachment.publicUrl.value_or(QString());
         if (!isWebAddress(url))
             continue;
         MsgFile file;

@@ -291,6 +291,22 @@ private Q_SLOTS:
         QCOMPARE(canvas->query(), u"Question 6"_s);
     }
 
+    void signOutTakesEverything() {
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        f.row(9, reportBlock);
+        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
+        f.clock.advance(2s);
+        QCOMPARE(f.store->canvas()->history()->count(), 1);
+        f.store->session()->resetToAnon();
+        CanvasRoom *canvas = f.store->canvas();
+        QCOMPARE(canvas->state(), CanvasState::SignedOut);
+        QCOMPARE(canvas->art(), QString());
+        QCOMPARE(canvas->query(), QString());
+        QCOMPARE(canvas->history()->count(), 0);
+        QVERIFY(!canvas->hasEarlier());
+    }
+
     void messageLeadsToItsScene() {
         StoreFixture f;
         f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
@@ -311,6 +327,14 @@ private Q_SLOTS:
         QVERIFY(f.reconnect(kivChat));
         QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
         QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
+
+        // Neither does one that brings a link to a page: nobody asked for it here.
+        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
+                               rowJson(2, u"assistant"_s, reportBlock) + "," +
+                               rowJson(5, u"assistant"_s, u"[Board](/project/ferry)"_s) + "]");
+        QVERIFY(f.reconnect(kivChat));
+        QCOMPARE(f.texts().last(), u"[Board](/project/ferry)"_s);
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
     }
 
     void reopenedInTheMiddleOfATurn() {

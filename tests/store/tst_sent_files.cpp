@@ -64,6 +64,39 @@ private Q_SLOTS:
         QCOMPARE(f.msgs().count(), 2);
     }
 
+    /// Only what has an address of the web can be opened.
+    void filesOfARow_data() {
+        QTest::addColumn<QByteArray>("file");
+        QTest::addColumn<QString>("address");
+        QTest::newRow("one address")
+            << QByteArray(R"("url":"https://a.example/1")") << u"https://a.example/1"_s;
+        QTest::newRow("two")
+            << QByteArray(R"("url":"http://a.example/1","public_url":"https://b.example/1")")
+            << u"http://a.example/1"_s;
+        QTest::newRow("a public one")
+            << QByteArray(R"("public_url":"https://b.example/1")") << u"https://b.example/1"_s;
+        QTest::newRow("a place in the store and a public one")
+            << QByteArray(R"("url":"bucket/1","public_url":"https://b.example/1")")
+            << u"https://b.example/1"_s;
+        QTest::newRow("another scheme") << QByteArray(R"("url":"file:///etc/hosts")") << QString();
+        QTest::newRow("none") << QByteArray(R"("filename":"f")") << QString();
+    }
+    void filesOfARow() {
+        QFETCH(QByteArray, file);
+        QFETCH(QString, address);
+        AttachmentFixture f;
+        f.history(kivChat, R"([{"id":1,"role":"user","content":"x","metadata":)"
+                           R"({"attachments":[{"name":"plan.pdf",)" +
+                               file + "}]}}]");
+        QVERIFY(f.signIn());
+        const QList<MsgFile> files = f.msgs().messages().first().files;
+        QCOMPARE(files.size(), address.isEmpty() ? 0 : 1);
+        if (!files.isEmpty()) {
+            QCOMPARE(files.first().url, address);
+            QCOMPARE(files.first().name, u"plan.pdf"_s);
+        }
+    }
+
     void failedMessageKeepsItsFiles() {
         AttachmentFixture f;
         QVERIFY(f.signIn());
