@@ -47,6 +47,10 @@ Q_ENUM_NS(ScopeKind)
 enum class Who { You, Agent };
 Q_ENUM_NS(Who)
 
+/// The look that the person has chosen; System follows the desktop.
+enum class Theme { System, Light, Dark };
+Q_ENUM_NS(Theme)
+
 /// How far a message of ours has come.
 enum class Delivery { Stored, Pending, Failed };
 Q_ENUM_NS(Delivery)
