@@ -51,6 +51,10 @@ Q_ENUM_NS(Who)
 enum class Theme { System, Light, Dark };
 Q_ENUM_NS(Theme)
 
+/// What an error of the sign-in sheet is about.
+enum class AuthField { None, Email, Password };
+Q_ENUM_NS(AuthField)
+
 /// How far a message of ours has come.
 enum class Delivery { Stored, Pending, Failed };
 Q_ENUM_NS(Delivery)

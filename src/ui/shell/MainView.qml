@@ -160,7 +160,7 @@ FocusScope {
         anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
     SignInSheet {
-        session: view.store.session
+        store: view.store
     }
     Connections {
         target: LinkOpener
