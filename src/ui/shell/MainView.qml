@@ -103,8 +103,14 @@ FocusScope {
     EdgeHandle {
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
+        objectName: "railEdge"
         x: view.layout.shownRailW - width / 2
         visible: view.railShown
+        name: qsTr("Width of the rail")
+        value: view.layout.shownRailW
+        from: view.layout.leastRailW
+        to: view.layout.mostRailW
+        onSized: size => view.layout.dragRail(size)
         onDragged: place => view.layout.dragRail(place)
         onResetRequested: view.layout.resetRail()
     }
