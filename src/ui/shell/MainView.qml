@@ -224,6 +224,16 @@ FocusScope {
         }
     }
     Shortcut {
+    Connections {
+        target: view.store.call
+
+        function onCallHintChanged() {
+            if (view.store.call.callHint === "")
+                return
+            Toasts.show(view.store.call.callHint)
+            view.store.call.dismissHint()
+        }
+    }
         sequence: "Ctrl+Shift+P"
         onActivated: commandPalette.visible = !commandPalette.visible
     }
