@@ -43,6 +43,7 @@ void AppStore::boot() {
 
 void AppStore::resetSurfaces() {
     m_layout.closeSurfaces();
+    m_canvas.closePanel();
     m_canvas.setIdle();
 }
 

@@ -30,6 +30,7 @@ enum class CanvasState {
     BuildingScene,
     Scene,
     Page,
+    Panel,
     Hint,
     Failed
 };

@@ -124,11 +124,19 @@ FocusScope {
         Keys.onEscapePressed: event => event.accepted = view.layout.leaveCanvasFull()
 
         CanvasView {
+            id: canvasView
+
             anchors.fill: parent
             focus: true
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
             onMessageRequested: messageId => view.reveal(messageId)
+        }
+        PanelPlace {
+            anchors.fill: parent
+            anchors.bottomMargin: canvasView.reserved
+            store: view.store
+            onActiveChanged: if (!active) canvasView.focus = true
         }
         Composer {
             id: floating
@@ -217,14 +225,6 @@ FocusScope {
         }
     }
     Connections {
-        target: view.layout
-
-        function onFocusAskRequestsChanged() {
-            view.focusAsk()
-        }
-    }
-    Shortcut {
-    Connections {
         target: view.store.call
 
         function onCallHintChanged() {
@@ -234,6 +234,14 @@ FocusScope {
             view.store.call.dismissHint()
         }
     }
+    Connections {
+        target: view.layout
+
+        function onFocusAskRequestsChanged() {
+            view.focusAsk()
+        }
+    }
+    Shortcut {
         sequence: "Ctrl+Shift+P"
         onActivated: commandPalette.visible = !commandPalette.visible
     }

@@ -37,6 +37,29 @@ FocusScope {
         width: parent.width - 1
         height: rail.listHeight
         scope: rail.store.scope
+        onSearchRequested: typed => {
+            finder.typed = typed
+            rail.layout.toggleScope()
+        }
+    }
+    Item {
+        x: 12
+        y: 12
+        width: parent.width - 25
+        height: 48
+
+        ScopePopover {
+            id: finder
+
+            objectName: "railFinder"
+            store: rail.store
+            most: rail.height * 0.7
+            visible: rail.layout.scopeOpen && rail.visible
+            onAboutToHide: rail.layout.closePopovers()
+        }
+    }
+    RailSkeleton {
+        visible: !rail.signedIn
     }
     EdgeHandle {
         id: split
