@@ -27,6 +27,11 @@ Application::Application(const Options &options)
     m_store->attachments()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
     m_store->setWebHost(&m_webHost);
+    if (options.theme)
+        m_store->appearance()->presetTheme(*options.theme);
+    QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),
+                     &store::AppearanceRoom::setSystemDark);
+    m_systemLook.watch();
 }
 
 Application::~Application() {
@@ -40,7 +45,6 @@ void Application::start() {
     // The server comes up while the window is being made.
     m_start.start([this](Cancel cancel) { return connectToBackend(std::move(cancel)); });
     ui::WindowLook look;
-    look.theme = m_options.theme == Theme::Dark ? ui::Appearance::Dark : ui::Appearance::Light;
     if (!m_options.snapshot) {
         look.frame = m_frame.restored();
         look.maximized = m_frame.wasMaximized();

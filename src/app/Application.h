@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/EmbeddedServer.h"
 #include "app/Options.h"
+#include "app/SystemLook.h"
 #include "app/WindowFrame.h"
 #include "base/SystemClock.h"
 #include "base/Work.h"
@@ -45,6 +46,7 @@ private:
     SystemClock m_clock;
     QSettings m_settings;
     WindowFrame m_frame;
+    SystemLook m_systemLook{QDBusConnection::sessionBus()};
     net::SystemConnectivity m_connectivity;
     std::unique_ptr<net::APIClient> m_net;
     std::unique_ptr<EmbeddedServer> m_server;

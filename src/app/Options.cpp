@@ -8,13 +8,24 @@ namespace kiv::app {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+store::Theme themeNamed(const QString &name) {
+    if (name == u"dark"_s)
+        return store::Theme::Dark;
+    return name == u"system"_s ? store::Theme::System : store::Theme::Light;
+}
+
+} // namespace
+
 Options readOptions(const QStringList &arguments) {
     const QCommandLineOption baseUrl(
         u"base-url"_s, u"Talk to the workspace at this address instead of the embedded one."_s,
         u"address"_s);
     const QCommandLineOption snapshot(u"snapshot"_s,
                                       u"Start with default panels and keep nothing."_s);
-    const QCommandLineOption theme(u"theme"_s, u"light or dark."_s, u"name"_s, u"light"_s);
+    const QCommandLineOption theme(
+        u"theme"_s, u"light, dark or system; otherwise the one chosen in the window."_s, u"name"_s);
     const QCommandLineOption profile(
         u"profile"_s, u"Keep settings, session and workspace in this folder."_s, u"folder"_s);
 
@@ -27,7 +38,8 @@ Options readOptions(const QStringList &arguments) {
 
     Options options;
     options.snapshot = parser.isSet(snapshot);
-    options.theme = parser.value(theme) == u"dark"_s ? Theme::Dark : Theme::Light;
+    if (parser.isSet(theme))
+        options.theme = themeNamed(parser.value(theme));
     options.places =
         parser.isSet(profile) ? Places::below(parser.value(profile)) : Places::standard();
     const QString address =

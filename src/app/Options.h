@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Places.h"
+#include "store/Enums.h"
 
 #include <QStringList>
 #include <QUrl>
@@ -9,14 +10,13 @@
 
 namespace kiv::app {
 
-enum class Theme { Light, Dark };
-
 /// What the command line and the environment ask for.
 struct Options {
     /// A hosted backend; nothing for the embedded workspace.
     std::optional<QUrl> baseUrl;
     bool snapshot = false;
-    Theme theme = Theme::Light;
+    /// The look of this run; nothing for the one that the person has chosen.
+    std::optional<store::Theme> theme;
     Places places;
     /// Further arguments of the embedded server.
     QStringList sandboxArguments;

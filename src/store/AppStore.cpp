@@ -22,11 +22,13 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_session(*this),
       m_connection(*this),
       m_calendar(clock),
+      m_appearance(settings),
       m_update(*this) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();
     m_layout.startPersisting();
+    m_appearance.startPersisting();
     m_scope.startPersisting();
 }
 
@@ -41,6 +43,7 @@ void AppStore::boot() {
 
 void AppStore::resetSurfaces() {
     m_layout.closeSurfaces();
+    m_canvas.closePanel();
     m_canvas.setIdle();
 }
 

@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "net/APIClient.h"
 #include "net/ChatStreamClient.h"
+#include "store/AppearanceRoom.h"
 #include "store/AttachmentRoom.h"
 #include "store/Calendar.h"
 #include "store/CallRoom.h"
@@ -44,6 +45,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
+    Q_PROPERTY(kiv::store::AppearanceRoom *appearance READ appearance CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
@@ -65,6 +67,7 @@ public:
     ConnectionRoom *connection() { return &m_connection; }
     Calendar *calendar() { return &m_calendar; }
     CallRoom *call() { return &m_call; }
+    AppearanceRoom *appearance() { return &m_appearance; }
     UpdateRoom *update() { return &m_update; }
 
     Clock &clock() { return m_clock; }
@@ -102,6 +105,7 @@ private:
     ConnectionRoom m_connection;
     Calendar m_calendar;
     CallRoom m_call;
+    AppearanceRoom m_appearance;
     UpdateRoom m_update;
 };
 

@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
+const QString eventsPanel = u"events"_s;
 constexpr auto buildingPause = 500ms;
 
 const QString noDataHint =
@@ -36,6 +37,8 @@ CanvasRoom::CanvasRoom(AppStore &store) : m_store(store) {
         }
         if (m_signedOut)
             return CanvasState::SignedOut;
+        if (!m_panel.value().isEmpty())
+            return CanvasState::Panel;
         if (!m_pageView.value().url.isEmpty())
             return CanvasState::Page;
         if (m_failed)
@@ -65,6 +68,7 @@ void CanvasRoom::setIdle() {
 
 void CanvasRoom::showHint() {
     clearDrawnArt();
+    closePanel();
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = noDataHint;
     setIdle();
@@ -92,6 +96,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
 void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info,
                       Entrance entrance) {
     setPlace({});
+    closePanel();
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
     m_failed = false;
@@ -160,10 +165,20 @@ void CanvasRoom::clearDrawnArt() {
 void CanvasRoom::clearCanvas() {
     clearDrawnArt();
     m_drawnSpecKey.reset();
+    closePanel();
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
     m_failed = false;
     setIdle();
+}
+
+void CanvasRoom::openPanel(const QString &id) {
+    m_store.layout()->closePopovers();
+    m_store.layout()->closePages();
+    clearCanvas();
+    m_panel = id;
+    if (id == eventsPanel)
+        m_store.events()->loadEvents();
 }
 
 void CanvasRoom::forgetAll() {
@@ -179,6 +194,7 @@ void CanvasRoom::openSurface(const canvas::SurfaceLink &link, Record record) {
     m_store.layout()->closePages();
     clearDrawnArt();
     m_drawnSpecKey.reset();
+    closePanel();
     m_canvasHint = QString();
     m_failed = false;
     m_pageView = link;

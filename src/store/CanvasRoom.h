@@ -43,6 +43,7 @@ class CanvasRoom : public QObject {
     Q_PROPERTY(QString sourceTime READ sourceTime NOTIFY sourceTimeChanged)
     Q_PROPERTY(QString sourceMessageId READ sourceMessageId NOTIFY sourceMessageIdChanged)
     Q_PROPERTY(kiv::canvas::SurfaceLink pageView READ pageView NOTIFY pageViewChanged)
+    Q_PROPERTY(QString panel READ panel NOTIFY panelChanged)
     Q_PROPERTY(kiv::store::HistoryModel *history READ history CONSTANT)
     Q_PROPERTY(bool hasEarlier READ hasEarlier NOTIFY stepsChanged)
     Q_PROPERTY(bool hasLater READ hasLater NOTIFY stepsChanged)
@@ -75,6 +76,8 @@ public:
     QString sourceMessageId() const { return m_sourceMessageId; }
     /// The page of the platform that the canvas shows; without an address for none.
     canvas::SurfaceLink pageView() const { return m_pageView; }
+    /// The page of the program itself that the canvas shows, "agents" or "events"; empty for none.
+    QString panel() const { return m_panel; }
     HistoryModel *history() { return &m_history; }
     /// Whether the history holds something older than what the canvas shows, or newer.
     bool hasEarlier() const;
@@ -99,6 +102,9 @@ public:
     /// Opens a link of a message in the canvas when it leads to a page of the platform. What comes
     /// back is the address to open in the browser; empty when there is none.
     Q_INVOKABLE QUrl openLink(const QString &link);
+    /// Shows a page of the program itself in place of what was drawn.
+    Q_INVOKABLE void openPanel(const QString &id);
+    Q_INVOKABLE void closePanel() { m_panel = QString(); }
 
     /// A question was sent: the old scene goes, the skeleton comes.
     void beginTurn(const QString &question, QSet<qint64> knownIds);
@@ -135,6 +141,7 @@ Q_SIGNALS:
     void sourceMessageIdChanged();
     void pageViewChanged();
     void stepsChanged();
+    void panelChanged();
 
 private:
     /// How a scene comes: with its entrance, without, or with it unless that art is drawn already.
@@ -212,6 +219,7 @@ private:
                                &CanvasRoom::sourceMessageIdChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, canvas::SurfaceLink, m_pageView,
                                &CanvasRoom::pageViewChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_panel, &CanvasRoom::panelChanged)
 
     Work m_scenarioTask;
     Work m_buildTask;

@@ -30,6 +30,7 @@ enum class CanvasState {
     BuildingScene,
     Scene,
     Page,
+    Panel,
     Hint,
     Failed
 };
@@ -46,6 +47,14 @@ Q_ENUM_NS(ScopeKind)
 /// Which side wrote a message.
 enum class Who { You, Agent };
 Q_ENUM_NS(Who)
+
+/// The look that the person has chosen; System follows the desktop.
+enum class Theme { System, Light, Dark };
+Q_ENUM_NS(Theme)
+
+/// What an error of the sign-in sheet is about.
+enum class AuthField { None, Email, Password };
+Q_ENUM_NS(AuthField)
 
 /// How far a message of ours has come.
 enum class Delivery { Stored, Pending, Failed };

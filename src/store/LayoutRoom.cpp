@@ -16,35 +16,47 @@ namespace {
 
 const QString railWKey = u"zandor.railW"_s;
 const QString dockWKey = u"zandor.dockW"_s;
+const QString navigatorShareKey = u"zandor.navigatorShare"_s;
 const QString railCollapsedKey = u"zandor.railCollapsed"_s;
 const QString dockOpenKey = u"zandor.dockOpen"_s;
 constexpr auto saveDelay = 200ms;
 const QString firstAccountTab = u"profile"_s;
 
-/// A saved width within its limits; nothing when there is none or it is no number.
-std::optional<double> savedWidth(const QSettings &settings, const QString &key, double least,
-                                 double most) {
+/// A saved size within its limits; nothing when there is none or it is no number.
+std::optional<double> savedSize(const QSettings &settings, const QString &key, double least,
+                                double most) {
     bool isNumber = false;
-    const double width = settings.value(key).toDouble(&isNumber);
-    if (!isNumber || !std::isfinite(width))
+    const double size = settings.value(key).toDouble(&isNumber);
+    if (!isNumber || !std::isfinite(size))
         return std::nullopt;
-    return std::clamp(width, least, most);
+    return std::clamp(size, least, most);
+}
+
+/// `wanted`, but no more than there is room for and at least `least`.
+double clampedFrom(double least, double wanted, double room) {
+    return std::clamp(wanted, least, std::max(least, room));
 }
 
 } // namespace
 
 LayoutRoom::LayoutRoom(AppStore &store, QSettings &settings, Clock &clock)
     : m_store(store), m_settings(settings), m_clock(clock) {
-    m_railShown.setBinding(
-        [this] { return !m_railCollapsed && m_windowWidth >= railMinW + canvasMinW; });
-    m_shownRailW.setBinding([this] {
-        return std::clamp(m_railW.value(), railMinW,
-                          std::max(railMinW, m_windowWidth - canvasMinW));
+    m_railShown.setBinding([this] {
+        const double dock = m_dockOpen ? dockMinW : 0;
+        return !m_railCollapsed && m_windowWidth >= railMinW + dock + canvasMinW;
     });
     m_shownDockW.setBinding([this] {
-        const double beside = m_windowWidth - stripW;
-        return std::clamp(m_dockW.value(), dockMinW, std::max(dockMinW, beside));
+        const double rail = m_railShown ? m_railW.value() : stripW;
+        return clampedFrom(dockMinW, m_dockW, m_windowWidth - rail - canvasMinW);
     });
+    m_shownRailW.setBinding([this] {
+        const double dock = m_dockOpen ? m_shownDockW.value() : 0;
+        return clampedFrom(railMinW, m_railW, m_windowWidth - dock - canvasMinW);
+    });
+}
+
+LayoutRoom::~LayoutRoom() {
+    saveNow();
 }
 
 void LayoutRoom::setWindowWidth(double width) {
@@ -61,9 +73,16 @@ void LayoutRoom::dragDock(double width) {
         m_dockW = std::clamp(width, dockMinW, dockMaxW);
 }
 
+void LayoutRoom::dragNavigator(double share) {
+    if (std::isfinite(share))
+        m_navigatorShare = std::clamp(share, navigatorMinShare, navigatorMaxShare);
+}
+
 void LayoutRoom::toggleRail() {
-    // What the canvas hides comes back before it is changed.
-    if (!leaveCanvasFull())
+    // What the canvas hides comes back before it is changed, and a rail that folded by itself
+    // beside the dock comes back when the dock goes.
+    const bool foldedByItself = m_dockOpen && !m_railShown && !m_railCollapsed;
+    if (!leaveCanvasFull() && !foldedByItself)
         m_railCollapsed = !m_railCollapsed;
     m_dockOpen = false;
     m_topScopeOpen = false;
@@ -179,25 +198,38 @@ void LayoutRoom::closeDock() {
 }
 
 void LayoutRoom::restoreChrome() {
-    if (const auto width = savedWidth(m_settings, railWKey, railMinW, railMaxW))
+    if (const auto width = savedSize(m_settings, railWKey, railMinW, railMaxW))
         m_railW = *width;
-    if (const auto width = savedWidth(m_settings, dockWKey, dockMinW, dockMaxW))
+    if (const auto width = savedSize(m_settings, dockWKey, dockMinW, dockMaxW))
         m_dockW = *width;
+    if (const auto share =
+            savedSize(m_settings, navigatorShareKey, navigatorMinShare, navigatorMaxShare))
+        m_navigatorShare = *share;
     m_railCollapsed = m_settings.value(railCollapsedKey).toBool();
     m_dockOpen = m_settings.value(dockOpenKey).toBool();
 }
 
 void LayoutRoom::startPersisting() {
-    connect(this, &LayoutRoom::railWChanged, this, [this] {
-        m_saveRailW = m_clock.after(saveDelay, [this] { m_settings.setValue(railWKey, railW()); });
-    });
-    connect(this, &LayoutRoom::dockWChanged, this, [this] {
-        m_saveDockW = m_clock.after(saveDelay, [this] { m_settings.setValue(dockWKey, dockW()); });
-    });
+    connect(this, &LayoutRoom::railWChanged, this, [this] { saveSoon(railWKey, railW()); });
+    connect(this, &LayoutRoom::dockWChanged, this, [this] { saveSoon(dockWKey, dockW()); });
+    connect(this, &LayoutRoom::navigatorShareChanged, this,
+            [this] { saveSoon(navigatorShareKey, navigatorShare()); });
     connect(this, &LayoutRoom::railCollapsedChanged, this,
             [this] { m_settings.setValue(railCollapsedKey, railCollapsed()); });
     connect(this, &LayoutRoom::dockOpenChanged, this,
             [this] { m_settings.setValue(dockOpenKey, dockOpen()); });
+}
+
+/// Sizes change with every move of the pointer; they are saved once they rest.
+void LayoutRoom::saveSoon(const QString &key, double size) {
+    m_unsaved[key] = size;
+    m_save = m_clock.after(saveDelay, [this] { saveNow(); });
+}
+
+void LayoutRoom::saveNow() {
+    for (const auto &[key, size] : m_unsaved)
+        m_settings.setValue(key, size);
+    m_unsaved.clear();
 }
 
 } // namespace kiv::store

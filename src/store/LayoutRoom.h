@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QProperty>
 
+#include <map>
+
 class QSettings;
 
 namespace kiv::store {
@@ -20,6 +22,7 @@ class LayoutRoom : public QObject {
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(double railW READ railW NOTIFY railWChanged)
     Q_PROPERTY(double dockW READ dockW NOTIFY dockWChanged)
+    Q_PROPERTY(double navigatorShare READ navigatorShare NOTIFY navigatorShareChanged)
     Q_PROPERTY(bool railCollapsed READ railCollapsed NOTIFY railCollapsedChanged)
     Q_PROPERTY(bool dockOpen READ dockOpen NOTIFY dockOpenChanged)
     Q_PROPERTY(bool scopeOpen READ scopeOpen NOTIFY scopeOpenChanged)
@@ -30,6 +33,12 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
     Q_PROPERTY(QString creating READ creating NOTIFY creatingChanged)
     Q_PROPERTY(int focusAskRequests READ focusAskRequests NOTIFY focusAskRequestsChanged)
+    Q_PROPERTY(double leastRailW READ leastRailW CONSTANT)
+    Q_PROPERTY(double mostRailW READ mostRailW CONSTANT)
+    Q_PROPERTY(double leastDockW READ leastDockW CONSTANT)
+    Q_PROPERTY(double mostDockW READ mostDockW CONSTANT)
+    Q_PROPERTY(double leastNavigatorShare READ leastNavigatorShare CONSTANT)
+    Q_PROPERTY(double mostNavigatorShare READ mostNavigatorShare CONSTANT)
     Q_PROPERTY(double shownRailW READ shownRailW NOTIFY shownRailWChanged)
     Q_PROPERTY(double shownDockW READ shownDockW NOTIFY shownDockWChanged)
     Q_PROPERTY(bool railShown READ railShown NOTIFY railShownChanged)
@@ -39,11 +48,15 @@ public:
     static constexpr double canvasMinW = 360;
     static constexpr double railMinW = 280, railMaxW = 640, railFirstW = 360;
     static constexpr double dockMinW = 480, dockMaxW = 1100, dockFirstW = 760;
+    static constexpr double navigatorMinShare = 0.15, navigatorMaxShare = 0.55;
 
     LayoutRoom(AppStore &store, QSettings &settings, Clock &clock);
+    ~LayoutRoom() override;
 
     double railW() const { return m_railW; }
     double dockW() const { return m_dockW; }
+    /// The part of the rail's height that the list of projects and agents may take.
+    double navigatorShare() const { return m_navigatorShare; }
     bool railCollapsed() const { return m_railCollapsed; }
     bool dockOpen() const { return m_dockOpen; }
     bool scopeOpen() const { return m_scopeOpen; }
@@ -60,17 +73,28 @@ public:
     /// Counts how often the cursor was asked into the ask bar; the view follows each.
     int focusAskRequests() const { return m_focusAskRequests; }
 
-    /// What fits the window now; narrowness never changes what the person set.
+    /// What fits the window now; narrowness never changes what the person set. Canvas, rail and
+    /// dock share the window: the dock gives way first, then the rail, which then folds by itself.
     double shownRailW() const { return m_shownRailW; }
     double shownDockW() const { return m_shownDockW; }
     bool railShown() const { return m_railShown; }
     /// Whether the canvas has the window for itself.
     bool canvasFull() const { return m_canvasFull; }
 
+    static double leastRailW() { return railMinW; }
+    static double mostRailW() { return railMaxW; }
+    static double leastDockW() { return dockMinW; }
+    static double mostDockW() { return dockMaxW; }
+    static double leastNavigatorShare() { return navigatorMinShare; }
+    static double mostNavigatorShare() { return navigatorMaxShare; }
+
     Q_INVOKABLE void setWindowWidth(double width);
     Q_INVOKABLE void dragRail(double width);
     Q_INVOKABLE void dragDock(double width);
+    Q_INVOKABLE void dragNavigator(double share);
     Q_INVOKABLE void resetRail() { dragRail(railFirstW); }
+    Q_INVOKABLE void resetDock() { dragDock(dockFirstW); }
+    Q_INVOKABLE void resetNavigator() { dragNavigator(navigatorMaxShare); }
     Q_INVOKABLE void toggleRail();
     Q_INVOKABLE void toggleDock();
     Q_INVOKABLE void dockToRail();
@@ -104,6 +128,7 @@ public:
 Q_SIGNALS:
     void railWChanged();
     void dockWChanged();
+    void navigatorShareChanged();
     void railCollapsedChanged();
     void dockOpenChanged();
     void scopeOpenChanged();
@@ -121,16 +146,21 @@ Q_SIGNALS:
     void canvasFullChanged();
 
 private:
+    void saveSoon(const QString &key, double size);
+    void saveNow();
+
     AppStore &m_store;
     QSettings &m_settings;
     Clock &m_clock;
-    Clock::Timer m_saveRailW;
-    Clock::Timer m_saveDockW;
+    Clock::Timer m_save;
+    std::map<QString, double> m_unsaved; ///< sizes, by the key of their setting
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_railW, railFirstW,
                                          &LayoutRoom::railWChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_dockW, dockFirstW,
                                          &LayoutRoom::dockWChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_navigatorShare, navigatorMaxShare,
+                                         &LayoutRoom::navigatorShareChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railCollapsed, &LayoutRoom::railCollapsedChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_dockOpen, &LayoutRoom::dockOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_scopeOpen, &LayoutRoom::scopeOpenChanged)

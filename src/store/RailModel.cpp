@@ -92,6 +92,20 @@ QHash<int, QByteArray> RailModel::roleNames() const {
             {SelectedRole, "selected"}, {ExpandedRole, "expanded"}};
 }
 
+int selectableRow(const QAbstractItemModel &rows, int row, int by) {
+    const int step = by < 0 ? -1 : 1;
+    int left = by * step;
+    int reached = row;
+    for (int next = row + step; left > 0 && next >= 0 && next < rows.rowCount(); next += step) {
+        const RailRow kind = rows.index(next, 0).data(RailModel::KindRole).value<RailRow>();
+        if (kind == RailRow::SectionLabel)
+            continue;
+        reached = next;
+        --left;
+    }
+    return reached;
+}
+
 RailView::RailView(RailModel *rail, QObject *parent) : QSortFilterProxyModel(parent), m_rail(rail) {
     setSourceModel(rail);
 }

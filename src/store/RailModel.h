@@ -55,6 +55,10 @@ private:
     QString m_agent;
 };
 
+/// The row of a list of rail entries that is `by` selectable rows away from `row`, or the last one
+/// in that direction; labels are passed over.
+int selectableRow(const QAbstractItemModel &rows, int row, int by);
+
 /// The rows of the rail that show: agents only below an expanded project.
 class RailView : public QSortFilterProxyModel {
     Q_OBJECT
@@ -62,6 +66,8 @@ class RailView : public QSortFilterProxyModel {
     QML_UNCREATABLE("owned by the store")
 public:
     explicit RailView(RailModel *rail, QObject *parent = nullptr);
+    /// As selectableRow().
+    Q_INVOKABLE int stepped(int row, int by) const { return selectableRow(*this, row, by); }
 
 protected:
     bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
@@ -80,6 +86,8 @@ public:
     explicit ScopeChoices(RailModel *rail, QObject *parent = nullptr);
     QString query() const { return m_query; }
     void setQuery(const QString &query);
+    /// As selectableRow().
+    Q_INVOKABLE int stepped(int row, int by) const { return selectableRow(*this, row, by); }
 
 Q_SIGNALS:
     void queryChanged();

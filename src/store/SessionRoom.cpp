@@ -1,6 +1,7 @@
 #include "store/SessionRoom.h"
 
 #include "base/Text.h"
+#include "net/APIError.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 
@@ -11,8 +12,26 @@ namespace kiv::store {
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr qsizetype leastPassword = 8;
+
+/// What the person can change so that a refused attempt succeeds.
+AuthField fieldOf(const std::exception &error, bool signup) {
+    const auto *refusal = dynamic_cast<const net::APIError *>(&error);
+    if (!refusal)
+        return AuthField::None;
+    switch (refusal->kind()) {
+    case net::APIError::Kind::Unauthorized:
+        return AuthField::Password;
+    case net::APIError::Kind::Server:
+        // An address that is taken, or is none.
+        return refusal->status() < 500 && signup ? AuthField::Email : AuthField::None;
+    default:
+        return AuthField::None;
+    }
 }
+
+} // namespace
 
 SessionRoom::SessionRoom(AppStore &store) : m_store(store) {}
 
@@ -66,7 +85,8 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
 void SessionRoom::submitAuth(const QString &email, const QString &password, bool signup) {
     const QString address = email.trimmed();
     if (address.isEmpty() || characterCount(password) < leastPassword) {
-        m_authError = u"Enter a valid email and a password of at least 8 characters."_s;
+        reportError(address.isEmpty() ? AuthField::Email : AuthField::Password,
+                    u"Enter a valid email and a password of at least 8 characters."_s);
         return;
     }
     m_auth.restart([this, address, password, signup](Cancel cancel) {
@@ -90,9 +110,17 @@ QCoro::Task<void> SessionRoom::authenticate(QString email, QString password, boo
         m_authSheet = AuthSheetMode::Closed;
     } catch (const std::exception &error) {
         const QString text = net::errorText(error);
-        m_authError = text.isEmpty() ? u"Sign in failed."_s : text;
+        m_busy = false;
+        cancel.throwIfRequested();
+        reportError(fieldOf(error, signup), text.isEmpty() ? u"Sign in failed."_s : text);
     }
     m_busy = false;
+}
+
+void SessionRoom::reportError(AuthField field, const QString &text) {
+    m_errorField = field;
+    m_authError = text;
+    Q_EMIT authFailed();
 }
 
 void SessionRoom::trySample() {

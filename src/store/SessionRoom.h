@@ -28,6 +28,7 @@ class SessionRoom : public QObject {
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(kiv::store::AuthSheetMode authSheet READ authSheet NOTIFY authSheetChanged)
     Q_PROPERTY(QString authError READ authError NOTIFY authErrorChanged)
+    Q_PROPERTY(kiv::store::AuthField errorField READ errorField NOTIFY errorFieldChanged)
     Q_PROPERTY(bool busy READ busy NOTIFY busyChanged)
     Q_PROPERTY(bool sampleOffered READ sampleOffered NOTIFY sampleOfferedChanged)
 public:
@@ -35,6 +36,8 @@ public:
 
     AuthSheetMode authSheet() const { return m_authSheet; }
     QString authError() const { return m_authError; }
+    /// What the error is about; None for a failure that neither field can mend.
+    AuthField errorField() const { return m_errorField; }
     /// A sign-in is under way.
     bool busy() const { return m_busy; }
     bool sampleOffered() const { return m_sampleOffered; }
@@ -58,6 +61,9 @@ public:
 Q_SIGNALS:
     void authSheetChanged();
     void authErrorChanged();
+    void errorFieldChanged();
+    /// An attempt to sign in has failed, perhaps with the same error as the one before.
+    void authFailed();
     void busyChanged();
     void sampleOfferedChanged();
 
@@ -65,6 +71,7 @@ private:
     QCoro::Task<void> checkSession(Cancel cancel);
     QCoro::Task<void> bootLive(Cancel cancel);
     QCoro::Task<void> authenticate(QString email, QString password, bool signup, Cancel cancel);
+    void reportError(AuthField field, const QString &text);
     QCoro::Task<void> signOut(Cancel cancel);
 
     AppStore &m_store;
@@ -72,6 +79,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SessionRoom, AuthSheetMode, m_authSheet,
                                          AuthSheetMode::Closed, &SessionRoom::authSheetChanged)
     Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, QString, m_authError, &SessionRoom::authErrorChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SessionRoom, AuthField, m_errorField, AuthField::None,
+                                         &SessionRoom::errorFieldChanged)
     Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_busy, &SessionRoom::busyChanged)
     Q_OBJECT_BINDABLE_PROPERTY(SessionRoom, bool, m_sampleOffered,
                                &SessionRoom::sampleOfferedChanged)

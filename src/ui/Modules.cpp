@@ -45,7 +45,11 @@ Appearance &registerModules(QQmlEngine &engine) {
 
 void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store, Commands &commands,
                     const WindowLook &look) {
-    registerModules(engine).setDark(look.theme == Appearance::Dark);
+    Appearance &views = registerModules(engine);
+    const store::AppearanceRoom *chosen = store.appearance();
+    views.setDark(chosen->dark());
+    QObject::connect(chosen, &store::AppearanceRoom::darkChanged, &views,
+                     [chosen, &views] { views.setDark(chosen->dark()); });
     QVariantMap properties = {{u"store"_s, QVariant::fromValue(&store)},
                               {u"commands"_s, QVariant::fromValue(&commands)}};
     if (look.frame) {

@@ -19,7 +19,6 @@ class Commands;
 
 /// How the window is opened.
 struct WindowLook {
-    Appearance::Theme theme = Appearance::Light;
     /// Where it stands; nothing leaves that to the system.
     std::optional<QRect> frame = {};
     bool maximized = false;

@@ -13,6 +13,8 @@ using test::reportBlock;
 using test::rowJson;
 using test::StoreFixture;
 
+Q_DECLARE_METATYPE(std::function<void(StoreFixture &)>)
+
 namespace {
 
 const QString hint = u"No data to draw in this answer — ask for the numbers as a table or a list"_s;
@@ -263,6 +265,41 @@ private Q_SLOTS:
         f.row(13, QString(reportBlock).replace(u"47"_s, u"48"_s));
         SOON_COMPARE(canvas->canvasTitle(), u"Week 48"_s);
         QCOMPARE(canvas->history()->count(), 3);
+    }
+
+    void panelIsLeft_data() {
+        QTest::addColumn<std::function<void(StoreFixture &)>>("leave");
+        const auto row = [](const char *name, const std::function<void(StoreFixture &)> &leave) {
+            QTest::newRow(name) << leave;
+        };
+        row("a question", [](StoreFixture &f) { f.store->chat()->send(u"And now?"_s); });
+        row("another scope", [](StoreFixture &f) { f.store->scope()->enterProject(u"ferry"_s); });
+        row("the same scope", [](StoreFixture &f) { f.store->scope()->pickGlobal(); });
+        row("the history", [](StoreFixture &f) { f.store->canvas()->openHistory(0); });
+        row("a message", [](StoreFixture &f) {
+            f.store->canvas()->showMessageCanvas(f.msgs().messages().last().id.toString());
+        });
+        row("by itself", [](StoreFixture &f) { f.store->canvas()->closePanel(); });
+        row("signing out", [](StoreFixture &f) { f.store->session()->resetToAnon(); });
+    }
+    void panelIsLeft() {
+        QFETCH(std::function<void(StoreFixture &)>, leave);
+        StoreFixture f;
+        QVERIFY(ask(f, u"Weekly report"_s));
+        CanvasRoom *canvas = f.store->canvas();
+        f.row(9, reportBlock);
+        SOON_VERIFY(canvas->phase() == Phase::Building);
+        f.clock.advance(2s);
+        SOON_VERIFY(canvas->state() == CanvasState::Scene);
+        f.store->layout()->openAccount();
+        f.store->layout()->startCreate(u"agent"_s);
+        canvas->openPanel(u"agents"_s);
+        QCOMPARE(canvas->state(), CanvasState::Panel);
+        QVERIFY(!f.store->layout()->isAccount() && !f.store->layout()->isCreating());
+        QCOMPARE(canvas->art(), QString());
+        leave(f);
+        QCOMPARE(canvas->panel(), QString());
+        QVERIFY(canvas->state() != CanvasState::Panel);
     }
 
     void historyKeepsTwenty() {

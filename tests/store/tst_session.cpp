@@ -19,9 +19,12 @@ private Q_SLOTS:
     void refusedBeforeAsking_data() {
         QTest::addColumn<QString>("email");
         QTest::addColumn<QString>("password");
-        QTest::newRow("short password") << u"ada@example.org"_s << u"1234567"_s;
-        QTest::newRow("four characters of two units each") << u"ada@example.org"_s << u"🔑🔑🔑🔑"_s;
-        QTest::newRow("blank address") << u" \n\t"_s << u"12345678"_s;
+        QTest::addColumn<AuthField>("field");
+        QTest::newRow("short password")
+            << u"ada@example.org"_s << u"1234567"_s << AuthField::Password;
+        QTest::newRow("four characters of two units each")
+            << u"ada@example.org"_s << u"🔑🔑🔑🔑"_s << AuthField::Password;
+        QTest::newRow("blank address") << u" \n\t"_s << u"12345678"_s << AuthField::Email;
     }
     void refusedBeforeAsking() {
         QFETCH(QString, email);
@@ -30,6 +33,7 @@ private Q_SLOTS:
         f.store->session()->submitAuth(email, password, false);
         QCOMPARE(f.store->session()->authError(),
                  u"Enter a valid email and a password of at least 8 characters."_s);
+        QTEST(f.store->session()->errorField(), "field");
         QVERIFY(!f.store->session()->busy());
         QTest::qWait(0);
         QCOMPARE(f.backend.count(u"POST api/v2/auth/login"_s), 0);

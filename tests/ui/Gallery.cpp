@@ -1,5 +1,7 @@
 #include "ui/Gallery.h"
 
+#include "store/AppStore.h"
+
 #include <QDir>
 #include <QQmlComponent>
 #include <QtTest>
@@ -67,8 +69,8 @@ void Gallery::open(store::AppStore &store, const QSize &size) {
     close();
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_delegate = std::make_unique<app::AppDelegate>(store);
-    showMainWindow(*m_engine, store, *m_delegate,
-                   {.theme = m_dark ? Appearance::Dark : Appearance::Light});
+    store.appearance()->presetTheme(m_dark ? store::Theme::Dark : store::Theme::Light);
+    showMainWindow(*m_engine, store, *m_delegate, {});
     if (m_engine->rootObjects().isEmpty())
         qFatal("The window cannot be made");
     m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());

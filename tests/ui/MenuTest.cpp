@@ -32,6 +32,8 @@ private Q_SLOTS:
     void commandsOfTheWindow();
     void about();
     void updateBanner();
+    void feeds_data();
+    void feeds();
     void frameIsFitted_data();
     void frameIsFitted();
     void frameIsRestored_data();
@@ -137,7 +139,11 @@ void MenuTest::keysWinOverTheField() {
     for (const Qt::Key key : {Qt::Key_K, Qt::Key_D, Qt::Key_J, Qt::Key_J, Qt::Key_Y, Qt::Key_Y})
         m_gallery->press(key, Qt::ControlModifier);
     QCOMPARE(m_workspace->store->chat()->draft(), u"half a thought"_s);
-    QCOMPARE(m_workspace->store->call()->callHint(), u"Voice call is unavailable right now."_s);
+    // Ctrl+D says why there is no call, once.
+    QCOMPARE(m_gallery->item(u"toast:0"_s)->property("words").toString(),
+             u"Voice call is unavailable right now."_s);
+    QVERIFY(!m_gallery->find(u"toast:1"_s));
+    QCOMPARE(m_workspace->store->call()->callHint(), QString());
 }
 
 void MenuTest::editing() {
@@ -240,6 +246,34 @@ void MenuTest::updateBanner() {
     m_gallery->click(u"bannerClose"_s);
     QTRY_VERIFY(!m_gallery->find(u"bannerClose"_s));
     QVERIFY(!update->offered());
+}
+
+void MenuTest::feeds_data() {
+    QTest::addColumn<QByteArray>("feed");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("offered");
+    QTest::newRow("newer") << "shortVersionString>1.10<"_ba << 200 << u"1.10"_s;
+    QTest::newRow("the same") << "shortVersionString>1.9<"_ba << 200 << QString();
+    QTest::newRow("older") << "shortVersionString>1.8.9<"_ba << 200 << QString();
+    QTest::newRow("not modified") << ""_ba << 304 << QString();
+    QTest::newRow("server fails") << "shortVersionString>2.0<"_ba << 500 << QString();
+}
+
+/// Nothing shows when there is nothing newer.
+void MenuTest::feeds() {
+    QFETCH(QByteArray, feed);
+    QFETCH(int, status);
+    QFETCH(QString, offered);
+    open();
+    store::UpdateRoom *update = m_workspace->store->update();
+    update->setRunning(AppVersion::of(u"1.9"_s, {}));
+    m_workspace->backend.answer(u"GET downloads/kiv-appcast.xml"_s, feed, status);
+    m_gallery->commands().perform(Command::CheckUpdates);
+    QTRY_VERIFY(!update->checkingUpdate());
+    QCOMPARE(m_workspace->backend.count(u"GET downloads/kiv-appcast.xml"_s), 1);
+    QCOMPARE(update->version(), offered);
+    QCOMPARE(m_gallery->find(u"bannerClose"_s) != nullptr, !offered.isEmpty());
+    QVERIFY(!m_gallery->find(u"toast:0"_s));
 }
 
 void MenuTest::frameIsFitted_data() {

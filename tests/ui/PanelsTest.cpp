@@ -9,7 +9,8 @@ using namespace std::chrono_literals;
 
 namespace kiv::ui {
 
-/// What opens over the window: command palette, shortcuts sheet and event feed.
+/// What opens over the window or in the place of the canvas: command palette, shortcuts sheet,
+/// scope and profile popovers, and the pages of events and agents.
 class PanelsTest : public QObject {
     Q_OBJECT
 
@@ -24,6 +25,12 @@ private Q_SLOTS:
     void shortcuts();
     void events();
     void eventsAreFresh();
+    void eventsOnTheCanvas();
+    void agentsByKeys();
+    void agentsByMouse();
+    void agentsInANarrowWindow();
+    void railSearch();
+    void theme();
 
 private:
     void open();
@@ -145,14 +152,7 @@ void PanelsTest::shortcuts() {
 }
 
 void PanelsTest::events() {
-    m_workspace->backend.answer(u"GET api/v2/projects/ferry/events"_s, R"({"events":[
-        {"id":4,"kind":"release","title":"Guided sign-up is live",
-         "detail":"Anvil finished the last screen","created_at":"2026-03-02T09:40:00Z"},
-        {"id":3,"kind":"alert","title":"Load test failed",
-         "detail":"Two of twelve steps timed out","created_at":"2026-03-02T09:28:00Z"},
-        {"id":2,"kind":"approval","title":"Approval needed",
-         "detail":"Scout asks for the price survey","created_at":"2026-03-02T09:02:00Z"},
-        {"id":1,"title":"Copy changed","created_at":"yesterday"}]})");
+    m_workspace->backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
     open();
     m_gallery->click(u"eventsButton"_s);
     QCOMPARE(m_gallery->item(u"eventsEmpty"_s)->property("text").toString(),
@@ -188,6 +188,156 @@ void PanelsTest::eventsAreFresh() {
     QCOMPARE(m_workspace->backend.count(route), before);
     m_workspace->clock.advance(1300ms);
     QTRY_COMPARE(m_workspace->backend.count(route), before + 1);
+}
+
+void PanelsTest::eventsOnTheCanvas() {
+    m_workspace->backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
+    open();
+    scope().enterProject(u"ferry"_s);
+    QVERIFY(m_workspace->streaming(test::ferryChat, 1));
+    const store::CanvasRoom *canvas = m_workspace->store->canvas();
+    m_gallery->click(u"eventsButton"_s);
+    QTRY_COMPARE(m_gallery->item(u"eventList"_s)->property("count").toInt(), 4);
+    m_gallery->click(u"showEvents"_s);
+    QTRY_COMPARE(canvas->state(), store::CanvasState::Panel);
+    QVERIFY(!m_workspace->store->layout()->eventsOpen());
+    QVERIFY(m_gallery->item(u"eventPage"_s)->hasActiveFocus());
+    m_gallery->save(u"events-page"_s);
+    // The focus is still there once the feed has faded out.
+    QVERIFY(m_gallery->item(u"eventPage"_s)->hasActiveFocus());
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(!m_gallery->find(u"eventPage"_s));
+    QVERIFY(m_gallery->hasFocus(u"askField"_s));
+
+    // A question takes the canvas back, and the keys that reach it work.
+    openPalette(u"events"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->find(u"eventPage"_s));
+    m_gallery->press(Qt::Key_K, Qt::ControlModifier);
+    m_gallery->type(u"How was the week?"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(canvas->state(), store::CanvasState::ThinkingSkeleton);
+    QVERIFY(!m_gallery->find(u"eventPage"_s));
+}
+
+void PanelsTest::agentsByKeys() {
+    open();
+    openPalette(u"agents"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->hasFocus(u"agentCard:"_s));
+    m_gallery->press(Qt::Key_Up); // there is nothing above KIV
+    QVERIFY(m_gallery->hasFocus(u"agentCard:"_s));
+    m_gallery->press(Qt::Key_Down);
+    QVERIFY(m_gallery->hasFocus(u"agentCard:scout"_s));
+    m_gallery->press(Qt::Key_Right);
+    m_gallery->press(Qt::Key_Right);
+    QVERIFY(m_gallery->hasFocus(u"agentCard:anvil"_s));
+    m_gallery->save(u"agents-page"_s);
+    // Down to a line with fewer cards, and on to the end of the page, which comes into view.
+    m_gallery->press(Qt::Key_Down);
+    QVERIFY(m_gallery->hasFocus(u"agentCard:ember"_s));
+    for (int line = 0; line < 8; ++line)
+        m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Right);
+    QVERIFY(m_gallery->hasFocus(u"agentCard:i"_s));
+    const QQuickItem *last = m_gallery->item(u"agentCard:i"_s);
+    QTRY_VERIFY(last->mapToScene({0, last->height()}).y() <= m_gallery->window().height());
+
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(scope().agent(), u"i"_s);
+    QCOMPARE(scope().project(), u"kettle"_s);
+    QVERIFY(!m_gallery->find(u"agentLines"_s));
+    QVERIFY(m_gallery->hasFocus(u"askField"_s));
+}
+
+void PanelsTest::agentsByMouse() {
+    open();
+    m_gallery->setDark(true);
+    m_gallery->click(u"scopeButton"_s);
+    m_gallery->click(u"showAgents"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"agentCard:"_s));
+    QVERIFY(!m_workspace->store->layout()->topScopeOpen());
+    m_gallery->save(u"agents-page-dark"_s);
+    m_gallery->click(u"panelClose"_s);
+    QTRY_VERIFY(!m_gallery->find(u"agentLines"_s));
+
+    m_workspace->store->canvas()->openPanel(u"agents"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"agentCard:"_s));
+    m_gallery->press(Qt::Key_Down);
+    // The ways to begin follow the card by the tab key: talk, then call.
+    m_gallery->press(Qt::Key_Tab);
+    m_gallery->press(Qt::Key_Tab);
+    m_gallery->press(Qt::Key_Space);
+    QTRY_COMPARE(scope().agent(), u"scout"_s);
+    QCOMPARE(m_workspace->store->canvas()->panel(), QString());
+    QVERIFY(
+        m_gallery->item(u"toast:0"_s)->property("words").toString().startsWith(u"Voice call"_s));
+}
+
+void PanelsTest::agentsInANarrowWindow() {
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, {1024, 680});
+    m_workspace->store->canvas()->openPanel(u"agents"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"agentCard:"_s));
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Down);
+    // Two cards in a line now.
+    QVERIFY(m_gallery->hasFocus(u"agentCard:anvil"_s));
+    m_gallery->save(u"agents-page-least"_s);
+    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+    QTRY_COMPARE(m_gallery->item(u"agentCard:loom"_s)->mapToScene({}).y(),
+                 m_gallery->item(u"agentCard:anvil"_s)->mapToScene({}).y());
+    QTRY_VERIFY(m_gallery->hasFocus(u"agentCard:anvil"_s));
+}
+
+/// By typing in the list of the rail, and by its button.
+void PanelsTest::railSearch() {
+    open();
+    m_gallery->item(u"navigator"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->type(u"q"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"scopeSearch"_s));
+    QCOMPARE(m_gallery->item(u"scopeSearch"_s)->property("text").toString(), u"q"_s);
+    m_gallery->type(u"uill"_s);
+    m_gallery->save(u"rail-search"_s);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(scope().agent(), u"quill"_s);
+    QTRY_VERIFY(!m_gallery->find(u"scopeSearch"_s));
+    QTRY_VERIFY(m_gallery->hasFocus(u"navigator"_s));
+
+    m_gallery->click(u"railSearch"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"scopeSearch"_s));
+    QCOMPARE(m_gallery->item(u"scopeSearch"_s)->property("text").toString(), QString());
+    m_gallery->press(Qt::Key_Down); // from KIV over the label to the first project
+    m_gallery->press(Qt::Key_Return);
+    QTRY_COMPARE(scope().project(), u"ferry"_s);
+    QCOMPARE(scope().agent(), QString());
+}
+
+void PanelsTest::theme() {
+    open();
+    const auto corner = [this] { return m_gallery->grab(u"theme"_s).pixelColor(2, 2).lightness(); };
+    store::AppearanceRoom *appearance = m_workspace->store->appearance();
+    appearance->chooseTheme(store::Theme::System);
+    QVERIFY(corner() > 200);
+    appearance->setSystemDark(true);
+    QTRY_VERIFY(corner() < 50);
+    m_gallery->click(u"profileButton"_s);
+    QTRY_VERIFY(m_gallery->item(u"themeChoice"_s)->hasActiveFocus());
+    m_gallery->press(Qt::Key_Right);
+    QTRY_VERIFY(corner() > 200);
+    m_gallery->save(u"profile"_s);
+    m_gallery->press(Qt::Key_Right);
+    QTRY_VERIFY(corner() < 50);
+    m_gallery->press(Qt::Key_Right); // there is none after it
+    QCOMPARE(appearance->theme(), store::Theme::Dark);
+    m_gallery->save(u"profile-dark"_s);
+    m_gallery->click(u"segment:Light"_s);
+    QCOMPARE(appearance->theme(), store::Theme::Light);
+    m_gallery->close();
+
+    appearance->chooseTheme(store::Theme::Dark);
+    m_workspace->restart();
+    QVERIFY(m_workspace->store->appearance()->dark());
 }
 
 } // namespace kiv::ui

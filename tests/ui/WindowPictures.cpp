@@ -67,7 +67,7 @@ void WindowPictures::everyState() {
     QVERIFY(
         workspace.ask(u"Compare the hosting options"_s, Workspace::compareAnswer(), u"compare"_s));
     gallery.save(named("compare"));
-    for (const char *popover : {"history", "scope", "profile"}) {
+    for (const char *popover : {"history", "events", "scope", "profile"}) {
         gallery.click(QLatin1StringView(popover) + u"Button"_s);
         gallery.save(named(popover));
         gallery.press(Qt::Key_Escape);
@@ -99,6 +99,20 @@ void WindowPictures::everyState() {
     }
     QTRY_COMPARE(canvas->state(), store::CanvasState::Failed);
     gallery.save(named("failed"));
+
+    workspace.backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
+    workspace.store->scope()->enterProject(u"ferry"_s);
+    for (const char *panel : {"agents", "events"}) {
+        canvas->openPanel(QLatin1StringView(panel));
+        QTRY_VERIFY(!workspace.store->events()->eventsLoading());
+        gallery.save(named(panel) + u"-page"_s);
+    }
+    gallery.press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    gallery.type(u"la"_s);
+    gallery.save(named("palette"));
+    gallery.press(Qt::Key_Escape);
+    gallery.press(Qt::Key_D, Qt::ControlModifier);
+    gallery.save(named("toast"));
 }
 
 } // namespace kiv::ui

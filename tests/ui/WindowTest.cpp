@@ -187,7 +187,6 @@ void WindowTest::railByMouse() {
 void WindowTest::railByKeys() {
     open();
     m_gallery->item(u"navigator"_s)->forceActiveFocus(Qt::TabFocusReason);
-    m_gallery->press(Qt::Key_Down); // the label
     m_gallery->press(Qt::Key_Down);
     m_gallery->press(Qt::Key_Down);
     m_gallery->press(Qt::Key_Return);

@@ -72,6 +72,17 @@ bool Workspace::settle(const QString &art) {
     });
 }
 
+QByteArray Workspace::events() {
+    return R"({"events":[
+    {"id":4,"kind":"release","title":"Guided sign-up is live",
+     "detail":"Anvil finished the last screen","created_at":"2026-03-02T09:40:00Z"},
+    {"id":3,"kind":"alert","title":"Load test failed",
+     "detail":"Two of twelve steps timed out","created_at":"2026-03-02T09:28:00Z"},
+    {"id":2,"kind":"approval","title":"Approval needed",
+     "detail":"Scout asks for the price survey","created_at":"2026-03-02T09:02:00Z"},
+    {"id":1,"title":"Copy changed","created_at":"yesterday"}]})";
+}
+
 QString Workspace::reportAnswer() {
     return uR"(A good week with two open spots: Orchard is blocked by a missing tax field and Glasshouse runs above its capacity.
 

@@ -16,6 +16,8 @@ public:
     /// Lets the answer under way settle; true when the canvas shows the scene of `art`.
     bool settle(const QString &art);
 
+    /// What a project answers when it is asked for its events.
+    static QByteArray events();
     static QString reportAnswer();
     /// Every kind of block in one answer.
     static QString mixedAnswer();

@@ -31,7 +31,7 @@ int main(int argc, char **argv) {
     QTemporaryDir profile;
     kiv::app::Options options;
     options.theme =
-        parser.value(theme) == u"dark"_s ? kiv::app::Theme::Dark : kiv::app::Theme::Light;
+        parser.value(theme) == u"dark"_s ? kiv::store::Theme::Dark : kiv::store::Theme::Light;
     options.places = kiv::app::Places::below(profile.path());
     kiv::app::Application program(options);
     program.start();

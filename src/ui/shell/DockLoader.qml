@@ -51,8 +51,16 @@ Loader {
         EdgeHandle {
             x: -width / 2
             height: parent.height
+            objectName: "dockEdge"
             gripped: true
+            mirrored: true
+            name: qsTr("Width of the chat dock")
+            value: dock.store.layout.shownDockW
+            from: dock.store.layout.leastDockW
+            to: dock.store.layout.mostDockW
             onDragged: place => dock.store.layout.dragDock(dock.width - place)
+            onSized: size => dock.store.layout.dragDock(size)
+            onResetRequested: dock.store.layout.resetDock()
         }
     }
 }

@@ -1,7 +1,4 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
@@ -18,12 +15,12 @@ Popover {
 
     width: 360
     onAboutToShow: {
-        list.currentIndex = 0
-        list.forceActiveFocus(Qt.PopupFocusReason)
+        events.toFirst()
+        events.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     contentItem: Item {
-        implicitHeight: 42 + (list.count === 0 ? 34 : list.height)
+        implicitHeight: page.y + page.height
     }
 
     Row {
@@ -43,38 +40,28 @@ Popover {
             text: popover.chosen ? popover.store.scope.projectName : ""
         }
     }
-    Label {
-        objectName: "eventsEmpty"
-        x: 12
-        y: 46
-        visible: list.count === 0
-        color: Tokens.t3
-        text: !popover.chosen ? qsTr("Pick a project to see its events")
-            : popover.store.events.eventsLoading ? qsTr("Loading…")
-            : qsTr("Nothing yet")
-    }
-    ListView {
-        id: list
+    EventList {
+        id: events
 
-        objectName: "eventList"
         y: 42
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - 60)
-        model: popover.store.events.events
-        clip: true
+        most: popover.most - 110
         focus: true
-        activeFocusOnTab: true
-        boundsBehavior: Flickable.StopAtBounds
-        flickDeceleration: Tokens.flickDeceleration
-        highlightMoveDuration: 0
-        Accessible.role: Accessible.List
-        Accessible.name: qsTr("Events")
+        store: popover.store
+    }
+    Divider {
+        x: -popover.leftPadding + 1
+        y: page.y - 7
+        width: popover.width - 2
+    }
+    MenuRow {
+        id: page
 
-        T.ScrollBar.vertical: ScrollBar {}
-
-        delegate: EventRow {
-            width: list.width
-            highlighted: ListView.isCurrentItem && list.activeFocus
-        }
+        objectName: "showEvents"
+        y: events.y + events.height + 13
+        width: popover.availableWidth
+        iconName: "events"
+        text: qsTr("Show on the canvas")
+        onClicked: popover.store.canvas.openPanel("events")
     }
 }

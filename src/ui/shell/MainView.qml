@@ -103,8 +103,14 @@ FocusScope {
     EdgeHandle {
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
+        objectName: "railEdge"
         x: view.layout.shownRailW - width / 2
         visible: view.railShown
+        name: qsTr("Width of the rail")
+        value: view.layout.shownRailW
+        from: view.layout.leastRailW
+        to: view.layout.mostRailW
+        onSized: size => view.layout.dragRail(size)
         onDragged: place => view.layout.dragRail(place)
         onResetRequested: view.layout.resetRail()
     }
@@ -118,11 +124,19 @@ FocusScope {
         Keys.onEscapePressed: event => event.accepted = view.layout.leaveCanvasFull()
 
         CanvasView {
+            id: canvasView
+
             anchors.fill: parent
             focus: true
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
             onMessageRequested: messageId => view.reveal(messageId)
+        }
+        PanelPlace {
+            anchors.fill: parent
+            anchors.bottomMargin: canvasView.reserved
+            store: view.store
+            onActiveChanged: if (!active) canvasView.focus = true
         }
         Composer {
             id: floating
@@ -160,7 +174,7 @@ FocusScope {
         anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
     SignInSheet {
-        session: view.store.session
+        store: view.store
     }
     Connections {
         target: LinkOpener
@@ -208,6 +222,16 @@ FocusScope {
 
         function onAboutRequested() {
             about.open()
+        }
+    }
+    Connections {
+        target: view.store.call
+
+        function onCallHintChanged() {
+            if (view.store.call.callHint === "")
+                return
+            Toasts.show(view.store.call.callHint)
+            view.store.call.dismissHint()
         }
     }
     Connections {

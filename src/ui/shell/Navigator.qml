@@ -13,6 +13,15 @@ ListView {
 
     required property ScopeRoom scope
 
+    /// Somebody is looked for, perhaps with what is typed already.
+    signal searchRequested(typed: string)
+
+    /// Whether a key gives a letter that a name can begin with.
+    function isTyped(event: KeyEvent): bool {
+        return event.text > " " && event.key !== Qt.Key_Delete && event.key !== Qt.Key_Backspace
+            && (event.modifiers & ~Qt.ShiftModifier) === 0
+    }
+
     objectName: "navigator"
     model: scope.rail
     topMargin: 12
@@ -27,6 +36,13 @@ ListView {
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Projects and agents")
+    Keys.onUpPressed: currentIndex = scope.rail.stepped(currentIndex, -1)
+    Keys.onDownPressed: currentIndex = scope.rail.stepped(currentIndex, 1)
+    Keys.onPressed: event => {
+        event.accepted = list.isTyped(event)
+        if (event.accepted)
+            list.searchRequested(event.text)
+    }
     Keys.onReturnPressed: (currentItem as NavigatorRow)?.clicked()
     Keys.onEnterPressed: (currentItem as NavigatorRow)?.clicked()
     Keys.onSpacePressed: (currentItem as NavigatorRow)?.clicked()
@@ -44,6 +60,7 @@ ListView {
             list.currentIndex = index
             list.scope.pickEntry(kind, projectId, entryId)
         }
+        onSearchRequested: list.searchRequested("")
         onToggled: if (project) list.scope.toggleExpanded(entryId)
     }
 }

@@ -26,6 +26,7 @@ T.ItemDelegate {
     readonly property bool inside: kind === Store.RailRow.Agent && projectId !== ""
 
     signal toggled()
+    signal searchRequested()
 
     objectName: label ? "" : "railRow:" + entryId
     implicitHeight: kiv ? 48 : label ? 34 : project ? 36 : 32
@@ -70,7 +71,7 @@ T.ItemDelegate {
     }
     Column {
         x: 50
-        width: parent.width - x - 10
+        width: chevron.x - x - 4
         anchors.verticalCenter: parent.verticalCenter
         visible: row.kiv
 
@@ -117,20 +118,27 @@ T.ItemDelegate {
         anchors.verticalCenter: parent.verticalCenter
         width: 32
         height: 32
-        enabled: row.project
+        objectName: row.kiv ? "railSearch" : ""
+        enabled: row.project || row.kiv
         focusPolicy: Qt.NoFocus
-        text: row.expanded ? qsTr("Hide the agents of %1").arg(row.name) : qsTr("Show the agents of %1").arg(row.name)
+        text: row.kiv ? qsTr("Find a project or agent")
+            : row.expanded ? qsTr("Hide the agents of %1").arg(row.name)
+            : qsTr("Show the agents of %1").arg(row.name)
         Accessible.name: text
         Accessible.role: Accessible.Button
-        Accessible.ignored: !row.project
-        onClicked: row.toggled()
+        Accessible.ignored: !enabled
+        onClicked: row.kiv ? row.searchRequested() : row.toggled()
 
         Icon {
             anchors.centerIn: parent
-            visible: row.project
-            name: row.expanded ? "down" : "right"
+            visible: chevron.enabled
+            name: row.kiv ? "search" : row.expanded ? "down" : "right"
             size: 16
-            color: Tokens.t3
+            color: chevron.hovered ? Tokens.t1 : Tokens.t3
+        }
+        TipLoader {
+            active: row.kiv && chevron.hovered
+            text: chevron.text
         }
     }
 }

@@ -25,6 +25,7 @@ std::optional<int> rank(const QString &title, const QString &detail, const QStri
 void PaletteModel::refresh() {
     m_entries.clear();
     addCommands();
+    addPages();
     addScopes();
     addHistory();
     m_query.clear();
@@ -45,6 +46,17 @@ void PaletteModel::addCommands() {
     m_entries.append({tr("Keyboard Shortcuts"), tr("Help"), u"keyboard"_s, {}, [this] {
                           Q_EMIT shortcutsRequested();
                       }});
+}
+
+void PaletteModel::addPages() {
+    if (m_store->scope()->auth() != store::AuthPhase::SignedIn)
+        return;
+    const auto add = [this](const QString &title, const QString &id) {
+        m_entries.append(
+            {title, tr("Page"), id, {}, [this, id] { m_store->canvas()->openPanel(id); }});
+    };
+    add(tr("Agents"), u"agents"_s);
+    add(tr("Events"), u"events"_s);
 }
 
 void PaletteModel::addScopes() {

@@ -7,7 +7,8 @@
 
 namespace kiv::ui {
 
-/// Everything that the command palette can find: commands, projects, agents and drawn canvases.
+/// Everything that the command palette can find: commands, pages, projects, agents and
+/// drawn canvases.
 class PaletteModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -51,6 +52,7 @@ private:
         std::function<void()> act;
     };
     void addCommands();
+    void addPages();
     void addScopes();
     void addHistory();
     void filter();

@@ -12,11 +12,10 @@ FocusScope {
     required property AppStore store
     property alias composer: composer
     property alias feed: feed
-    /// The part of the height that the list may take; the person drags it.
-    property real share: 0.55
 
     readonly property bool signedIn: store.scope.auth === Store.AuthPhase.SignedIn
-    readonly property real listHeight: Math.min(height * share, navigator.contentHeight + 20)
+    readonly property LayoutRoom layout: store.layout
+    readonly property real listHeight: Math.min(height * layout.navigatorShare, navigator.contentHeight + 20)
 
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Rail")
@@ -38,35 +37,51 @@ FocusScope {
         width: parent.width - 1
         height: rail.listHeight
         scope: rail.store.scope
+        onSearchRequested: typed => {
+            finder.typed = typed
+            rail.layout.toggleScope()
+        }
+    }
+    Item {
+        x: 12
+        y: 12
+        width: parent.width - 25
+        height: 48
+
+        ScopePopover {
+            id: finder
+
+            objectName: "railFinder"
+            store: rail.store
+            most: rail.height * 0.7
+            visible: rail.layout.scopeOpen && rail.visible
+            onAboutToHide: rail.layout.closePopovers()
+        }
     }
     RailSkeleton {
         visible: !rail.signedIn
     }
-    Item {
+    EdgeHandle {
         id: split
 
+        objectName: "navigatorEdge"
         y: rail.listHeight
         visible: rail.signedIn
         width: parent.width - 1
         height: 9
+        level: true
+        gripped: true
+        name: qsTr("Height of the list of projects and agents")
+        value: rail.listHeight
+        from: Math.min(rail.height * rail.layout.leastNavigatorShare, value)
+        to: rail.height * rail.layout.mostNavigatorShare
+        onDragged: place => rail.layout.dragNavigator(place / rail.height)
+        onSized: size => rail.layout.dragNavigator(size / rail.height)
+        onResetRequested: rail.layout.resetNavigator()
 
         Divider {
+            z: -1
             width: parent.width
-        }
-        Rectangle {
-            anchors.centerIn: parent
-            width: 32
-            height: 3
-            radius: 2
-            color: grip.pressed ? Tokens.accent : Tokens.line2
-        }
-        MouseArea {
-            id: grip
-
-            anchors.fill: parent
-            cursorShape: Qt.SplitVCursor
-            preventStealing: true
-            onPositionChanged: mouse => rail.share = Math.max(0.15, Math.min(0.55, (split.y + mouse.y) / rail.height))
         }
     }
     Item {
@@ -93,7 +108,7 @@ FocusScope {
             iconName: "dock"
             text: qsTr("Open the full conversation")
             keys: "Ctrl J"
-            onClicked: rail.store.layout.toggleDock()
+            onClicked: rail.layout.toggleDock()
         }
     }
     Feed {
@@ -109,7 +124,7 @@ FocusScope {
         unreadFrom: rail.store.chat.unreadFrom
         compact: true
         hasOlder: rail.store.chat.feedMsgs.hasOlder
-        onOlderRequested: rail.store.layout.toggleDock()
+        onOlderRequested: rail.layout.toggleDock()
         onTopReached: rail.store.chat.showOlder()
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
         onAskAgainRequested: messageId => rail.store.chat.askAgain(messageId)

@@ -74,7 +74,7 @@ T.Button {
         }
     }
     ScopePopover {
-        scope: button.scope
+        store: button.store
         most: button.popoverHeight
         visible: button.store.layout.topScopeOpen
         onAboutToHide: button.store.layout.closePopovers()

@@ -11,8 +11,12 @@ import Kiv.Tokens
 Popover {
     id: popover
 
-    required property ScopeRoom scope
+    required property AppStore store
     property real most: 600
+    /// What the search begins with.
+    property string typed: ""
+
+    readonly property ScopeRoom scope: store.scope
 
     function pickCurrent() {
         const row = list.currentItem as ScopeRow
@@ -23,12 +27,15 @@ Popover {
     alignLeft: true
     width: 340
     onAboutToShow: {
-        search.clear()
+        search.text = typed
+        typed = ""
+        scope.choices.query = search.text
+        list.currentIndex = 0
         search.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     contentItem: Item {
-        implicitHeight: 48 + list.height
+        implicitHeight: everybody.y + everybody.height
     }
 
     TextField {
@@ -47,8 +54,8 @@ Popover {
             list.currentIndex = 0
         }
         onAccepted: popover.pickCurrent()
-        Keys.onDownPressed: list.incrementCurrentIndex()
-        Keys.onUpPressed: list.decrementCurrentIndex()
+        Keys.onDownPressed: list.currentIndex = popover.scope.choices.stepped(list.currentIndex, 1)
+        Keys.onUpPressed: list.currentIndex = popover.scope.choices.stepped(list.currentIndex, -1)
     }
     ListView {
         id: list
@@ -56,7 +63,7 @@ Popover {
         objectName: "scopeChoices"
         y: 44
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - 60)
+        height: Math.min(contentHeight, popover.most - 110)
         model: popover.scope.choices
         clip: true
         currentIndex: 0
@@ -76,5 +83,27 @@ Popover {
             highlighted: ListView.isCurrentItem
             onClicked: popover.scope.pickEntry(kind, projectId, entryId)
         }
+    }
+    Label {
+        x: 12
+        y: 52
+        visible: list.count === 0
+        color: Tokens.t3
+        text: qsTr("Nobody is called that")
+    }
+    Divider {
+        x: -popover.leftPadding + 1
+        y: everybody.y - 7
+        width: popover.width - 2
+    }
+    MenuRow {
+        id: everybody
+
+        objectName: "showAgents"
+        y: 44 + Math.max(list.height, list.count === 0 ? 36 : 0) + 13
+        width: popover.availableWidth
+        iconName: "agents"
+        text: qsTr("Show all agents")
+        onClicked: popover.store.canvas.openPanel("agents")
     }
 }

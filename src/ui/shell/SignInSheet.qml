@@ -9,8 +9,9 @@ import Kiv.Tokens
 Dialog {
     id: sheet
 
-    required property SessionRoom session
+    required property AppStore store
 
+    readonly property SessionRoom session: store.session
     readonly property bool signup: session.authSheet === Store.AuthSheetMode.Signup
 
     function submit() {
@@ -20,9 +21,13 @@ Dialog {
 
     width: 424
     visible: session.authSheet !== Store.AuthSheetMode.Closed
-    onAboutToShow: email.field.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToShow: (email.field.text === "" ? email : password).field.forceActiveFocus(Qt.PopupFocusReason)
     onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()
-    onClosed: password.field.clear()
+    onClosed: {
+        eye.checked = false
+        if (store.scope.auth === Store.AuthPhase.SignedIn)
+            password.field.clear()
+    }
 
     contentItem: Item {
         implicitHeight: form.height
@@ -58,7 +63,7 @@ Dialog {
             label: qsTr("Email")
             field.objectName: "emailField"
             field.enabled: !sheet.session.busy
-            field.failed: sheet.session.authError !== "" && field.text.trim() === ""
+            field.failed: sheet.session.authError !== "" && sheet.session.errorField === Store.AuthField.Email
             field.inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
             field.onAccepted: sheet.submit()
         }
@@ -69,7 +74,7 @@ Dialog {
             label: qsTr("Password")
             field.objectName: "passwordField"
             field.enabled: !sheet.session.busy
-            field.failed: sheet.session.authError !== "" && email.field.text.trim() !== ""
+            field.failed: sheet.session.authError !== "" && sheet.session.errorField === Store.AuthField.Password
             field.trailing: 32
             field.echoMode: eye.checked ? TextInput.Normal : TextInput.Password
             field.passwordCharacter: "•"
@@ -83,6 +88,7 @@ Dialog {
                 x: parent.width - width - 4
                 anchors.verticalCenter: parent.verticalCenter
                 size: 32
+                objectName: "passwordEye"
                 checkable: true
                 iconName: "eye"
                 color: checked ? Tokens.accentText : Tokens.t3
@@ -145,6 +151,7 @@ Dialog {
             }
             TextLink {
                 objectName: "switchAuthMode"
+                enabled: !sheet.session.busy
                 style: Tokens.type.smallMedium
                 text: sheet.signup ? qsTr("Sign in") : qsTr("Create an account")
                 onClicked: sheet.session.openAuthSheet(sheet.signup ? Store.AuthSheetMode.Login : Store.AuthSheetMode.Signup)
@@ -157,5 +164,14 @@ Dialog {
         iconName: "close"
         text: qsTr("Close")
         onClicked: sheet.session.closeAuthSheet()
+    }
+    Connections {
+        target: sheet.session
+
+        // To the field that the error is about.
+        function onAuthFailed() {
+            const field = (sheet.session.errorField === Store.AuthField.Email ? email : password).field
+            field.forceActiveFocus(Qt.OtherFocusReason)
+        }
     }
 }

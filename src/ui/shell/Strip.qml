@@ -43,6 +43,8 @@ FocusScope {
         highlightMoveDuration: 0
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Projects and agents")
+        Keys.onUpPressed: currentIndex = strip.scope.rail.stepped(currentIndex, -1)
+        Keys.onDownPressed: currentIndex = strip.scope.rail.stepped(currentIndex, 1)
         Keys.onReturnPressed: (currentItem as T.ItemDelegate)?.clicked()
         Keys.onEnterPressed: (currentItem as T.ItemDelegate)?.clicked()
         Keys.onSpacePressed: (currentItem as T.ItemDelegate)?.clicked()

@@ -21,8 +21,6 @@ class Appearance : public QObject {
         bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY reducedMotionChanged)
     Q_PROPERTY(QString codeFamily READ codeFamily CONSTANT)
 public:
-    enum Theme { Light, Dark };
-
     /// Belongs to `engine`, which finds it by itself.
     explicit Appearance(QQmlEngine &engine);
     static Appearance *create(QQmlEngine *engine, QJSEngine *scripts);

@@ -1,0 +1,120 @@
+#include "app/SystemLook.h"
+
+#include <QDBusContext>
+#include <QDBusMessage>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace kiv::app {
+
+namespace {
+
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString lookGroup = u"org.freedesktop.appearance"_s;
+
+} // namespace
+
+/// The settings portal of a desktop, with one setting.
+class Portal : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+public:
+    uint scheme = 0;
+    bool isOld = false; ///< does not know the setting
+
+public Q_SLOTS:
+    QDBusVariant Read(const QString &group, const QString &key) {
+        if (isOld || group != lookGroup || key != u"color-scheme"_s)
+            sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s);
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
+    }
+
+Q_SIGNALS:
+    void SettingChanged(const QString &group, const QString &key, const QDBusVariant &value);
+};
+
+/// On a bus of its own.
+class SystemLookTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+#ifdef KIV_DBUS_DAEMON
+        m_daemon.start(QStringLiteral(KIV_DBUS_DAEMON),
+                       {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+        QVERIFY(m_daemon.waitForReadyRead());
+        m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
+#else
+        QSKIP("There is no dbus-daemon");
+#endif
+    }
+    void cleanupTestCase() {
+        m_daemon.kill();
+        m_daemon.waitForFinished();
+    }
+    void cleanup() {
+        QDBusConnection::disconnectFromBus(u"desktop"_s);
+        QDBusConnection::disconnectFromBus(u"program"_s);
+    }
+
+    void followsTheDesktop() {
+        Portal portal;
+        portal.scheme = 1;
+        offer(portal);
+        SystemLook look(QDBusConnection::connectToBus(m_address, u"program"_s));
+        QSignalSpy changed(&look, &SystemLook::darkChanged);
+        look.watch();
+        QVERIFY(changed.wait());
+        QCOMPARE(changed.takeFirst().first().toBool(), true);
+
+        // Other settings are none of its business.
+        Q_EMIT portal.SettingChanged(lookGroup, u"contrast"_s, QDBusVariant(1u));
+        Q_EMIT portal.SettingChanged(u"org.example"_s, u"color-scheme"_s, QDBusVariant(1u));
+        for (const uint scheme : {2u, 1u, 0u}) {
+            Q_EMIT portal.SettingChanged(lookGroup, u"color-scheme"_s, QDBusVariant(scheme));
+            QTRY_COMPARE(changed.size(), 1);
+            QCOMPARE(changed.takeFirst().first().toBool(), scheme == 1);
+        }
+    }
+
+    void saysNothingWithoutOne_data() {
+        QTest::addColumn<bool>("bus");
+        QTest::addColumn<bool>("portal");
+        QTest::newRow("no bus") << false << false;
+        QTest::newRow("no portal") << true << false;
+        QTest::newRow("a portal that does not know it") << true << true;
+    }
+    void saysNothingWithoutOne() {
+        QFETCH(bool, bus);
+        QFETCH(bool, portal);
+        Portal old;
+        old.isOld = true;
+        if (portal)
+            offer(old);
+        const QString address = bus ? m_address : u"unix:path=/nowhere"_s;
+        SystemLook look(QDBusConnection::connectToBus(address, u"program"_s));
+        QSignalSpy changed(&look, &SystemLook::darkChanged);
+        look.watch();
+        QVERIFY(!changed.wait(300));
+    }
+
+private:
+    void offer(Portal &portal) {
+        QDBusConnection desktop = QDBusConnection::connectToBus(m_address, u"desktop"_s);
+        QVERIFY(desktop.registerObject(portalPath, &portal,
+                                       QDBusConnection::ExportAllSlots |
+                                           QDBusConnection::ExportAllSignals));
+        QVERIFY(desktop.registerService(u"org.freedesktop.portal.Desktop"_s));
+    }
+
+    QProcess m_daemon;
+    QString m_address;
+};
+
+} // namespace kiv::app
+
+QTEST_GUILESS_MAIN(kiv::app::SystemLookTest)
+#include "SystemLookTest.moc"

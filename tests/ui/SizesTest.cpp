@@ -1,0 +1,178 @@
+#include "ui/Gallery.h"
+#include "ui/Workspace.h"
+
+#include <QAccessible>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+/// The edges that size rail, dock and the list in the rail, and what a narrow window does to them.
+class SizesTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void edgesByKeys_data();
+    void edgesByKeys();
+    void edgesAreSliders();
+    void railByMouse();
+    void listByMouse();
+    void dockByMouse();
+    void narrowWindow();
+
+private:
+    void open(const QSize &size = {1440, 900});
+    void drag(const QString &edge, const QPoint &by);
+    store::LayoutRoom &layout() { return *m_workspace->store->layout(); }
+
+    std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<Gallery> m_gallery;
+};
+
+void SizesTest::init() {
+    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
+    m_workspace = std::make_unique<Workspace>();
+    m_gallery = std::make_unique<Gallery>();
+}
+
+void SizesTest::cleanup() {
+    m_gallery.reset();
+    m_workspace.reset();
+}
+
+void SizesTest::open(const QSize &size) {
+    QVERIFY(m_workspace->signIn());
+    m_gallery->open(*m_workspace->store, size);
+}
+
+void SizesTest::drag(const QString &edge, const QPoint &by) {
+    const QPoint from = m_gallery->middleOf(edge);
+    QTest::mousePress(&m_gallery->window(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(&m_gallery->window(), from + by / 2);
+    QTest::mouseMove(&m_gallery->window(), from + by);
+    QTest::mouseRelease(&m_gallery->window(), Qt::LeftButton, {}, from + by);
+}
+
+void SizesTest::edgesByKeys_data() {
+    QTest::addColumn<QString>("edge");
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<double>("size");
+    const QString rail = u"railEdge"_s;
+    const QString dock = u"dockEdge"_s;
+    const QString list = u"navigatorEdge"_s;
+    QTest::newRow("wider rail") << rail << Qt::Key_Right << 376.0;
+    QTest::newRow("narrower rail") << rail << Qt::Key_Left << 344.0;
+    QTest::newRow("narrowest rail") << rail << Qt::Key_Home << 280.0;
+    QTest::newRow("widest rail") << rail << Qt::Key_End << 640.0;
+    QTest::newRow("wider dock") << dock << Qt::Key_Left << 776.0;
+    QTest::newRow("narrower dock") << dock << Qt::Key_Right << 744.0;
+    QTest::newRow("narrowest dock") << dock << Qt::Key_Home << 480.0;
+    QTest::newRow("widest dock") << dock << Qt::Key_End << 1100.0;
+    QTest::newRow("lower list") << list << Qt::Key_Up << -16.0;
+    QTest::newRow("lowest list") << list << Qt::Key_Home << 0.15;
+}
+
+void SizesTest::edgesByKeys() {
+    QFETCH(QString, edge);
+    QFETCH(Qt::Key, key);
+    QFETCH(double, size);
+    const bool isDock = edge == u"dockEdge"_s;
+    const bool isList = edge == u"navigatorEdge"_s;
+    open({1720, 900});
+    if (isDock) {
+        m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+        m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    }
+    QQuickItem *handle = m_gallery->item(edge);
+    QVERIFY(handle->activeFocusOnTab());
+    handle->forceActiveFocus(Qt::TabFocusReason);
+    const double before = handle->property("value").toDouble();
+    m_gallery->press(key);
+    if (!isList) {
+        QCOMPARE(isDock ? layout().dockW() : layout().railW(), size);
+    } else if (size < 0) {
+        QTRY_COMPARE(handle->property("value").toDouble(), before + size);
+    } else {
+        QTRY_COMPARE(layout().navigatorShare(), size);
+    }
+    QVERIFY(handle->hasActiveFocus());
+}
+
+void SizesTest::edgesAreSliders() {
+    open();
+    for (const QString &edge : {u"railEdge"_s, u"navigatorEdge"_s}) {
+        QQuickItem *handle = m_gallery->item(edge);
+        QAccessibleInterface *read = QAccessible::queryAccessibleInterface(handle);
+        QVERIFY(read);
+        QCOMPARE(read->role(), QAccessible::Slider);
+        QVERIFY(!read->text(QAccessible::Name).isEmpty());
+        QVERIFY(read->valueInterface());
+        QCOMPARE(read->valueInterface()->currentValue(), handle->property("value"));
+    }
+}
+
+void SizesTest::railByMouse() {
+    open();
+    drag(u"railEdge"_s, {100, 0});
+    QCOMPARE(layout().railW(), 460.0);
+    drag(u"railEdge"_s, {-400, 0});
+    QCOMPARE(layout().railW(), 280.0);
+    QTest::mouseDClick(&m_gallery->window(), Qt::LeftButton, {},
+                       m_gallery->middleOf(u"railEdge"_s));
+    QCOMPARE(layout().railW(), 360.0);
+}
+
+void SizesTest::listByMouse() {
+    open();
+    const QQuickItem *list = m_gallery->item(u"navigator"_s);
+    const double before = list->height();
+    drag(u"navigatorEdge"_s, {0, -80});
+    QTRY_VERIFY(std::abs(list->height() - (before - 80)) < 6);
+    m_gallery->save(u"list-low"_s);
+    QTest::mouseDClick(&m_gallery->window(), Qt::LeftButton, {},
+                       m_gallery->middleOf(u"navigatorEdge"_s));
+    QTRY_COMPARE(list->height(), before);
+}
+
+void SizesTest::dockByMouse() {
+    open();
+    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    m_gallery->item(u"dockEdge"_s);
+    QTest::qWait(400); // the dock slides in
+    drag(u"dockEdge"_s, {-100, 0});
+    QCOMPARE(layout().dockW(), 860.0);
+    QTest::mouseDClick(&m_gallery->window(), Qt::LeftButton, {},
+                       m_gallery->middleOf(u"dockEdge"_s));
+    QCOMPARE(layout().dockW(), 760.0);
+}
+
+/// In the least window the dock takes the rail's place while it is open.
+void SizesTest::narrowWindow() {
+    open({1024, 680});
+    QVERIFY(m_gallery->find(u"navigator"_s));
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QTRY_VERIFY(m_gallery->find(u"strip"_s));
+    QVERIFY(!m_gallery->find(u"navigator"_s));
+    QTRY_VERIFY(m_gallery->hasFocus(u"askField"_s));
+    m_gallery->save(u"least-dock"_s);
+    m_workspace->clock.advance(1s);
+    QVERIFY(!m_workspace->settings->value(u"zandor.railCollapsed"_s).toBool());
+    QVERIFY(!m_workspace->settings->contains(u"zandor.dockW"_s));
+    m_gallery->window().resize(1440, 900);
+    QTRY_VERIFY(m_gallery->find(u"navigator"_s));
+    m_gallery->save(u"dock-beside-rail"_s);
+    m_gallery->window().resize(1024, 680);
+    QTRY_VERIFY(m_gallery->find(u"strip"_s));
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(m_gallery->find(u"navigator"_s));
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::SizesTest)
+#include "SizesTest.moc"
