@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "net/APIClient.h"
 #include "net/ChatStreamClient.h"
+#include "store/AccountRoom.h"
 #include "store/AttachmentRoom.h"
 #include "store/Calendar.h"
 #include "store/CallRoom.h"
@@ -45,6 +46,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
+    Q_PROPERTY(kiv::store::AccountRoom *account READ account CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
 
@@ -66,6 +68,7 @@ public:
     Calendar *calendar() { return &m_calendar; }
     CallRoom *call() { return &m_call; }
     UpdateRoom *update() { return &m_update; }
+    AccountRoom *account() { return &m_account; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -103,6 +106,7 @@ private:
     Calendar m_calendar;
     CallRoom m_call;
     UpdateRoom m_update;
+    AccountRoom m_account;
 };
 
 } // namespace kiv::store
