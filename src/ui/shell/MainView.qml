@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Account
 import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
@@ -18,7 +19,8 @@ FocusScope {
     /// Whether the canvas has the window for itself.
     readonly property bool full: sole.active
     readonly property bool railShown: layout.railShown && !full
-    readonly property bool floats: !layout.railShown && !layout.dockOpen && !full
+    readonly property bool accountOpen: layout.account !== ""
+    readonly property bool floats: !layout.railShown && !layout.dockOpen && !full && !accountOpen
     readonly property real side: full ? 0 : layout.railShown ? layout.shownRailW : Tokens.stripWidth
 
     /// Puts the cursor into the ask bar that shows.
@@ -119,10 +121,16 @@ FocusScope {
 
         CanvasView {
             anchors.fill: parent
-            focus: true
+            focus: !view.accountOpen
+            visible: !view.accountOpen
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
             onMessageRequested: messageId => view.reveal(messageId)
+        }
+        AccountLoader {
+            anchors.fill: parent
+            focus: view.accountOpen
+            store: view.store
         }
         Composer {
             id: floating
@@ -161,6 +169,9 @@ FocusScope {
     }
     SignInSheet {
         session: view.store.session
+    }
+    LeaveDialog {
+        account: view.store.account
     }
     Connections {
         target: LinkOpener
@@ -202,6 +213,13 @@ FocusScope {
     MenuKeys {
         commands: view.commands
         window: view.Window.window
+    }
+    Connections {
+        target: view.store.account
+
+        function onFailedElsewhere(why) {
+            Toasts.show(why)
+        }
     }
     Connections {
         target: view.commands

@@ -10,10 +10,10 @@ Popover {
     required property AppStore store
 
     width: 280
-    onAboutToShow: signOut.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToShow: accountRow.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 115
+        implicitHeight: signOut.y + signOut.height
     }
 
     Avatar {
@@ -21,6 +21,8 @@ Popover {
         y: 10
         size: 40
         initials: popover.store.scope.userInitials
+        picture: popover.store.scope.userAvatarURL
+        ground: Tokens.raised
     }
     Column {
         x: 62
@@ -45,17 +47,45 @@ Popover {
         width: popover.width - 2
     }
     MenuRow {
+        id: accountRow
+
+        objectName: "accountRow"
+        y: 79
+        width: popover.availableWidth
+        iconName: "user"
+        text: qsTr("Account")
+        hint: qsTr("Ctrl ,")
+        KeyNavigation.down: notificationsRow
+        onClicked: popover.store.layout.openAccount()
+    }
+    MenuRow {
+        id: notificationsRow
+
+        objectName: "notificationsRow"
+        y: accountRow.y + accountRow.height
+        width: popover.availableWidth
+        iconName: "bell"
+        text: qsTr("Notifications")
+        KeyNavigation.down: signOut
+        onClicked: popover.store.layout.openAccount("notifications")
+    }
+    Divider {
+        x: -popover.leftPadding + 1
+        y: notificationsRow.y + notificationsRow.height + 6
+        width: popover.width - 2
+    }
+    MenuRow {
         id: signOut
 
         objectName: "signOutRow"
-        y: 79
+        y: notificationsRow.y + notificationsRow.height + 13
         width: popover.availableWidth
         iconName: "out"
         text: qsTr("Sign out")
         destructive: true
         onClicked: {
             popover.close()
-            popover.store.session.logout()
+            popover.store.account.signOut()
         }
     }
 }
