@@ -43,6 +43,20 @@ QString storedHash(Sql &sql, const QString &account) {
     return row ? row->text(0) : QString();
 }
 
+/// Handles name people: two that differ in letter case alone are the same.
+void checkHandle(Sql &sql, const QString &account, const QString &handle) {
+    const QString wanted = handle.trimmed().toLower();
+    if (wanted.isEmpty()) {
+        return;
+    }
+    for (const Row &row : sql.rows(u"SELECT profile FROM accounts WHERE id <> ?"_s, {account})) {
+        const QJsonObject profile = QJsonDocument::fromJson(row.text(0).toUtf8()).object();
+        if (profile.value(u"handle"_s).toString().trimmed().toLower() == wanted) {
+            throw Refusal(409, u"This handle is taken."_s, u"handle_taken"_s);
+        }
+    }
+}
+
 QJsonObject readProfile(Sql &sql, const QString &account) {
     const auto row =
         sql.row(u"SELECT email, avatar, profile FROM accounts WHERE id = ?"_s, {account});
@@ -126,6 +140,7 @@ QJsonObject Accounts::profile(const QString &account) {
 
 QJsonObject Accounts::patchProfile(const QString &account, const QJsonObject &changes) {
     return m_database.run([&](Sql &sql) {
+        checkHandle(sql, account, changes.value(u"handle"_s).toString());
         const auto row = sql.row(u"SELECT profile FROM accounts WHERE id = ?"_s, {account});
         QJsonObject stored = QJsonDocument::fromJson(row->text(0).toUtf8()).object();
         for (auto change = changes.begin(); change != changes.end(); ++change) {

@@ -26,7 +26,8 @@ public:
 
     /// Every stored field under its wire key, "id", "email" and "avatar_url" (a key) included.
     QJsonObject profile(const QString &account);
-    /// Stores `changes` (checked by checkProfile) and returns the whole profile.
+    /// Stores `changes` (checked by checkedProfile) and returns the whole profile. Throws Refusal
+    /// when the handle belongs to somebody else.
     QJsonObject patchProfile(const QString &account, const QJsonObject &changes);
     /// `key` names an uploaded file.
     void setAvatar(const QString &account, const QString &key);

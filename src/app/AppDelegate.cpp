@@ -54,7 +54,7 @@ void AppDelegate::perform(Command command) {
     case Command::OpenSettings:
         return layout->openAccount();
     case Command::LogOut:
-        return m_store.session()->logout();
+        return m_store.account()->signOut();
     case Command::ShowSignIn:
         return showSheet(AuthSheetMode::Login);
     case Command::ShowSignUp:

@@ -25,6 +25,7 @@ Application::Application(const Options &options)
         m_clock, *m_net, m_settings, options.places.draftsFile,
         options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
     m_store->attachments()->setChooser(&m_chooser);
+    m_store->account()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
     m_store->setWebHost(&m_webHost);
     if (options.theme)

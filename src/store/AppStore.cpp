@@ -23,7 +23,8 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_connection(*this),
       m_calendar(clock),
       m_appearance(settings),
-      m_update(*this) {
+      m_update(*this),
+      m_account(*this) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();

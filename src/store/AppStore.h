@@ -3,6 +3,7 @@
 #include "base/Clock.h"
 #include "net/APIClient.h"
 #include "net/ChatStreamClient.h"
+#include "store/AccountRoom.h"
 #include "store/AppearanceRoom.h"
 #include "store/AttachmentRoom.h"
 #include "store/Calendar.h"
@@ -47,6 +48,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
     Q_PROPERTY(kiv::store::AppearanceRoom *appearance READ appearance CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
+    Q_PROPERTY(kiv::store::AccountRoom *account READ account CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
 
@@ -69,6 +71,7 @@ public:
     CallRoom *call() { return &m_call; }
     AppearanceRoom *appearance() { return &m_appearance; }
     UpdateRoom *update() { return &m_update; }
+    AccountRoom *account() { return &m_account; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -107,6 +110,7 @@ private:
     CallRoom m_call;
     AppearanceRoom m_appearance;
     UpdateRoom m_update;
+    AccountRoom m_account;
 };
 
 } // namespace kiv::store

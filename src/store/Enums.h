@@ -76,4 +76,17 @@ Q_ENUM_NS(RailRow)
 enum class EventTone { Neutral, Good, Warning, Bad };
 Q_ENUM_NS(EventTone)
 
+/// How far something that is asked for has come.
+enum class LoadState { Loading, Ready, Failed };
+Q_ENUM_NS(LoadState)
+
+/// How far what the person entered in a field has come: as the server has it, typed over, on its
+/// way, just kept, or turned down.
+enum class SaveState { Stored, Edited, Saving, Saved, Failed };
+Q_ENUM_NS(SaveState)
+
+/// Which entry of a password change is wrong.
+enum class PasswordFault { None, Current, Changed, Repeated };
+Q_ENUM_NS(PasswordFault)
+
 } // namespace kiv::store

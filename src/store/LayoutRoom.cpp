@@ -161,6 +161,9 @@ void LayoutRoom::focusAsk() {
 void LayoutRoom::openAccount(const QString &tab) {
     leaveCanvasFull();
     closePopovers();
+    if (m_store.scope()->auth() == AuthPhase::Anon)
+        return m_store.session()->openAuthSheet(AuthSheetMode::Login);
+    m_creating = QString();
     m_account = tab.isEmpty() ? firstAccountTab : tab;
 }
 

@@ -256,6 +256,11 @@ QCoro::Task<void> ScopeRoom::refreshUserAvatarIfNeeded(Cancel cancel) {
     }
 }
 
+void ScopeRoom::setUserName(const QString &name) {
+    const QString shown = name.trimmed();
+    m_userName = shown.isEmpty() ? m_userEmail.value() : shown;
+}
+
 void ScopeRoom::restoreScope() {
     if (m_store.isSnapshot())
         return;

@@ -91,6 +91,10 @@ public:
     QCoro::Task<void> reloadRail(Cancel cancel);
     QCoro::Task<void> resolveKiv(Cancel cancel);
     QCoro::Task<void> refreshUserAvatarIfNeeded(Cancel cancel);
+    /// The person has another name or picture from now on; an empty name leaves the address.
+    void setUserName(const QString &name);
+    void setUserAvatar(const QString &url) { m_userAvatarURL = url; }
+    void setAvatarUploading(bool uploading) { m_avatarUploading = uploading; }
     void restoreScope();
     void startPersisting();
     /// Forgets the signed-in person and everything of theirs; the saved scope stays.

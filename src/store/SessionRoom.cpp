@@ -171,6 +171,7 @@ void SessionRoom::resetToAnon() {
     m_store.chat()->disconnectChat();
     m_store.scope()->clear();
     m_store.events()->clear();
+    m_store.account()->clear();
     m_store.canvas()->forgetAll();
     m_store.chat()->newChat();
 }

@@ -122,11 +122,31 @@ private Q_SLOTS:
             before);
     }
 
+    void handlesAreNotShared() {
+        const QString path = u"/api/v2/user/profile"_s;
+        Client other(m_sandbox->port());
+        QVERIFY(!other.signUp(u"other@example.com"_s).isEmpty());
+        QCOMPARE(other.patch(path, {{u"handle"_s, u"Ona.L"_s}}).status, 200);
+        const Response taken =
+            m_client->patch(path, {{u"handle"_s, u" ona.l"_s}, {u"industry"_s, u"Law"_s}});
+        QCOMPARE(taken.status, 409);
+        QCOMPARE(taken.error(), u"This handle is taken."_s);
+        QVERIFY(m_client->get(path).json().value(u"industry"_s) != u"Law"_s);
+        // Everybody may keep their own, and do without one.
+        QCOMPARE(other.patch(path, {{u"handle"_s, u"ona.l"_s}}).status, 200);
+        QCOMPARE(other.patch(path, {{u"handle"_s, QString()}}).status, 200);
+        QCOMPARE(m_client->patch(path, {{u"handle"_s, u"ona.l"_s}}).status, 200);
+    }
+
     void avatar() {
         const QString path = u"/api/v2/user/avatar"_s;
         QCOMPARE(m_client->upload(path, {{u"a.png"_s, u"image/png"_s, "<svg/>"}}).code(),
                  u"bad_picture"_s);
         QCOMPARE(m_client->postRaw(path, "no form").status, 400);
+        const Response large = m_client->upload(
+            path, {{u"a.png"_s, u"image/png"_s, tinyPng + QByteArray(5 * 1024 * 1024 + 1, '\0')}});
+        QCOMPARE(large.code(), u"too_large"_s);
+        QCOMPARE(large.error(), u"The picture is larger than 5 MiB."_s);
         const Response response = m_client->upload(path, {{u"я.png"_s, u"text/plain"_s, tinyPng}});
         const QString url = response.json().value(u"avatar_url"_s).toString();
         QVERIFY(url.startsWith(m_sandbox->url()));

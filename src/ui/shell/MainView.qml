@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Account
 import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
@@ -18,7 +19,8 @@ FocusScope {
     /// Whether the canvas has the window for itself.
     readonly property bool full: sole.active
     readonly property bool railShown: layout.railShown && !full
-    readonly property bool floats: !layout.railShown && !layout.dockOpen && !full
+    readonly property bool accountOpen: layout.account !== ""
+    readonly property bool floats: !layout.railShown && !layout.dockOpen && !full && !accountOpen
     readonly property real side: full ? 0 : layout.railShown ? layout.shownRailW : Tokens.stripWidth
 
     /// Puts the cursor into the ask bar that shows.
@@ -127,7 +129,8 @@ FocusScope {
             id: canvasView
 
             anchors.fill: parent
-            focus: true
+            focus: !view.accountOpen
+            visible: !view.accountOpen
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
             onMessageRequested: messageId => view.reveal(messageId)
@@ -135,8 +138,14 @@ FocusScope {
         PanelPlace {
             anchors.fill: parent
             anchors.bottomMargin: canvasView.reserved
+            visible: !view.accountOpen
             store: view.store
             onActiveChanged: if (!active) canvasView.focus = true
+        }
+        AccountLoader {
+            anchors.fill: parent
+            focus: view.accountOpen
+            store: view.store
         }
         Composer {
             id: floating
@@ -175,6 +184,9 @@ FocusScope {
     }
     SignInSheet {
         store: view.store
+    }
+    LeaveDialog {
+        account: view.store.account
     }
     Connections {
         target: LinkOpener
@@ -216,6 +228,13 @@ FocusScope {
     MenuKeys {
         commands: view.commands
         window: view.Window.window
+    }
+    Connections {
+        target: view.store.account
+
+        function onFailedElsewhere(why) {
+            Toasts.show(why)
+        }
     }
     Connections {
         target: view.commands

@@ -11,10 +11,10 @@ Popover {
     required property AppStore store
 
     width: 280
-    onAboutToShow: theme.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToShow: accountRow.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 212
+        implicitHeight: signOut.y + signOut.height
     }
 
     Avatar {
@@ -22,6 +22,8 @@ Popover {
         y: 10
         size: 40
         initials: popover.store.scope.userInitials
+        picture: popover.store.scope.userAvatarURL
+        ground: Tokens.raised
     }
     Column {
         x: 62
@@ -45,15 +47,40 @@ Popover {
         y: 66
         width: popover.width - 2
     }
+    MenuRow {
+        id: accountRow
+
+        objectName: "accountRow"
+        y: 79
+        width: popover.availableWidth
+        iconName: "user"
+        text: qsTr("Account")
+        hint: qsTr("Ctrl ,")
+        KeyNavigation.down: notificationsRow
+        onClicked: popover.store.layout.openAccount()
+    }
+    MenuRow {
+        id: notificationsRow
+
+        objectName: "notificationsRow"
+        y: accountRow.y + accountRow.height
+        width: popover.availableWidth
+        iconName: "bell"
+        text: qsTr("Notifications")
+        KeyNavigation.down: theme
+        onClicked: popover.store.layout.openAccount("notifications")
+    }
     Icon {
+        id: moon
+
         x: 10
-        y: 81
+        y: notificationsRow.y + notificationsRow.height + 8
         name: "moon"
         color: Tokens.t2
     }
     Label {
         x: 40
-        y: 81
+        y: moon.y
         text: qsTr("Theme")
         Accessible.ignored: true
     }
@@ -62,30 +89,31 @@ Popover {
 
         objectName: "themeChoice"
         x: 6
-        y: 112
+        y: moon.y + 30
         width: popover.availableWidth - 12
         name: qsTr("Theme")
         labels: [qsTr("System"), qsTr("Light"), qsTr("Dark")]
         current: popover.store.appearance.theme
+        KeyNavigation.down: signOut
         onPicked: index => popover.store.appearance.chooseTheme(index)
     }
     Divider {
         x: -popover.leftPadding + 1
-        y: 162
+        y: theme.y + theme.height + 10
         width: popover.width - 2
     }
     MenuRow {
         id: signOut
 
         objectName: "signOutRow"
-        y: 176
+        y: theme.y + theme.height + 17
         width: popover.availableWidth
         iconName: "out"
         text: qsTr("Sign out")
         destructive: true
         onClicked: {
             popover.close()
-            popover.store.session.logout()
+            popover.store.account.signOut()
         }
     }
 }

@@ -143,6 +143,8 @@ FocusScope {
             Avatar {
                 anchors.centerIn: parent
                 initials: bar.store.scope.userInitials
+                picture: bar.store.scope.userAvatarURL
+                ground: Tokens.rail
             }
             ProfilePopover {
                 store: bar.store

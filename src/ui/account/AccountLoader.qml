@@ -1,0 +1,16 @@
+import QtQuick
+import Kiv.Account
+import Kiv.Store
+
+// The account pages, made when they are opened.
+Loader {
+    id: place
+
+    required property AppStore store
+
+    active: store.layout.account !== ""
+    onLoaded: (item as AccountPage)?.forceActiveFocus(Qt.OtherFocusReason)
+    sourceComponent: AccountPage {
+        store: (parent as AccountLoader)?.store
+    }
+}

@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Tokens
+
+// Leads to one of the account pages.
+T.Button {
+    id: tab
+
+    required property string iconName
+    property bool chosen: false
+    property bool destructive: false
+    readonly property color color: destructive ? Tokens.dangerText : chosen ? Tokens.accentText : Tokens.t2
+
+    implicitWidth: Math.ceil(words.implicitWidth) + 56
+    implicitHeight: 40
+    Accessible.role: Accessible.PageTab
+    Accessible.name: text
+    Accessible.selected: chosen
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    background: Rectangle {
+        radius: Tokens.radiusControl
+        color: tab.chosen ? Tokens.accentTint : tab.down ? Tokens.press : tab.hovered ? Tokens.hover : "transparent"
+
+        FocusRing {
+            anchors.margins: -2
+            visible: tab.visualFocus
+        }
+    }
+
+    Icon {
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        name: tab.iconName
+        size: 20
+        color: tab.color
+    }
+    Label {
+        id: words
+
+        x: 44
+        anchors.verticalCenter: parent.verticalCenter
+        style: Tokens.type.name
+        color: tab.color
+        text: tab.text
+        Accessible.ignored: true
+    }
+}

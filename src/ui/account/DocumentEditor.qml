@@ -1,0 +1,159 @@
+import QtQuick
+import Kiv.Account
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// A document while it is written, or as it reads. It is saved by its button alone.
+Rectangle {
+    id: editor
+
+    required property string title
+    required property AccountField value
+    required property Calendar calendar
+
+    readonly property int most: 20000
+    readonly property bool edited: value.state === Store.SaveState.Edited || value.state === Store.SaveState.Failed
+    readonly property bool tooLong: value.text.length > most
+    property bool reading: false
+
+    signal closed()
+
+    implicitHeight: foot.y + foot.height + 20
+    radius: Tokens.radiusSheet
+    color: Tokens.surface
+    border.width: 1
+    border.color: Tokens.line
+    onVisibleChanged: {
+        reading = false
+        if (visible)
+            area.forceActiveFocus(Qt.OtherFocusReason)
+    }
+
+    IconButton {
+        id: back
+
+        objectName: "closeDocument"
+        x: 14
+        y: 14
+        iconName: "left"
+        text: qsTr("All documents")
+        onClicked: editor.closed()
+    }
+    Label {
+        x: 58
+        anchors.verticalCenter: back.verticalCenter
+        width: modes.x - x - 12
+        style: Tokens.type.cardTitle
+        text: editor.title
+        Accessible.role: Accessible.Heading
+    }
+    Rectangle {
+        id: modes
+
+        x: parent.width - width - 24
+        y: 14
+        width: pair.width + 6
+        height: 36
+        radius: Tokens.radiusControl
+        color: Tokens.sunken
+
+        Row {
+            id: pair
+
+            x: 3
+            y: 3
+            spacing: 2
+
+            Segment {
+                objectName: "writeMode"
+                text: qsTr("Write")
+                chosen: !editor.reading
+                onClicked: {
+                    editor.reading = false
+                    area.forceActiveFocus(Qt.OtherFocusReason)
+                }
+            }
+            Segment {
+                objectName: "readMode"
+                text: qsTr("Preview")
+                chosen: editor.reading
+                onClicked: editor.reading = true
+            }
+        }
+    }
+    WritingArea {
+        id: area
+
+        x: 24
+        y: 64
+        width: parent.width - 48
+        height: 420
+        visible: !editor.reading
+        failed: editor.value.state === Store.SaveState.Failed || editor.tooLong
+        label: editor.title
+        text: editor.value.text
+        onEdited: text => editor.value.edit(text)
+    }
+    DocumentPreview {
+        x: area.x
+        y: area.y
+        width: area.width
+        height: area.height
+        visible: editor.reading
+        text: editor.reading ? editor.value.text : ""
+        calendar: editor.calendar
+    }
+    ErrorLine {
+        id: reason
+
+        x: 24
+        y: area.y + area.height + 6
+        width: area.width
+        text: editor.value.error
+    }
+    Item {
+        id: foot
+
+        x: 24
+        y: area.y + area.height + (reason.visible ? reason.height + 6 : 0) + 14
+        width: area.width
+        height: 36
+
+        Label {
+            objectName: "documentLength"
+            anchors.verticalCenter: parent.verticalCenter
+            style: Tokens.type.caption
+            color: editor.tooLong ? Tokens.dangerText : Tokens.t3
+            text: qsTr("%1 of %2 characters")
+                .arg(editor.value.text.length.toLocaleString(Qt.locale("en_GB"), "f", 0))
+                .arg(editor.most.toLocaleString(Qt.locale("en_GB"), "f", 0))
+        }
+        SaveNote {
+            anchors.verticalCenter: parent.verticalCenter
+            x: buttons.x - width - 16
+            value: editor.value
+            label: editor.title
+        }
+        Row {
+            id: buttons
+
+            x: parent.width - width
+            spacing: 10
+
+            Button {
+                objectName: "discardDocument"
+                visible: editor.edited
+                text: qsTr("Discard")
+                onClicked: editor.value.discard()
+            }
+            Button {
+                objectName: "saveDocument"
+                kind: Button.Main
+                enabled: editor.edited && !editor.tooLong
+                text: qsTr("Save")
+                onClicked: editor.value.commit()
+            }
+        }
+    }
+}

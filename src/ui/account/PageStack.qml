@@ -1,0 +1,66 @@
+import QtQuick
+import Kiv.Account
+import Kiv.Store
+
+// The pages; one of them shows.
+Item {
+    id: stack
+
+    required property AppStore store
+
+    readonly property AccountRoom account: store.account
+    readonly property string tab: store.layout.account
+
+    implicitHeight: childrenRect.height
+
+    ProfilePage {
+        objectName: "profilePage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "profile"
+        store: stack.store
+    }
+    PlanPage {
+        objectName: "planPage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "plan"
+        account: stack.account
+    }
+    SecurityPage {
+        objectName: "securityPage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "security"
+        account: stack.account
+    }
+    MemoryPage {
+        objectName: "memoryPage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "memory"
+        account: stack.account
+        calendar: stack.store.calendar
+    }
+    SourcesPage {
+        objectName: "sourcesPage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "sources"
+        account: stack.account
+    }
+    VoicePage {
+        objectName: "voicePage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "voice"
+        account: stack.account
+    }
+    NotificationsPage {
+        objectName: "notificationsPage"
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: stack.tab === "notifications"
+        account: stack.account
+    }
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import Kiv.Controls
+import Kiv.Tokens
+
+// A password under its label, hidden unless its eye is open.
+Field {
+    id: entry
+
+    field.trailing: 32
+    field.echoMode: eye.checked ? TextInput.Normal : TextInput.Password
+    field.passwordCharacter: "•"
+    field.inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
+
+    IconButton {
+        id: eye
+
+        parent: entry.field
+        x: parent.width - width - 4
+        anchors.verticalCenter: parent.verticalCenter
+        size: 32
+        checkable: true
+        iconName: "eye"
+        color: checked ? Tokens.accentText : Tokens.t3
+        text: checked ? qsTr("Hide the password") : qsTr("Show the password")
+    }
+}
