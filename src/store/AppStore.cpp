@@ -22,6 +22,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_session(*this),
       m_connection(*this),
       m_calendar(clock),
+      m_create(*this),
       m_update(*this) {
     if (isSnapshot())
         return;

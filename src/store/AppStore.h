@@ -9,6 +9,7 @@
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
+#include "store/CreateRoom.h"
 #include "store/EventsRoom.h"
 #include "store/FindRoom.h"
 #include "store/LayoutRoom.h"
@@ -44,6 +45,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
+    Q_PROPERTY(kiv::store::CreateRoom *create READ create CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
 public:
     enum class Mode { Normal, Snapshot };
@@ -65,6 +67,7 @@ public:
     ConnectionRoom *connection() { return &m_connection; }
     Calendar *calendar() { return &m_calendar; }
     CallRoom *call() { return &m_call; }
+    CreateRoom *create() { return &m_create; }
     UpdateRoom *update() { return &m_update; }
 
     Clock &clock() { return m_clock; }
@@ -102,6 +105,7 @@ private:
     ConnectionRoom m_connection;
     Calendar m_calendar;
     CallRoom m_call;
+    CreateRoom m_create;
     UpdateRoom m_update;
 };
 
