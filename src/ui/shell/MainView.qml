@@ -2,6 +2,7 @@ import QtQuick
 import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Create
 import Kiv.Markdown
 import Kiv.Shell
 import Kiv.Store
@@ -99,6 +100,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         visible: !view.layout.railShown && !view.full
         scope: view.store.scope
+        onCreateRequested: kind => view.layout.startCreate(kind)
     }
     EdgeHandle {
         anchors.top: updateBanner.bottom
@@ -161,6 +163,9 @@ FocusScope {
     }
     SignInSheet {
         session: view.store.session
+    }
+    WizardLoader {
+        room: view.store.create
     }
     Connections {
         target: LinkOpener

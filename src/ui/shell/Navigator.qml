@@ -13,6 +13,9 @@ ListView {
 
     required property ScopeRoom scope
 
+    /// A new "project" or "agent" is asked for.
+    signal createRequested(kind: string)
+
     objectName: "navigator"
     model: scope.rail
     topMargin: 12
@@ -41,9 +44,12 @@ ListView {
         width: list.width - 24
         ringed: ListView.isCurrentItem && list.activeFocus
         onClicked: {
+            if (label)
+                return
             list.currentIndex = index
             list.scope.pickEntry(kind, projectId, entryId)
         }
+        onCreateRequested: list.createRequested(entryId)
         onToggled: if (project) list.scope.toggleExpanded(entryId)
     }
 }

@@ -38,6 +38,7 @@ FocusScope {
         width: parent.width - 1
         height: rail.listHeight
         scope: rail.store.scope
+        onCreateRequested: kind => rail.store.layout.startCreate(kind)
     }
     RailSkeleton {
         visible: !rail.signedIn

@@ -76,6 +76,7 @@ T.Button {
     ScopePopover {
         scope: button.scope
         most: button.popoverHeight
+        onCreateRequested: button.store.layout.startCreate()
         visible: button.store.layout.topScopeOpen
         onAboutToHide: button.store.layout.closePopovers()
     }

@@ -14,6 +14,9 @@ Popover {
     required property ScopeRoom scope
     property real most: 600
 
+    /// Something new to talk to is asked for.
+    signal createRequested()
+
     function pickCurrent() {
         const row = list.currentItem as ScopeRow
         if (row)
@@ -28,7 +31,7 @@ Popover {
     }
 
     contentItem: Item {
-        implicitHeight: 48 + list.height
+        implicitHeight: create.y + create.height
     }
 
     TextField {
@@ -56,7 +59,7 @@ Popover {
         objectName: "scopeChoices"
         y: 44
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - 60)
+        height: Math.min(contentHeight, popover.most - 110)
         model: popover.scope.choices
         clip: true
         currentIndex: 0
@@ -76,5 +79,20 @@ Popover {
             highlighted: ListView.isCurrentItem
             onClicked: popover.scope.pickEntry(kind, projectId, entryId)
         }
+    }
+    Divider {
+        x: -popover.leftPadding + 1
+        y: create.y - 7
+        width: popover.width - 2
+    }
+    MenuRow {
+        id: create
+
+        objectName: "scopeCreate"
+        y: list.y + list.height + 13
+        width: popover.availableWidth
+        iconName: "plus"
+        text: qsTr("New project or agent")
+        onClicked: popover.createRequested()
     }
 }
