@@ -2,6 +2,7 @@
 
 #include "Database.h"
 #include "Http.h"
+#include "base/Text.h"
 
 #include <QDateTime>
 #include <QUuid>
@@ -20,9 +21,18 @@ QString checkedName(const QString &name, const QString &what) {
     if (trimmed.isEmpty()) {
         throw Refusal(400, u"%1 needs a name."_s.arg(what), u"name_missing"_s);
     }
-    if (trimmed.size() > longestName) {
+    if (characterCount(trimmed) > longestName) {
         throw Refusal(400, u"The name is longer than %1 characters."_s.arg(longestName),
                       u"name_too_long"_s);
+    }
+    return trimmed;
+}
+
+QString checkedText(const QString &text, const QString &what, qsizetype longest) {
+    const QString trimmed = text.trimmed();
+    if (characterCount(trimmed) > longest) {
+        throw Refusal(400, u"The %1 is longer than %2 characters."_s.arg(what).arg(longest),
+                      u"text_too_long"_s);
     }
     return trimmed;
 }
@@ -106,12 +116,12 @@ QJsonArray Workspace::projects(const QString &account) {
 QJsonObject Workspace::createProject(const QString &account, const QString &label,
                                      const QString &brief) {
     const QString name = checkedName(label, u"A project"_s);
+    const QString goal = checkedText(brief, u"brief"_s, longestText);
     return m_database.run([&](Sql &sql) {
         const QString slug = freeSlug(sql, account, name);
         sql.exec(u"INSERT INTO projects (account, slug, label, brief, status, position)"
                  u" VALUES (?, ?, ?, ?, 'active', ?)"_s,
-                 {account, slug, name, brief.left(longestText),
-                  nextPosition(sql, u"projects"_s, account)});
+                 {account, slug, name, goal, nextPosition(sql, u"projects"_s, account)});
         addEvent(sql, account, slug, u"project_created"_s, u"Project created"_s, name);
         return projectObject(*sql.row(projectColumns + u" AND slug = ?"_s, {account, slug}));
     });
@@ -177,12 +187,13 @@ QJsonArray Workspace::agents(const QString &account) {
 
 QJsonObject Workspace::createAgent(const QString &account, const AgentDraft &draft) {
     const QString name = checkedName(draft.name, u"An agent"_s);
-    const QString role = draft.role.trimmed().left(longestName);
+    const QString role = checkedText(draft.role, u"role"_s, longestName);
+    const QString description = checkedText(draft.description, u"description"_s, longestText);
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
     return m_database.run([&](Sql &sql) {
         sql.exec(u"INSERT INTO agents (id, account, name, role, description, status, kind,"
                  u" position) VALUES (?, ?, ?, ?, ?, ?, 'agent', ?)"_s,
-                 {id, account, name, role, draft.description.left(longestText), draft.status,
+                 {id, account, name, role, description, draft.status,
                   nextPosition(sql, u"agents"_s, account)});
         QJsonArray warnings;
         if (!draft.slug.isEmpty() && hasProject(sql, account, draft.slug)) {

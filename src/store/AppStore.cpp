@@ -23,6 +23,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_connection(*this),
       m_calendar(clock),
       m_appearance(settings),
+      m_create(*this),
       m_update(*this),
       m_account(*this) {
     if (isSnapshot())

@@ -11,6 +11,7 @@
 #include "store/CanvasRoom.h"
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
+#include "store/CreateRoom.h"
 #include "store/EventsRoom.h"
 #include "store/FindRoom.h"
 #include "store/LayoutRoom.h"
@@ -47,6 +48,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
     Q_PROPERTY(kiv::store::AppearanceRoom *appearance READ appearance CONSTANT)
+    Q_PROPERTY(kiv::store::CreateRoom *create READ create CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
     Q_PROPERTY(kiv::store::AccountRoom *account READ account CONSTANT)
 public:
@@ -70,6 +72,7 @@ public:
     Calendar *calendar() { return &m_calendar; }
     CallRoom *call() { return &m_call; }
     AppearanceRoom *appearance() { return &m_appearance; }
+    CreateRoom *create() { return &m_create; }
     UpdateRoom *update() { return &m_update; }
     AccountRoom *account() { return &m_account; }
 
@@ -109,6 +112,7 @@ private:
     Calendar m_calendar;
     CallRoom m_call;
     AppearanceRoom m_appearance;
+    CreateRoom m_create;
     UpdateRoom m_update;
     AccountRoom m_account;
 };

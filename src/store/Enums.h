@@ -72,6 +72,18 @@ Q_ENUM_NS(FileKind)
 enum class RailRow { Kiv, SectionLabel, Project, Agent };
 Q_ENUM_NS(RailRow)
 
+/// What the create wizard makes.
+enum class CreateKind { Project, Agent };
+Q_ENUM_NS(CreateKind)
+
+/// A page of the create wizard.
+enum class CreateStep { Kind, Template, Details, Tools, Review };
+Q_ENUM_NS(CreateStep)
+
+/// How far a creation has come; what is created may still have to be opened.
+enum class CreatePhase { Editing, Sending, Created };
+Q_ENUM_NS(CreatePhase)
+
 /// What an event says about how things go.
 enum class EventTone { Neutral, Good, Warning, Bad };
 Q_ENUM_NS(EventTone)

@@ -170,7 +170,14 @@ void LayoutRoom::openAccount(const QString &tab) {
 void LayoutRoom::startCreate(const QString &kind) {
     leaveCanvasFull();
     closePopovers();
-    m_creating = kind;
+    if (m_store.scope()->auth() == AuthPhase::SignedIn)
+        m_store.create()->start(kind, m_store.scope()->project());
+    else
+        m_store.session()->openAuthSheet(AuthSheetMode::Login);
+}
+
+bool LayoutRoom::isCreating() const {
+    return m_store.create()->isOpen();
 }
 
 void LayoutRoom::closeSurfaces() {
@@ -181,7 +188,7 @@ void LayoutRoom::closeSurfaces() {
 
 void LayoutRoom::closePages() {
     m_account = QString();
-    m_creating = QString();
+    m_store.create()->close();
 }
 
 void LayoutRoom::closeAccount() {

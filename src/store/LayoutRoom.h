@@ -31,7 +31,6 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(bool eventsOpen READ eventsOpen NOTIFY eventsOpenChanged)
     Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY profileOpenChanged)
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
-    Q_PROPERTY(QString creating READ creating NOTIFY creatingChanged)
     Q_PROPERTY(int focusAskRequests READ focusAskRequests NOTIFY focusAskRequestsChanged)
     Q_PROPERTY(double leastRailW READ leastRailW CONSTANT)
     Q_PROPERTY(double mostRailW READ mostRailW CONSTANT)
@@ -65,9 +64,8 @@ public:
     bool eventsOpen() const { return m_eventsOpen; }
     bool profileOpen() const { return m_profileOpen; }
     QString account() const { return m_account; }
-    QString creating() const { return m_creating; }
     bool isAccount() const { return !m_account.value().isEmpty(); }
-    bool isCreating() const { return !m_creating.value().isEmpty(); }
+    bool isCreating() const;
     bool isFeed() const { return !isAccount() && !isCreating(); }
 
     /// Counts how often the cursor was asked into the ask bar; the view follows each.
@@ -107,8 +105,9 @@ public:
     Q_INVOKABLE void focusAsk();
     /// Opens the account pages, at the first one when no tab is named.
     Q_INVOKABLE void openAccount(const QString &tab = {});
-    /// Opens the wizard for a "project" or an "agent".
-    Q_INVOKABLE void startCreate(const QString &kind);
+    /// Opens the wizard for a "project", for an "agent" of the current project, or to ask which.
+    /// Somebody who is not signed in is asked to sign in first.
+    Q_INVOKABLE void startCreate(const QString &kind = {});
     /// Does nothing while there is no scene.
     Q_INVOKABLE void toggleCanvasFull();
     /// Whether the canvas had the window for itself.
@@ -137,7 +136,6 @@ Q_SIGNALS:
     void eventsOpenChanged();
     void profileOpenChanged();
     void accountChanged();
-    void creatingChanged();
     void focusAskRequestsChanged();
     void windowWidthChanged();
     void shownRailWChanged();
@@ -169,7 +167,6 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_eventsOpen, &LayoutRoom::eventsOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_profileOpen, &LayoutRoom::profileOpenChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_account, &LayoutRoom::accountChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_creating, &LayoutRoom::creatingChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, int, m_focusAskRequests,
                                &LayoutRoom::focusAskRequestsChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_windowWidth, 1440,

@@ -11,8 +11,8 @@ RailModel::RailModel(QObject *parent) : QAbstractListModel(parent) {
 void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents) {
     beginResetModel();
     m_rows = {{RailRow::Kiv, {}, {}, tr("KIV"), tr("Sees all projects and agents"), {}}};
-    if (!projects.isEmpty())
-        m_rows.append({RailRow::SectionLabel, {}, {}, tr("Projects"), {}, {}});
+    // Also without any: the first one is made from its label.
+    m_rows.append({RailRow::SectionLabel, u"project"_s, {}, tr("Projects"), {}, {}});
     for (const Project &project : projects) {
         m_rows.append({RailRow::Project, project.id, project.id, project.name, project.meta,
                        project.colorHex});
@@ -21,7 +21,7 @@ void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &s
                 {RailRow::Agent, agent.id, project.id, agent.name, agent.role, agent.colorHex});
     }
     if (!standaloneAgents.isEmpty())
-        m_rows.append({RailRow::SectionLabel, {}, {}, tr("Agents"), {}, {}});
+        m_rows.append({RailRow::SectionLabel, u"agent"_s, {}, tr("Agents"), {}, {}});
     for (const Agent &agent : standaloneAgents)
         m_rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
     endResetModel();

@@ -168,6 +168,7 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
 void SessionRoom::resetToAnon() {
     m_live.cancel();
     m_entering = false;
+    m_store.create()->close();
     m_store.chat()->disconnectChat();
     m_store.scope()->clear();
     m_store.events()->clear();

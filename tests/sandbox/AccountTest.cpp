@@ -182,6 +182,8 @@ private Q_SLOTS:
         QTest::newRow("no Latin letters") << u"Причал"_s << u"project"_s;
         QTest::newRow("blank") << u"  "_s << QString();
         QTest::newRow("too long") << QString(81, u'x') << QString();
+        QTest::newRow("long for a machine only")
+            << u"👩‍👩‍👧"_s.repeated(80) << u"project-2"_s;
     }
 
     void projects() {
@@ -230,6 +232,34 @@ private Q_SLOTS:
                 .status,
             200);
         QCOMPARE(create(u" "_s, {}).status, 400);
+    }
+
+    void longTextsAreRefused_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("member");
+        QTest::addColumn<int>("longest");
+        QTest::addColumn<QString>("why");
+        QTest::newRow("brief") << u"projects"_s << u"brief"_s << 4000
+                               << u"The brief is longer than 4000 characters."_s;
+        QTest::newRow("role") << u"custom-agents"_s << u"role"_s << 80
+                              << u"The role is longer than 80 characters."_s;
+        QTest::newRow("description") << u"custom-agents"_s << u"description"_s << 4000
+                                     << u"The description is longer than 4000 characters."_s;
+    }
+
+    void longTextsAreRefused() {
+        QFETCH(QString, path);
+        QFETCH(QString, member);
+        QFETCH(int, longest);
+        const auto send = [&](qsizetype length) {
+            return m_client->post(
+                u"/api/v2/"_s + path,
+                {{u"name"_s, u"Tern"_s}, {u"label"_s, u"Tern"_s}, {member, QString(length, u'ё')}});
+        };
+        QCOMPARE(send(longest).status, 201);
+        const Response refused = send(longest + 1);
+        QCOMPARE(refused.status, 400);
+        QTEST(refused.json().value(u"error"_s).toString(), "why");
     }
 
     void rosterHoldsWhatAClientMustSkip() {

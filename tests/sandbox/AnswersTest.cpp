@@ -213,6 +213,20 @@ private Q_SLOTS:
         QVERIFY(answer.word().isEmpty());
     }
 
+    void newAgentAnswers() {
+        const QString agent =
+            m_client
+                ->post(u"/api/v2/custom-agents"_s, {{u"name"_s, u"Heron"_s},
+                                                    {u"role"_s, u"Research"_s},
+                                                    {u"project_slug"_s, u"orchard"_s}})
+                .json()
+                .value(u"id"_s)
+                .toString();
+        const QString chat = u"/api/v2/custom-agents/%1/chat"_s.arg(agent);
+        QVERIFY(m_client->get(chat).json().value(u"messages"_s).toArray().isEmpty());
+        QVERIFY(!ask(u"How was the week?"_s, chat).content.isEmpty());
+    }
+
     void seedVariesTheFigures() {
         QString first;
         for (const QString &seed : {u"7"_s, u"7"_s, u"8"_s}) {

@@ -20,7 +20,7 @@ T.Button {
 
     background: Rectangle {
         radius: Tokens.radiusControl
-        color: row.hovered || row.down || row.visualFocus ? Tokens.hoverRaised : "transparent"
+        color: row.hovered || row.down || row.highlighted || row.visualFocus ? Tokens.hoverRaised : "transparent"
 
         FocusRing {
             anchors.margins: 0

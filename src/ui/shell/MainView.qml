@@ -3,6 +3,7 @@ import Kiv.Account
 import Kiv.Canvas
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Create
 import Kiv.Markdown
 import Kiv.Shell
 import Kiv.Store
@@ -101,6 +102,7 @@ FocusScope {
         anchors.bottom: parent.bottom
         visible: !view.layout.railShown && !view.full
         scope: view.store.scope
+        onCreateRequested: kind => view.layout.startCreate(kind)
     }
     EdgeHandle {
         anchors.top: updateBanner.bottom
@@ -187,6 +189,9 @@ FocusScope {
     }
     LeaveDialog {
         account: view.store.account
+    }
+    WizardLoader {
+        room: view.store.create
     }
     Connections {
         target: LinkOpener

@@ -21,6 +21,8 @@ ListView {
         return event.text > " " && event.key !== Qt.Key_Delete && event.key !== Qt.Key_Backspace
             && (event.modifiers & ~Qt.ShiftModifier) === 0
     }
+    /// A new "project" or "agent" is asked for.
+    signal createRequested(kind: string)
 
     objectName: "navigator"
     model: scope.rail
@@ -57,10 +59,13 @@ ListView {
         width: list.width - 24
         ringed: ListView.isCurrentItem && list.activeFocus
         onClicked: {
+            if (label)
+                return
             list.currentIndex = index
             list.scope.pickEntry(kind, projectId, entryId)
         }
         onSearchRequested: list.searchRequested("")
+        onCreateRequested: list.createRequested(entryId)
         onToggled: if (project) list.scope.toggleExpanded(entryId)
     }
 }

@@ -27,10 +27,11 @@ T.ItemDelegate {
 
     signal toggled()
     signal searchRequested()
+    signal createRequested()
 
     objectName: label ? "" : "railRow:" + entryId
     implicitHeight: kiv ? 48 : label ? 34 : project ? 36 : 32
-    enabled: !label
+    hoverEnabled: !label
     focusPolicy: Qt.NoFocus
     text: name
     Accessible.name: detail === "" ? name : qsTr("%1, %2").arg(name).arg(detail)
@@ -57,6 +58,19 @@ T.ItemDelegate {
         color: Tokens.t3
         text: row.name
         Accessible.ignored: true
+    }
+    IconButton {
+        objectName: "railCreate:" + row.entryId
+        x: parent.width - width - 4
+        anchors.bottom: parent.bottom
+        visible: row.label
+        size: 28
+        iconSize: 16
+        iconName: "plus"
+        text: row.entryId === "project" ? qsTr("New project") : qsTr("New agent")
+        onClicked: row.createRequested()
+        Keys.onReturnPressed: row.createRequested()
+        Keys.onEnterPressed: row.createRequested()
     }
     Figure {
         id: figure

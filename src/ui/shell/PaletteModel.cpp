@@ -43,6 +43,14 @@ void PaletteModel::addCommands() {
                      [this, command = entry.command] { m_commands->perform(command); }});
         }
     }
+    if (m_store->scope()->auth() == store::AuthPhase::SignedIn) {
+        const auto addNew = [this](const QString &title, Command command) {
+            m_entries.append(
+                {title, {}, u"plus"_s, {}, [this, command] { m_commands->perform(command); }});
+        };
+        addNew(tr("New Project"), Command::NewProject);
+        addNew(tr("New Agent"), Command::NewAgent);
+    }
     m_entries.append({tr("Keyboard Shortcuts"), tr("Help"), u"keyboard"_s, {}, [this] {
                           Q_EMIT shortcutsRequested();
                       }});

@@ -37,6 +37,7 @@ FocusScope {
         width: parent.width - 1
         height: rail.listHeight
         scope: rail.store.scope
+        onCreateRequested: kind => rail.store.layout.startCreate(kind)
         onSearchRequested: typed => {
             finder.typed = typed
             rail.layout.toggleScope()

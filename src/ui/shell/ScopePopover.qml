@@ -35,7 +35,7 @@ Popover {
     }
 
     contentItem: Item {
-        implicitHeight: everybody.y + everybody.height
+        implicitHeight: create.y + create.height
     }
 
     TextField {
@@ -105,5 +105,15 @@ Popover {
         iconName: "agents"
         text: qsTr("Show all agents")
         onClicked: popover.store.canvas.openPanel("agents")
+    }
+    MenuRow {
+        id: create
+
+        objectName: "scopeCreate"
+        y: everybody.y + everybody.height
+        width: popover.availableWidth
+        iconName: "plus"
+        text: qsTr("New project or agent")
+        onClicked: popover.store.layout.startCreate()
     }
 }

@@ -13,6 +13,9 @@ FocusScope {
 
     required property ScopeRoom scope
 
+    /// A new "project" is asked for.
+    signal createRequested(kind: string)
+
     implicitWidth: Tokens.stripWidth
     Accessible.role: Accessible.Pane
     Accessible.name: qsTr("Rail")
@@ -32,9 +35,10 @@ FocusScope {
 
         objectName: "strip"
         width: parent.width - 1
-        height: parent.height
+        height: Math.min(contentHeight + 16, parent.height - 52)
         topMargin: 12
-        bottomMargin: 12
+        bottomMargin: 4
+        clip: contentHeight + 16 > height
         model: strip.scope.rail
         visible: strip.scope.auth === Store.AuthPhase.SignedIn
         focus: true
@@ -117,5 +121,17 @@ FocusScope {
                 beside: true
             }
         }
+    }
+    IconButton {
+        objectName: "stripCreate"
+        anchors.horizontalCenter: list.horizontalCenter
+        y: list.height
+        visible: list.visible
+        size: 40
+        iconName: "plus"
+        text: qsTr("New project")
+        onClicked: strip.createRequested("project")
+        Keys.onReturnPressed: strip.createRequested("project")
+        Keys.onEnterPressed: strip.createRequested("project")
     }
 }

@@ -1,0 +1,135 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Create
+import Kiv.Store
+import Kiv.Tokens
+
+// Makes a project or an agent, one question a page.
+Dialog {
+    id: wizard
+
+    required property CreateRoom room
+
+    readonly property bool editing: room.phase === Store.CreatePhase.Editing
+
+    objectName: "createWizard"
+    width: 800
+    height: Math.min(600, (T.Overlay.overlay?.height ?? 648) - 48)
+    padding: 0
+    bottomPadding: 0
+    closePolicy: T.Popup.NoAutoClose
+    visible: room.open
+
+    contentItem: Item {}
+
+    FocusScope {
+        anchors.fill: parent
+        focus: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: steps.title
+        Keys.onEscapePressed: wizard.room.requestClose()
+        Keys.onReturnPressed: wizard.room.next()
+        Keys.onEnterPressed: wizard.room.next()
+
+        WizardSteps {
+            id: steps
+
+            width: 224
+            height: parent.height
+            room: wizard.room
+        }
+        Item {
+            id: page
+
+            readonly property string head: kind.visible ? kind.head : template.visible ? template.head
+                : details.visible ? details.head : tools.visible ? tools.head : review.head
+            readonly property string sub: kind.visible ? kind.sub : template.visible ? template.sub
+                : details.visible ? details.sub : tools.visible ? tools.sub : review.sub
+
+            x: steps.width
+            width: parent.width - x
+            height: parent.height - foot.height
+
+            Label {
+                x: 32
+                y: 24
+                width: parent.width - 96
+                style: Tokens.type.heading
+                text: page.head
+                Accessible.role: Accessible.Heading
+            }
+            Label {
+                x: 32
+                y: 54
+                width: parent.width - 96
+                style: Tokens.type.line
+                color: Tokens.t2
+                text: page.sub
+            }
+            FocusScope {
+                id: body
+
+                x: 32
+                y: 95
+                width: parent.width - 64
+                height: parent.height - y - 6
+                focus: true
+                enabled: wizard.editing
+
+                KindPage {
+                    id: kind
+
+                    anchors.fill: parent
+                    room: wizard.room
+                }
+                TemplatePage {
+                    id: template
+
+                    anchors.fill: parent
+                    room: wizard.room
+                }
+                DetailsPage {
+                    id: details
+
+                    anchors.fill: parent
+                    room: wizard.room
+                }
+                ToolsPage {
+                    id: tools
+
+                    anchors.fill: parent
+                    room: wizard.room
+                }
+                ReviewPage {
+                    id: review
+
+                    anchors.fill: parent
+                    room: wizard.room
+                }
+            }
+        }
+        WizardFoot {
+            id: foot
+
+            x: steps.width
+            y: parent.height - height
+            width: parent.width - x
+            room: wizard.room
+        }
+        IconButton {
+            objectName: "wizardClose"
+            x: parent.width - width - 20
+            y: 18
+            iconName: "close"
+            text: qsTr("Close")
+            onClicked: wizard.room.requestClose()
+            Keys.onReturnPressed: wizard.room.requestClose()
+            Keys.onEnterPressed: wizard.room.requestClose()
+        }
+    }
+
+    DiscardDialog {
+        room: wizard.room
+    }
+}
