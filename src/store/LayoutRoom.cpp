@@ -163,7 +163,6 @@ void LayoutRoom::openAccount(const QString &tab) {
     closePopovers();
     if (m_store.scope()->auth() == AuthPhase::Anon)
         return m_store.session()->openAuthSheet(AuthSheetMode::Login);
-    m_creating = QString();
     m_account = tab.isEmpty() ? firstAccountTab : tab;
 }
 
