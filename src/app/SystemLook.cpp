@@ -22,6 +22,8 @@ constexpr uint preferDark = 1;
 void SystemLook::watch() {
     if (!m_bus.isConnected())
         return;
+    // A change comes from another thread, which hands over known types only.
+    qRegisterMetaType<QDBusVariant>();
     m_bus.connect(service, path, interface, u"SettingChanged"_s, this,
                   SLOT(take(QString, QString, QDBusVariant)));
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
