@@ -34,8 +34,7 @@ Appearance &registerModules(QQmlEngine &engine) {
         qml_register_types_Kiv_Controls, qml_register_types_Kiv_Markdown,
         qml_register_types_Kiv_Files,    qml_register_types_Kiv_Chat,
         qml_register_types_Kiv_Canvas,   qml_register_types_Kiv_Account,
-        qml_register_types_Kiv_Create,
-        qml_register_types_Kiv_Shell,
+        qml_register_types_Kiv_Create,   qml_register_types_Kiv_Shell,
     };
     Q_UNUSED(registrations)
 

@@ -69,24 +69,24 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QString>("address");
         QTest::newRow("one address")
-            << QByteArray(R"("url":"https://a.example/1")") << u"https://a.example/1"_s;
+            << QByteArray("\"url\":\"https://a.example/1\"") << u"https://a.example/1"_s;
         QTest::newRow("two")
-            << QByteArray(R"("url":"http://a.example/1","public_url":"https://b.example/1")")
+            << QByteArray("\"url\":\"http://a.example/1\",\"public_url\":\"https://b.example/1\"")
             << u"http://a.example/1"_s;
         QTest::newRow("a public one")
-            << QByteArray(R"("public_url":"https://b.example/1")") << u"https://b.example/1"_s;
+            << QByteArray("\"public_url\":\"https://b.example/1\"") << u"https://b.example/1"_s;
         QTest::newRow("a place in the store and a public one")
-            << QByteArray(R"("url":"bucket/1","public_url":"https://b.example/1")")
+            << QByteArray("\"url\":\"bucket/1\",\"public_url\":\"https://b.example/1\"")
             << u"https://b.example/1"_s;
-        QTest::newRow("another scheme") << QByteArray(R"("url":"file:///etc/hosts")") << QString();
-        QTest::newRow("none") << QByteArray(R"("filename":"f")") << QString();
+        QTest::newRow("another scheme") << QByteArray("\"url\":\"file:///etc/hosts\"") << QString();
+        QTest::newRow("none") << QByteArray("\"filename\":\"f\"") << QString();
     }
     void filesOfARow() {
         QFETCH(QByteArray, file);
         QFETCH(QString, address);
         AttachmentFixture f;
-        f.history(kivChat, R"([{"id":1,"role":"user","content":"x","metadata":)"
-                           R"({"attachments":[{"name":"plan.pdf",)" +
+        f.history(kivChat, "[{\"id\":1,\"role\":\"user\",\"content\":\"x\",\"metadata\":"
+                           "{\"attachments\":[{\"name\":\"plan.pdf\"," +
                                file + "}]}}]");
         QVERIFY(f.signIn());
         const QList<MsgFile> files = f.msgs().messages().first().files;

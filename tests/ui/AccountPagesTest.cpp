@@ -134,7 +134,7 @@ void AccountPagesTest::pictures() {
     m_gallery->click(u"memoryTab"_s);
     click(u"goals_md"_s);
     m_gallery->save(name + u"editor"_s);
-    click(u"readMode"_s);
+    click(u"segment:Preview"_s);
     m_gallery->save(name + u"preview"_s);
     m_gallery->click(u"profileTab"_s);
     click(u"country"_s);
@@ -263,7 +263,7 @@ void AccountPagesTest::switches() {
 
 void AccountPagesTest::modes() {
     open(u"sources"_s);
-    click(u"askMode"_s);
+    click(u"segment:Ask first"_s);
     QTRY_COMPARE(patched(), (QJsonObject{{u"default_data_sources_mode"_s, u"ask"_s}}));
     click(u"chatModel"_s);
     m_gallery->type(u"large-2"_s);

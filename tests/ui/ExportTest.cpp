@@ -92,8 +92,8 @@ void ExportTest::open(const QSize &size) {
     QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
     m_export = m_gallery->window().findChild<CanvasExport *>(u"canvasExport"_s);
     QVERIFY(m_export);
-    m_export->saver()->setProperty("dialog",
-                          QUrl::fromLocalFile(QStringLiteral(KIV_PAGES "/ChosenFile.qml")));
+    m_export->saver()->setProperty(
+        "dialog", QUrl::fromLocalFile(QStringLiteral(KIV_PAGES "/ChosenFile.qml")));
     m_export->saver()->setProperty("folder", QUrl::fromLocalFile(m_folder->path()));
 }
 

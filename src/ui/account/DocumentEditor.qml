@@ -48,38 +48,19 @@ Rectangle {
         text: editor.title
         Accessible.role: Accessible.Heading
     }
-    Rectangle {
+    Segments {
         id: modes
 
         x: parent.width - width - 24
         y: 14
-        width: pair.width + 6
-        height: 36
-        radius: Tokens.radiusControl
-        color: Tokens.sunken
-
-        Row {
-            id: pair
-
-            x: 3
-            y: 3
-            spacing: 2
-
-            Segment {
-                objectName: "writeMode"
-                text: qsTr("Write")
-                chosen: !editor.reading
-                onClicked: {
-                    editor.reading = false
-                    area.forceActiveFocus(Qt.OtherFocusReason)
-                }
-            }
-            Segment {
-                objectName: "readMode"
-                text: qsTr("Preview")
-                chosen: editor.reading
-                onClicked: editor.reading = true
-            }
+        width: 180
+        name: qsTr("View")
+        labels: [qsTr("Write"), qsTr("Preview")]
+        current: editor.reading ? 1 : 0
+        onPicked: index => {
+            editor.reading = index === 1
+            if (!editor.reading)
+                area.forceActiveFocus(Qt.OtherFocusReason)
         }
     }
     WritingArea {

@@ -10,6 +10,7 @@ Column {
 
     required property AccountField value
 
+    readonly property list<string> modes: ["auto", "workspace", "ask"]
     readonly property string mode: value.text === "" ? "auto" : value.text
 
     spacing: 8
@@ -18,38 +19,12 @@ Column {
         width: parent.width
         height: 36
 
-        Rectangle {
-            width: segments.width + 6
-            height: parent.height
-            radius: Tokens.radiusControl
-            color: Tokens.sunken
-
-            Row {
-                id: segments
-
-                x: 3
-                y: 3
-                spacing: 2
-
-                Segment {
-                    objectName: "autoMode"
-                    text: qsTr("Automatic")
-                    chosen: entry.mode === "auto"
-                    onClicked: entry.value.choose("auto")
-                }
-                Segment {
-                    objectName: "workspaceMode"
-                    text: qsTr("Workspace only")
-                    chosen: entry.mode === "workspace"
-                    onClicked: entry.value.choose("workspace")
-                }
-                Segment {
-                    objectName: "askMode"
-                    text: qsTr("Ask first")
-                    chosen: entry.mode === "ask"
-                    onClicked: entry.value.choose("ask")
-                }
-            }
+        Segments {
+            width: 372
+            name: qsTr("Data sources")
+            labels: [qsTr("Automatic"), qsTr("Workspace only"), qsTr("Ask first")]
+            current: entry.modes.indexOf(entry.mode)
+            onPicked: index => entry.value.choose(entry.modes[index])
         }
         SaveNote {
             anchors.verticalCenter: parent.verticalCenter
