@@ -19,7 +19,8 @@ constexpr Limits wordLimits{2500, 60, 2500};
 constexpr Limits codeLimits{12000, 200, 1000};
 constexpr Limits tableLimits{12000, 100, 12000};
 constexpr qsizetype cellLimit = 1000;
-constexpr qsizetype columnLimit = 200;
+/// Drawing a line of cells takes time that grows with the square of their number.
+constexpr qsizetype columnLimit = 60;
 constexpr qsizetype cellCost = 8; ///< what laying a cell out costs beside its text, in characters
 
 /// How much of a text a part takes: up to a line's end or a word's end in the second half of what

@@ -322,6 +322,9 @@ void PanelsTest::theme() {
     appearance->setSystemDark(true);
     QTRY_VERIFY(corner() < 50);
     m_gallery->click(u"profileButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"accountRow"_s));
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Down);
     QTRY_VERIFY(m_gallery->item(u"themeChoice"_s)->hasActiveFocus());
     m_gallery->press(Qt::Key_Right);
     QTRY_VERIFY(corner() > 200);
