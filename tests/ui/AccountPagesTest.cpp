@@ -31,6 +31,7 @@ class AccountPagesTest : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
+    void focusInSight();
     void pictures_data();
     void pictures();
     void opensAndCloses();
@@ -110,13 +111,24 @@ void AccountPagesTest::click(const QString &item) {
     m_gallery->click(item);
 }
 
+/// The page scrolls to a field that the tab key reaches.
+void AccountPagesTest::focusInSight() {
+    open(u"profile"_s, {1024, 680});
+    m_gallery->item(u"leaveAccount"_s)->forceActiveFocus(Qt::TabFocusReason);
+    const double pageTop = m_gallery->item(u"profilePage"_s)->mapToScene(QPointF()).y();
+    double lowest = 0; // of the page
+    for (int step = 0; step < 32; ++step) {
+        m_gallery->press(Qt::Key_Tab);
+        const QQuickItem *item = m_gallery->window().activeFocusItem();
+        const double top = item->mapToScene(QPointF()).y();
+        QVERIFY2(top >= 0 && top + item->height() <= 680, qPrintable(item->objectName()));
+        lowest = std::max(lowest, item->mapToItem(m_gallery->item(u"profilePage"_s), {}).y());
+    }
+    QCOMPARE_GT(pageTop + lowest, 680); // where no field was in sight at first
+}
+
 void AccountPagesTest::pictures_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("wide-light") << false << QSize(1440, 900);
-    QTest::newRow("wide-dark") << true << QSize(1440, 900);
-    QTest::newRow("least-light") << false << QSize(1024, 680);
-    QTest::newRow("least-dark") << true << QSize(1024, 680);
+    addLooks();
 }
 
 void AccountPagesTest::pictures() {

@@ -311,12 +311,7 @@ void CreateTest::warnings() {
 }
 
 void CreateTest::pictures_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("wide-light") << false << QSize(1440, 900);
-    QTest::newRow("wide-dark") << true << QSize(1440, 900);
-    QTest::newRow("least-light") << false << QSize(1024, 680);
-    QTest::newRow("least-dark") << true << QSize(1024, 680);
+    addLooks();
 }
 
 /// Leaves a picture of every page.

@@ -140,12 +140,7 @@ void FindTest::everyBlockShowsItsWords() {
 }
 
 void FindTest::pictures_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("light") << false << QSize(1440, 900);
-    QTest::newRow("dark") << true << QSize(1440, 900);
-    QTest::newRow("light-small") << false << QSize(1024, 680);
-    QTest::newRow("dark-small") << true << QSize(1024, 680);
+    addLooks();
 }
 
 void FindTest::pictures() {

@@ -30,6 +30,15 @@ QQuickItem *findBelow(QQuickItem *item, const QString &name) {
 
 } // namespace
 
+void addLooks() {
+    QTest::addColumn<bool>("dark");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("wide-light") << false << QSize(1440, 900);
+    QTest::newRow("wide-dark") << true << QSize(1440, 900);
+    QTest::newRow("least-light") << false << QSize(1024, 680);
+    QTest::newRow("least-dark") << true << QSize(1024, 680);
+}
+
 Gallery::Gallery() = default;
 
 Gallery::~Gallery() {

@@ -11,6 +11,9 @@
 
 namespace kiv::ui {
 
+/// The rows of a test that takes pictures: a column "dark" and a column "size", the window's.
+void addLooks();
+
 /// A window off screen, used by key and mouse events: the program's own, or one that shows a page
 /// of the folder `pages`.
 class Gallery {

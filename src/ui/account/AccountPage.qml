@@ -22,6 +22,9 @@ FocusScope {
     Keys.onEscapePressed: account.leave()
     onTabChanged: scroller.contentY = 0
 
+    FocusInSight {
+        area: scroller
+    }
     Flickable {
         id: scroller
 
