@@ -26,6 +26,8 @@ T.Button {
     implicitHeight: size === Button.Small ? 32 : size === Button.Large ? 44 : 36
     horizontalPadding: size === Button.Small ? 12 : 14
     Accessible.name: text
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

@@ -15,9 +15,18 @@ T.Button {
     property int badge: 0
     property color color: !enabled ? Tokens.tDisabled : active ? Tokens.accentText : hovered ? Tokens.t1 : Tokens.t2
 
+    /// As a press of the mouse does.
+    function activate() {
+        if (checkable)
+            toggle()
+        clicked()
+    }
+
     implicitWidth: size
     implicitHeight: size
     Accessible.name: text
+    Keys.onReturnPressed: button.activate()
+    Keys.onEnterPressed: button.activate()
 
     contentItem: Item {
         Icon {

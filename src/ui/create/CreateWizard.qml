@@ -124,8 +124,6 @@ Dialog {
             iconName: "close"
             text: qsTr("Close")
             onClicked: wizard.room.requestClose()
-            Keys.onReturnPressed: wizard.room.requestClose()
-            Keys.onEnterPressed: wizard.room.requestClose()
         }
     }
 

@@ -57,16 +57,12 @@ Dialog {
                 objectName: "keepEditing"
                 text: qsTr("Keep editing")
                 onClicked: dialog.room.keepEditing()
-                Keys.onReturnPressed: dialog.room.keepEditing()
-                Keys.onEnterPressed: dialog.room.keepEditing()
             }
             Button {
                 objectName: "discardDraft"
                 kind: Button.DangerFilled
                 text: qsTr("Drop it")
                 onClicked: dialog.room.close()
-                Keys.onReturnPressed: dialog.room.close()
-                Keys.onEnterPressed: dialog.room.close()
             }
         }
     }

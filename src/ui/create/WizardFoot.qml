@@ -29,8 +29,6 @@ Item {
         kind: Button.Quiet
         text: qsTr("Back")
         onClicked: foot.room.back()
-        Keys.onReturnPressed: foot.room.back()
-        Keys.onEnterPressed: foot.room.back()
     }
     Label {
         anchors.right: forth.left

@@ -72,8 +72,6 @@ T.ItemDelegate {
             text: qsTr("Talk")
             Accessible.name: qsTr("Talk to %1").arg(tile.name)
             focusPolicy: tile.activeFocusOnTab ? Qt.StrongFocus : Qt.NoFocus
-            Keys.onReturnPressed: clicked()
-            Keys.onEnterPressed: clicked()
             onClicked: tile.clicked()
         }
         Button {
@@ -83,8 +81,6 @@ T.ItemDelegate {
             text: qsTr("Call")
             Accessible.name: qsTr("Call %1").arg(tile.name)
             focusPolicy: tile.activeFocusOnTab ? Qt.StrongFocus : Qt.NoFocus
-            Keys.onReturnPressed: clicked()
-            Keys.onEnterPressed: clicked()
             onClicked: tile.called()
         }
     }

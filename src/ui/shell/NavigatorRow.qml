@@ -69,8 +69,6 @@ T.ItemDelegate {
         iconName: "plus"
         text: row.entryId === "project" ? qsTr("New project") : qsTr("New agent")
         onClicked: row.createRequested()
-        Keys.onReturnPressed: row.createRequested()
-        Keys.onEnterPressed: row.createRequested()
     }
     Figure {
         id: figure

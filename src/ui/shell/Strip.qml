@@ -131,7 +131,5 @@ FocusScope {
         iconName: "plus"
         text: qsTr("New project")
         onClicked: strip.createRequested("project")
-        Keys.onReturnPressed: strip.createRequested("project")
-        Keys.onEnterPressed: strip.createRequested("project")
     }
 }
