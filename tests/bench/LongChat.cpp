@@ -112,7 +112,8 @@ double dragTime(ChatWindow &window) {
     }
     QTest::mouseRelease(&view, Qt::LeftButton, {},
                         corner - QPoint(0, static_cast<int>(feed->height())));
-    if (feed->property("contentY").toDouble() > feed->height())
+    // Rows that are measured on the way move the beginning a little.
+    if (feed->property("contentY").toDouble() > feed->property("contentHeight").toDouble() / 100)
         qFatal("The conversation does not scroll");
     return longest;
 }
