@@ -24,19 +24,29 @@ bool MenuKeys::eventFilter(QObject *watched, QEvent *event) {
     return true;
 }
 
-Command MenuKeys::commandOf(const QKeyEvent &event) const {
-    if (!m_commands || !m_window || QGuiApplication::focusWindow() != m_window)
-        return Command::None;
-    const QKeySequence keys(
-        QKeyCombination(event.modifiers() & ~Qt::KeypadModifier, Qt::Key(event.key())));
-    const QList<MenuEntry> bound = m_commands->bound();
+void MenuKeys::setCommands(Commands *commands) {
+    if (m_commands)
+        m_commands->disconnect(this);
+    m_commands = commands;
+    if (commands)
+        connect(commands, &Commands::menusChanged, this, &MenuKeys::learn);
+    learn();
+}
+
+void MenuKeys::learn() {
+    m_keys.clear();
+    const QList<MenuEntry> bound = m_commands ? m_commands->bound() : QList<MenuEntry>();
     for (const MenuEntry &entry : bound) {
-        for (const QString &shortcut : entry.shortcuts) {
-            if (QKeySequence(shortcut) == keys)
-                return entry.command;
-        }
+        for (const QString &shortcut : entry.shortcuts)
+            m_keys.insert(QKeySequence(shortcut)[0], entry.command);
     }
-    return Command::None;
+}
+
+Command MenuKeys::commandOf(const QKeyEvent &event) const {
+    if (!m_window || QGuiApplication::focusWindow() != m_window)
+        return Command::None;
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    return m_keys.value(QKeyCombination(modifiers, Qt::Key(event.key())), Command::None);
 }
 
 } // namespace kiv::ui

@@ -2,6 +2,7 @@
 
 #include "ui/shell/Commands.h"
 
+#include <QHash>
 #include <QWindow>
 
 class QKeyEvent;
@@ -13,19 +14,25 @@ namespace kiv::ui {
 class MenuKeys : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(kiv::ui::Commands *commands MEMBER m_commands REQUIRED)
+    Q_PROPERTY(kiv::ui::Commands *commands READ commands WRITE setCommands REQUIRED)
     /// The window whose keys these are.
     Q_PROPERTY(QWindow *window MEMBER m_window)
 public:
     explicit MenuKeys(QObject *parent = nullptr);
 
+    Commands *commands() const { return m_commands; }
+    void setCommands(Commands *commands);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// Takes the keys of the menu as it is now: they are looked up at every press.
+    void learn();
     /// The command that the keys give; None for others.
     Command commandOf(const QKeyEvent &event) const;
 
     Commands *m_commands = nullptr;
+    QHash<QKeyCombination, Command> m_keys;
     QWindow *m_window = nullptr;
 };
 
