@@ -1,6 +1,8 @@
-// The first frame of a window with nothing in it.
+// A window with nothing in it: the least that a program like this one takes. Ends with its first
+// frame, or with --stay goes on showing it.
 
 #include <QGuiApplication>
+#include <QQmlApplicationEngine>
 #include <QQmlEngine>
 #include <QQuickWindow>
 
@@ -8,6 +10,11 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
+    if (QGuiApplication::arguments().contains(QStringLiteral("--stay"))) {
+        QQmlApplicationEngine engine;
+        engine.loadData("import QtQuick\nWindow { width: 1440; height: 900; visible: true }");
+        return engine.rootObjects().isEmpty() ? 1 : QGuiApplication::exec();
+    }
     QQmlEngine engine;
     QQuickWindow window;
     window.resize(1120, 760);

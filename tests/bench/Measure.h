@@ -7,16 +7,20 @@
 
 namespace kiv::bench {
 
+/// What a figure counts: nanoseconds, bytes, or per cent of one core.
+enum class Unit { Time, Memory, Core };
+
 /// One row of the table: a figure, what it stands beside, and what was promised of it.
 struct Row {
     QString name;
-    double nanoseconds = 0;
+    double figure = 0;
     QString peer;
-    double peerNanoseconds = 0;
-    double targetNanoseconds = 0;
+    double peerFigure = 0;
+    double target = 0;
+    Unit unit = Unit::Time;
 
-    double ratio() const { return nanoseconds / peerNanoseconds; }
-    bool isShort() const { return nanoseconds > targetNanoseconds; }
+    double ratio() const { return figure / peerFigure; }
+    bool isShort() const { return figure > target; }
 };
 
 /// Nanoseconds of one call: the median of several runs, each long enough to be told from noise.
@@ -25,10 +29,16 @@ double measure(const QString &name, const std::function<void()> &step);
 QList<Row> answerToScene();
 QList<Row> classify();
 QList<Row> explain();
+QList<Row> idle();
+QList<Row> keystroke();
 QList<Row> longChat();
 QList<Row> markdown();
+QList<Row> memory();
+QList<Row> pageDecode();
 QList<Row> render();
 QList<Row> sceneFrame();
+QList<Row> start();
+QList<Row> streamParser();
 QList<Row> streaming();
 
 } // namespace kiv::bench

@@ -20,14 +20,28 @@ struct Bench {
 const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"classify"_s, classify},
                            {u"explain"_s, explain},
+                           {u"idle"_s, idle},
+                           {u"keystroke"_s, keystroke},
                            {u"long-chat"_s, longChat},
                            {u"markdown"_s, markdown},
+                           {u"memory"_s, memory},
+                           {u"page-decode"_s, pageDecode},
                            {u"render"_s, render},
                            {u"scene-frame"_s, sceneFrame},
+                           {u"start"_s, start},
+                           {u"stream-parser"_s, streamParser},
                            {u"streaming"_s, streaming}};
 
-QString shown(double nanoseconds) {
-    return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);
+QString shown(double figure, Unit unit) {
+    switch (unit) {
+    case Unit::Time:
+        return u"%1 µs"_s.arg(figure / 1000, 0, 'f', figure < 10e3 ? 2 : 1);
+    case Unit::Memory:
+        return u"%1 MiB"_s.arg(figure / (1024 * 1024), 0, 'f', 1);
+    case Unit::Core:
+        return u"%1 %"_s.arg(figure, 0, 'f', 3);
+    }
+    Q_UNREACHABLE();
 }
 
 void print(const QStringList &cells) {
@@ -59,9 +73,9 @@ int main(int argc, char **argv) {
         if (!wanted.isEmpty() && !wanted.contains(bench.name))
             continue;
         for (const Row &row : bench.run()) {
-            print({row.name, shown(row.nanoseconds),
-                   row.peer + u": "_s + shown(row.peerNanoseconds),
-                   QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.targetNanoseconds),
+            print({row.name, shown(row.figure, row.unit),
+                   row.peer + u": "_s + shown(row.peerFigure, row.unit),
+                   QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.target, row.unit),
                    row.isShort() ? u"short"_s : u"ok"_s});
             isShort = isShort || row.isShort();
         }

@@ -1,0 +1,38 @@
+// What the program works while nobody does anything: signed in, a scene on the canvas, the live
+// stream open, no caret.
+
+#include "Measure.h"
+#include "ShownProgram.h"
+
+#include <QTest>
+
+namespace kiv::bench {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int settling = 4000;  ///< milliseconds until a program is at rest
+constexpr int watching = 10000; ///< milliseconds
+constexpr double target = 0.3;  ///< per cent of one core
+
+double idleOf(const QString &program, const QStringList &arguments) {
+    const ShownProgram shown(program, arguments);
+    QTest::qWait(settling);
+    const double before = shown.worked();
+    QTest::qWait(watching);
+    return (shown.worked() - before) / (watching * 1e6) * 100;
+}
+
+} // namespace
+
+QList<Row> idle() {
+    return {{.name = u"idle"_s,
+             .figure = idleOf(QStringLiteral(KIV_PROGRAM), {u"--profile"_s, signedInProfile()}),
+             .peer = u"empty window"_s,
+             .peerFigure = idleOf(QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}),
+             .target = target,
+             .unit = Unit::Core}};
+}
+
+} // namespace kiv::bench
