@@ -56,6 +56,7 @@ void CallRoom::startLiveCall() {
     m_callPhase = CallPhase::Connecting;
     m_call = true;
     m_callShown = true;
+    m_store.dictation()->stop(); // the microphone is the call's
     m_callChatDigest = CallTexts::chatDigest(m_store.chat()->msgs()->messages());
     m_warm.restart([this](Cancel cancel) { return warmUpEarly(std::move(cancel)); });
     m_mint.start([this, gen](Cancel cancel) { return mintSession(gen, std::move(cancel)); });
@@ -91,6 +92,7 @@ QCoro::Task<void> CallRoom::mintSession(int gen, Cancel cancel) {
 QCoro::Task<void> CallRoom::connectCall(Cancel cancel) {
     try {
         co_await warmUpInTime(cancel);
+        applyMicrophone();
         co_await engine().start(m_callSessionRaw, m_callChatDigest, cancel);
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
@@ -113,6 +115,7 @@ void CallRoom::callConnected() {
     m_callPhase = CallPhase::Active;
     m_wasActive = true;
     applyMute();
+    showLevel();
     startCallClock();
 }
 
@@ -186,6 +189,7 @@ void CallRoom::onDisconnect(const VoiceEngine::Disconnect &disconnect) {
 
 QCoro::Task<void> CallRoom::reconnectCall(Cancel cancel) {
     try {
+        applyMicrophone();
         co_await engine().start(m_callSessionRaw, m_callChatDigest, cancel);
     } catch (const std::exception &) {
         cancel.throwIfRequested();
@@ -232,6 +236,7 @@ QString CallRoom::leaveLine() {
     ++m_callGen;
     m_connect.cancel();
     m_callTask.stop();
+    m_level.reset();
     m_warmLimit.stop();
     if (m_voice && m_voice->webView()) {
         m_voice->webView()->evaluate(u"window.__nativeEnd()"_s);

@@ -88,7 +88,7 @@ QCoro::Task<void> CallRoom::press(Cancel cancel) {
 }
 
 QCoro::Task<void> CallRoom::probeVoice(Cancel cancel) {
-    if (m_microphone.allowed && !m_microphone.allowed()) {
+    if (!micAllowed()) {
         m_voiceReason = u"browser_unsupported"_s;
         m_voiceAvailable = false;
         co_return;
@@ -106,6 +106,18 @@ QCoro::Task<void> CallRoom::probeVoice(Cancel cancel) {
     }
     if (m_voiceAvailable.value() == true && pages().refusal().isEmpty())
         m_warm.restart([this](Cancel warmUp) { return warmUpEarly(std::move(warmUp)); });
+}
+
+/// There is a microphone, and it can be opened.
+bool CallRoom::micAllowed() {
+    try {
+        const auto input = m_store.microphone()->newInput();
+        input->start([](const QByteArray &) {}, [](const QString &) {});
+        input->stop();
+        return true;
+    } catch (const voice::AudioError &) {
+        return false;
+    }
 }
 
 /// The page is made while the session is asked for. What fails here fails again where it counts.
@@ -142,6 +154,27 @@ void CallRoom::applyMute() {
         return;
     m_voice->setMuted(m_callMuted || m_callHeld);
     m_voice->webView()->setAudible(!m_callHeld);
+}
+
+/// The page gets the chosen microphone when it asks for one the next time.
+void CallRoom::applyMicrophone() {
+    MicrophoneRoom *microphone = m_store.microphone();
+    microphone->look();
+    QString name;
+    for (const MicrophoneDevice &device : microphone->devices()) {
+        if (device.id == microphone->chosen())
+            name = device.name;
+    }
+    engine().webView()->setMicrophone(name);
+}
+
+void CallRoom::showLevel() {
+    m_level = m_store.microphone()->newInput();
+    try {
+        m_level->start([](const QByteArray &) {}, [](const QString &) {});
+    } catch (const voice::AudioError &) {
+        m_level.reset(); // the page may hear all the same
+    }
 }
 
 void CallRoom::callSay(const QString &text) {

@@ -5,6 +5,7 @@
 #include "store/CallFeed.h"
 #include "store/CallHistory.h"
 #include "store/CallTranscript.h"
+#include "voice/AudioInput.h"
 #include "voice/VoiceEngine.h"
 
 #include <QObject>
@@ -14,12 +15,6 @@
 namespace kiv::store {
 
 class AppStore;
-
-/// What a call has to know of the microphone.
-struct CallMicrophone {
-    std::function<bool()> allowed; ///< there is one, and it can be opened
-    std::function<QString()> name; ///< the person's choice; empty for the system's own
-};
 
 /// Talking by voice: one live call from the call button to the hang-up, and the calls of before.
 class CallRoom : public QObject {
@@ -57,7 +52,6 @@ public:
     /// Where the hidden page of calls comes from; it outlives the room. Without one it is the
     /// store's web host.
     void setVoicePages(voice::VoicePages *pages) { m_pages = pages; }
-    void setMicrophone(CallMicrophone microphone) { m_microphone = std::move(microphone); }
 
     /// A call is on, from the button to the last moment of its end.
     bool call() const { return m_call; }
@@ -169,6 +163,7 @@ private:
     // The button
     QCoro::Task<void> press(Cancel cancel);
     QCoro::Task<void> probeVoice(Cancel cancel);
+    bool micAllowed();
     QCoro::Task<void> warmUpEarly(Cancel cancel);
     void showCallHint(const QString &text);
     void showCallee();
@@ -191,6 +186,8 @@ private:
     void onDisconnect(const voice::VoiceEngine::Disconnect &disconnect);
     void onEngineGone();
     void applyMute();
+    void applyMicrophone();
+    void showLevel();
     QString leaveLine();
     void hangUp(Ending ending);
     void finishCall();
@@ -210,7 +207,6 @@ private:
     AppStore &m_store;
     voice::VoicePages *m_pages = nullptr;
     std::unique_ptr<voice::VoicePages> m_hosted;
-    CallMicrophone m_microphone;
     Callee m_callee;
     QString m_callName;
     ScopeKind m_callKind = ScopeKind::Kiv;
@@ -263,6 +259,8 @@ private:
 
     // Last: what runs ends before what it works on.
     std::unique_ptr<voice::VoiceEngine> m_voice;
+    /// Listens along, for its level alone: what the page hears it does not tell.
+    std::unique_ptr<voice::AudioInput> m_level;
     Clock::Timer m_callTask;
     Clock::Timer m_warmLimit;
     Clock::Timer m_finish;

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ScriptedPage.h"
+#include "ScriptedVoice.h"
 #include "StoreFixture.h"
-#include "voice/ScriptedPage.h"
 
 namespace kiv::test {
 
@@ -9,7 +10,7 @@ namespace kiv::test {
 struct CallFixture : StoreFixture {
     CallFixture() {
         call()->setVoicePages(&pages);
-        call()->setMicrophone({.allowed = [this] { return microphone; }, .name = {}});
+        store->microphone()->setSource(&microphones);
         backend.answer(QStringLiteral("GET api/v2/voice/capability"), R"({"available":true})");
         backend.answer(session, sessionBody);
         backend.answer(end, "{}");
@@ -72,7 +73,7 @@ struct CallFixture : StoreFixture {
     const QString session = QStringLiteral("POST api/v2/voice/session");
     const QString end = QStringLiteral("POST api/v2/voice/end");
     ScriptedPages pages;
-    bool microphone = true;
+    ScriptedMicrophones microphones;
 };
 
 } // namespace kiv::test

@@ -53,14 +53,14 @@ private Q_SLOTS:
     void withoutAMicrophone() {
         CallFixture f;
         QVERIFY(f.signIn());
-        f.microphone = false;
+        f.microphones.opens = false;
         f.call()->callAction();
         QCOMPARE(f.call()->callHint(),
                  u"This Mac cannot make voice calls — check microphone access."_s);
         QCOMPARE(f.call()->voiceReason(), u"browser_unsupported"_s);
         QTest::qWait(0);
         QCOMPARE(f.backend.count(u"GET api/v2/voice/capability"_s) + f.backend.count(f.session), 0);
-        f.microphone = true;
+        f.microphones.opens = true;
         f.pages.refused = u"Not for root."_s;
         f.call()->callAction();
         SOON_COMPARE(f.call()->callHint(), u"Not for root."_s);
@@ -84,6 +84,7 @@ private Q_SLOTS:
         SOON_VERIFY(f.call()->call() && f.pages.loads == 1);
         QVERIFY(f.call()->callShown());
         QCOMPARE(f.call()->callPhase(), CallPhase::Connecting);
+        f.store->microphone()->choose(u"headset"_s);
         QCOMPARE(f.call()->callName(), u"KIV"_s);
         QCOMPARE(f.pages.baseUrl.toString(), f.backend.url().toString() + u'/');
         f.backend.release(f.session);
@@ -96,6 +97,8 @@ private Q_SLOTS:
         f.connected();
         QCOMPARE(f.call()->callPhase(), CallPhase::Active);
         QCOMPARE(f.call()->callMax(), 600);
+        QCOMPARE(f.pages.microphone, u"Headset"_s);
+        QCOMPARE(f.microphones.openId, u"headset"_s); // its level shows
         QCOMPARE(f.pages.calls(u"Context"_s),
                  QStringList{u"window.__nativeContext(\"Recent text chat with the owner — use it "
                              "as memory, do not read it aloud:\\nYou: Hello there\")"_s});
@@ -107,6 +110,7 @@ private Q_SLOTS:
         QVERIFY(f.call()->callShown());
         QCOMPARE(f.backend.count(f.session), 1);
         f.call()->hangupCall();
+        QVERIFY(f.microphones.openId.isNull());
         QVERIFY(f.ended(1));
         QCOMPARE(f.backend.requests(f.end).last().body.value(u"call_id"_s), u"c1"_s);
     }
@@ -261,7 +265,9 @@ private Q_SLOTS:
         QVERIFY(f.dial());
         f.call()->toggleMute(); // before there is a line
         f.connected();
-        const auto muted = [&] { return f.pages.calls(u"Mute"_s).last() == u"window.__nativeMute(true)"_s; };
+        const auto muted = [&] {
+            return f.pages.calls(u"Mute"_s).last() == u"window.__nativeMute(true)"_s;
+        };
         QVERIFY(muted());
         f.call()->toggleHold();
         QVERIFY(muted() && !f.pages.audible);
@@ -330,8 +336,10 @@ private Q_SLOTS:
         QTest::addColumn<QVariantMap>("error"); // before it
         QTest::addColumn<QVariantMap>("disconnect");
         QTest::addColumn<QString>("line");
-        const QVariantMap gone{{u"t"_s, u"disconnect"_s}, {u"reason"_s, u"error"_s},
-                               {u"closeCode"_s, 1011}, {u"closeReason"_s, u"overload"_s}};
+        const QVariantMap gone{{u"t"_s, u"disconnect"_s},
+                               {u"reason"_s, u"error"_s},
+                               {u"closeCode"_s, 1011},
+                               {u"closeReason"_s, u"overload"_s}};
         QTest::newRow("as told") << QVariantMap() << gone
                                  << u"Voice connection error: error, 1011, overload"_s;
         QTest::newRow("nothing told") << QVariantMap() << QVariantMap{{u"t"_s, u"disconnect"_s}}

@@ -36,8 +36,8 @@ private Q_SLOTS:
         f.backend.answer(calls + u"/a"_s, transcript);
         f.history(test::kivChat, "[" + rowAt(1, "09:20:00") + "," + rowAt(2, "09:40:00") + "]");
         QVERIFY(f.signIn());
-        SOON_COMPARE(f.texts(), (QStringList{u"row 1"_s, u"Call · 3:12"_s, u"row 2"_s,
-                                             u"Call · missed"_s}));
+        SOON_COMPARE(f.texts(),
+                     (QStringList{u"row 1"_s, u"Call · 3:12"_s, u"row 2"_s, u"Call · missed"_s}));
         QCOMPARE(f.backend.requests(calls).last().query, u"agent_id=kiv&limit=50"_s);
         QCOMPARE(f.store->chat()->unseenMsgs(), 0);
         const auto role = [&](int row, int which) { return f.msgs().index(row).data(which); };
@@ -46,9 +46,9 @@ private Q_SLOTS:
 
         f.call()->toggleCallLines(u"b"_s); // has none
         f.call()->toggleCallLines(u"a"_s);
-        const QStringList open{u"row 1"_s,    u"Call · 3:12"_s, u"Where are we?"_s,
-                               u" On plan. "_s.trimmed(), u"No more"_s, u"row 2"_s,
-                               u"Call · missed"_s};
+        const QStringList open{
+            u"row 1"_s,   u"Call · 3:12"_s, u"Where are we?"_s, u" On plan. "_s.trimmed(),
+            u"No more"_s, u"row 2"_s,       u"Call · missed"_s};
         SOON_COMPARE(f.texts(), open);
         QVERIFY(role(1, MessageModel::CallOpenRole).toBool());
         QVERIFY(role(2, MessageModel::FromCallRole).toBool());

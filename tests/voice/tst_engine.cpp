@@ -21,9 +21,7 @@ QString textOf(const VoiceEngine::Event &event) {
         QString operator()(const VoiceEngine::Message &was) const {
             return u"message %1|%2|%3"_s.arg(was.who, was.text, was.partial ? u"partial"_s : u""_s);
         }
-        QString operator()(const VoiceEngine::Ping &was) const {
-            return u"ping %1"_s.arg(was.ms);
-        }
+        QString operator()(const VoiceEngine::Ping &was) const { return u"ping %1"_s.arg(was.ms); }
         QString operator()(const VoiceEngine::Error &was) const { return u"error "_s + was.text; }
         QString operator()(const VoiceEngine::Disconnect &was) const {
             return u"disconnect %1|%2|%3|%4"_s.arg(was.reason, was.message)
@@ -199,8 +197,7 @@ private Q_SLOTS:
         row("no mode", {{u"t"_s, u"mode"_s}, {u"mode"_s, 3}}, u"mode listening"_s);
         row("said", {{u"t"_s, u"message"_s}, {u"message"_s, u"  hi \n"_s}, {u"source"_s, u"ai"_s}},
             u"message ai|hi|"_s);
-        row("partly",
-            {{u"t"_s, u"message"_s}, {u"message"_s, u"hi"_s}, {u"type"_s, u"partial"_s}},
+        row("partly", {{u"t"_s, u"message"_s}, {u"message"_s, u"hi"_s}, {u"type"_s, u"partial"_s}},
             u"message |hi|partial"_s);
         row("nothing said", {{u"t"_s, u"message"_s}, {u"message"_s, u" \n\t"_s}}, {});
         row("ping", {{u"t"_s, u"ping"_s}, {u"ms"_s, 41.5}}, u"ping 41.5"_s);

@@ -55,9 +55,7 @@ class PageTest : public QObject {
             QTest::qWait(0); // promises
             return result;
         }
-        QStringList list(const QString &name) {
-            return run(name).toVariant().toStringList();
-        }
+        QStringList list(const QString &name) { return run(name).toVariant().toStringList(); }
         void loadClient() { run(u"window.__ElevenConversation = client; element.onload()"_s); }
         void start(const QString &session, const QString &digest = {}) {
             run(u"window.__nativeStart(%1, %2)"_s.arg(VoicePageText::jsString(session),
@@ -72,8 +70,7 @@ private Q_SLOTS:
             u"<!doctype html><html><head><meta charset=\"utf-8\"></head><body><script>"_s));
         QVERIFY(VoicePageText::html().endsWith(u"</script></body></html>"_s));
         Page page;
-        QCOMPARE(page.run(u"element.src"_s).toString(),
-                 u"/vendor/elevenlabs-client.1.21.0.js"_s);
+        QCOMPARE(page.run(u"element.src"_s).toString(), u"/vendor/elevenlabs-client.1.21.0.js"_s);
         page.run(u"element.onerror(); element.onload()"_s);
         page.loadClient();
         QCOMPARE(page.list(u"posts"_s),
@@ -97,9 +94,9 @@ private Q_SLOTS:
                                    << QStringList{socket, media} << u"connectFail [\"neither\"]"_s;
         QTest::newRow("token alone") << u"{\"token\":\"t\"}"_s << u"{webrtc:'ok'}"_s
                                      << QStringList{media} << u"connected [\"webrtc\"]"_s;
-        QTest::newRow("socket alone") << u"{\"signed_url\":\"wss://a\",\"token\":\"\"}"_s
-                                      << u"{websocket:'no'}"_s << QStringList{socket}
-                                      << u"connectFail [\"no\"]"_s;
+        QTest::newRow("socket alone")
+            << u"{\"signed_url\":\"wss://a\",\"token\":\"\"}"_s << u"{websocket:'no'}"_s
+            << QStringList{socket} << u"connectFail [\"no\"]"_s;
         QTest::newRow("neither") << u"{}"_s << u"{}"_s << QStringList()
                                  << u"connectFail [\"no voice transport\"]"_s;
         QTest::newRow("no word why") << u"{\"token\":\"t\"}"_s << u"{webrtc:''}"_s
@@ -132,7 +129,8 @@ private Q_SLOTS:
         Page page;
         page.loadClient();
         page.run(u"answers = {websocket:'ok'}"_s);
-        page.start(u"{\"signed_url\":\"w\",\"call_id\":\"c7\",\"overrides\":{\"tts\":1}}"_s, digest);
+        page.start(u"{\"signed_url\":\"w\",\"call_id\":\"c7\",\"overrides\":{\"tts\":1}}"_s,
+                   digest);
         QCOMPARE(page.run(u"options.customLlmExtraBody.tamrix_call_id"_s).toString(), u"c7"_s);
         QCOMPARE(page.run(u"'chat_digest' in options.customLlmExtraBody"_s).toBool(),
                  !sent.isEmpty());
@@ -183,8 +181,8 @@ private Q_SLOTS:
         page.run(u"__nativeContext('a'); __nativeMute(1); __nativeMute(0)"_s);
         page.start(u"{\"signed_url\":\"w\"}"_s);
         page.run(u"__nativeEnd(); __nativeEnd()"_s);
-        QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"mute true"_s,
-                                                    u"mute false"_s, u"end"_s, u"end"_s}));
+        QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"mute true"_s, u"mute false"_s,
+                                                    u"end"_s, u"end"_s}));
         // A page that nobody listens to does not break.
         page.run(u"window.webkit = undefined; element.onload()"_s);
         QVERIFY(page.engine.evaluate(u"__nativeStart('no json', '')"_s).isError());
