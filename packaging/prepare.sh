@@ -62,3 +62,5 @@ build_targets() {
 }
 
 install_packages
+# Without it the program does all but call; the script has said why.
+"$root/packaging/fetch-vendor.sh" "$build/share/kiv/vendor" || true
