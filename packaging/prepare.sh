@@ -62,5 +62,6 @@ build_targets() {
 }
 
 install_packages
-# Without it the program does all but call; the script has said why.
-"$root/packaging/fetch-vendor.sh" "$build/share/kiv/vendor" || true
+. "$root/packaging/fetch.sh"
+fetch_set speech
+fetch_voice_client
