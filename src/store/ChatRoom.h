@@ -56,6 +56,8 @@ public:
     const std::optional<net::ChatTarget> &connected() const { return m_connected; }
 
     Q_INVOKABLE void send(const QString &text);
+    /// Sends what is typed, and what is being spoken into it.
+    Q_INVOKABLE void sendDraft();
     /// Sends a reply that was offered under an answer.
     Q_INVOKABLE void pickChip(const QString &messageId, const kiv::canvas::ReplyChip &chip);
     Q_INVOKABLE void stopLive();
@@ -79,6 +81,8 @@ public:
     /// Drops the connection for good: later rows and loads of it are ignored.
     void disconnectChat();
     void markSeen();
+    /// The calls of a conversation are other ones: where it shows, they are put at their places.
+    void placeCalls(const net::ChatTarget &target);
     /// Puts a line under the composer, or takes it away with an empty text.
     void showNote(const QString &note) { m_chatNote = note; }
     /// The answer is no longer waited for; the canvas says so when it settled or gave up.
@@ -147,6 +151,7 @@ private:
     QHash<qint64, Msg> m_live;
     /// The rows of the connected chat have been loaded.
     bool m_rowsKnown = false;
+    bool m_hasOlderRows = false; ///< the server has rows before the first that was loaded
     Drafts m_drafts;
     /// Of an expired session: files that wait for their person, by who it is and the chat's path.
     using ChatOfUser = std::pair<QString, QString>;

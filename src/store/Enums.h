@@ -97,6 +97,14 @@ Q_ENUM_NS(LoadState)
 enum class SaveState { Stored, Edited, Saving, Saved, Failed };
 Q_ENUM_NS(SaveState)
 
+/// How far a call is; what the call screen shows while one is up.
+enum class CallPhase { Connecting, Active, Ending };
+Q_ENUM_NS(CallPhase)
+
+/// What a line of a call's transcript is: something said, or something that happened.
+enum class CallLineKind { Speech, Event };
+Q_ENUM_NS(CallLineKind)
+
 /// Which entry of a password change is wrong.
 enum class PasswordFault { None, Current, Changed, Repeated };
 Q_ENUM_NS(PasswordFault)

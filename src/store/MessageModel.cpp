@@ -80,7 +80,7 @@ void MessageModel::update(qsizetype row, Msg message) {
     const QModelIndex changed = index(static_cast<int>(row));
     Q_EMIT dataChanged(changed, changed,
                        {BodyRole, RawTextRole, TimeRole, DayRole, MemberLabelRole, FilesRole,
-                        DeliveryRole, CardTitleRole, CardArtRole, ChipsRole});
+                        DeliveryRole, CardTitleRole, CardArtRole, CallOpenRole, ChipsRole});
 }
 
 void MessageModel::remove(qsizetype row) {
@@ -178,6 +178,12 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return message.art;
     case OnCanvasRole:
         return message.id == m_onCanvas;
+    case FromCallRole:
+        return message.fromCall;
+    case CallIdRole:
+        return message.callHead ? message.callID : QString();
+    case CallOpenRole:
+        return message.callOpen;
     case ChipsRole: {
         const bool offered =
             message.id == m_last && message.id != m_growing && !message.chipsChosen;
@@ -202,6 +208,9 @@ QHash<int, QByteArray> MessageModel::roleNames() const {
             {CardTitleRole, "cardTitle"},
             {CardArtRole, "cardArt"},
             {OnCanvasRole, "onCanvas"},
+            {FromCallRole, "fromCall"},
+            {CallIdRole, "callId"},
+            {CallOpenRole, "callOpen"},
             {ChipsRole, "chips"}};
 }
 

@@ -31,6 +31,9 @@ public:
         CardTitleRole, ///< heading of the scene that the message carries; empty without one
         CardArtRole,
         OnCanvasRole, ///< the canvas shows this message's scene
+        FromCallRole, ///< said in a voice call, or the line of one
+        CallIdRole,   ///< of the line of a call, "Call · 3:12": which; else empty
+        CallOpenRole, ///< of the line of a call: what was said follows it
         ChipsRole,    ///< replies to pick from: under a finished answer that nothing follows
     };
 

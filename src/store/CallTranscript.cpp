@@ -1,0 +1,112 @@
+#include "store/CallTranscript.h"
+
+#include <algorithm>
+
+namespace kiv::store {
+
+using namespace Qt::StringLiterals;
+
+void CallTranscript::hear(const QString &who, const QString &text, bool partial, int at) {
+    if (who == u"user"_s && !partial) {
+        // The service may repeat what was typed as if it had been said.
+        const auto typed = std::find_if(m_lines.crbegin(), m_lines.crend(), [&](const auto &line) {
+            return line.state == u"typed"_s && line.text == text;
+        });
+        if (typed != m_lines.crend()) {
+            change(m_lines.crend() - typed - 1, text, {});
+            return;
+        }
+    }
+    const QString state = partial ? u"partial"_s : QString();
+    // Both may speak at once: the open sentence of the same speaker is looked for.
+    const auto open = std::find_if(m_lines.crbegin(), m_lines.crend(), [&](const CallLine &line) {
+        return line.kind == CallLineKind::Speech && line.who == who && line.isPartial();
+    });
+    if (open != m_lines.crend()) {
+        change(m_lines.crend() - open - 1, text, state);
+        return;
+    }
+    append({.who = who, .text = text, .state = state, .at = at});
+}
+
+void CallTranscript::type(const QString &text, int at) {
+    append({.who = u"user"_s, .text = text, .state = u"typed"_s, .at = at});
+}
+
+QUuid CallTranscript::note(const QString &text, const QString &state, int at) {
+    append({.kind = CallLineKind::Event, .text = text, .state = state, .at = at});
+    return m_lines.constLast().id;
+}
+
+void CallTranscript::settle(const QUuid &event, const QString &text) {
+    const auto found = std::ranges::find(m_lines, event, &CallLine::id);
+    if (found != m_lines.end())
+        change(found - m_lines.begin(), text, {});
+}
+
+void CallTranscript::clear() {
+    if (m_lines.isEmpty())
+        return;
+    beginResetModel();
+    m_lines.clear();
+    endResetModel();
+    Q_EMIT countChanged();
+}
+
+void CallTranscript::append(CallLine line) {
+    if (m_lines.size() == mostLines) {
+        beginRemoveRows({}, 0, 0);
+        m_lines.removeFirst();
+        endRemoveRows();
+    }
+    beginInsertRows({}, count(), count());
+    m_lines.append(std::move(line));
+    endInsertRows();
+    Q_EMIT countChanged();
+}
+
+void CallTranscript::change(qsizetype row, const QString &text, const QString &state) {
+    m_lines[row].text = text;
+    m_lines[row].state = state;
+    const QModelIndex changed = index(static_cast<int>(row));
+    Q_EMIT dataChanged(changed, changed, {TextRole, StateRole});
+}
+
+int CallTranscript::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : count();
+}
+
+QVariant CallTranscript::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const CallLine &line = m_lines.at(index.row());
+    switch (role) {
+    case LineIdRole:
+        return line.id.toString(QUuid::WithoutBraces);
+    case KindRole:
+        return QVariant::fromValue(line.kind);
+    case WhoRole:
+        return line.who;
+    case OwnerRole:
+        return line.isOwner();
+    case Qt::DisplayRole:
+    case TextRole:
+        return line.text;
+    case StateRole:
+        return line.state;
+    case ActionRole:
+        return line.action.value_or(QString());
+    case AtRole:
+        return line.at;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> CallTranscript::roleNames() const {
+    return {{LineIdRole, "lineId"}, {KindRole, "kind"}, {WhoRole, "who"},
+            {OwnerRole, "owner"},   {TextRole, "text"}, {StateRole, "state"},
+            {ActionRole, "action"}, {AtRole, "at"}};
+}
+
+} // namespace kiv::store
