@@ -2,6 +2,8 @@
 
 #include "base/BaseUrl.h"
 #include "ui/Modules.h"
+#include "voice/FileDevices.h"
+#include "voice/MicrophoneHost.h"
 
 #include <QQuickWindow>
 
@@ -28,6 +30,11 @@ Application::Application(const Options &options)
     m_store->account()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
     m_store->setWebHost(&m_webHost);
+    if (options.audioFile.isEmpty())
+        m_microphones = std::make_unique<voice::MicrophoneHost>(options.places.micPlugin);
+    else
+        m_microphones = std::make_unique<voice::FileDevices>(m_clock, options.audioFile);
+    m_store->microphone()->setSource(m_microphones.get());
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);
     QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),
