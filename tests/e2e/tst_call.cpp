@@ -2,7 +2,6 @@
 // the embedded server's socket, with a file as microphone.
 
 #include "app/Application.h"
-#include "voice/FileDevices.h"
 
 #include <QDir>
 #include <QFile>
@@ -74,10 +73,9 @@ void printMemory(const char *when) {
 QString spokenFile(const QTemporaryDir &folder) {
     const QString path = folder.filePath(u"caller.wav"_s);
     QProcess voice;
-    voice.start(u"espeak-ng"_s, {u"-w"_s, path, u"-g"_s, u"2"_s,
-                                 u"<speak><break time=\"6000ms\"/>Where are we against the plan?"
-                                 "<break time=\"20000ms\"/></speak>"_s,
-                                 u"-m"_s});
+    voice.start(u"espeak-ng"_s,
+                {u"-m"_s, u"-w"_s, path,
+                 u"<speak>Where are we against the plan?<break time=\"9000ms\"/></speak>"_s});
     return voice.waitForFinished() && voice.exitCode() == 0 ? path : QString();
 }
 
@@ -129,9 +127,8 @@ private Q_SLOTS:
         app::Options options;
         options.places = app::Places::below(m_folder.path());
         options.sandboxArguments = {u"--control"_s};
+        options.audioFile = m_microphone;
         m_program = std::make_unique<app::Application>(options);
-        m_devices = std::make_unique<voice::FileDevices>(m_clock, m_microphone);
-        store().microphone()->setSource(m_devices.get());
         m_program->start();
         QTRY_COMPARE_WITH_TIMEOUT(store().scope()->auth(), store::AuthPhase::Anon, patience);
         store().session()->submitAuth(u"caller@example.org"_s, u"correct horse"_s, true);
@@ -273,9 +270,7 @@ public:
 private:
     QString m_microphone;
     QTemporaryDir m_folder;
-    SystemClock m_clock;
     QNetworkAccessManager m_network;
-    std::unique_ptr<voice::FileDevices> m_devices;
     std::unique_ptr<app::Application> m_program;
 };
 
@@ -289,10 +284,7 @@ int main(int argc, char **argv) {
     const QString microphone = spokenFile(folder);
     // Nothing here may reach another computer.
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
-            "--use-fake-device-for-media-stream --use-fake-ui-for-media-stream "
-            "--host-resolver-rules=\"MAP * ~NOTFOUND,EXCLUDE 127.0.0.1,EXCLUDE localhost\" "
-            "--use-file-for-fake-audio-capture=" +
-                microphone.toUtf8());
+            "--host-resolver-rules=\"MAP * ~NOTFOUND,EXCLUDE 127.0.0.1,EXCLUDE localhost\"");
     QGuiApplication application(argc, argv);
     CallTest test(microphone);
     QTEST_SET_MAIN_SOURCE_PATH
