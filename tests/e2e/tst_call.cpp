@@ -2,8 +2,8 @@
 // the embedded server's socket, with a file as microphone.
 
 #include "app/Application.h"
+#include "support/Processes.h"
 
-#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -27,42 +27,18 @@ namespace {
 
 constexpr int patience = 15'000;
 
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Every process that this one has started, itself included.
-QList<qint64> family(qint64 root) {
-    QList<qint64> found{root};
-    const QString tasks = u"/proc/%1/task"_s.arg(root);
-    for (const QString &task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        for (const QByteArray &child :
-             readAll(tasks + u'/' + task + u"/children"_s).simplified().split(' ')) {
-            if (!child.isEmpty())
-                found += family(child.toLongLong());
-        }
-    }
-    return found;
-}
-
-bool isEngine(qint64 process) {
-    return readAll(u"/proc/%1/cmdline"_s.arg(process)).contains("QtWebEngineProcess");
-}
-
 /// The memory of this process and of its web engine that nobody else uses, as the kernel counts.
 void printMemory(const char *when) {
     double own = 0;
     double engine = 0;
-    for (const qint64 process : family(getpid())) {
-        for (const QByteArray &line :
-             readAll(u"/proc/%1/smaps_rollup"_s.arg(process)).split('\n')) {
+    for (const qint64 process : test::family(getpid())) {
+        for (const QByteArray &line : test::processFile(process, u"smaps_rollup"_s).split('\n')) {
             if (!line.startsWith("Pss:"))
                 continue;
             const double megabytes = line.simplified().split(' ').at(1).toDouble() / 1024;
             if (process == getpid())
                 own += megabytes;
-            else if (isEngine(process))
+            else if (test::processFile(process, u"cmdline"_s).contains("QtWebEngineProcess"))
                 engine += megabytes;
         }
     }
@@ -144,12 +120,12 @@ private Q_SLOTS:
     }
 
     void conversation() {
-        QVERIFY(!readAll(u"/proc/self/maps"_s).contains("libQt6WebEngineCore"));
+        QVERIFY(!test::processFile(getpid(), u"maps"_s).contains("libQt6WebEngineCore"));
         printMemory("before the first call");
         // Longer in units than in characters: the page cuts it once more.
         store().chat()->msgs()->append(store::localMsg(store::Who::You, u"😀"_s.repeated(3000)));
         QVERIFY2(dial(), qPrintable(call()->callHint()));
-        QVERIFY(readAll(u"/proc/self/maps"_s).contains("libQt6WebEngineCore"));
+        QVERIFY(test::processFile(getpid(), u"maps"_s).contains("libQt6WebEngineCore"));
         QTRY_VERIFY_WITH_TIMEOUT(!said(false).isEmpty(), patience);
         QVERIFY2(said(false).first().contains(u"KIV"_s), qPrintable(said(false).first()));
         QTRY_COMPARE_WITH_TIMEOUT(call()->callMode(), u"speaking"_s, patience);
@@ -257,11 +233,8 @@ private Q_SLOTS:
 
     void endOfThePagesProcess() {
         QVERIFY(dial());
-        for (const qint64 process : family(getpid())) {
-            if (isEngine(process) &&
-                readAll(u"/proc/%1/cmdline"_s.arg(process)).contains("--type=renderer"))
-                kill(static_cast<pid_t>(process), SIGKILL);
-        }
+        for (const qint64 process : test::renderers())
+            kill(static_cast<pid_t>(process), SIGKILL);
         QTRY_VERIFY_WITH_TIMEOUT(isPhase(CallPhase::Ending), patience);
         QVERIFY2(call()->callError().contains(u"stopped"_s), qPrintable(call()->callError()));
         call()->hangupCall();

@@ -1,10 +1,9 @@
 // The page of calls in a real web engine, without a window: what it may use, and what it may not.
 
 #include "store/ScriptedBackend.h"
+#include "support/Processes.h"
 #include "web/WebHost.h"
 
-#include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QtTest>
 
@@ -16,25 +15,6 @@ using namespace Qt::StringLiterals;
 namespace kiv::web {
 
 namespace {
-
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Every process that `root` has started, itself included.
-QList<qint64> family(qint64 root) {
-    QList<qint64> found{root};
-    const QString tasks = u"/proc/%1/task"_s.arg(root);
-    for (const QString &task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        for (const QByteArray &child :
-             readAll(tasks + u'/' + task + u"/children"_s).simplified().split(' ')) {
-            if (!child.isEmpty())
-                found += family(child.toLongLong());
-        }
-    }
-    return found;
-}
 
 /// What the page posts, as text.
 struct Watcher : voice::VoicePageWatcher {
@@ -111,10 +91,7 @@ private Q_SLOTS:
         QTest::newRow("no camera")
             << u"navigator.mediaDevices.getUserMedia({video: true}).then(() => 'seen')"_s
             << u"vcall NotAllowedError"_s;
-        QTest::newRow("no place") << u"new Promise((yes, no) => navigator.geolocation."
-                                     "getCurrentPosition(() => yes('found'), "
-                                     "e => yes('code ' + e.code)))"_s
-                                  << u"vcall code 1"_s;
+        QTest::newRow("no messages") << u"Notification.requestPermission()"_s << u"vcall denied"_s;
         QTest::newRow("no way out") << u"new Promise(yes => { location.href = '/elsewhere'; "
                                        "setTimeout(() => yes(location.pathname), 300); })"_s
                                     << u"vcall /"_s;
@@ -126,10 +103,10 @@ private Q_SLOTS:
     }
 
     void endOfTheProcess() {
-        for (const qint64 process : family(getpid())) {
-            if (readAll(u"/proc/%1/cmdline"_s.arg(process)).contains("--type=renderer"))
-                kill(static_cast<pid_t>(process), SIGKILL);
-        }
+        const QList<qint64> found = test::renderers();
+        QVERIFY(!found.isEmpty());
+        for (const qint64 process : found)
+            kill(static_cast<pid_t>(process), SIGKILL);
         QTRY_VERIFY_WITH_TIMEOUT(m_watcher.gone, 15'000);
     }
 };
