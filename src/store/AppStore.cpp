@@ -22,6 +22,8 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_session(*this),
       m_connection(*this),
       m_calendar(clock),
+      m_microphone(clock, settings),
+      m_dictation(*this),
       m_call(*this),
       m_appearance(settings),
       m_create(*this),
@@ -32,6 +34,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
     m_layout.restoreChrome();
     m_layout.startPersisting();
     m_appearance.startPersisting();
+    m_microphone.startPersisting();
     m_scope.startPersisting();
 }
 

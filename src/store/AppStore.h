@@ -12,9 +12,11 @@
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
 #include "store/CreateRoom.h"
+#include "store/DictationRoom.h"
 #include "store/EventsRoom.h"
 #include "store/FindRoom.h"
 #include "store/LayoutRoom.h"
+#include "store/MicrophoneRoom.h"
 #include "store/ScopeRoom.h"
 #include "store/SessionRoom.h"
 #include "store/UpdateRoom.h"
@@ -46,6 +48,8 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
+    Q_PROPERTY(kiv::store::MicrophoneRoom *microphone READ microphone CONSTANT)
+    Q_PROPERTY(kiv::store::DictationRoom *dictation READ dictation CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
     Q_PROPERTY(kiv::store::AppearanceRoom *appearance READ appearance CONSTANT)
     Q_PROPERTY(kiv::store::CreateRoom *create READ create CONSTANT)
@@ -70,6 +74,8 @@ public:
     EventsRoom *events() { return &m_events; }
     ConnectionRoom *connection() { return &m_connection; }
     Calendar *calendar() { return &m_calendar; }
+    MicrophoneRoom *microphone() { return &m_microphone; }
+    DictationRoom *dictation() { return &m_dictation; }
     CallRoom *call() { return &m_call; }
     AppearanceRoom *appearance() { return &m_appearance; }
     CreateRoom *create() { return &m_create; }
@@ -110,6 +116,8 @@ private:
     SessionRoom m_session;
     ConnectionRoom m_connection;
     Calendar m_calendar;
+    MicrophoneRoom m_microphone;
+    DictationRoom m_dictation;
     CallRoom m_call;
     AppearanceRoom m_appearance;
     CreateRoom m_create;

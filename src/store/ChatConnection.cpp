@@ -66,6 +66,7 @@ void ChatRoom::openLine(const net::ChatTarget &target, Opening opening) {
 }
 
 void ChatRoom::disconnectChat() {
+    m_store.dictation()->stop();
     m_store.chatStream().stop();
     ++m_chatGen;
     m_connection.cancel();

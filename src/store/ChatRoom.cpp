@@ -90,6 +90,11 @@ void ChatRoom::send(const QString &text) {
     }
 }
 
+void ChatRoom::sendDraft() {
+    m_store.dictation()->stop();
+    send(m_draft);
+}
+
 void ChatRoom::sendLive(const QString &text) {
     const auto target = m_store.scope()->chatTarget();
     if (!target) {
@@ -282,6 +287,7 @@ QCoro::Task<void> ChatRoom::stopAnswer(QString agentID, Cancel cancel) {
 }
 
 void ChatRoom::newChat() {
+    m_store.dictation()->stop();
     m_chatNote = QString();
     setUnsentAside();
     m_store.canvas()->clearCanvas();

@@ -56,6 +56,8 @@ public:
     const std::optional<net::ChatTarget> &connected() const { return m_connected; }
 
     Q_INVOKABLE void send(const QString &text);
+    /// Sends what is typed, and what is being spoken into it.
+    Q_INVOKABLE void sendDraft();
     /// Sends a reply that was offered under an answer.
     Q_INVOKABLE void pickChip(const QString &messageId, const kiv::canvas::ReplyChip &chip);
     Q_INVOKABLE void stopLive();

@@ -24,6 +24,8 @@ void ChatRoom::setDraft(const QString &draft) {
 
 /// Each chat has a draft of its own. What was typed before it was clear whom it asks goes along.
 void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
+    // What was spoken belongs to the chat before.
+    m_store.dictation()->stop();
     const QString undirected = m_connected ? QString() : m_draft.value();
     m_connected = target;
     m_lastPrompt = QString();
@@ -35,6 +37,7 @@ void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
     }
     const ChatOfUser chat{m_store.scope()->userEmail(), target->streamPath()};
     setDraft(joined(m_drafts.text(chat.first, chat.second), undirected));
+    m_store.dictation()->setCaret(static_cast<int>(m_draft.value().size()));
     m_store.attachments()->putBack(m_keptFiles.take(chat));
 }
 

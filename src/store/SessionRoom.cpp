@@ -55,6 +55,7 @@ QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
 void SessionRoom::enterLive(const net::MeUser &user) {
     m_check.cancel();
     m_entering = true;
+    m_store.dictation()->stop();
     m_store.scope()->adopt(user);
     m_live.restart([this](Cancel cancel) { return bootLive(std::move(cancel)); });
 }

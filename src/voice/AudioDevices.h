@@ -24,7 +24,8 @@ public:
     /// Those that are there now.
     virtual QList<AudioDevice> inputs() = 0;
     /// The device of this id, or the system's own choice for an empty id or one that is not there.
-    /// Whether it can be opened is known when it is started.
+    /// Throws AudioError where there is no sound system; whether the device itself can be opened
+    /// is known when it is started.
     virtual std::unique_ptr<AudioInput> input(const QString &id) = 0;
 };
 
