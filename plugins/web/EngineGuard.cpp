@@ -20,6 +20,10 @@ bool isSandboxOff() {
            qgetenv(flagsVariable).contains("--no-sandbox");
 }
 
+QString tr(const char *text) {
+    return QCoreApplication::translate("EngineGuard", text);
+}
+
 #ifdef Q_OS_LINUX
 /// The engine shuts its processes in by user namespaces, which a system may forbid.
 bool mayMakeNamespaces() {
@@ -33,18 +37,24 @@ bool mayMakeNamespaces() {
 
 } // namespace
 
-QString refusal() {
+QString refusal(Use use) {
 #ifdef Q_OS_LINUX
     if (isSandboxOff())
         return {};
+    const bool isCall = use == Use::Calls;
     if (geteuid() == 0)
-        return QCoreApplication::translate("EngineGuard",
-                                           "Pages are not shown to the root user: the web engine "
-                                           "cannot protect this computer from them.");
+        return isCall
+                   ? tr("The root user cannot place calls: the web engine cannot protect this "
+                        "computer from what it loads.")
+                   : tr("Pages are not shown to the root user: the web engine cannot protect this "
+                        "computer from them.");
     if (!mayMakeNamespaces())
-        return QCoreApplication::translate("EngineGuard",
-                                           "Pages are not shown: this system does not let the web "
-                                           "engine protect the computer from them.");
+        return isCall ? tr("Calls cannot be placed: this system does not let the web engine "
+                           "protect the computer from what it loads.")
+                      : tr("Pages are not shown: this system does not let the web engine protect "
+                           "the computer from them.");
+#else
+    Q_UNUSED(use)
 #endif
     return {};
 }

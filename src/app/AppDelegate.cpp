@@ -3,6 +3,7 @@
 #include "app/MainMenu.h"
 #include "store/AppStore.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -35,6 +36,7 @@ bool isForeign(const ui::MenuEntry &entry) {
 } // namespace
 
 AppDelegate::AppDelegate(store::AppStore &store) : m_store(store) {
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::hangUpForGood);
     connect(store.scope(), &store::ScopeRoom::authChanged, this, &AppDelegate::menusChanged);
 }
 
@@ -72,7 +74,7 @@ void AppDelegate::perform(Command command) {
     case Command::GoOverseer:
         return m_store.scope()->pickGlobal();
     case Command::ToggleCall:
-        return m_store.call()->callAction();
+        return toggleCall();
     case Command::NewProject:
         return layout->startCreate(u"project"_s);
     case Command::NewAgent:
@@ -107,6 +109,25 @@ void AppDelegate::perform(Command command) {
     case Command::None:
         return;
     }
+}
+
+void AppDelegate::toggleCall() {
+    store::CallRoom *call = m_store.call();
+    if (call->call())
+        call->hangupCall();
+    else
+        call->callAction();
+}
+
+/// The backend hears of the end of a call before the program is gone, unless it is slow to listen.
+void AppDelegate::hangUpForGood() {
+    constexpr int patience = 1500;
+    constexpr int glance = 20;
+    store::CallRoom *call = m_store.call();
+    call->leaveCall();
+    const QDeadlineTimer deadline(patience);
+    while (call->isTellingEnd() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, glance);
 }
 
 void AppDelegate::showSheet(AuthSheetMode mode) {

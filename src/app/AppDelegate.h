@@ -24,6 +24,8 @@ public:
     void perform(ui::Command command) override;
 
 private:
+    void toggleCall();
+    void hangUpForGood();
     void showSheet(store::AuthSheetMode mode);
     void toWindow(ui::Command command);
 

@@ -18,6 +18,21 @@ QString firstCharacters(const QString &text, qsizetype count) {
     return text.first(end);
 }
 
+QString lastCharacters(const QString &text, qsizetype count) {
+    if (text.size() <= count)
+        return text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.toEnd();
+    qsizetype start = text.size();
+    for (qsizetype seen = 0; seen < count; ++seen) {
+        const qsizetype previous = finder.toPreviousBoundary();
+        if (previous < 0)
+            break;
+        start = previous;
+    }
+    return text.sliced(start);
+}
+
 qsizetype characterCount(const QString &text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     qsizetype count = 0;

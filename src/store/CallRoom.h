@@ -1,7 +1,12 @@
 #pragma once
 
+#include "base/Work.h"
+#include "net/ChatTarget.h"
+#include "store/CallFeed.h"
 #include "store/CallHistory.h"
 #include "store/CallTranscript.h"
+#include "voice/AudioInput.h"
+#include "voice/VoiceEngine.h"
 
 #include <QObject>
 #include <QProperty>
@@ -42,6 +47,11 @@ class CallRoom : public QObject {
     Q_PROPERTY(QString callTranscriptOpen READ callTranscriptOpen NOTIFY callTranscriptOpenChanged)
 public:
     explicit CallRoom(AppStore &store);
+    ~CallRoom() override;
+
+    /// Where the hidden page of calls comes from; it outlives the room. Without one it is the
+    /// store's web host.
+    void setVoicePages(voice::VoicePages *pages) { m_pages = pages; }
 
     /// A call is on, from the button to the last moment of its end.
     bool call() const { return m_call; }
@@ -102,6 +112,21 @@ public:
     /// The same for the line of a call in the conversation.
     Q_INVOKABLE void toggleCallLines(const QString &callID);
 
+    /// Ends what there is of a call at once, screen and all.
+    void leaveCall();
+    /// The same; returns when the backend has been told.
+    QCoro::Task<void> endCall(Cancel cancel);
+    /// Whether the backend is still to hear of the end of a call.
+    bool isTellingEnd() const { return m_goodbyes.running(); }
+    /// Nobody is signed in any more: nothing of their calls is kept.
+    void clear();
+
+    /// The conversation with its calls at their places; `hasOlder` when it goes back further.
+    QList<Msg> withCalls(const net::ChatTarget &target, const QList<Msg> &messages,
+                         bool hasOlder) const;
+    /// Puts the past calls with an agent into its conversation.
+    void attachSharedVoiceHistory(const net::ChatTarget &target);
+
 Q_SIGNALS:
     void callChanged();
     void callShownChanged();
@@ -123,16 +148,86 @@ Q_SIGNALS:
     void callHistoryLoadedChanged();
     void callHistoryFailedChanged();
     void callTranscriptOpenChanged();
+    /// The person shares this address.
+    void callLinkShared(const QString &link);
 
 private:
+    /// Who is called, and from which conversation.
+    struct Callee {
+        QString agent; ///< empty while it is not known who answers for everything
+        std::optional<net::ChatTarget> chat;
+        QString project;
+    };
+    enum class Ending { Shown, AtOnce };
+
+    // The button
+    QCoro::Task<void> press(Cancel cancel);
+    QCoro::Task<void> probeVoice(Cancel cancel);
+    bool micAllowed();
+    QCoro::Task<void> warmUpEarly(Cancel cancel);
+    void showCallHint(const QString &text);
+    void showCallee();
+    Callee currentCallee() const;
+    voice::VoicePages &pages();
+    voice::VoiceEngine &engine();
+    void dropEngine();
+
+    // The line
+    void startLiveCall();
+    QCoro::Task<void> mintSession(int gen, Cancel cancel);
+    QCoro::Task<void> connectCall(Cancel cancel);
+    QCoro::Task<void> reconnectCall(Cancel cancel);
+    QCoro::Task<void> warmUpInTime(Cancel cancel);
+    void callConnected();
+    void failStart(const std::exception &error);
+    void startCallClock();
+    void tick();
+    void handleVoiceEvent(const voice::VoiceEngine::Event &event);
+    void onDisconnect(const voice::VoiceEngine::Disconnect &disconnect);
+    void onEngineGone();
+    void applyMute();
+    void applyMicrophone();
+    void showLevel();
+    QString leaveLine();
+    void hangUp(Ending ending);
+    void finishCall();
+    void tellEnd(const QString &callID);
+    QCoro::Task<void> postEnd(QString callID, Cancel cancel);
+
+    // Past calls
+    QCoro::Task<void> loadHistory(QString agentID, std::optional<net::ChatTarget> chat,
+                                  Cancel cancel);
+    QCoro::Task<void> loadTranscript(QString callID, Cancel cancel);
+    QCoro::Task<void> openLines(net::ChatTarget chat, QString callID, Cancel cancel);
+    QCoro::Task<QList<PastLine>> transcriptOf(QString callID, Cancel cancel);
+    void flushCallIntoFeed();
+
     static constexpr int usualMax = 600;
 
     AppStore &m_store;
+    voice::VoicePages *m_pages = nullptr;
+    std::unique_ptr<voice::VoicePages> m_hosted;
+    Callee m_callee;
     QString m_callName;
     ScopeKind m_callKind = ScopeKind::Kiv;
     QString m_callColorHex;
     CallTranscript m_callTranscript;
     CallHistory m_callHistory;
+    CallFeed m_feed;
+    QString m_historyAgent;                               ///< whose calls the history holds
+    QHash<QString, QList<PastLine>> m_callTranscriptRows; ///< of past calls, by their id
+
+    int m_callGen = 0; ///< counts calls, so that what comes late finds its own
+    QString m_callID;
+    QString m_callSessionRaw; ///< as it came, for a reconnection
+    QString m_callChatDigest;
+    QString m_callLastError;
+    bool m_callReconnectTried = false;
+    bool m_wasActive = false;
+    QDateTime m_startedAt;
+    Clock::Milliseconds m_began{0};
+    QUuid m_holdLine;
+    QUuid m_lostLine;
 
     Q_OBJECT_BINDABLE_PROPERTY(CallRoom, bool, m_call, &CallRoom::callChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CallRoom, bool, m_callShown, &CallRoom::callShownChanged)
@@ -161,6 +256,21 @@ private:
                                &CallRoom::callHistoryFailedChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CallRoom, QString, m_callTranscriptOpen,
                                &CallRoom::callTranscriptOpenChanged)
+
+    // Last: what runs ends before what it works on.
+    std::unique_ptr<voice::VoiceEngine> m_voice;
+    /// Listens along, for its level alone: what the page hears it does not tell.
+    std::unique_ptr<voice::AudioInput> m_level;
+    Clock::Timer m_callTask;
+    Clock::Timer m_warmLimit;
+    Clock::Timer m_finish;
+    Work m_press;
+    Work m_warm;
+    Work m_mint;
+    Work m_connect;
+    Work m_goodbyes;
+    Work m_history;
+    Work m_transcripts;
 };
 
 } // namespace kiv::store

@@ -99,8 +99,10 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Opening
         else
             page = co_await net::KivAPI::projectChatHistory(&m_store.net(), target.id(),
                                                             historyLimit, cancel);
-        if (gen == m_chatGen)
+        if (gen == m_chatGen) {
             showHistory(page.messages, opening);
+            m_store.call()->attachSharedVoiceHistory(target);
+        }
     } catch (const std::exception &) {
         // What is shown stays; a chat that shows nothing yet greets.
         cancel.throwIfRequested();
@@ -118,7 +120,8 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
     QList<Msg> merged = HistoryMerge(m_msgs.messages(), m_live).merge(rows, unsent);
     if (merged.isEmpty())
         merged.append(liveGreeting());
-    m_msgs.replaceAll(std::move(merged));
+    m_hasOlderRows = rows.size() >= historyLimit;
+    m_msgs.replaceAll(m_store.call()->withCalls(*m_connected, merged, m_hasOlderRows));
     for (const Msg &message : unsent) {
         const qsizetype row = m_msgs.rowOf(message.id);
         if (row >= 0 && !m_msgs.messages().at(row).isUnsent())
@@ -141,13 +144,25 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
         return; // what the person looks at stays
     using canvas::ConversationLine;
     QList<ConversationLine> lines;
-    for (const Msg &message : m_msgs.messages())
+    for (const Msg &message : m_msgs.messages()) {
+        if (message.fromCall)
+            continue;
         lines.append(
             {message.who == Who::You ? ConversationLine::Who::You : ConversationLine::Who::Agent,
              message.text, message.view});
+    }
     canvas->applyRestoredCanvas(
         canvas::CanvasEngine::latestDrawable(lines, m_store.net().baseUrl()),
         answer.value_or(Msg()));
+}
+
+void ChatRoom::placeCalls(const net::ChatTarget &target) {
+    if (m_connected != target)
+        return;
+    QList<Msg> messages = m_store.call()->withCalls(target, m_msgs.messages(), m_hasOlderRows);
+    // Nothing of it is news: the person took part.
+    m_seenMsgs = std::max(m_seenMsgs + static_cast<int>(messages.size()) - m_msgs.count(), 0);
+    m_msgs.replaceAll(std::move(messages));
 }
 
 /// The question is still open. Rows above it are older than it; an answer below it that came while
@@ -188,7 +203,9 @@ void ChatRoom::confirm(qsizetype row, Msg stored) {
 
 QString ChatRoom::newestQuestion() const {
     const QList<Msg> &messages = m_msgs.messages();
-    const auto found = std::ranges::find(messages.crbegin(), messages.crend(), Who::You, &Msg::who);
+    const auto found = std::find_if(messages.crbegin(), messages.crend(), [](const Msg &message) {
+        return message.who == Who::You && !message.fromCall;
+    });
     return found == messages.crend() ? QString() : found->text;
 }
 

@@ -81,6 +81,8 @@ public:
     /// Drops the connection for good: later rows and loads of it are ignored.
     void disconnectChat();
     void markSeen();
+    /// The calls of a conversation are other ones: where it shows, they are put at their places.
+    void placeCalls(const net::ChatTarget &target);
     /// Puts a line under the composer, or takes it away with an empty text.
     void showNote(const QString &note) { m_chatNote = note; }
     /// The answer is no longer waited for; the canvas says so when it settled or gave up.
@@ -149,6 +151,7 @@ private:
     QHash<qint64, Msg> m_live;
     /// The rows of the connected chat have been loaded.
     bool m_rowsKnown = false;
+    bool m_hasOlderRows = false; ///< the server has rows before the first that was loaded
     Drafts m_drafts;
     /// Of an expired session: files that wait for their person, by who it is and the chat's path.
     using ChatOfUser = std::pair<QString, QString>;

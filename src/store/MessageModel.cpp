@@ -181,7 +181,7 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
     case FromCallRole:
         return message.fromCall;
     case CallIdRole:
-        return message.callSeconds ? message.callID : QString();
+        return message.callHead ? message.callID : QString();
     case CallOpenRole:
         return message.callOpen;
     case ChipsRole: {

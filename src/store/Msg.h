@@ -57,12 +57,12 @@ struct Msg {
     QList<canvas::ReplyChip> chips;     ///< replies offered under an answer
     std::optional<QString> chipsChosen; ///< label of the one that was picked
     QString memberLabel;
-    /// Said in a voice call; the line of the call itself has its length and nothing else.
+    /// Said in a voice call, or the line of a call itself.
     bool fromCall = false;
-    QString callID;                 ///< the call that it belongs to
-    std::optional<int> callSeconds; ///< of the line of a call: how long it took
-    bool callOpen = false;          ///< of the line of a call: what was said follows it
-    std::optional<QDateTime> at;    ///< server time of the row
+    QString callID;              ///< the call that it belongs to
+    bool callHead = false;       ///< the line of a call
+    bool callOpen = false;       ///< of the line of a call: what was said follows it
+    std::optional<QDateTime> at; ///< server time of the row
 
     /// The stored form of `sent`: its files stay, though the server may not repeat them.
     void keepFilesOf(const Msg &sent) {

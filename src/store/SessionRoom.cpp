@@ -156,6 +156,7 @@ void SessionRoom::logout() {
 }
 
 QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
+    co_await m_store.call()->endCall(cancel);
     try {
         co_await net::KivAPI::logout(&m_store.net(), cancel);
     } catch (const std::exception &) {
@@ -167,11 +168,13 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
 }
 
 void SessionRoom::resetToAnon() {
+    m_store.call()->leaveCall();
     m_live.cancel();
     m_entering = false;
     m_store.create()->close();
     m_store.chat()->disconnectChat();
     m_store.scope()->clear();
+    m_store.call()->clear();
     m_store.events()->clear();
     m_store.account()->clear();
     m_store.canvas()->forgetAll();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "voice/VoicePage.h"
+
 #include <QList>
 #include <QNetworkCookie>
 #include <QString>
@@ -59,7 +61,7 @@ struct PageWish {
 };
 
 /// What the web plugin does. The plugin is the only part of the program that knows a web engine,
-/// and the engine starts with the first page.
+/// and the engine starts with the first page of either kind.
 class WebPlugin {
 public:
     virtual ~WebPlugin() = default;
@@ -67,12 +69,18 @@ public:
     /// Why the engine cannot run in this process, in a line for the person; empty when it can.
     /// To be asked before a page is made: where it cannot, it would end the process.
     virtual QString refusal() const = 0;
+    /// The same about the pages of calls.
+    virtual QString callRefusal() const = 0;
     /// `watcher` and `engine` outlive the page.
     virtual std::unique_ptr<Page> makePage(QQmlEngine &engine, const PageWish &wish,
                                            PageWatcher &watcher) = 0;
+    /// A page that places calls; it keeps nothing on the disk. `watcher` outlives it. `dark` is the
+    /// theme, since the engine may be started for it.
+    virtual std::unique_ptr<voice::VoicePage> makeVoicePage(bool dark,
+                                                            voice::VoicePageWatcher &watcher) = 0;
 };
 
 } // namespace kiv::web
 
-#define KIV_WEB_PLUGIN "kiv.WebPlugin/1"
+#define KIV_WEB_PLUGIN "kiv.WebPlugin/2"
 Q_DECLARE_INTERFACE(kiv::web::WebPlugin, KIV_WEB_PLUGIN)

@@ -257,6 +257,9 @@ FocusScope {
             Toasts.show(view.store.call.callHint)
             view.store.call.dismissHint()
         }
+        function onCallLinkShared(link) {
+            Clipboard.setText(link)
+        }
     }
     Connections {
         target: view.layout

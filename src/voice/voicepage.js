@@ -1,0 +1,123 @@
+(function () {
+    function post(t, d) {
+        var message = { t: t };
+        Object.keys(d || {}).forEach(function (key) { message[key] = d[key]; });
+        try {
+            window.webkit.messageHandlers.vcall.postMessage(message);
+        } catch (e) {}
+    }
+
+    // The one live conversation.
+    var conv = null;
+
+    function handlers(s, d) {
+        var body = { tamrix_call_id: s.call_id };
+        if (d)
+            body.chat_digest = String(d).slice(0, 1600);
+        return {
+            dynamicVariables: s.dynamic_variables || undefined,
+            customLlmExtraBody: body,
+            overrides: s.overrides || undefined,
+            onModeChange: function (p) {
+                post('mode', { mode: p && p.mode === 'speaking' ? 'speaking' : 'listening' });
+            },
+            onMessage: function (m) {
+                post('message', {
+                    message: m.message === null || m.message === undefined ? '' : String(m.message),
+                    source: String(m.source || ''),
+                    type: String(m.type || '')
+                });
+            },
+            onPing: function (p) {
+                var isObject = p !== null && typeof p === 'object';
+                var ms = p;
+                if (isObject)
+                    ms = p.ping_ms !== null && p.ping_ms !== undefined ? p.ping_ms : p.pingMs;
+                post('ping', { ms: Number(ms) });
+            },
+            onError: function (msg) {
+                post('error', { message: typeof msg === 'string' ? msg : (msg && msg.message) || '' });
+            },
+            onDisconnect: function (d) {
+                d = d || {};
+                post('disconnect', {
+                    reason: String(d.reason || ''),
+                    message: String(d.message || ''),
+                    closeCode: Number(d.closeCode || 0),
+                    closeReason: String(d.closeReason || '')
+                });
+            }
+        };
+    }
+
+    function attempt(options, transport) {
+        options.connectionType = transport;
+        return window.__ElevenConversation.startSession(options).then(function (c) {
+            conv = c;
+            if (conv)
+                post('connected', { transport: transport });
+        });
+    }
+
+    window.__nativeStart = function (sessionJson, chatDigest) {
+        var s = JSON.parse(sessionJson);
+        var d = chatDigest ? String(chatDigest) : '';
+        var last = null;
+        function failed(e) {
+            last = e;
+            conv = null;
+        }
+        window.__nativeEnd();
+        Promise.resolve().then(function () {
+            if (s.signed_url)
+                return attempt(Object.assign(handlers(s, d), { signedUrl: s.signed_url }), 'websocket');
+        }).catch(failed).then(function () {
+            if (!conv && s.token)
+                return attempt(Object.assign(handlers(s, d), { conversationToken: s.token }), 'webrtc');
+        }).catch(failed).then(function () {
+            if (!conv)
+                throw last || new Error('no voice transport');
+        }).catch(function (e) {
+            post('connectFail', { message: e && e.message ? String(e.message) : '' });
+        });
+        return true;
+    };
+
+    window.__nativeContext = function (text) {
+        try {
+            if (conv && conv.sendContextualUpdate)
+                conv.sendContextualUpdate(String(text));
+        } catch (e) {}
+        return true;
+    };
+
+    window.__nativeEnd = function () {
+        try {
+            if (conv)
+                conv.endSession();
+        } catch (e) {}
+        conv = null;
+        return true;
+    };
+
+    window.__nativeMute = function (m) {
+        try {
+            if (conv && conv.setMicMuted)
+                conv.setMicMuted(!!m);
+        } catch (e) {}
+        return true;
+    };
+
+    var client = document.createElement('script');
+    client.src = '/vendor/elevenlabs-client.1.21.0.js';
+    client.onload = function () {
+        if (window.__ElevenConversation)
+            post('ready');
+        else
+            post('connectFail', { message: 'SDK loaded without a global' });
+    };
+    client.onerror = function () {
+        post('connectFail', { message: 'SDK load failed' });
+    };
+    document.head.appendChild(client);
+})();
