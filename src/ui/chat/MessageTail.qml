@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Icons
 import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
@@ -58,7 +59,20 @@ FocusScope {
         text: qsTr("Not sent. Try again")
         onClicked: tail.retryRequested()
     }
+    Icon {
+        anchors.right: sent.left
+        anchors.rightMargin: 6
+        anchors.verticalCenter: sent.verticalCenter
+        visible: tail.row.mine && tail.row.fromCall
+        name: "phone"
+        size: 14
+        color: Tokens.t3
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("said in a call")
+    }
     Label {
+        id: sent
+
         objectName: "sentState"
         anchors.right: parent.right
         y: tail.height
