@@ -5,47 +5,40 @@ using namespace std::chrono_literals;
 
 namespace kiv::ui {
 
-class CallWorkspace::Page : public voice::VoicePage {
-public:
-    explicit Page(CallWorkspace &workspace) : m_workspace(workspace) {}
-
-    void loadHtml(const QString &, const QUrl &) override {
-        m_workspace.post({{u"t"_s, u"ready"_s}});
-    }
-    void evaluate(const QString &script) override { m_workspace.m_scripts.append(script); }
-    void setMicrophone(const QString &) override {}
-    void setAudible(bool) override {}
-
-private:
-    CallWorkspace &m_workspace;
-};
-
 CallWorkspace::CallWorkspace() {
     backend.answer(u"GET api/v2/voice/capability"_s, R"({"available":true})");
-    backend.answer(u"POST api/v2/voice/session"_s,
-                   R"({"call_id":"now","signed_url":"wss://voice.example","max_duration_secs":600})");
+    backend.answer(
+        u"POST api/v2/voice/session"_s,
+        R"({"call_id":"now","signed_url":"wss://voice.example","max_duration_secs":600})");
     backend.answer(u"POST api/v2/voice/end"_s, "{}");
     backend.answer(u"GET api/v2/voice/calls"_s, R"({"calls":[]})");
-    store->call()->setVoicePages(this);
+    store->call()->setVoicePages(&m_pages);
+    store->microphone()->setSource(&microphones);
 }
 
 CallWorkspace::~CallWorkspace() {
-    store.reset(); // its engine holds a page of ours
+    store.reset(); // it uses what goes before it
 }
 
 bool CallWorkspace::call() {
     store->call()->callAction();
-    return QTest::qWaitFor([&] {
-        return store->call()->callShown() && m_scripts.filter(u"__nativeStart"_s).size() > 0;
-    });
+    return dialled();
+}
+
+bool CallWorkspace::dialled() {
+    const auto starts = [this] { return m_pages.calls(u"Start"_s).size(); };
+    const qsizetype before = starts(); // the session is still being asked for
+    if (!test::soon([this] { return m_pages.loads > 0; }))
+        return false;
+    post({{u"t"_s, u"ready"_s}});
+    return test::soon([&] { return starts() > before; });
 }
 
 bool CallWorkspace::talk() {
     if (!call())
         return false;
     connectCall();
-    return QTest::qWaitFor(
-        [&] { return store->call()->callPhase() == store::CallPhase::Active; });
+    return store->call()->callPhase() == store::CallPhase::Active;
 }
 
 void CallWorkspace::pass(std::chrono::seconds time) {
@@ -62,12 +55,10 @@ void CallWorkspace::hear(const QString &who, const QString &words, bool partial)
           {u"source"_s, who},
           {u"message"_s, words},
           {u"type"_s, partial ? u"partial"_s : QString()}});
-    QCoreApplication::processEvents();
 }
 
 void CallWorkspace::speaking(bool speaking) {
     post({{u"t"_s, u"mode"_s}, {u"mode"_s, speaking ? u"speaking"_s : u"listening"_s}});
-    QCoreApplication::processEvents();
 }
 
 void CallWorkspace::drop() {
@@ -75,7 +66,6 @@ void CallWorkspace::drop() {
           {u"reason"_s, u"error"_s},
           {u"closeCode"_s, 1006},
           {u"closeReason"_s, u"network"_s}});
-    QCoreApplication::processEvents();
 }
 
 void CallWorkspace::converse() {
@@ -93,18 +83,16 @@ void CallWorkspace::converse() {
     pass(22s);
     hear(u"user"_s, u"Which one should worry me?"_s);
     pass(8s);
-    hear(u"ai"_s, u"Glasshouse is the one to watch. The data agent is back on Tuesday, until then "
-                  u"it runs at 118%."_s, true);
+    hear(u"ai"_s,
+         u"Glasshouse is the one to watch. The data agent is back on Tuesday, until then "
+         u"it runs at 118%."_s,
+         true);
     pass(6s);
 }
 
-std::unique_ptr<voice::VoicePage> CallWorkspace::makePage(voice::VoicePageWatcher &watcher) {
-    m_watcher = &watcher;
-    return std::make_unique<Page>(*this);
-}
-
 void CallWorkspace::post(const QVariantMap &message) {
-    m_watcher->pageMessage(u"vcall"_s, message);
+    m_pages.post(message);
+    QCoreApplication::sendPostedEvents();
 }
 
 QByteArray pastCalls() {

@@ -1,19 +1,22 @@
 #pragma once
 
+#include "ScriptedPage.h"
+#include "ScriptedVoice.h"
 #include "ui/Workspace.h"
-#include "voice/VoicePage.h"
 
 namespace kiv::ui {
 
 /// A workspace in which calls can be made: the test speaks for the voice service.
-class CallWorkspace : public Workspace, private voice::VoicePages {
+class CallWorkspace : public Workspace {
 public:
     CallWorkspace();
-    ~CallWorkspace() override;
+    ~CallWorkspace();
 
-    /// Presses the call button and waits until the screen is up.
+    /// Presses the call button; true when the service is asked to connect.
     bool call();
-    /// The same until the call is connected.
+    /// Of a call that the window has begun: true when the service is asked to connect.
+    bool dialled();
+    /// Calls and connects.
     bool talk();
     /// Lets this much time of the call pass.
     void pass(std::chrono::seconds time);
@@ -27,18 +30,12 @@ public:
     /// A short conversation with something in both alphabets.
     void converse();
 
-    /// The scripts that the page was given.
-    const QStringList &scripts() const { return m_scripts; }
+    test::ScriptedMicrophones microphones;
 
 private:
-    class Page;
-
-    QString refusal() override { return {}; }
-    std::unique_ptr<voice::VoicePage> makePage(voice::VoicePageWatcher &watcher) override;
     void post(const QVariantMap &message);
 
-    voice::VoicePageWatcher *m_watcher = nullptr;
-    QStringList m_scripts;
+    test::ScriptedPages m_pages;
 };
 
 /// Past calls as the server lists them, newest first, and what was said in one.

@@ -58,7 +58,7 @@ FocusScope {
             name: stage.call.callName
             colorHex: stage.call.callColorHex
             // With room for the rings when they are widest.
-            size: Math.min(440, (room.height - 8) / 1.06, room.width - 48)
+            size: Math.min(440, (room.height - 24) / 1.06, room.width - 48)
             level: stage.speaking ? stage.breath : stage.level
             speaking: stage.speaking
             connecting: stage.call.callPhase === Store.CallPhase.Connecting || stage.call.callReconnecting
@@ -98,6 +98,10 @@ FocusScope {
             phase: stage.phase
             level: stage.level
             color: stage.heard || stage.speaking ? Tokens.accentText : Tokens.t3
+        }
+        Item {
+            width: 1
+            height: 2
         }
         CaptionText {
             anchors.horizontalCenter: parent.horizontalCenter

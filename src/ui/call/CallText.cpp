@@ -1,5 +1,7 @@
 #include "ui/call/CallText.h"
 
+#include "store/CallTexts.h"
+
 #include <QLocale>
 
 namespace kiv::ui {
@@ -7,11 +9,7 @@ namespace kiv::ui {
 using namespace Qt::StringLiterals;
 
 QString CallText::length(int seconds) {
-    const auto padded = [](int number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
-    const int minutes = seconds / 60;
-    const QString rest = u':' + padded(seconds % 60);
-    return minutes < 60 ? QString::number(minutes) + rest
-                        : QString::number(minutes / 60) + u':' + padded(minutes % 60) + rest;
+    return store::CallTexts::length(seconds);
 }
 
 QString CallText::start(const QDateTime &at, store::Calendar *calendar) {

@@ -26,7 +26,7 @@ Row {
             required property int index
             required property real modelData
 
-            readonly property real share: bars.breathing ? 0.6 + 0.4 * Math.sin(2 * Math.PI * (bars.phase + index / 5)) : bars.level
+            readonly property real share: bars.breathing ? 0.75 + 0.25 * Math.sin(2 * Math.PI * (bars.phase + index / 8)) : bars.level
 
             anchors.verticalCenter: parent?.verticalCenter
             width: 4

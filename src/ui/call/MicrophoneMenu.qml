@@ -40,6 +40,7 @@ Popover {
         height: Math.min(contentHeight, 8 * 36)
         model: menu.room.devices.length + 1
         clip: true
+        keyNavigationEnabled: true
         interactive: contentHeight > height
         highlightMoveDuration: 0
         Accessible.role: Accessible.List

@@ -26,8 +26,8 @@ T.ItemDelegate {
     required property AppStore store
 
     readonly property string start: CallText.start(startedAt, store.calendar)
-    readonly property string length: CallText.length(durationSecs)
-    readonly property string title: qsTr("%1 · %2").arg(CallText.outcome(status)).arg(length)
+    readonly property string title: durationSecs === 0 ? CallText.outcome(status)
+        : qsTr("%1 · %2").arg(CallText.outcome(status)).arg(CallText.length(durationSecs))
 
     signal toggled()
 
@@ -73,7 +73,7 @@ T.ItemDelegate {
     }
     Column {
         x: 56
-        y: 11
+        y: (60 - height) / 2
         width: stamp.x - x - 12
 
         Label {
@@ -85,6 +85,7 @@ T.ItemDelegate {
         }
         Label {
             width: parent.width
+            visible: text !== ""
             style: Tokens.type.small
             color: Tokens.t3
             text: row.snippet

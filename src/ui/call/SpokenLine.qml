@@ -61,9 +61,9 @@ Item {
         id: text
 
         x: 40
-        y: 18
+        y: 15
         // Room for the dot behind the last word.
-        width: line.width - x - 16
+        width: line.width - x - (line.growing ? 16 : 0)
         wrapMode: Text.Wrap
         text: line.words
         Accessible.ignored: true

@@ -25,8 +25,7 @@ FocusScope {
     }
     Label {
         x: 24
-        height: Tokens.topBarHeight
-        verticalAlignment: Text.AlignVCenter
+        y: (Tokens.topBarHeight - height) / 2
         style: Tokens.type.strong
         text: qsTr("Transcript")
         Accessible.role: Accessible.Heading
@@ -60,6 +59,13 @@ FocusScope {
         width: parent.width
         height: bar.y - y - 8
         store: panel.store
+    }
+    Label {
+        x: 24
+        y: bar.y - height - 20
+        visible: list.count === 0
+        color: Tokens.t3
+        text: qsTr("What is said shows here")
     }
     TypeBar {
         id: bar

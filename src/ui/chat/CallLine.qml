@@ -25,9 +25,10 @@ Item {
         implicitWidth: content.width + 20
         implicitHeight: 28
         focusPolicy: Qt.NoFocus
+        hoverEnabled: line.row.callHasLines
         text: line.row.label
         Accessible.name: text
-        Accessible.checkable: true
+        Accessible.checkable: line.row.callHasLines
         Accessible.checked: line.row.callOpen
         onClicked: line.toggled()
 
@@ -60,6 +61,7 @@ Item {
             }
             Icon {
                 anchors.verticalCenter: parent.verticalCenter
+                visible: line.row.callHasLines
                 name: line.row.callOpen ? "up" : "down"
                 size: 14
                 color: button.ink

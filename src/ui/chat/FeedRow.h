@@ -59,6 +59,7 @@ struct FeedRow {
     Q_PROPERTY(QString memberLabel MEMBER memberLabel)
     Q_PROPERTY(bool fromCall MEMBER fromCall)
     Q_PROPERTY(QString callId MEMBER callId)
+    Q_PROPERTY(bool callHasLines MEMBER callHasLines)
     Q_PROPERTY(bool callOpen MEMBER callOpen)
     Q_PROPERTY(QList<kiv::store::MsgFile> files MEMBER files)
     Q_PROPERTY(QString cardTitle MEMBER cardTitle)
@@ -79,7 +80,8 @@ public:
     QString memberLabel;
     bool fromCall = false; ///< said in a call
     QString callId;
-    bool callOpen = false; ///< what was said in the call follows it
+    bool callHasLines = false; ///< the call can be opened
+    bool callOpen = false;     ///< what was said in the call follows it
     QList<store::MsgFile> files;
     QString cardTitle;
     QString cardArt;

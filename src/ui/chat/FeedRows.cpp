@@ -232,6 +232,7 @@ FeedRows::Shown FeedRows::build(int message, const Shown &before) const {
     if (!row.callId.isEmpty()) {
         FeedRow &call = add(Kind::Call);
         call.label = body;
+        call.callHasLines = field(message, MessageModel::CallHasLinesRole).toBool();
         call.callOpen = field(message, MessageModel::CallOpenRole).toBool();
         return shown;
     }

@@ -81,7 +81,7 @@ FocusScope {
         tabular: true
         color: Tokens.t3
         text: tail.row.delivery === Store.Delivery.Pending ? qsTr("Sending…")
-            : tail.hovered ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
+            : tail.hovered && !tail.row.fromCall ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
     }
     Row {
         id: actions
@@ -112,6 +112,7 @@ FocusScope {
         }
         IconButton {
             objectName: "askAgain"
+            visible: !tail.row.fromCall
             size: 28
             iconSize: 16
             iconName: "refresh"

@@ -29,10 +29,9 @@ Item {
     }
     Rectangle {
         anchors.centerIn: parent
-        width: 2 * Math.round(mark.size * mark.core / 2)
+        width: (mark.coreScale === 1 ? 2 * Math.round(mark.size * mark.core / 2) : mark.size * mark.core * mark.coreScale)
         height: width
         radius: width / 2
-        scale: mark.coreScale
         color: mark.color
     }
     Item {
