@@ -62,3 +62,6 @@ build_targets() {
 }
 
 install_packages
+. "$root/packaging/fetch.sh"
+fetch_set speech
+fetch_voice_client

@@ -21,13 +21,21 @@ constexpr std::array kinds{
     KindName{Fault::Latency, "latency"_L1, true, 600'000},
     KindName{Fault::Status, "status"_L1, true, 599},
     KindName{Fault::Html, "html"_L1, true, 599},
-    KindName{Fault::BadJson, "bad-json"_L1, false, 0},
+    KindName{Fault::BadJson, "bad-json"_L1, false, 1'000'000},
     KindName{Fault::Close, "close"_L1, false, 0},
     KindName{Fault::Slow, "slow"_L1, true, 60'000},
     KindName{Fault::StreamDrop, "stream-drop"_L1, true, 1'000'000},
     KindName{Fault::HalfEvent, "half-event"_L1, true, 1'000'000},
     KindName{Fault::HalfCharacter, "half-character"_L1, true, 1'000'000},
     KindName{Fault::StreamStall, "stream-stall"_L1, true, 1'000'000},
+    KindName{Fault::CallUnavailable, "call-unavailable"_L1, false, 0},
+    KindName{Fault::CallRefused, "call-refused"_L1, false, 0},
+    KindName{Fault::CallLimit, "call-limit"_L1, true, 36'000},
+    KindName{Fault::CallTokenOnly, "call-token-only"_L1, false, 0},
+    KindName{Fault::CallWithToken, "call-with-token"_L1, false, 0},
+    KindName{Fault::CallNoTransport, "call-no-transport"_L1, false, 0},
+    KindName{Fault::CallDrop, "call-drop"_L1, true, 600'000},
+    KindName{Fault::CallDeaf, "call-deaf"_L1, false, 0},
 };
 
 [[noreturn]] void fail(const QString &text, const QString &why) {
@@ -89,7 +97,7 @@ QString Fault::text() const {
     const auto found = std::find_if(kinds.begin(), kinds.end(),
                                     [&](const KindName &entry) { return entry.kind == kind; });
     QString text = found->name;
-    if (found->needsValue) {
+    if (found->needsValue || value > 0) {
         text += u"=%1"_s.arg(value);
     }
     if (!path.isEmpty()) {

@@ -20,16 +20,24 @@ public:
 /// One way for the server to fail, written as "kind=value,path=P,method=M,times=N,code=C".
 struct Fault {
     enum Kind {
-        Latency,       ///< every reply waits `value` ms
-        Status,        ///< the reply is an error with this status
-        Html,          ///< the same, with a page instead of JSON
-        BadJson,       ///< the reply's body is cut in the middle
-        Close,         ///< the connection ends without a reply
-        Slow,          ///< bytes come in small pieces, `value` ms apart
-        StreamDrop,    ///< a stream ends after `value` events
-        HalfEvent,     ///< a stream ends inside the event after `value` events
-        HalfCharacter, ///< the same, inside a character of several bytes
-        StreamStall,   ///< a stream says nothing more after `value` events
+        Latency, ///< every reply waits `value` ms
+        Status,  ///< the reply is an error with this status
+        Html,    ///< the same, with a page instead of JSON
+        BadJson, ///< the reply's body is cut in the middle; of a socket, all after `value` messages
+        Close,   ///< the connection ends without a reply
+        Slow,    ///< bytes come in small pieces, `value` ms apart
+        StreamDrop,      ///< a stream ends after `value` events
+        HalfEvent,       ///< a stream ends inside the event after `value` events
+        HalfCharacter,   ///< the same, inside a character of several bytes
+        StreamStall,     ///< a stream says nothing more after `value` events
+        CallUnavailable, ///< voice is said not to be available, for the reason `code`
+        CallRefused,     ///< no call is agreed on, for the reason `code`
+        CallLimit,       ///< a call may take `value` seconds
+        CallTokenOnly,   ///< the session names the media transport, which nobody serves, alone
+        CallWithToken,   ///< the session names it beside the socket
+        CallNoTransport, ///< the session names neither
+        CallDrop,        ///< the socket breaks after `value` ms
+        CallDeaf,        ///< there is no recogniser for what the caller says
     };
 
     Kind kind = Latency;

@@ -3,6 +3,7 @@
 #include "base/Version.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +52,7 @@ Options parseOptions(const QStringList &arguments) {
         {u"fault"_s, u"A way to fail, such as status=500,path=/projects,times=2."_s, u"fault"_s},
         {u"control"_s, u"Take control requests under /_control/."_s},
         {u"newest-release"_s, u"The version that the release feed offers."_s, u"version"_s},
+        {u"share-dir"_s, u"Folder of the voice client and the speech models."_s, u"folder"_s},
         {u"stay"_s, u"Stay when standard input ends."_s},
     });
     if (!parser.parse(arguments)) {
@@ -74,6 +76,9 @@ Options parseOptions(const QStringList &arguments) {
     options.control = parser.isSet(u"control"_s);
     options.newestRelease = parser.isSet(u"newest-release"_s) ? parser.value(u"newest-release"_s)
                                                               : QStringLiteral(KIV_VERSION);
+    options.shareDir = parser.isSet(u"share-dir"_s)
+                           ? parser.value(u"share-dir"_s)
+                           : QCoreApplication::applicationDirPath() + u"/../share/kiv"_s;
     options.faults = readFaults(parser.values(u"fault"_s));
     return options;
 }

@@ -17,6 +17,7 @@ struct Options {
     bool stay = false;     ///< outlives the end of standard input
     bool control = false;  ///< takes control requests
     QString newestRelease; ///< what the release feed offers
+    QString shareDir;      ///< the folder that holds vendor/ and speech/
     std::vector<Fault> faults;
 };
 

@@ -30,6 +30,12 @@ const char16_t *const tables[] = {
     u" request_id TEXT, created_at TEXT NOT NULL, UNIQUE (account, chat, request_id))",
     u"files (key TEXT PRIMARY KEY, account TEXT NOT NULL, name TEXT NOT NULL,"
     u" mime TEXT NOT NULL, size INTEGER NOT NULL, created_at TEXT NOT NULL)",
+    u"calls (id TEXT PRIMARY KEY, account TEXT NOT NULL, agent TEXT NOT NULL,"
+    u" token BLOB NOT NULL UNIQUE, origin TEXT NOT NULL, host TEXT NOT NULL,"
+    u" longest INTEGER NOT NULL, state TEXT NOT NULL, created_at TEXT NOT NULL,"
+    u" free_at TEXT NOT NULL, started_at TEXT, ended_at TEXT)",
+    u"call_lines (id INTEGER PRIMARY KEY AUTOINCREMENT, call TEXT NOT NULL, role TEXT NOT NULL,"
+    u" second INTEGER NOT NULL, text TEXT NOT NULL)",
     u"beacons (account TEXT NOT NULL, name TEXT NOT NULL, count INTEGER NOT NULL,"
     u" PRIMARY KEY (account, name))",
 
@@ -72,6 +78,8 @@ const char16_t *const indexes[] = {
     u"messages_of_chat ON messages (account, chat, id)",
     u"tasks_of_project ON tasks (account, slug)",
     u"agents_of_account ON agents (account, position)",
+    u"calls_of_agent ON calls (account, agent, started_at)",
+    u"lines_of_call ON call_lines (call, id)",
 };
 
 } // namespace

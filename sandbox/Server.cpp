@@ -4,6 +4,7 @@
 #include "Router.h"
 #include "Services.h"
 #include "routes/Routes.h"
+#include "voice/VoiceServer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,22 +22,23 @@ Server::Server(const Options &options)
       m_http(std::make_unique<LoopbackServer>()),
       m_router(std::make_unique<Router>(*m_http, m_services->sessions, m_services->faults)) {
     m_http->set_payload_max_length(largestBody);
-    addAuthRoutes(*m_router, *m_services);
-    addWorkspaceRoutes(*m_router, *m_services);
-    addChatRoutes(*m_router, *m_services);
-    addFileRoutes(*m_router, *m_services);
-    addAccountRoutes(*m_router, *m_services);
-    addVoiceRoutes(*m_router, *m_services);
-    addPageRoutes(*m_router, *m_services);
-    addSurfaceRoutes(*m_router, *m_services);
-    if (options.control) {
-        addControlRoutes(*m_router, *m_services);
-    }
     m_port = m_http->bindLoopback(options.port);
     if (m_port <= 0) {
         throw std::runtime_error("the port cannot be had");
     }
     m_router->setPort(m_port);
+    m_voice = std::make_unique<VoiceServer>(*m_services, m_port);
+    addAuthRoutes(*m_router, *m_services);
+    addWorkspaceRoutes(*m_router, *m_services);
+    addChatRoutes(*m_router, *m_services);
+    addFileRoutes(*m_router, *m_services);
+    addAccountRoutes(*m_router, *m_services);
+    addVoiceRoutes(*m_router, *m_services, *m_voice);
+    addPageRoutes(*m_router, *m_services);
+    addSurfaceRoutes(*m_router, *m_services);
+    if (options.control) {
+        addControlRoutes(*m_router, *m_services);
+    }
     m_services->database.run([](Sql &) {}); // throws when it cannot be opened
     m_thread = std::thread([this] { m_http->listen_after_bind(); });
 }

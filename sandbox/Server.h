@@ -11,9 +11,11 @@ namespace kiv::sandbox {
 
 class LoopbackServer;
 class Router;
+class VoiceServer;
 struct Services;
 
-/// The running server: listens from construction to destruction, on a thread of its own.
+/// The running server: listens from construction to destruction, on a thread of its own. Calls are
+/// held on the thread that makes it, which has to run an event loop.
 class Server {
 public:
     /// Throws std::runtime_error when the port cannot be had or the database cannot be opened.
@@ -29,6 +31,7 @@ private:
     std::unique_ptr<Services> m_services;
     std::unique_ptr<LoopbackServer> m_http;
     std::unique_ptr<Router> m_router;
+    std::unique_ptr<VoiceServer> m_voice;
     int m_port = 0;
     std::thread m_thread;
 };

@@ -12,6 +12,8 @@
 #include "SampleAccount.h"
 #include "Sessions.h"
 #include "Workspace.h"
+#include "voice/CallStore.h"
+#include "voice/CallWitness.h"
 
 namespace kiv::sandbox {
 
@@ -26,6 +28,7 @@ struct Services {
           workspace(database),
           files(database, chosen.dataDir),
           chats(database),
+          calls(database),
           answerer(chats, hub, chosen.answerPace) {
         faults.set(chosen.faults);
     }
@@ -39,6 +42,8 @@ struct Services {
     Workspace workspace;
     Files files;
     ChatStore chats;
+    CallStore calls;
+    CallWitness witness;
     ChatHub hub;
     Faults faults;
     Answerer answerer;

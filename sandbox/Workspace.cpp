@@ -103,6 +103,13 @@ const QString projectColumns =
 
 } // namespace
 
+Scope scopeOf(const QString &account, const AgentRecord &agent) {
+    if (agent.kind == u"orchestrator"_s) {
+        return {account, Scope::Portfolio, {}, u"KIV"_s, {}};
+    }
+    return {account, Scope::Agent, agent.slug, agent.name, agent.name};
+}
+
 QJsonArray Workspace::projects(const QString &account) {
     const auto rows = m_database.run(
         [&](Sql &sql) { return sql.rows(projectColumns + u" ORDER BY position"_s, {account}); });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "answers/Answer.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -18,6 +20,9 @@ struct AgentRecord {
     QString kind; ///< "agent", "orchestrator" or "team"
     QString slug; ///< its project; empty for one that stands alone
 };
+
+/// Whose data the agent answers from.
+Scope scopeOf(const QString &account, const AgentRecord &agent);
 
 /// What the new-agent form sends.
 struct AgentDraft {

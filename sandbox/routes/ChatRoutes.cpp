@@ -30,11 +30,10 @@ Target projectTarget(Services &services, const Call &call) {
 
 Target agentTarget(Services &services, const Call &call) {
     const AgentRecord agent = services.workspace.agent(call.account, call.segment(1));
-    Scope scope{call.account, Scope::Portfolio, {}, u"KIV"_s, {}};
-    if (agent.kind != u"orchestrator"_s) {
-        scope = {call.account, Scope::Agent, agent.slug, agent.name, agent.name};
-    }
-    return {{call.account, u"agent:"_s + agent.id}, scope, {}, agent.status == u"stopped"_s};
+    return {{call.account, u"agent:"_s + agent.id},
+            scopeOf(call.account, agent),
+            {},
+            agent.status == u"stopped"_s};
 }
 
 using FindTarget = Target (*)(Services &, const Call &);

@@ -43,6 +43,8 @@ void addControlRoutes(Router &router, Services &services) {
                [&services](const Call &) { return faultList(services); });
     router.post("/_control/faults", Access::Everybody,
                 [&services](const Call &call) { return setFaults(services, call); });
+    router.get("/_control/voice", Access::Everybody,
+               [&services](const Call &) { return Reply::json(services.witness.report()); });
     router.get("/_control/beacons", Access::Everybody,
                [&services](const Call &) { return beacons(services); });
 }

@@ -12,6 +12,7 @@
 #include "net/PersistentCookieJar.h"
 #include "store/AppStore.h"
 #include "ui/chat/DialogChooser.h"
+#include "voice/AudioDevices.h"
 #include "web/WebHost.h"
 
 #include <QQmlApplicationEngine>
@@ -52,6 +53,7 @@ private:
     std::unique_ptr<EmbeddedServer> m_server;
     ui::DialogChooser m_chooser;
     web::WebHost m_webHost;
+    std::unique_ptr<voice::AudioDevices> m_microphones;
     std::unique_ptr<store::AppStore> m_store;
     std::unique_ptr<AppDelegate> m_delegate;
     QQmlApplicationEngine m_engine;

@@ -28,12 +28,14 @@ Options readOptions(const QStringList &arguments) {
         u"theme"_s, u"light, dark or system; otherwise the one chosen in the window."_s, u"name"_s);
     const QCommandLineOption profile(
         u"profile"_s, u"Keep settings, session and workspace in this folder."_s, u"folder"_s);
+    const QCommandLineOption audioFile(
+        u"audio-file"_s, u"Hear this WAV file in place of the microphone."_s, u"file"_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Talk to your agents and see what they answer."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({baseUrl, snapshot, theme, profile});
+    parser.addOptions({baseUrl, snapshot, theme, profile, audioFile});
     parser.process(arguments);
 
     Options options;
@@ -42,6 +44,8 @@ Options readOptions(const QStringList &arguments) {
         options.theme = themeNamed(parser.value(theme));
     options.places =
         parser.isSet(profile) ? Places::below(parser.value(profile)) : Places::standard();
+    options.audioFile =
+        parser.isSet(audioFile) ? parser.value(audioFile) : qEnvironmentVariable("KIV_AUDIO_FILE");
     const QString address =
         parser.isSet(baseUrl) ? parser.value(baseUrl) : qEnvironmentVariable("KIV_BASE_URL");
     if (!address.isEmpty())

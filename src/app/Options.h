@@ -18,6 +18,8 @@ struct Options {
     /// The look of this run; nothing for the one that the person has chosen.
     std::optional<store::Theme> theme;
     Places places;
+    /// A WAV file that is heard in place of the microphone; empty for the microphone.
+    QString audioFile;
     /// Further arguments of the embedded server.
     QStringList sandboxArguments;
 };

@@ -38,7 +38,8 @@ Places Places::standard() {
             .draftsFile = folder(QStandardPaths::GenericDataLocation) + u"/drafts"_s,
             .workspaceDir = folder(QStandardPaths::GenericDataLocation) + u"/workspace"_s,
             .sandboxProgram = findSandbox(),
-            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s)};
+            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
+            .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
 }
 
 Places Places::below(const QString &profile) {
@@ -48,7 +49,8 @@ Places Places::below(const QString &profile) {
             .draftsFile = dir.absoluteFilePath(u"drafts"_s),
             .workspaceDir = dir.absoluteFilePath(u"workspace"_s),
             .sandboxProgram = findSandbox(),
-            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s)};
+            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
+            .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
 }
 
 } // namespace kiv::app

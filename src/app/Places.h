@@ -12,6 +12,7 @@ struct Places {
     QString workspaceDir;   ///< data of the embedded workspace
     QString sandboxProgram; ///< the embedded workspace server
     QString webPlugin;      ///< what shows pages, its file's ending left out
+    QString micPlugin;      ///< what knows the microphones, likewise
 
     /// The user's own folders and the helpers installed beside the program.
     static Places standard();

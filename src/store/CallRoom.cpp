@@ -182,9 +182,7 @@ void CallRoom::callSay(const QString &text) {
     if (trimmed.isEmpty() || m_callPhase != CallPhase::Active || !m_call)
         return;
     m_callTranscript.type(trimmed, m_callSec);
-    engine().seedChatContext(
-        u"The owner typed this instead of saying it; answer it now as if it had been said:\n"_s +
-        trimmed);
+    engine().say(trimmed);
     m_callDraft = QString();
 }
 

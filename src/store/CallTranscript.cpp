@@ -7,6 +7,16 @@ namespace kiv::store {
 using namespace Qt::StringLiterals;
 
 void CallTranscript::hear(const QString &who, const QString &text, bool partial, int at) {
+    if (who == u"user"_s && !partial) {
+        // The service may repeat what was typed as if it had been said.
+        const auto typed = std::find_if(m_lines.crbegin(), m_lines.crend(), [&](const auto &line) {
+            return line.state == u"typed"_s && line.text == text;
+        });
+        if (typed != m_lines.crend()) {
+            change(m_lines.crend() - typed - 1, text, {});
+            return;
+        }
+    }
     const QString state = partial ? u"partial"_s : QString();
     // Both may speak at once: the open sentence of the same speaker is looked for.
     const auto open = std::find_if(m_lines.crbegin(), m_lines.crend(), [&](const CallLine &line) {

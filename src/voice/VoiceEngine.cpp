@@ -117,6 +117,11 @@ void VoiceEngine::setMuted(bool muted) {
                                   : u"window.__nativeMute(false)"_s);
 }
 
+void VoiceEngine::say(const QString &text) {
+    if (m_webView)
+        m_webView->evaluate(u"window.__nativeSay("_s + jsString(text) + u')');
+}
+
 void VoiceEngine::pageMessage(const QString &channel, const QVariant &body) {
     if (channel != channelName || body.typeId() != QMetaType::QVariantMap)
         return;

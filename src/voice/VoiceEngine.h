@@ -71,6 +71,8 @@ public:
     QCoro::Task<QString> start(QString sessionRaw, QString chatDigest, Cancel cancel);
     void seedChatContext(const QString &text);
     void setMuted(bool muted);
+    /// What the owner writes instead of saying it.
+    void say(const QString &text);
     /// Null before the first warm-up.
     VoicePage *webView() const { return m_webView.get(); }
 

@@ -108,6 +108,14 @@
         return true;
     };
 
+    window.__nativeSay = function (text) {
+        try {
+            if (conv && conv.sendUserMessage)
+                conv.sendUserMessage(String(text));
+        } catch (e) {}
+        return true;
+    };
+
     var client = document.createElement('script');
     client.src = '/vendor/elevenlabs-client.1.21.0.js';
     client.onload = function () {

@@ -283,9 +283,6 @@ private Q_SLOTS:
         QCOMPARE(m_client->post(u"/api/v2/rum"_s, {{u"value"_s, 1}}).status, 400);
         QCOMPARE(m_client->get(u"/_control/beacons"_s).json().value(u"beacons"_s).toObject(),
                  QJsonObject({{u"canvas_open"_s, 2}}));
-        QCOMPARE(m_client->get(u"/api/v2/voice/capability"_s).json(),
-                 QJsonObject({{u"available"_s, false}, {u"reason"_s, u"not_configured"_s}}));
-        QCOMPARE(m_client->post(u"/api/v2/voice/session"_s).code(), u"voice_unavailable"_s);
         Client stranger(m_sandbox->port());
         const Response feed = stranger.get(u"/downloads/kiv-appcast.xml"_s);
         QCOMPARE(feed.status, 200);

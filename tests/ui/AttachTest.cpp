@@ -235,6 +235,8 @@ void AttachTest::removedByKeyboard() {
     m_gallery->press(Qt::Key_Tab);
     QVERIFY(m_gallery->hasFocus(u"attachButton"_s));
     m_gallery->press(Qt::Key_Tab);
+    QVERIFY(m_gallery->hasFocus(u"micButton"_s));
+    m_gallery->press(Qt::Key_Tab);
     QVERIFY(m_gallery->hasFocus(u"sendButton"_s));
     QCOMPARE(m_workspace->store->chat()->draft(), u"x"_s);
 }

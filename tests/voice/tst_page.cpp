@@ -31,6 +31,7 @@ const QString browser = uR"(
             return Promise.reject(answer === '' ? {} : new Error(answer));
         return Promise.resolve({
             sendContextualUpdate: function (text) { told.push('context ' + text); throw new Error('x'); },
+            sendUserMessage: function (text) { told.push('say ' + text); },
             setMicMuted: function (m) { told.push('mute ' + JSON.stringify(m)); },
             endSession: function () { told.push('end'); throw new Error('x'); }
         });
@@ -178,11 +179,11 @@ private Q_SLOTS:
         page.run(u"__nativeContext('a'); __nativeMute(true); __nativeEnd()"_s);
         QCOMPARE(page.list(u"told"_s), QStringList());
         page.start(u"{\"signed_url\":\"w\"}"_s);
-        page.run(u"__nativeContext('a'); __nativeMute(1); __nativeMute(0)"_s);
+        page.run(u"__nativeContext('a'); __nativeSay('b'); __nativeMute(1); __nativeMute(0)"_s);
         page.start(u"{\"signed_url\":\"w\"}"_s);
         page.run(u"__nativeEnd(); __nativeEnd()"_s);
-        QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"mute true"_s, u"mute false"_s,
-                                                    u"end"_s, u"end"_s}));
+        QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"say b"_s, u"mute true"_s,
+                                                    u"mute false"_s, u"end"_s, u"end"_s}));
         // A page that nobody listens to does not break.
         page.run(u"window.webkit = undefined; element.onload()"_s);
         QVERIFY(page.engine.evaluate(u"__nativeStart('no json', '')"_s).isError());

@@ -13,21 +13,38 @@ FocusScope {
     required property string draft
     required property string placeholder
     required property AttachmentRoom attachments
+    required property DictationRoom dictation
+    required property MicrophoneRoom microphone
     property string lastPrompt: ""
     property string hint: ""
     property bool stoppable: false
     property bool floating: false
-    readonly property bool ready: (/\S/.test(draft) || attachments.chatFiles.attached > 0) && !attachments.chatUploading
+    readonly property bool ready: (/\S/.test(draft + dictation.dictationInterim) || attachments.chatFiles.attached > 0) && !attachments.chatUploading
     readonly property real trayHeight: tray.visible ? tray.height + 8 : 0
     readonly property int lines: 8
 
     signal edited(text: string)
-    signal submitted(text: string)
+    signal submitted()
     signal stopRequested()
 
     function submit() {
         if (ready)
-            submitted(draft)
+            submitted()
+    }
+    function toggleDictation() {
+        if (!dictation.dictating) {
+            dictation.caret = field.cursorPosition
+            field.forceActiveFocus(Qt.OtherFocusReason)
+        }
+        dictation.toggleDictation()
+    }
+
+    Keys.onEscapePressed: event => {
+        event.accepted = dictation.dictating || stoppable
+        if (dictation.dictating)
+            dictation.stop()
+        else if (stoppable)
+            stopRequested()
     }
 
     implicitHeight: trayHeight + (floating ? Math.max(56, scroller.height + 35) : scroller.height + 58)
@@ -62,12 +79,15 @@ FocusScope {
 
         x: bar.floating ? 38 : 0
         y: bar.trayHeight + (bar.floating ? 17 : 12)
-        width: bar.width - x - (bar.floating ? 56 : 0)
+        width: bar.width - x - (bar.floating ? bar.width - mic.x - 4 + (timer.visible ? timer.width + 8 : 0) : 0)
         height: Math.max(Tokens.type.body.line, Math.min(field.contentHeight, bar.lines * Tokens.type.body.line))
         contentWidth: width
         contentHeight: field.contentHeight
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
+        // What is being spoken at the end stays in view.
+        onContentHeightChanged: if (interim.words !== "" && field.cursorPosition === field.length)
+            contentY = Math.max(0, contentHeight - height)
 
         T.ScrollBar.vertical: ScrollBar {}
 
@@ -98,6 +118,8 @@ FocusScope {
             onCursorRectangleChanged: scroller.contentY = Math.max(0, cursorRectangle.bottom - scroller.height,
                 Math.min(scroller.contentY, cursorRectangle.top))
             onTextChanged: if (text !== bar.draft) bar.edited(text)
+            onCursorPositionChanged: if (activeFocus) bar.dictation.caret = cursorPosition
+            onActiveFocusChanged: if (activeFocus) bar.dictation.caret = cursorPosition
             Keys.onPressed: event => {
                 const enter = event.key === Qt.Key_Return || event.key === Qt.Key_Enter
                 const files = event.matches(StandardKey.Paste) && Clipboard.holdsFiles()
@@ -112,16 +134,11 @@ FocusScope {
                 if (event.accepted)
                     bar.edited(bar.lastPrompt)
             }
-            Keys.onEscapePressed: event => {
-                event.accepted = bar.stoppable
-                if (bar.stoppable)
-                    bar.stopRequested()
-            }
 
             Label {
                 x: field.leftPadding
                 width: field.width - 2 * x
-                visible: field.text === "" && field.preeditText === ""
+                visible: field.text === "" && field.preeditText === "" && interim.words === ""
                 color: Tokens.t3
                 text: bar.placeholder
                 Accessible.ignored: true
@@ -131,6 +148,24 @@ FocusScope {
     LineSpacing {
         document: field.textDocument
         lineHeight: Tokens.type.body.line
+    }
+    InterimText {
+        id: interim
+
+        target: field
+        document: field.textDocument
+        at: field.cursorPosition
+        color: Tokens.t3
+        words: at === bar.dictation.caret && !field.inputMethodComposing ? bar.dictation.interimWords : ""
+    }
+    Connections {
+        target: bar.dictation
+
+        // An edit of the field, so that it can be undone as what is typed can.
+        function onSpoken(draft: string, at: int, words: string) {
+            if (bar.visible && bar.draft === draft)
+                field.insert(at, words)
+        }
     }
     IconButton {
         id: attach
@@ -147,14 +182,28 @@ FocusScope {
         text: qsTr("Attach files")
         onClicked: bar.attachments.pickChatFiles()
     }
+    MicButton {
+        id: mic
+
+        x: bar.floating ? send.x - width - 6 : attach.x + attach.width + (listening ? 6 : 2)
+        anchors.verticalCenter: attach.verticalCenter
+        dictation: bar.dictation
+        microphone: bar.microphone
+        onClicked: bar.toggleDictation()
+    }
     Label {
-        anchors.right: send.left
-        anchors.rightMargin: 8
+        id: timer
+
+        objectName: "askHint"
+        x: (bar.floating ? mic.x : send.x) - width - 8
         anchors.verticalCenter: send.verticalCenter
-        visible: !bar.floating
+        visible: bar.dictation.dictating || !bar.floating
         style: Tokens.type.caption
         color: Tokens.t3
-        text: bar.hint
+        tabular: bar.dictation.dictating
+        text: bar.dictation.dictating
+            ? Math.floor(bar.dictation.seconds / 60) + ":" + String(bar.dictation.seconds % 60).padStart(2, "0")
+            : bar.hint
     }
     SendButton {
         id: send

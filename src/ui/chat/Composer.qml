@@ -25,12 +25,14 @@ FocusScope {
         floating: composer.floating
         draft: composer.store.chat.draft
         attachments: composer.store.attachments
+        dictation: composer.store.dictation
+        microphone: composer.store.microphone
         lastPrompt: composer.store.chat.lastPrompt
         placeholder: qsTr("Ask %1…").arg(composer.store.scope.scopeName)
         hint: composer.hint
         stoppable: composer.store.chat.canStop
         onEdited: text => composer.store.chat.draft = text
-        onSubmitted: text => composer.store.chat.send(text)
+        onSubmitted: composer.store.chat.sendDraft()
         onStopRequested: composer.store.chat.stopLive()
     }
     Label {

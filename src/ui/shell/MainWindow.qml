@@ -17,7 +17,15 @@ Window {
     minimumHeight: 680
     visible: true
     color: Tokens.bg
+    onClosing: close => close.accepted = store.releaseWindow()
 
+    Connections {
+        target: window.store.account
+
+        function onWindowReleased() {
+            window.close()
+        }
+    }
     MainView {
         id: view
 

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <optional>
+
+namespace kiv::sandbox {
+
+class Database;
+class Sql;
+
+/// A call that has been agreed on: its id, and the secret that opens its socket.
+struct MintedCall {
+    QString id;
+    QByteArray token;
+};
+
+/// A call whose socket is open.
+struct OpenCall {
+    QString id;
+    QString account;
+    QString agent;
+    int longestSeconds = 0;
+    int secondsSoFar = 0;
+    bool isResumed = false; ///< the socket takes up a call whose earlier one broke
+};
+
+/// Where the one socket of a call may come from.
+struct CallDoor {
+    QString origin; ///< the page that asked for the call
+    QString host;   ///< the host that the socket's address names
+};
+
+/// Calls on disk, past and present. An account has one call at a time. A call waits a minute for
+/// its socket; one whose socket broke can be taken up again for half a minute. Safe on every
+/// thread.
+class CallStore {
+public:
+    /// Calls that an earlier run of the server left open are over.
+    explicit CallStore(Database &database);
+
+    /// Throws Refusal ("call_in_progress") while another call of the account is open.
+    MintedCall mint(const QString &account, const QString &agent, const CallDoor &door,
+                    int longestSeconds);
+    /// Nothing for a token that is unknown, in use or used up, or that comes from another door.
+    std::optional<OpenCall> open(const QByteArray &token, const CallDoor &door);
+    /// The socket is gone without a goodbye.
+    void drop(const QString &call);
+    void finish(const QString &call);
+    /// Finishes the account's call; throws Refusal (404) when it has no such call.
+    void end(const QString &account, const QString &call);
+
+    /// `role` is "user" or "agent". The result is the line's id.
+    qint64 addLine(const QString &call, const QString &role, int second, const QString &text);
+    void correctLine(qint64 line, const QString &text);
+
+    /// The account's calls with the agent that came about, newest first, as they go out.
+    QJsonArray list(const QString &account, const QString &agent, int limit);
+    /// One call with its transcript; throws Refusal (404) when the account has no such call.
+    QJsonObject detail(const QString &account, const QString &call);
+
+private:
+    Database &m_database;
+};
+
+} // namespace kiv::sandbox
