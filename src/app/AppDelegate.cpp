@@ -33,6 +33,24 @@ bool isForeign(const ui::MenuEntry &entry) {
 #endif
 }
 
+/// What shows in the window, not on the screen of a call that may lie over it.
+bool showsInWindow(Command command) {
+    switch (command) {
+    case Command::OpenSettings:
+    case Command::NewChat:
+    case Command::FocusAsk:
+    case Command::ToggleRail:
+    case Command::ToggleDock:
+    case Command::ToggleHistory:
+    case Command::GoOverseer:
+    case Command::NewProject:
+    case Command::NewAgent:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(store::AppStore &store) : m_store(store) {
@@ -50,6 +68,8 @@ QList<ui::MenuDescription> AppDelegate::menus() const {
 
 void AppDelegate::perform(Command command) {
     store::LayoutRoom *layout = m_store.layout();
+    if (showsInWindow(command))
+        m_store.call()->leaveCallScreen();
     switch (command) {
     case Command::CheckUpdates:
         return m_store.update()->checkForUpdates();

@@ -5,11 +5,26 @@
 #include "voice/FileDevices.h"
 #include "voice/MicrophoneHost.h"
 
+#include <QFile>
 #include <QQuickWindow>
 
 namespace kiv::app {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Pages have a way of their own to a microphone; it leads to the same file.
+void letPagesHear(const QString &file) {
+    const char *variable = "QTWEBENGINE_CHROMIUM_FLAGS";
+    qputenv(variable, (qgetenv(variable) +
+                       " --use-fake-device-for-media-stream "
+                       "--use-file-for-fake-audio-capture=\"" +
+                       QFile::encodeName(file) + '"')
+                          .trimmed());
+}
+
+} // namespace
 
 void Application::prepareProcess() {
     // A web engine that is loaded later draws with what the window draws with.
@@ -30,10 +45,12 @@ Application::Application(const Options &options)
     m_store->account()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
     m_store->setWebHost(&m_webHost);
-    if (options.audioFile.isEmpty())
+    if (options.audioFile.isEmpty()) {
         m_microphones = std::make_unique<voice::MicrophoneHost>(options.places.micPlugin);
-    else
+    } else {
         m_microphones = std::make_unique<voice::FileDevices>(m_clock, options.audioFile);
+        letPagesHear(options.audioFile);
+    }
     m_store->microphone()->setSource(m_microphones.get());
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);

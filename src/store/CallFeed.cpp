@@ -64,6 +64,7 @@ void CallFeed::add(const QString &chat, const QString &callID, const QDateTime &
     Call call{.head = headOf(callID, startedAt, CallTexts::callLine(seconds)),
               .hasTranscript = !lines.isEmpty(),
               .lines = {}};
+    call.head.callHasLines = call.hasTranscript;
     call.head.callOpen = call.hasTranscript;
     call.lines = messagesOf(call.head, lines);
     m_calls[chat].append(std::move(call));
@@ -83,6 +84,7 @@ void CallFeed::addPast(const QString &chat, const QList<net::KivAPI::VoiceCallEn
                             CallTexts::callLine(seconds, entry.status.value_or(QString()))),
              .hasTranscript = entry.hasTranscript.value_or(false),
              .lines = {}});
+        known.last().head.callHasLines = known.last().hasTranscript;
     }
     std::ranges::stable_sort(known, {}, [](const Call &call) { return *call.head.at; });
 }

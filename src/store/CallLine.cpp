@@ -284,6 +284,10 @@ QCoro::Task<void> CallRoom::postEnd(QString callID, Cancel cancel) {
         co_return;
     try {
         co_await net::KivAPI::voiceEnd(&m_store.net(), callID, cancel);
+        if (m_callHistoryLoaded && !m_history.running())
+            m_history.restart([this, agent = m_historyAgent](Cancel reload) {
+                return loadHistory(agent, std::nullopt, std::move(reload));
+            });
     } catch (const std::exception &) {
         // The backend finds out by itself; the line is gone.
         cancel.throwIfRequested();

@@ -83,7 +83,12 @@ QString chatContext(const QString &digest) {
 
 QString length(int seconds) {
     constexpr int minute = 60;
-    return u"%1:%2"_s.arg(seconds / minute).arg(seconds % minute, 2, 10, QChar(u'0'));
+    constexpr int hour = 60 * minute;
+    const auto two = [](int number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
+    const int minutes = seconds % hour / minute;
+    const QString hours = seconds < hour ? QString::number(minutes)
+                                         : QString::number(seconds / hour) + u':' + two(minutes);
+    return hours + u':' + two(seconds % minute);
 }
 
 QString callLine(std::optional<int> seconds, const QString &status) {

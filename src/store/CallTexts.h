@@ -16,7 +16,7 @@ QString disconnectNote(const voice::VoiceEngine::Disconnect &disconnect);
 QString chatDigest(const QList<Msg> &messages);
 /// The digest as the agent is told it.
 QString chatContext(const QString &digest);
-/// A length of time, "3:12".
+/// A length of time, "3:12" or "1:03:12".
 QString length(int seconds);
 /// The line of a call in the conversation; `status` counts when the length is not known.
 QString callLine(std::optional<int> seconds, const QString &status = {});

@@ -182,6 +182,8 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
         return message.fromCall;
     case CallIdRole:
         return message.callHead ? message.callID : QString();
+    case CallHasLinesRole:
+        return message.callHasLines;
     case CallOpenRole:
         return message.callOpen;
     case ChipsRole: {
@@ -210,6 +212,7 @@ QHash<int, QByteArray> MessageModel::roleNames() const {
             {OnCanvasRole, "onCanvas"},
             {FromCallRole, "fromCall"},
             {CallIdRole, "callId"},
+            {CallHasLinesRole, "callHasLines"},
             {CallOpenRole, "callOpen"},
             {ChipsRole, "chips"}};
 }

@@ -30,11 +30,12 @@ public:
         GrowingRole,   ///< the answer is still being written
         CardTitleRole, ///< heading of the scene that the message carries; empty without one
         CardArtRole,
-        OnCanvasRole, ///< the canvas shows this message's scene
-        FromCallRole, ///< said in a voice call, or the line of one
-        CallIdRole,   ///< of the line of a call, "Call · 3:12": which; else empty
-        CallOpenRole, ///< of the line of a call: what was said follows it
-        ChipsRole,    ///< replies to pick from: under a finished answer that nothing follows
+        OnCanvasRole,     ///< the canvas shows this message's scene
+        FromCallRole,     ///< said in a voice call, or the line of one
+        CallIdRole,       ///< of the line of a call, "Call · 3:12": which; else empty
+        CallHasLinesRole, ///< of the line of a call: it can be opened
+        CallOpenRole,     ///< of the line of a call: what was said follows it
+        ChipsRole,        ///< replies to pick from: under a finished answer that nothing follows
     };
 
     explicit MessageModel(QObject *parent = nullptr) : QAbstractListModel(parent) {}

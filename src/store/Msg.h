@@ -61,6 +61,7 @@ struct Msg {
     bool fromCall = false;
     QString callID;              ///< the call that it belongs to
     bool callHead = false;       ///< the line of a call
+    bool callHasLines = false;   ///< of the line of a call: there is what was said
     bool callOpen = false;       ///< of the line of a call: what was said follows it
     std::optional<QDateTime> at; ///< server time of the row
 

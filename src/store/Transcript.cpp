@@ -45,7 +45,8 @@ QString head(const QString &name, const Msg &message) {
 QString transcript(const QString &name, const QList<Msg> &messages) {
     QStringList pieces{u"# "_s + escaped(name)};
     for (const Msg &message : messages) {
-        if (!message.serverID && !message.isUnsent())
+        const bool isSpoken = message.fromCall && !message.callHead;
+        if (!message.serverID && !message.isUnsent() && !isSpoken)
             continue;
         pieces.append(head(name, message));
         if (!message.text.trimmed().isEmpty())

@@ -20,6 +20,7 @@ void qml_register_types_Kiv_Controls();
 void qml_register_types_Kiv_Files();
 void qml_register_types_Kiv_Markdown();
 void qml_register_types_Kiv_Chat();
+void qml_register_types_Kiv_Call();
 void qml_register_types_Kiv_Account();
 void qml_register_types_Kiv_Canvas();
 void qml_register_types_Kiv_Create();
@@ -34,7 +35,8 @@ Appearance &registerModules(QQmlEngine &engine) {
         qml_register_types_Kiv_Controls, qml_register_types_Kiv_Markdown,
         qml_register_types_Kiv_Files,    qml_register_types_Kiv_Chat,
         qml_register_types_Kiv_Canvas,   qml_register_types_Kiv_Account,
-        qml_register_types_Kiv_Create,   qml_register_types_Kiv_Shell,
+        qml_register_types_Kiv_Create,   qml_register_types_Kiv_Call,
+        qml_register_types_Kiv_Shell,
     };
     Q_UNUSED(registrations)
 

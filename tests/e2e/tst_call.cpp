@@ -2,9 +2,8 @@
 // the embedded server's socket, with a file as microphone.
 
 #include "app/Application.h"
-#include "voice/FileDevices.h"
+#include "support/Processes.h"
 
-#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -28,42 +27,18 @@ namespace {
 
 constexpr int patience = 15'000;
 
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Every process that this one has started, itself included.
-QList<qint64> family(qint64 root) {
-    QList<qint64> found{root};
-    const QString tasks = u"/proc/%1/task"_s.arg(root);
-    for (const QString &task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        for (const QByteArray &child :
-             readAll(tasks + u'/' + task + u"/children"_s).simplified().split(' ')) {
-            if (!child.isEmpty())
-                found += family(child.toLongLong());
-        }
-    }
-    return found;
-}
-
-bool isEngine(qint64 process) {
-    return readAll(u"/proc/%1/cmdline"_s.arg(process)).contains("QtWebEngineProcess");
-}
-
 /// The memory of this process and of its web engine that nobody else uses, as the kernel counts.
 void printMemory(const char *when) {
     double own = 0;
     double engine = 0;
-    for (const qint64 process : family(getpid())) {
-        for (const QByteArray &line :
-             readAll(u"/proc/%1/smaps_rollup"_s.arg(process)).split('\n')) {
+    for (const qint64 process : test::family(getpid())) {
+        for (const QByteArray &line : test::processFile(process, u"smaps_rollup"_s).split('\n')) {
             if (!line.startsWith("Pss:"))
                 continue;
             const double megabytes = line.simplified().split(' ').at(1).toDouble() / 1024;
             if (process == getpid())
                 own += megabytes;
-            else if (isEngine(process))
+            else if (test::processFile(process, u"cmdline"_s).contains("QtWebEngineProcess"))
                 engine += megabytes;
         }
     }
@@ -74,10 +49,9 @@ void printMemory(const char *when) {
 QString spokenFile(const QTemporaryDir &folder) {
     const QString path = folder.filePath(u"caller.wav"_s);
     QProcess voice;
-    voice.start(u"espeak-ng"_s, {u"-w"_s, path, u"-g"_s, u"2"_s,
-                                 u"<speak><break time=\"6000ms\"/>Where are we against the plan?"
-                                 "<break time=\"20000ms\"/></speak>"_s,
-                                 u"-m"_s});
+    voice.start(u"espeak-ng"_s,
+                {u"-m"_s, u"-w"_s, path,
+                 u"<speak>Where are we against the plan?<break time=\"9000ms\"/></speak>"_s});
     return voice.waitForFinished() && voice.exitCode() == 0 ? path : QString();
 }
 
@@ -92,6 +66,7 @@ class CallTest : public QObject {
 
     QJsonObject control(const QString &path, const QJsonObject &body = {}) {
         QNetworkRequest request(store().net().baseUrl().toString() + u"/_control/"_s + path);
+        request.setRawHeader("Origin", store().net().baseUrl().toEncoded());
         request.setHeader(QNetworkRequest::ContentTypeHeader, u"application/json"_s);
         std::unique_ptr<QNetworkReply> reply(
             body.isEmpty() ? m_network.get(request)
@@ -129,9 +104,8 @@ private Q_SLOTS:
         app::Options options;
         options.places = app::Places::below(m_folder.path());
         options.sandboxArguments = {u"--control"_s};
+        options.audioFile = m_microphone;
         m_program = std::make_unique<app::Application>(options);
-        m_devices = std::make_unique<voice::FileDevices>(m_clock, m_microphone);
-        store().microphone()->setSource(m_devices.get());
         m_program->start();
         QTRY_COMPARE_WITH_TIMEOUT(store().scope()->auth(), store::AuthPhase::Anon, patience);
         store().session()->submitAuth(u"caller@example.org"_s, u"correct horse"_s, true);
@@ -146,12 +120,12 @@ private Q_SLOTS:
     }
 
     void conversation() {
-        QVERIFY(!readAll(u"/proc/self/maps"_s).contains("libQt6WebEngineCore"));
+        QVERIFY(!test::processFile(getpid(), u"maps"_s).contains("libQt6WebEngineCore"));
         printMemory("before the first call");
         // Longer in units than in characters: the page cuts it once more.
         store().chat()->msgs()->append(store::localMsg(store::Who::You, u"😀"_s.repeated(3000)));
         QVERIFY2(dial(), qPrintable(call()->callHint()));
-        QVERIFY(readAll(u"/proc/self/maps"_s).contains("libQt6WebEngineCore"));
+        QVERIFY(test::processFile(getpid(), u"maps"_s).contains("libQt6WebEngineCore"));
         QTRY_VERIFY_WITH_TIMEOUT(!said(false).isEmpty(), patience);
         QVERIFY2(said(false).first().contains(u"KIV"_s), qPrintable(said(false).first()));
         QTRY_COMPARE_WITH_TIMEOUT(call()->callMode(), u"speaking"_s, patience);
@@ -170,8 +144,14 @@ private Q_SLOTS:
         QCOMPARE(said(true).count(u"What is blocked?"_s), 1);
         qInfo("answered: %s", qPrintable(said(false).last()));
 
+        // Between the sentences the file is silent as well: what counts is that it is heard, and
+        // then is not for longer than from one sentence to the next.
+        QTRY_VERIFY_WITH_TIMEOUT(!seen()[u"muted"_s].toBool(), patience);
         call()->toggleMute();
         QTRY_VERIFY_WITH_TIMEOUT(seen()[u"muted"_s].toBool(), patience);
+        const QDeadlineTimer nextSentence(12'000);
+        while (!nextSentence.hasExpired())
+            QVERIFY(seen()[u"muted"_s].toBool());
         call()->toggleMute();
         QTRY_VERIFY_WITH_TIMEOUT(!seen()[u"muted"_s].toBool(), patience);
         QTRY_VERIFY_WITH_TIMEOUT(
@@ -253,11 +233,8 @@ private Q_SLOTS:
 
     void endOfThePagesProcess() {
         QVERIFY(dial());
-        for (const qint64 process : family(getpid())) {
-            if (isEngine(process) &&
-                readAll(u"/proc/%1/cmdline"_s.arg(process)).contains("--type=renderer"))
-                kill(static_cast<pid_t>(process), SIGKILL);
-        }
+        for (const qint64 process : test::renderers())
+            kill(static_cast<pid_t>(process), SIGKILL);
         QTRY_VERIFY_WITH_TIMEOUT(isPhase(CallPhase::Ending), patience);
         QVERIFY2(call()->callError().contains(u"stopped"_s), qPrintable(call()->callError()));
         call()->hangupCall();
@@ -273,9 +250,7 @@ public:
 private:
     QString m_microphone;
     QTemporaryDir m_folder;
-    SystemClock m_clock;
     QNetworkAccessManager m_network;
-    std::unique_ptr<voice::FileDevices> m_devices;
     std::unique_ptr<app::Application> m_program;
 };
 
@@ -289,10 +264,7 @@ int main(int argc, char **argv) {
     const QString microphone = spokenFile(folder);
     // Nothing here may reach another computer.
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
-            "--use-fake-device-for-media-stream --use-fake-ui-for-media-stream "
-            "--host-resolver-rules=\"MAP * ~NOTFOUND,EXCLUDE 127.0.0.1,EXCLUDE localhost\" "
-            "--use-file-for-fake-audio-capture=" +
-                microphone.toUtf8());
+            "--host-resolver-rules=\"MAP * ~NOTFOUND,EXCLUDE 127.0.0.1,EXCLUDE localhost\"");
     QGuiApplication application(argc, argv);
     CallTest test(microphone);
     QTEST_SET_MAIN_SOURCE_PATH

@@ -35,10 +35,14 @@ private Q_SLOTS:
         picture.files = {file};
         Msg unsent = localMsg(Who::You, u"Still there?"_s);
         unsent.pendingID = u"x"_s;
-        QCOMPARE(
-            transcript(u"Night *Ferry*"_s, {localMsg(Who::Agent, u"Greeting"_s), question, answer,
-                                            picture, unsent, localMsg(Who::Agent, u"It failed"_s)}),
-            uR"(# Night \*Ferry\*
+        Msg spoken = localMsg(Who::Agent, u"On plan."_s);
+        spoken.fromCall = true;
+        Msg call = localMsg(Who::Agent, u"Call · 0:12"_s);
+        call.fromCall = call.callHead = true;
+        QCOMPARE(transcript(u"Night *Ferry*"_s,
+                            {localMsg(Who::Agent, u"Greeting"_s), question, answer, picture, call,
+                             spoken, unsent, localMsg(Who::Agent, u"It failed"_s)}),
+                 uR"(# Night \*Ferry\*
 
 **You** · 2 March 2026, 09:42
 
@@ -57,6 +61,10 @@ left open
 **You**
 
 - plan\_\[1\].pdf
+
+**Night \*Ferry\***
+
+On plan.
 
 **You** · not sent
 

@@ -82,6 +82,7 @@ void Gallery::open(store::AppStore &store, const QSize &size) {
     showMainWindow(*m_engine, store, *m_delegate, {});
     if (m_engine->rootObjects().isEmpty())
         qFatal("The window cannot be made");
+    m_engine->findChild<Appearance *>()->setReducedMotion(m_reducedMotion);
     m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
     m_delegate->setWindow(m_window);
     present(size);

@@ -52,7 +52,7 @@ bool Tour::take() {
     bool all = true;
     for (const Stop &stop : stops())
         all = visit(stop) && all;
-    return visitPage() && converse() && all;
+    return visitPage() && converse() && placeCall() && all;
 }
 
 bool Tour::signUp() {
@@ -156,6 +156,42 @@ bool Tour::converse() {
         return false;
     save(u"attachment-sent"_s);
     return true;
+}
+
+bool Tour::placeCall() {
+    store::CallRoom *call = m_application.store().call();
+    const auto lines = [call](bool owner) {
+        QStringList said;
+        for (const store::CallLine &line : call->callTranscript()->lines()) {
+            if (line.isOwner() == owner && line.kind == store::CallLineKind::Speech &&
+                !line.isPartial())
+                said.append(line.text);
+        }
+        return said;
+    };
+    if (!m_driver.click(u"callButton"_s))
+        return false;
+    const bool connected =
+        m_driver.waitFor([&] { return call->callPhase() == store::CallPhase::Active; });
+    rest();
+    save(u"call"_s);
+    // A greeting, a question from the microphone, and its answer.
+    const bool isAnswered =
+        connected &&
+        m_driver.waitFor([&] { return !lines(true).isEmpty() && lines(false).size() > 1; },
+                         answerPatience);
+    rest();
+    const QString file = save(u"call-transcript"_s);
+    std::printf("%s\t%s\t%s\n",
+                lines(true).isEmpty() ? "A call" : qUtf8Printable(lines(true).first()),
+                isAnswered ? qUtf8Printable(lines(false).last()) : "no answer in the call",
+                qUtf8Printable(file));
+    std::fflush(stdout);
+    call->hangupCall();
+    m_driver.waitFor([&] { return !call->call(); });
+    rest();
+    save(u"call-ended"_s);
+    return isAnswered;
 }
 
 bool Tour::answered() const {

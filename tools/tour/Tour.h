@@ -17,7 +17,7 @@ struct Stop {
 QList<Stop> stops();
 
 /// Walks through the program as a new user: signs up, asks what the stops ask, then looks at the
-/// history and at a conversation with markdown, replies and an attachment.
+/// history and at a conversation with markdown, replies and an attachment, and calls KIV.
 class Tour {
 public:
     Tour(app::Application &application, const QDir &pictures);
@@ -32,6 +32,8 @@ private:
     /// Opens a page of the platform in the canvas.
     bool visitPage();
     bool converse();
+    /// Asks KIV by voice and waits for the answer; the microphone says the question.
+    bool placeCall();
     /// Waits until the answer is whole.
     bool answered() const;
     /// Lets what moves on the screen come to its end.

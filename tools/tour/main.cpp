@@ -7,9 +7,24 @@
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <cstdio>
+
+namespace {
+
+/// What the microphone says during the call of the tour, again and again.
+QString spokenQuestion(const QString &folder) {
+    using namespace Qt::StringLiterals;
+    const QString path = folder + u"/question.wav"_s;
+    QProcess::execute(u"espeak-ng"_s, {u"-m"_s, u"-w"_s, path,
+                                       u"<speak>Where are we against the "
+                                       "plan?<break time=\"9000ms\"/></speak>"_s});
+    return path;
+}
+
+} // namespace
 
 int main(int argc, char **argv) {
     using namespace Qt::StringLiterals;
@@ -33,6 +48,7 @@ int main(int argc, char **argv) {
     options.theme =
         parser.value(theme) == u"dark"_s ? kiv::store::Theme::Dark : kiv::store::Theme::Light;
     options.places = kiv::app::Places::below(profile.path());
+    options.audioFile = spokenQuestion(profile.path());
     kiv::app::Application program(options);
     program.start();
     if (!program.window()) {

@@ -150,6 +150,7 @@ FocusScope {
         onAskAgainRequested: messageId => dock.store.chat.askAgain(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => dock.store.chat.pickChip(messageId, chip)
+        onCallToggled: callId => dock.store.call.toggleCallLines(callId)
         onEditRequested: messageId => {
             dock.store.chat.edit(messageId)
             composer.forceActiveFocus(Qt.OtherFocusReason)

@@ -30,6 +30,8 @@ FocusScope {
     signal chipPicked(messageId: string, chip: replyChip)
     signal editRequested(messageId: string)
     signal askAgainRequested(messageId: string)
+    /// What was said in a call shall show, or show no longer.
+    signal callToggled(callId: string)
 
     property string flashed: ""
 
@@ -56,7 +58,10 @@ FocusScope {
             return
         view.setCursor(messageId)
         menu.row = feedRows.tailOf(messageId)
-        menu.open()
+        if (menu.row.callId === "")
+            menu.open()
+        else
+            callToggled(menu.row.callId)
     }
 
     readonly property int side: compact ? 16 : 24
@@ -143,6 +148,14 @@ FocusScope {
 
                 UnreadLine {
                     compact: feed.compact
+                }
+            }
+            FeedDelegate {
+                kind: FeedDelegate.Call
+
+                CallLine {
+                    compact: feed.compact
+                    onToggled: feed.callToggled(row.callId)
                 }
             }
             FeedDelegate {

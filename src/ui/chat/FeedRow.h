@@ -21,6 +21,7 @@ public:
         Older,  ///< leads to the messages before the first
         Day,    ///< names the day of what follows
         Unread, ///< stands above what the person has not seen
+        Call,   ///< a call that took place here
         Head,   ///< who answers, and when
         Files,  ///< the files of a message
         Own,    ///< words of the person
@@ -56,6 +57,10 @@ struct FeedRow {
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(QString time MEMBER time)
     Q_PROPERTY(QString memberLabel MEMBER memberLabel)
+    Q_PROPERTY(bool fromCall MEMBER fromCall)
+    Q_PROPERTY(QString callId MEMBER callId)
+    Q_PROPERTY(bool callHasLines MEMBER callHasLines)
+    Q_PROPERTY(bool callOpen MEMBER callOpen)
     Q_PROPERTY(QList<kiv::store::MsgFile> files MEMBER files)
     Q_PROPERTY(QString cardTitle MEMBER cardTitle)
     Q_PROPERTY(QString cardArt MEMBER cardArt)
@@ -70,9 +75,13 @@ public:
     MarkdownPart part;
     bool growing = false; ///< more words will come behind it
     store::Delivery delivery = store::Delivery::Stored;
-    QString label; ///< of a day
+    QString label; ///< of a day or a call
     QString time;
     QString memberLabel;
+    bool fromCall = false; ///< said in a call
+    QString callId;
+    bool callHasLines = false; ///< the call can be opened
+    bool callOpen = false;     ///< what was said in the call follows it
     QList<store::MsgFile> files;
     QString cardTitle;
     QString cardArt;

@@ -228,6 +228,15 @@ FeedRows::Shown FeedRows::build(int message, const Shown &before) const {
     if (!m_unreadFrom.isEmpty() && row.messageId == m_unreadFrom)
         add(Kind::Unread);
 
+    row.callId = field(message, MessageModel::CallIdRole).toString();
+    if (!row.callId.isEmpty()) {
+        FeedRow &call = add(Kind::Call);
+        call.label = body;
+        call.callHasLines = field(message, MessageModel::CallHasLinesRole).toBool();
+        call.callOpen = field(message, MessageModel::CallOpenRole).toBool();
+        return shown;
+    }
+    row.fromCall = field(message, MessageModel::FromCallRole).toBool();
     const bool growing = field(message, MessageModel::GrowingRole).toBool();
     const auto delivery = field(message, MessageModel::DeliveryRole).value<store::Delivery>();
     const QString time = field(message, MessageModel::TimeRole).toString();

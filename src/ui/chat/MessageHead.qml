@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Icons
 import Kiv.Store
 import Kiv.Tokens
 
@@ -40,6 +41,15 @@ Item {
             tabular: true
             color: Tokens.t3
             text: head.row.time
+        }
+        Icon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: head.row.fromCall
+            name: "phone"
+            size: 14
+            color: Tokens.t3
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTr("said in a call")
         }
         Chip {
             anchors.verticalCenter: parent.verticalCenter

@@ -61,7 +61,7 @@ Popover {
 
             objectName: "askAgainRow"
             width: menu.availableWidth
-            visible: !menu.row.mine && !menu.row.growing
+            visible: !menu.row.mine && !menu.row.growing && !menu.row.fromCall
             iconName: "refresh"
             text: qsTr("Ask again")
             KeyNavigation.down: edit
@@ -75,7 +75,7 @@ Popover {
 
             objectName: "editMessageRow"
             width: menu.availableWidth
-            visible: menu.row.mine && menu.row.delivery !== Store.Delivery.Pending
+            visible: menu.row.mine && !menu.row.fromCall && menu.row.delivery !== Store.Delivery.Pending
             iconName: "edit"
             text: qsTr("Edit")
             KeyNavigation.down: retry

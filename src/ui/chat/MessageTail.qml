@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
+import Kiv.Icons
 import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
@@ -58,7 +59,20 @@ FocusScope {
         text: qsTr("Not sent. Try again")
         onClicked: tail.retryRequested()
     }
+    Icon {
+        anchors.right: sent.left
+        anchors.rightMargin: 6
+        anchors.verticalCenter: sent.verticalCenter
+        visible: tail.row.mine && tail.row.fromCall
+        name: "phone"
+        size: 14
+        color: Tokens.t3
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("said in a call")
+    }
     Label {
+        id: sent
+
         objectName: "sentState"
         anchors.right: parent.right
         y: tail.height
@@ -67,7 +81,7 @@ FocusScope {
         tabular: true
         color: Tokens.t3
         text: tail.row.delivery === Store.Delivery.Pending ? qsTr("Sending…")
-            : tail.hovered ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
+            : tail.hovered && !tail.row.fromCall ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
     }
     Row {
         id: actions
@@ -98,6 +112,7 @@ FocusScope {
         }
         IconButton {
             objectName: "askAgain"
+            visible: !tail.row.fromCall
             size: 28
             iconSize: 16
             iconName: "refresh"

@@ -52,7 +52,7 @@ Item {
         objectName: "editButton"
         x: bubble.x - width - 4
         y: bubble.y + (bubble.height - height) / 2
-        visible: own.row.first && own.row.delivery !== Store.Delivery.Pending && (own.hovered || hovered)
+        visible: own.row.first && !own.row.fromCall && own.row.delivery !== Store.Delivery.Pending && (own.hovered || hovered)
         size: 28
         iconSize: 16
         iconName: "edit"

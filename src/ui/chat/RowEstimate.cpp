@@ -80,6 +80,8 @@ double estimatedHeight(const FeedRow &row, double width) {
     case Kind::Day:
     case Kind::Unread:
         return 36;
+    case Kind::Call:
+        return 44;
     case Kind::Head:
         return 54;
     case Kind::Files:

@@ -8,6 +8,13 @@ Item {
     property int size: 24
     property color color: Tokens.accentText
     property bool thinking: false
+    property real stroke: Math.max(2, size / 12)
+    /// What is inside the ring.
+    property color ground: "transparent"
+    /// The core and the satellite, as shares of the size.
+    property real core: 0.34
+    property real satellite: 0.29
+    property real coreScale: 1
 
     implicitWidth: size
     implicitHeight: size
@@ -16,13 +23,13 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: width / 2
-        color: "transparent"
-        border.width: Math.max(2, mark.size / 12)
+        color: mark.ground
+        border.width: mark.stroke
         border.color: mark.color
     }
     Rectangle {
         anchors.centerIn: parent
-        width: 2 * Math.round(mark.size * 0.17)
+        width: (mark.coreScale === 1 ? 2 * Math.round(mark.size * mark.core / 2) : mark.size * mark.core * mark.coreScale)
         height: width
         radius: width / 2
         color: mark.color
@@ -35,7 +42,7 @@ Item {
         Rectangle {
             x: mark.size * 0.824 - width / 2
             y: mark.size * 0.176 - height / 2
-            width: Math.round(mark.size * 0.29)
+            width: Math.round(mark.size * mark.satellite)
             height: width
             radius: width / 2
             color: mark.color

@@ -31,7 +31,8 @@ Rectangle {
         id: pointer
     }
     Timer {
-        running: !pointer.hovered && !link.visualFocus
+        // Of the stacks that hold this news, the one that shows lets it go.
+        running: toast.visible && !pointer.hovered && !link.visualFocus
         interval: toast.action === "" ? Tokens.toast : Tokens.notice
         onTriggered: Toasts.dismiss(toast.index)
     }

@@ -274,27 +274,32 @@ FocusScope {
     }
     Shortcut {
         sequence: "F10"
+        enabled: view.visible
         onActivated: topBar.toggleMenu()
     }
     Shortcut {
         sequence: "Ctrl+F"
+        enabled: view.visible
         onActivated: view.store.find.open()
     }
     Shortcut {
         sequence: "F3"
+        enabled: view.visible
         onActivated: view.store.find.next()
     }
     Shortcut {
         sequence: "Shift+F3"
+        enabled: view.visible
         onActivated: view.store.find.previous()
     }
     Shortcut {
         sequence: "Ctrl+Shift+F"
-        enabled: view.store.canvas.framed
+        enabled: view.visible && view.store.canvas.framed
         onActivated: view.layout.toggleCanvasFull()
     }
     Shortcut {
         sequence: "F6"
+        enabled: view.visible
         onActivated: areas.next()
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Call
 import Kiv.Shell
 import Kiv.Store
 import Kiv.Tokens
@@ -26,8 +27,18 @@ Window {
         }
     }
     MainView {
+        id: view
+
         anchors.fill: parent
+        visible: !call.shown
         store: window.store
         commands: window.commands
+    }
+    CallPlace {
+        id: call
+
+        anchors.fill: parent
+        store: window.store
+        onShownChanged: if (!shown) view.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

@@ -59,12 +59,13 @@ void PaletteModel::addCommands() {
 void PaletteModel::addPages() {
     if (m_store->scope()->auth() != store::AuthPhase::SignedIn)
         return;
-    const auto add = [this](const QString &title, const QString &id) {
+    const auto add = [this](const QString &title, const QString &id, const QString &icon) {
         m_entries.append(
-            {title, tr("Page"), id, {}, [this, id] { m_store->canvas()->openPanel(id); }});
+            {title, tr("Page"), icon, {}, [this, id] { m_store->canvas()->openPanel(id); }});
     };
-    add(tr("Agents"), u"agents"_s);
-    add(tr("Events"), u"events"_s);
+    add(tr("Agents"), u"agents"_s, u"agents"_s);
+    add(tr("Calls"), u"calls"_s, u"phone"_s);
+    add(tr("Events"), u"events"_s, u"events"_s);
 }
 
 void PaletteModel::addScopes() {
@@ -121,8 +122,11 @@ void PaletteModel::filter() {
 }
 
 void PaletteModel::choose(int row) {
-    if (row >= 0 && row < count())
-        m_entries.at(m_shown.at(row)).act();
+    if (row < 0 || row >= count())
+        return;
+    // What is chosen shows in the window.
+    m_store->call()->leaveCallScreen();
+    m_entries.at(m_shown.at(row)).act();
 }
 
 int PaletteModel::rowCount(const QModelIndex &parent) const {

@@ -14,13 +14,23 @@ Loader {
     }
 
     active: store.canvas.state === Store.CanvasState.Panel
-    sourceComponent: store.canvas.panel === "agents" ? agents : events
+    sourceComponent: store.canvas.panel === "agents" ? agents
+        : store.canvas.panel === "calls" ? calls
+        : events
     onLoaded: (item as PanelFrame)?.entered()
 
     Component {
         id: agents
 
         AgentsPage {
+            store: (parent as PanelPlace)?.store
+            onClosed: (parent as PanelPlace)?.leave()
+        }
+    }
+    Component {
+        id: calls
+
+        CallsPage {
             store: (parent as PanelPlace)?.store
             onClosed: (parent as PanelPlace)?.leave()
         }

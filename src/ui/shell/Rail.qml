@@ -131,6 +131,7 @@ FocusScope {
         onAskAgainRequested: messageId => rail.store.chat.askAgain(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)
         onChipPicked: (messageId, chip) => rail.store.chat.pickChip(messageId, chip)
+        onCallToggled: callId => rail.store.call.toggleCallLines(callId)
         onEditRequested: messageId => {
             rail.store.chat.edit(messageId)
             composer.forceActiveFocus(Qt.OtherFocusReason)

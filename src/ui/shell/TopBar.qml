@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kiv.Call
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Store
@@ -66,8 +67,23 @@ FocusScope {
         visible: bar.signedIn
         spacing: 4
 
+        CallPill {
+            objectName: "callPill"
+            visible: bar.store.call.call
+            call: bar.store.call
+        }
+        IconButton {
+            objectName: "endCallButton"
+            visible: bar.store.call.call
+            iconName: "hang"
+            color: enabled ? Tokens.dangerText : Tokens.tDisabled
+            text: qsTr("Hang up")
+            keys: "Ctrl D"
+            onClicked: bar.store.call.hangupCall()
+        }
         IconButton {
             objectName: "callButton"
+            visible: !bar.store.call.call
             iconName: "phone"
             text: qsTr("Call")
             keys: "Ctrl D"

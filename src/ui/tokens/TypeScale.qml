@@ -6,6 +6,7 @@ QtObject {
     readonly property TypeStyle title: TypeStyle { size: 24; line: 30; weight: Font.DemiBold; tracking: -0.41 }
     readonly property TypeStyle heading: TypeStyle { size: 20; line: 26; weight: Font.DemiBold; tracking: -0.24 }
     readonly property TypeStyle subheading: TypeStyle { size: 18; line: 24; weight: Font.DemiBold; tracking: -0.18 }
+    readonly property TypeStyle speech: TypeStyle { size: 18; line: 27 }
     readonly property TypeStyle cardTitle: TypeStyle { size: 16; line: 22; weight: Font.DemiBold }
     readonly property TypeStyle lead: TypeStyle { size: 16; line: 24; weight: Font.Medium }
     readonly property TypeStyle rowTitle: TypeStyle { size: 15; line: 21; weight: Font.DemiBold }

@@ -1,0 +1,51 @@
+import QtQuick
+import Kiv.Call
+import Kiv.Controls
+import Kiv.Store
+import Kiv.Tokens
+
+// A call: who it is with and how it goes at the left, what is said at the right.
+FocusScope {
+    id: screen
+
+    required property AppStore store
+
+    enum Wish { Unset, Open, Closed }
+
+    property int wish: CallScreen.Unset
+    readonly property bool transcriptOpen: wish === CallScreen.Unset ? width >= 1200 : wish === CallScreen.Open
+
+    Accessible.role: Accessible.Dialog
+    Accessible.name: qsTr("Call with %1").arg(store.call.callName)
+    Keys.onEscapePressed: store.call.leaveCallScreen()
+
+    Rectangle {
+        anchors.fill: parent
+        color: Tokens.bg
+    }
+    CallStage {
+        width: parent.width - (panel.visible ? panel.width : 0)
+        height: parent.height
+        focus: true
+        store: screen.store
+        transcriptOpen: screen.transcriptOpen
+        onTranscriptToggled: screen.wish = screen.transcriptOpen ? CallScreen.Closed : CallScreen.Open
+    }
+    ToastStack {
+        anchors.right: parent.right
+        anchors.rightMargin: 24
+        anchors.bottom: parent.bottom
+        // Above the controls and the field.
+        anchors.bottomMargin: 120
+        z: 1
+    }
+    TranscriptPanel {
+        id: panel
+
+        anchors.right: parent.right
+        width: 400
+        height: parent.height
+        visible: screen.transcriptOpen
+        store: screen.store
+    }
+}

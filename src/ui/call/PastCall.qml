@@ -1,0 +1,127 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Call
+import Kiv.Controls
+import Kiv.Icons
+import Kiv.Store
+import Kiv.Tokens
+
+// A past call: how it went, when, how long and what it was about, with its transcript below it when
+// it is open.
+T.ItemDelegate {
+    id: row
+
+    required property int index
+    required property string callId
+    required property string status
+    required property int durationSecs
+    required property date startedAt
+    required property string snippet
+    required property bool hasTranscript
+    required property bool open
+    required property bool loading
+    required property list<pastLine> lines
+    required property AppStore store
+
+    readonly property string start: CallText.start(startedAt, store.calendar)
+    readonly property string title: durationSecs === 0 ? CallText.outcome(status)
+        : qsTr("%1 · %2").arg(CallText.outcome(status)).arg(CallText.length(durationSecs))
+
+    signal toggled()
+
+    function toggle() {
+        toggled()
+        if (hasTranscript)
+            store.call.toggleCallTranscript(callId)
+    }
+
+    objectName: "pastCall:" + callId
+    implicitHeight: 60 + (transcript.active ? transcript.height : 0)
+    focusPolicy: Qt.NoFocus
+    text: title
+    Accessible.role: Accessible.ListItem
+    Accessible.name: qsTr("%1, %2, %3").arg(title).arg(start).arg(snippet)
+    Accessible.checkable: hasTranscript
+    Accessible.checked: open
+    onClicked: toggle()
+
+    background: Item {
+        Rectangle {
+            width: parent.width
+            height: 60
+            radius: Tokens.radiusControl
+            color: row.highlighted || row.hovered && row.hasTranscript ? Tokens.hover : "transparent"
+        }
+    }
+
+    Rectangle {
+        x: 12
+        y: 14
+        width: 32
+        height: 32
+        radius: 16
+        color: Tokens.sunken
+
+        Icon {
+            anchors.centerIn: parent
+            name: "phone"
+            size: 16
+            color: Tokens.t2
+        }
+    }
+    Column {
+        x: 56
+        y: (60 - height) / 2
+        width: stamp.x - x - 12
+
+        Label {
+            width: parent.width
+            style: Tokens.type.name
+            tabular: true
+            text: row.title
+            Accessible.ignored: true
+        }
+        Label {
+            width: parent.width
+            visible: text !== ""
+            style: Tokens.type.small
+            color: Tokens.t3
+            text: row.snippet
+            Accessible.ignored: true
+        }
+    }
+    Label {
+        id: stamp
+
+        x: arrow.x - width - 12
+        y: 22
+        style: Tokens.type.caption
+        tabular: true
+        color: Tokens.t3
+        text: row.start
+        Accessible.ignored: true
+    }
+    Icon {
+        id: arrow
+
+        x: parent.width - width - 16
+        y: 22
+        visible: row.hasTranscript
+        name: row.open ? "up" : "down"
+        size: 16
+        color: Tokens.t3
+    }
+    PastTranscriptLoader {
+        id: transcript
+
+        x: 56
+        y: 68
+        width: row.width - x - 16
+        active: row.open
+        lines: row.lines
+        loading: row.loading
+        scope: row.store.scope
+    }
+}

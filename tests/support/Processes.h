@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+namespace kiv::test {
+
+/// What a file of the kernel says of a process; empty when there is no such process any more.
+QByteArray processFile(qint64 process, const QString &name);
+/// Every process that `root` has started, itself included.
+QList<qint64> family(qint64 root);
+/// The processes that this one's web engine runs pages in: what its children have started.
+QList<qint64> renderers();
+
+} // namespace kiv::test
