@@ -62,3 +62,5 @@ build_targets() {
 }
 
 install_packages
+. "$root/packaging/fetch.sh"
+fetch_set speech

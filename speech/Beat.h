@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+
+namespace kiv::speech {
+
+/// When a growing utterance is read again: every 300 ms, and less often where a reading takes long,
+/// so that half of the time at most is spent on it.
+class Beat {
+public:
+    using Milliseconds = std::chrono::milliseconds;
+
+    bool due(Milliseconds now) const { return now >= m_next; }
+    void read(Milliseconds from, Milliseconds to) {
+        m_next = from + std::max(shortest, 2 * (to - from));
+    }
+    void clear() { m_next = {}; }
+
+private:
+    static constexpr Milliseconds shortest{300};
+    Milliseconds m_next{0};
+};
+
+} // namespace kiv::speech

@@ -1,0 +1,106 @@
+#include "speech/Listener.h"
+
+#include <algorithm>
+
+namespace kiv::speech {
+
+namespace {
+
+constexpr qint64 kept = samplesIn(60'000);
+constexpr qint64 longest = samplesIn(20'000);
+
+/// Read beside an utterance: without it, first sounds are lost.
+constexpr qint64 before = samplesIn(300);
+constexpr qint64 after = samplesIn(100);
+constexpr qint64 beforeGrowing = samplesIn(500);
+
+} // namespace
+
+Listener::Listener(VoiceActivity &activity, Read read, Now now, Say say)
+    : m_activity(activity),
+      m_read(std::move(read)),
+      m_now(std::move(now)),
+      m_say(std::move(say)),
+      m_ring(kept) {}
+
+void Listener::hear(std::span<const float> samples) {
+    while (!samples.empty()) {
+        const size_t room = size_t(VoiceActivity::window) - m_window.size();
+        const auto part = samples.first(std::min(room, samples.size()));
+        m_window.insert(m_window.end(), part.begin(), part.end());
+        samples = samples.subspan(part.size());
+        if (m_window.size() == size_t(VoiceActivity::window))
+            hearWindow();
+    }
+}
+
+void Listener::hearWindow() {
+    m_ring.append(m_window);
+    m_activity.accept(m_window);
+    m_window.clear();
+    while (const auto ended = m_activity.takeEnded())
+        finish({m_origin + ended->begin, m_origin + ended->end});
+    if (!m_activity.speaking()) {
+        m_spokenFrom.reset();
+    } else if (!m_spokenFrom) {
+        m_spokenFrom = std::max(m_finished, m_ring.end() - VoiceActivity::leastSpeech -
+                                                2 * VoiceActivity::window);
+    } else if (m_ring.end() - *m_spokenFrom >= longest) {
+        cut();
+    }
+}
+
+void Listener::look() {
+    if (!m_spokenFrom || !m_beat.due(m_now()))
+        return;
+    const auto from = m_now();
+    const QString reading =
+        m_read(m_ring.copy({std::max(m_finished, *m_spokenFrom - beforeGrowing), m_ring.end()}));
+    m_beat.read(from, m_now());
+    if (const auto words = m_words.add(reading))
+        m_say({*words, false});
+}
+
+void Listener::finish(Stretch speech) {
+    const Stretch around{std::max(m_finished, speech.begin - before),
+                         std::min(m_ring.end(), speech.end + after)};
+    QString text = m_read(m_ring.copy(around));
+    if (text.isEmpty())
+        text = m_read(m_ring.copy(speech));
+    if (text.isEmpty())
+        text = m_words.lastReading();
+    m_finished = around.end;
+    m_spokenFrom.reset();
+    m_words.clear();
+    m_beat.clear();
+    m_say({text, true});
+}
+
+void Listener::cut() {
+    finish({*m_spokenFrom, m_ring.end()});
+    restartActivity();
+}
+
+void Listener::end() {
+    m_ring.append(m_window);
+    m_window.clear();
+    if (m_spokenFrom)
+        finish({*m_spokenFrom, m_ring.end()});
+    drop();
+}
+
+void Listener::drop() {
+    m_window.clear();
+    m_finished = m_ring.end();
+    m_spokenFrom.reset();
+    m_words.clear();
+    m_beat.clear();
+    restartActivity();
+}
+
+void Listener::restartActivity() {
+    m_activity.restart();
+    m_origin = m_ring.end();
+}
+
+} // namespace kiv::speech
