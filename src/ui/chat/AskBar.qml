@@ -156,7 +156,7 @@ FocusScope {
         document: field.textDocument
         at: field.cursorPosition
         color: Tokens.t3
-        words: at === bar.dictation.caret && !field.inputMethodComposing ? bar.dictation.interimWords : ""
+        words: field.cursorPosition === bar.dictation.caret && !field.inputMethodComposing ? bar.dictation.interimWords : ""
     }
     Connections {
         target: bar.dictation
