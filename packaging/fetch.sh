@@ -10,7 +10,6 @@ fetch_set() {
     mkdir -p "$root/build"
     say "Fetching the files for $1…"
     if ! (flock 9 && { fetched "$1" || lay_out "$1"; }) 9>"$root/build/fetch.lock" >"$log" 2>&1; then
-        tail -n 3 "$log" >&2
         say "They could not be fetched (log in build/fetch-$1.log); going on without."
     fi
 }
@@ -36,7 +35,8 @@ lay_out() {
 take_files() {
     local list=$1 work=$2 package archive place of path
     for package in $(awk '!/^#/ && NF == 4 { print $3 }' "$list" | sort -u); do
-        archive=$(npm pack --loglevel=error --fetch-retries=1 --pack-destination="$work" \
+        archive=$(npm pack --loglevel=error --fetch-retries=1 \
+            --fetch-retry-mintimeout=1000 --pack-destination="$work" \
             "$package" | tail -n 1) || return 1
         mkdir "$work/package" && tar -xzf "$work/$archive" -C "$work/package" --strip-components=1 ||
             return 1

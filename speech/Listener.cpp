@@ -55,25 +55,32 @@ void Listener::look() {
         return;
     const auto from = m_now();
     const QString reading =
-        m_read(m_ring.copy({std::max(m_finished, *m_spokenFrom - beforeGrowing), m_ring.end()}));
+        read({std::max(m_finished, *m_spokenFrom - beforeGrowing), m_ring.end() + after});
     m_beat.read(from, m_now());
     if (const auto words = m_words.add(reading))
         m_say({*words, false});
 }
 
 void Listener::finish(Stretch speech) {
-    const Stretch around{std::max(m_finished, speech.begin - before),
-                         std::min(m_ring.end(), speech.end + after)};
-    QString text = m_read(m_ring.copy(around));
+    const Stretch around{std::max(m_finished, speech.begin - before), speech.end + after};
+    QString text = read(around);
     if (text.isEmpty())
-        text = m_read(m_ring.copy(speech));
+        text = read(speech);
     if (text.isEmpty())
         text = m_words.lastReading();
-    m_finished = around.end;
+    m_finished = std::min(around.end, m_ring.end());
     m_spokenFrom.reset();
     m_words.clear();
     m_beat.clear();
     m_say({text, true});
+}
+
+/// Silence stands for what has not been heard yet: where sound breaks off within a word, the
+/// recogniser tends to say the same words over and over.
+QString Listener::read(Stretch wanted) const {
+    std::vector<float> samples = m_ring.copy(wanted);
+    samples.resize(samples.size() + size_t(std::max<qint64>(0, wanted.end - m_ring.end())));
+    return m_read(samples);
 }
 
 void Listener::cut() {

@@ -38,6 +38,7 @@ public:
 private:
     void hearWindow();
     void finish(Stretch speech);
+    QString read(Stretch wanted) const;
     void cut();
     void restartActivity();
 

@@ -13,7 +13,7 @@ public:
     /// Samples that are looked at together.
     static constexpr qint64 window = 512;
     /// How long somebody has to speak before it counts, and to be silent before it ends.
-    static constexpr qint64 leastSpeech = samplesIn(250);
+    static constexpr qint64 leastSpeech = samplesIn(150);
     static constexpr qint64 leastSilence = samplesIn(600);
 
     virtual ~VoiceActivity() = default;

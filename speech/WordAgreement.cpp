@@ -16,6 +16,11 @@ QString bare(const QString &word) {
     return result;
 }
 
+/// How many first words are the same.
+qsizetype agreement(const QStringList &a, const QStringList &b) {
+    return std::ranges::mismatch(a, b, {}, bare, bare).in1 - a.begin();
+}
+
 } // namespace
 
 std::optional<QString> WordAgreement::add(const QString &reading) {
@@ -23,9 +28,12 @@ std::optional<QString> WordAgreement::add(const QString &reading) {
     if (words.isEmpty())
         return {};
     m_lastReading = reading;
-    const auto same = std::ranges::mismatch(words, m_previous, {}, bare, bare);
-    const qsizetype agreed = same.in1 - words.begin();
-    m_previous = words;
+    qsizetype agreed = 0;
+    for (const QStringList &before : std::as_const(m_before))
+        agreed = std::max(agreed, agreement(words, before));
+    m_before.append(words);
+    if (m_before.size() > 2)
+        m_before.removeFirst();
     if (agreed < m_shown.size() || agreed == 0)
         return {};
     const QStringList show = words.first(agreed);

@@ -7,8 +7,8 @@
 
 namespace kiv::speech {
 
-/// Tells which words of a growing utterance can be shown: those on which two readings in a row
-/// agree. The last words of a single reading change with nearly every one of them.
+/// Tells which words of a growing utterance can be shown: those on which the latest reading agrees
+/// with one of the two before it. The last words of a reading change with nearly every one.
 class WordAgreement {
 public:
     /// Takes the next reading; the words to show when they are others than before. What is shown
@@ -20,7 +20,7 @@ public:
     void clear() { *this = WordAgreement(); }
 
 private:
-    QStringList m_previous;
+    QList<QStringList> m_before; ///< at most two
     QStringList m_shown;
     QString m_lastReading;
 };

@@ -96,7 +96,9 @@ void LocalSpeech::requestAuthorisation(std::function<void(SpeechAuthorisation)> 
 }
 
 std::unique_ptr<SpeechRecogniser> LocalSpeech::recogniser(const QLocale &locale) {
-    return std::make_unique<Recogniser>(*this, locale.language() == QLocale::English);
+    // A system that names no language speaks English.
+    const bool known = locale.language() == QLocale::English || locale.language() == QLocale::C;
+    return std::make_unique<Recogniser>(*this, known);
 }
 
 std::unique_ptr<SpeechRecogniser> LocalSpeech::defaultRecogniser() {

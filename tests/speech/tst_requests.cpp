@@ -73,7 +73,7 @@ private Q_SLOTS:
         QTest::newRow("American") << u"en_US"_s << u"."_s << true;
         QTest::newRow("British") << u"en_GB"_s << u"."_s << true;
         QTest::newRow("Russian") << u"ru_RU"_s << u"."_s << false;
-        QTest::newRow("no language") << u"C"_s << u"."_s << false;
+        QTest::newRow("no language") << u"C"_s << u"."_s << true;
         QTest::newRow("no models") << u"en_US"_s << u"/does/not/exist"_s << false;
     }
     void locales() {
