@@ -36,6 +36,7 @@ bool isForeign(const ui::MenuEntry &entry) {
 
 AppDelegate::AppDelegate(store::AppStore &store) : m_store(store) {
     connect(store.scope(), &store::ScopeRoom::authChanged, this, &AppDelegate::menusChanged);
+    connect(&store, &store::AppStore::retranslated, this, &AppDelegate::menusChanged);
 }
 
 QList<ui::MenuDescription> AppDelegate::menus() const {

@@ -30,8 +30,9 @@ Application::Application(const Options &options)
     m_store->setWebHost(&m_webHost);
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);
-    QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),
-                     &store::AppearanceRoom::setSystemDark);
+    if (options.language)
+        m_store->appearance()->presetLanguage(*options.language);
+    m_systemLook.tell(*m_store->appearance());
     m_systemLook.watch();
 }
 

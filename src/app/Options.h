@@ -17,6 +17,8 @@ struct Options {
     bool snapshot = false;
     /// The look of this run; nothing for the one that the person has chosen.
     std::optional<store::Theme> theme;
+    /// The language of this run; nothing for the one that the person has chosen.
+    std::optional<store::Language> language;
     Places places;
     /// Further arguments of the embedded server.
     QStringList sandboxArguments;

@@ -148,6 +148,7 @@ FocusScope {
             }
             ProfilePopover {
                 store: bar.store
+                most: bar.popoverHeight
                 visible: bar.store.layout.profileOpen
                 onAboutToHide: bar.store.layout.closePopovers()
             }
