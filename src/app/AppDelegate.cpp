@@ -56,6 +56,7 @@ bool showsInWindow(Command command) {
 AppDelegate::AppDelegate(store::AppStore &store) : m_store(store) {
     connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::hangUpForGood);
     connect(store.scope(), &store::ScopeRoom::authChanged, this, &AppDelegate::menusChanged);
+    connect(&store, &store::AppStore::retranslated, this, &AppDelegate::menusChanged);
 }
 
 QList<ui::MenuDescription> AppDelegate::menus() const {

@@ -54,8 +54,9 @@ Application::Application(const Options &options)
     m_store->microphone()->setSource(m_microphones.get());
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);
-    QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),
-                     &store::AppearanceRoom::setSystemDark);
+    if (options.language)
+        m_store->appearance()->presetLanguage(*options.language);
+    m_systemLook.tell(*m_store->appearance());
     m_systemLook.watch();
 }
 

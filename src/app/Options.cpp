@@ -16,6 +16,12 @@ store::Theme themeNamed(const QString &name) {
     return name == u"system"_s ? store::Theme::System : store::Theme::Light;
 }
 
+store::Language languageNamed(const QString &name) {
+    if (name == u"ru"_s)
+        return store::Language::Russian;
+    return name == u"en"_s ? store::Language::English : store::Language::System;
+}
+
 } // namespace
 
 Options readOptions(const QStringList &arguments) {
@@ -26,6 +32,8 @@ Options readOptions(const QStringList &arguments) {
                                       u"Start with default panels and keep nothing."_s);
     const QCommandLineOption theme(
         u"theme"_s, u"light, dark or system; otherwise the one chosen in the window."_s, u"name"_s);
+    const QCommandLineOption language(
+        u"language"_s, u"en, ru or system; otherwise the one chosen in the window."_s, u"name"_s);
     const QCommandLineOption profile(
         u"profile"_s, u"Keep settings, session and workspace in this folder."_s, u"folder"_s);
     const QCommandLineOption audioFile(
@@ -35,13 +43,15 @@ Options readOptions(const QStringList &arguments) {
     parser.setApplicationDescription(u"Talk to your agents and see what they answer."_s);
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({baseUrl, snapshot, theme, profile, audioFile});
+    parser.addOptions({baseUrl, snapshot, theme, language, profile, audioFile});
     parser.process(arguments);
 
     Options options;
     options.snapshot = parser.isSet(snapshot);
     if (parser.isSet(theme))
         options.theme = themeNamed(parser.value(theme));
+    if (parser.isSet(language))
+        options.language = languageNamed(parser.value(language));
     options.places =
         parser.isSet(profile) ? Places::below(parser.value(profile)) : Places::standard();
     options.audioFile =

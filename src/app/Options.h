@@ -17,6 +17,8 @@ struct Options {
     bool snapshot = false;
     /// The look of this run; nothing for the one that the person has chosen.
     std::optional<store::Theme> theme;
+    /// The language of this run; nothing for the one that the person has chosen.
+    std::optional<store::Language> language;
     Places places;
     /// A WAV file that is heard in place of the microphone; empty for the microphone.
     QString audioFile;

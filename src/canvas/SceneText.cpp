@@ -3,6 +3,7 @@
 #include "canvas/CanvasNum.h"
 #include "canvas/SceneFigures.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 #include <algorithm>
@@ -57,16 +58,24 @@ QString valueText(const ViewSpec::Item &item, const QString &unit) {
 }
 
 QString artWord(const QString &art) {
-    static const QHash<QString, QString> words{
-        {u"report"_s, u"Report"_s},      {u"compare"_s, u"Comparison"_s},
-        {u"decision"_s, u"Decision"_s},  {u"agents"_s, u"Agents"_s},
-        {u"status"_s, u"Status"_s},      {u"funnel"_s, u"Funnel"_s},
-        {u"unit"_s, u"Parts"_s},         {u"brief"_s, u"Brief"_s},
-        {u"retro"_s, u"Retro"_s},        {u"costs"_s, u"Costs"_s},
-        {u"cashflow"_s, u"Cash flow"_s}, {u"okr"_s, u"Objectives"_s},
-        {u"workload"_s, u"Workload"_s},  {u"budget"_s, u"Budget"_s},
+    static const QHash<QString, const char *> words{
+        {u"report"_s, QT_TRANSLATE_NOOP("Art", "Report")},
+        {u"compare"_s, QT_TRANSLATE_NOOP("Art", "Comparison")},
+        {u"decision"_s, QT_TRANSLATE_NOOP("Art", "Decision")},
+        {u"agents"_s, QT_TRANSLATE_NOOP("Art", "Agents")},
+        {u"status"_s, QT_TRANSLATE_NOOP("Art", "Status")},
+        {u"funnel"_s, QT_TRANSLATE_NOOP("Art", "Funnel")},
+        {u"unit"_s, QT_TRANSLATE_NOOP("Art", "Parts")},
+        {u"brief"_s, QT_TRANSLATE_NOOP("Art", "Brief")},
+        {u"retro"_s, QT_TRANSLATE_NOOP("Art", "Retro")},
+        {u"costs"_s, QT_TRANSLATE_NOOP("Art", "Costs")},
+        {u"cashflow"_s, QT_TRANSLATE_NOOP("Art", "Cash flow")},
+        {u"okr"_s, QT_TRANSLATE_NOOP("Art", "Objectives")},
+        {u"workload"_s, QT_TRANSLATE_NOOP("Art", "Workload")},
+        {u"budget"_s, QT_TRANSLATE_NOOP("Art", "Budget")},
     };
-    return words.value(art, art);
+    const char *word = words.value(art);
+    return word ? QCoreApplication::translate("Art", word) : art;
 }
 
 QString sceneTitle(const ViewSpec &spec, const QString &art) {

@@ -59,6 +59,16 @@ void AppStore::resetSurfaces() {
     m_canvas.setIdle();
 }
 
+void AppStore::retranslate() {
+    m_scope.retranslate();
+    m_chat.msgs()->retranslate();
+    m_attachments.chatFiles()->retranslate();
+    m_canvas.retranslate();
+    m_events.events()->refreshAges();
+    m_create.retranslate();
+    Q_EMIT retranslated();
+}
+
 QString AppStore::stamp() const {
     return m_clock.now().toLocalTime().toString(u"HH:mm"_s);
 }

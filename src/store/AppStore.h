@@ -101,6 +101,11 @@ public:
     void resetSurfaces();
     /// The current local time as HH:MM.
     QString stamp() const;
+    /// The language of the screens is another one: every room says its texts anew.
+    void retranslate();
+
+Q_SIGNALS:
+    void retranslated();
 
 private:
     Clock &m_clock;

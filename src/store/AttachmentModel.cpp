@@ -1,5 +1,6 @@
 #include "store/AttachmentModel.h"
 
+#include "base/LocalText.h"
 #include "store/FileTypes.h"
 
 #include <algorithm>
@@ -93,6 +94,11 @@ void AttachmentModel::touch(qsizetype row, const QList<int> &roles) {
     Q_EMIT dataChanged(changed, changed, roles);
 }
 
+void AttachmentModel::retranslate() {
+    if (count() > 0)
+        Q_EMIT dataChanged(index(0), index(count() - 1), {SizeTextRole});
+}
+
 int AttachmentModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : count();
 }
@@ -109,7 +115,7 @@ QVariant AttachmentModel::data(const QModelIndex &index, int role) const {
     case NameRole:
         return row.attachment.name;
     case SizeTextRole:
-        return size > 0 ? fileSizeText(size) : QString();
+        return size > 0 ? sizeText(size) : QString();
     case KindRole:
         return QVariant::fromValue(fileKind(row.attachment.name));
     case UploadRole:

@@ -57,6 +57,9 @@ public:
     /// The file is uploaded. The row keeps its identity.
     void setAttached(const QUuid &id, ChatAttachment attachment);
 
+    /// The language has changed, and with it how sizes are written.
+    void retranslate();
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -1,12 +1,12 @@
 #include "store/CanvasRoom.h"
 
+#include "base/LocalText.h"
 #include "canvas/CanvasIntents.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SceneText.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/SkeletonShapes.h"
-
-#include <QLocale>
 
 namespace kiv::store {
 
@@ -307,13 +307,22 @@ void CanvasRoom::refinePoint(const QString &label) {
 
 void CanvasRoom::nameSource(const Msg &message) {
     m_history.setMessage(m_place, message.id);
-    m_sourceTime =
-        message.at ? QLocale().toString(message.at->toLocalTime(), u"d MMM, HH:mm"_s) : QString();
+    m_sourceAt = message.at;
+    m_sourceTime = message.at ? shortDayTimeText(*message.at) : QString();
     m_sourceMessageId = message.id.toString(QUuid::WithoutBraces);
     m_store.chat()->msgs()->setOnCanvas(message.id);
 }
 
+void CanvasRoom::retranslate() {
+    if (m_sourceAt)
+        m_sourceTime = shortDayTimeText(*m_sourceAt);
+    canvas::ArtInfo info = m_artInfo;
+    info.word = canvas::artWord(info.art);
+    m_artInfo = info;
+}
+
 void CanvasRoom::forgetSource() {
+    m_sourceAt.reset();
     m_sourceTime = QString();
     m_sourceMessageId = QString();
     m_store.chat()->msgs()->setOnCanvas({});

@@ -121,6 +121,8 @@ public:
     void applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer);
     /// Signed out: canvas and history go.
     void forgetAll();
+    /// The language has changed.
+    void retranslate();
 
 Q_SIGNALS:
     void phaseChanged();
@@ -193,6 +195,7 @@ private:
     std::optional<QString> m_drawnSpecKey;
     canvas::ViewSpec m_artSpec;
     std::optional<QString> m_lastIntent;
+    std::optional<QDateTime> m_sourceAt; ///< the message that the scene came from
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
                                          &CanvasRoom::phaseChanged)

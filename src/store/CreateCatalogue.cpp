@@ -3,6 +3,7 @@
 #include "net/Decode.h"
 
 #include <QFile>
+#include <QLocale>
 
 using kiv::store::CreateCatalogue;
 using kiv::store::CreateChoice;
@@ -44,7 +45,8 @@ namespace kiv::store {
 using namespace Qt::StringLiterals;
 
 CreateCatalogue CreateCatalogue::read() {
-    QFile file(u":/kiv/create.json"_s);
+    const QString language = QLocale().language() == QLocale::Russian ? u"ru"_s : u"en"_s;
+    QFile file(u":/kiv/create-%1.json"_s.arg(language));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("There is nothing to create from");
     try {

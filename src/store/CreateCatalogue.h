@@ -45,7 +45,7 @@ struct CreateCatalogue {
     QList<CreateChoice> tools;
     QList<CreateChoice> autonomy; ///< from the most careful level on
 
-    /// What comes with the program.
+    /// What comes with the program, in the language of the screens.
     static CreateCatalogue read();
 
     const QList<CreateTemplate> &templates(CreateKind kind) const {

@@ -1,8 +1,18 @@
 #include "store/CreateDraft.h"
 
+#include <QCoreApplication>
+
 namespace kiv::store {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString words(const char *text) {
+    return QCoreApplication::translate("CreateDraft", text);
+}
+
+} // namespace
 
 CreateDraft draftOf(const CreateTemplate &source) {
     return {source.id, source.name, source.text, source.tools, source.autonomy};
@@ -27,10 +37,14 @@ QString CreateDraft::description(const CreateCatalogue &catalogue) const {
         if (tools.contains(tool.id))
             chosen.append(tool.title);
     }
-    QStringList lines{u"Tools: "_s + (chosen.isEmpty() ? u"none"_s : chosen.join(u", "_s))};
+    QStringList lines{
+        chosen.isEmpty()
+            ? words(QT_TRANSLATE_NOOP("CreateDraft", "Tools: none"))
+            : words(QT_TRANSLATE_NOOP("CreateDraft", "Tools: %1")).arg(chosen.join(u", "_s))};
     for (const CreateChoice &level : catalogue.autonomy) {
         if (level.id == autonomy)
-            lines.append(u"Autonomy: %1. %2."_s.arg(level.title, level.summary));
+            lines.append(words(QT_TRANSLATE_NOOP("CreateDraft", "Autonomy: %1. %2."))
+                             .arg(level.title, level.summary));
     }
     return lines.join(u'\n');
 }

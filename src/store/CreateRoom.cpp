@@ -40,8 +40,7 @@ QString excess(const QString &text, qsizetype limit) {
     const qsizetype over = characterCount(text.trimmed()) - limit;
     if (over <= 0)
         return {};
-    return over == 1 ? CreateRoom::tr("One character too many")
-                     : CreateRoom::tr("%1 characters too many").arg(over);
+    return CreateRoom::tr("%Ln character(s) too many", nullptr, static_cast<int>(over));
 }
 
 QString titleOf(const QList<CreateChoice> &choices, const QString &id) {
@@ -75,6 +74,15 @@ void CreateRoom::start(const QString &kind, const QString &project) {
     Q_EMIT kindChanged(); // of a fresh catalogue
     Q_EMIT draftChanged();
     m_open = true;
+}
+
+void CreateRoom::retranslate() {
+    if (!m_open)
+        return;
+    m_catalogue = CreateCatalogue::read();
+    Q_EMIT openChanged();
+    Q_EMIT kindChanged();
+    Q_EMIT draftChanged();
 }
 
 void CreateRoom::setKind(CreateKind kind) {

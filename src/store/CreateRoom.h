@@ -22,7 +22,7 @@ class CreateRoom : public QObject {
     Q_PROPERTY(bool open READ isOpen NOTIFY openChanged)
     Q_PROPERTY(kiv::store::CreateKind kind READ kind WRITE setKind NOTIFY kindChanged)
     Q_PROPERTY(QStringList stepNames READ stepNames NOTIFY kindChanged)
-    Q_PROPERTY(QList<kiv::store::CreateChoice> kinds READ kinds CONSTANT)
+    Q_PROPERTY(QList<kiv::store::CreateChoice> kinds READ kinds NOTIFY openChanged)
     Q_PROPERTY(QList<kiv::store::CreateChoice> templates READ templates NOTIFY kindChanged)
     Q_PROPERTY(QList<kiv::store::CreateChoice> toolChoices READ toolChoices NOTIFY openChanged)
     Q_PROPERTY(QList<kiv::store::CreateChoice> levels READ levels NOTIFY openChanged)
@@ -111,6 +111,8 @@ public:
     /// Closes the wizard, after a question if something was filled in.
     Q_INVOKABLE void requestClose();
     Q_INVOKABLE void keepEditing() { m_asking = false; }
+    /// The language has changed: the catalogue is another one, what was filled in stays.
+    void retranslate();
     /// Closes the wizard and forgets what was filled in.
     Q_INVOKABLE void close();
 

@@ -52,6 +52,10 @@ Q_ENUM_NS(Who)
 enum class Theme { System, Light, Dark };
 Q_ENUM_NS(Theme)
 
+/// The language of the screens that the person has chosen; System follows the desktop.
+enum class Language { System, English, Russian };
+Q_ENUM_NS(Language)
+
 /// What an error of the sign-in sheet is about.
 enum class AuthField { None, Email, Password };
 Q_ENUM_NS(AuthField)

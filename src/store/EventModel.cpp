@@ -15,8 +15,8 @@ constexpr qint64 minute = 60;
 constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
 
-QString inUnits(qint64 count, const char *unit) {
-    return u"%1 %2"_s.arg(count).arg(QCoreApplication::translate("Age", unit));
+QString inUnits(qint64 count, const char *pattern) {
+    return QCoreApplication::translate("Age", pattern).arg(count);
 }
 
 } // namespace
@@ -37,10 +37,10 @@ QString ageText(qint64 seconds) {
     if (seconds < minute)
         return QCoreApplication::translate("Age", "now");
     if (seconds < hour)
-        return inUnits(seconds / minute, QT_TRANSLATE_NOOP("Age", "m"));
+        return inUnits(seconds / minute, QT_TRANSLATE_NOOP("Age", "%1 m"));
     if (seconds < day)
-        return inUnits(seconds / hour, QT_TRANSLATE_NOOP("Age", "h"));
-    return inUnits(seconds / day, QT_TRANSLATE_NOOP("Age", "d"));
+        return inUnits(seconds / hour, QT_TRANSLATE_NOOP("Age", "%1 h"));
+    return inUnits(seconds / day, QT_TRANSLATE_NOOP("Age", "%1 d"));
 }
 
 void EventModel::replaceAll(const QList<net::KivAPI::ProjectEvent> &events) {

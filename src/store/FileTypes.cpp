@@ -1,7 +1,5 @@
 #include "store/FileTypes.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <array>
 
@@ -72,13 +70,6 @@ FileKind fileKind(const QString &fileName) {
     if (extension == "csv"_L1 || extension == "tsv"_L1)
         return FileKind::Table;
     return FileKind::Document;
-}
-
-QString fileSizeText(qint64 bytes) {
-    return QLocale::c()
-        .formattedDataSize(bytes, bytes < 1'000'000 ? 0 : 1, QLocale::DataSizeSIFormat)
-        .replace(u"kB"_s, u"KB"_s)
-        .replace(u' ', QChar(QChar::Nbsp));
 }
 
 } // namespace kiv::store

@@ -17,7 +17,4 @@ QString extensionOf(const QString &fileName);
 
 FileKind fileKind(const QString &fileName);
 
-/// A size as people read it: "180 KB".
-QString fileSizeText(qint64 bytes);
-
 } // namespace kiv::store

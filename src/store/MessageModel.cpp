@@ -1,6 +1,6 @@
 #include "store/MessageModel.h"
 
-#include <QLocale>
+#include "base/LocalText.h"
 
 #include <algorithm>
 
@@ -140,6 +140,11 @@ void MessageModel::chooseChip(qsizetype row, const QString &label) {
     touch(m_messages.at(row).id, {ChipsRole});
 }
 
+void MessageModel::retranslate() {
+    if (count() > 0)
+        Q_EMIT dataChanged(index(0), index(count() - 1), {TimeRole, DayRole});
+}
+
 int MessageModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : count();
 }
@@ -159,7 +164,7 @@ QVariant MessageModel::data(const QModelIndex &index, int role) const {
     case RawTextRole:
         return message.text;
     case TimeRole:
-        return message.at ? message.at->toLocalTime().toString(u"HH:mm"_s) : QString();
+        return message.at ? timeText(*message.at) : QString();
     case DayRole:
         return message.at ? message.at->toLocalTime().date() : QDate();
     case MemberLabelRole:

@@ -57,6 +57,8 @@ public:
     /// The first row for which `matches` holds, or -1.
     qsizetype find(const std::function<bool(const Msg &)> &matches) const;
 
+    /// The language has changed, and with it how times are written.
+    void retranslate();
     /// The row that is still being written; a null id for none.
     void setGrowing(const QUuid &id);
     const QUuid &growing() const { return m_growing; }

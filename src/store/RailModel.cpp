@@ -4,15 +4,21 @@ namespace kiv::store {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QString projectLabel = u"project"_s;
+
+} // namespace
+
 RailModel::RailModel(QObject *parent) : QAbstractListModel(parent) {
     setEntries({}, {});
 }
 
 void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents) {
     beginResetModel();
-    m_rows = {{RailRow::Kiv, {}, {}, tr("KIV"), tr("Sees all projects and agents"), {}}};
+    m_rows = {{RailRow::Kiv, {}, {}, u"KIV"_s, {}, {}}};
     // Also without any: the first one is made from its label.
-    m_rows.append({RailRow::SectionLabel, u"project"_s, {}, tr("Projects"), {}, {}});
+    m_rows.append({RailRow::SectionLabel, projectLabel, {}, {}, {}, {}});
     for (const Project &project : projects) {
         m_rows.append({RailRow::Project, project.id, project.id, project.name, project.meta,
                        project.colorHex});
@@ -21,7 +27,7 @@ void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &s
                 {RailRow::Agent, agent.id, project.id, agent.name, agent.role, agent.colorHex});
     }
     if (!standaloneAgents.isEmpty())
-        m_rows.append({RailRow::SectionLabel, u"agent"_s, {}, tr("Agents"), {}, {}});
+        m_rows.append({RailRow::SectionLabel, u"agent"_s, {}, {}, {}, {}});
     for (const Agent &agent : standaloneAgents)
         m_rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
     endResetModel();
@@ -39,6 +45,16 @@ void RailModel::toggleExpanded(const QString &project) {
     if (!m_expanded.remove(project))
         m_expanded.insert(project);
     Q_EMIT dataChanged(index(0), index(rowCount() - 1), {ExpandedRole});
+}
+
+void RailModel::retranslate() {
+    Q_EMIT dataChanged(index(0), index(rowCount() - 1), {NameRole, DetailRole});
+}
+
+QString RailModel::nameOf(const Row &row) {
+    if (row.kind != RailRow::SectionLabel)
+        return row.name;
+    return row.id == projectLabel ? tr("Projects") : tr("Agents");
 }
 
 bool RailModel::isSelected(const Row &row) const {
@@ -72,9 +88,9 @@ QVariant RailModel::data(const QModelIndex &index, int role) const {
         return row.project;
     case Qt::DisplayRole:
     case NameRole:
-        return row.name;
+        return nameOf(row);
     case DetailRole:
-        return row.detail;
+        return row.kind == RailRow::Kiv ? tr("Sees all projects and agents") : row.detail;
     case ColorHexRole:
         return row.colorHex;
     case SelectedRole:

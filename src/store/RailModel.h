@@ -34,6 +34,9 @@ public:
     void select(const QString &project, const QString &agent);
     void toggleExpanded(const QString &project);
 
+    /// The language has changed.
+    void retranslate();
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -48,6 +51,7 @@ private:
         QString colorHex;
     };
     bool isSelected(const Row &row) const;
+    static QString nameOf(const Row &row);
 
     QList<Row> m_rows;
     QSet<QString> m_expanded;

@@ -41,10 +41,6 @@ QList<Agent> visibleMembers(const QList<net::ProjectMember> &roster, QSet<QStrin
     return agents;
 }
 
-QString counted(qsizetype count, const QString &one, const QString &many) {
-    return QString::number(count) + u' ' + (count == 1 ? one : many);
-}
-
 QString initialsOf(const QString &name, const QString &email) {
     const QStringList words = name.split(u' ', Qt::SkipEmptyParts);
     if (words.isEmpty() || name == email)
@@ -82,7 +78,10 @@ ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_c
         const auto project = currentProject();
         return project ? project->colorHex : QString();
     });
-    m_scopeDetail.setBinding([this] { return describeScope(); });
+    m_scopeDetail.setBinding([this] {
+        m_wording.value();
+        return describeScope();
+    });
     m_starters.setBinding([this] {
         if (m_auth.value() != AuthPhase::SignedIn)
             return QStringList();
@@ -129,8 +128,15 @@ QString ScopeRoom::describeScope() const {
         agents += project.agents.size();
     if (projects.isEmpty() && agents == 0)
         return {};
-    return counted(projects.size(), tr("project"), tr("projects")) + u", "_s +
-           counted(agents, tr("agent"), tr("agents"));
+    return tr("%1, %2", "projects, agents")
+        .arg(tr("%Ln project(s)", nullptr, static_cast<int>(projects.size())),
+             tr("%Ln agent(s)", nullptr, static_cast<int>(agents)));
+}
+
+void ScopeRoom::retranslate() {
+    m_wording = m_wording + 1;
+    m_rail.retranslate();
+    Q_EMIT retranslated();
 }
 
 std::optional<net::ChatTarget> ScopeRoom::chatTarget() const {

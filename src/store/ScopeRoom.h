@@ -101,6 +101,8 @@ public:
     void clear();
     /// Nobody is signed in (any more).
     void setSignedOut();
+    /// The language has changed.
+    void retranslate();
 
 Q_SIGNALS:
     void authChanged();
@@ -120,6 +122,7 @@ Q_SIGNALS:
     void scopeKindChanged();
     void scopeColorHexChanged();
     void startersChanged();
+    void retranslated();
 
 private:
     void select(const QString &project, const QString &agent);
@@ -132,6 +135,7 @@ private:
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ScopeRoom, AuthPhase, m_auth, AuthPhase::Unknown,
                                          &ScopeRoom::authChanged)
+    QProperty<int> m_wording{0}; ///< another one with every language
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Project>, m_projects, &ScopeRoom::projectsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Agent>, m_standaloneAgents,
                                &ScopeRoom::standaloneAgentsChanged)

@@ -1,6 +1,8 @@
 #include "store/Transcript.h"
 
-#include <QLocale>
+#include "base/LocalText.h"
+
+#include <QCoreApplication>
 
 namespace kiv::store {
 
@@ -28,15 +30,20 @@ QString closed(const QString &text) {
     return isOpen ? text + u"\n```"_s : text;
 }
 
+QString words(const char *text) {
+    return QCoreApplication::translate("Transcript", text);
+}
+
 QString head(const QString &name, const Msg &message) {
-    QStringList parts{u"**%1**"_s.arg(escaped(message.who == Who::You ? u"You"_s : name))};
+    QStringList parts{u"**%1**"_s.arg(
+        escaped(message.who == Who::You ? words(QT_TRANSLATE_NOOP("Transcript", "You")) : name))};
     if (!message.memberLabel.isEmpty())
-        parts.append(u"with "_s + escaped(message.memberLabel));
-    if (message.at)
         parts.append(
-            QLocale(QLocale::English).toString(message.at->toLocalTime(), u"d MMMM yyyy, HH:mm"_s));
+            words(QT_TRANSLATE_NOOP("Transcript", "with %1")).arg(escaped(message.memberLabel)));
+    if (message.at)
+        parts.append(dayTimeText(*message.at));
     if (message.isUnsent())
-        parts.append(u"not sent"_s);
+        parts.append(words(QT_TRANSLATE_NOOP("Transcript", "not sent")));
     return parts.join(u" · "_s);
 }
 

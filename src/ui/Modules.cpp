@@ -1,5 +1,6 @@
 #include "ui/Modules.h"
 
+#include "language/Translations.h"
 #include "store/AppStore.h"
 #include "ui/controls/ShadowProvider.h"
 #include "ui/icons/IconProvider.h"
@@ -28,6 +29,49 @@ void qml_register_types_Kiv_Shell();
 
 namespace kiv::ui {
 
+namespace {
+
+/// Keeps the look and the words of an engine's views as the room of the appearance says.
+class Bindings : public QObject {
+public:
+    Bindings(QQmlEngine &engine, store::AppStore &store)
+        : QObject(&engine), m_engine(engine), m_store(store), m_views(registerModules(engine)) {
+        using Room = store::AppearanceRoom;
+        const Room *room = store.appearance();
+        look();
+        for (const auto change : {&Room::darkChanged, &Room::highContrastChanged,
+                                  &Room::reducedMotionChanged, &Room::textScaleChanged})
+            connect(room, change, this, &Bindings::look);
+        speak();
+        connect(room, &Room::localeChanged, this, [this] {
+            speak();
+            m_engine.retranslate();
+            m_store.retranslate();
+        });
+    }
+
+private:
+    void look() {
+        const store::AppearanceRoom *room = m_store.appearance();
+        m_views.setDark(room->dark());
+        m_views.setHighContrast(room->highContrast());
+        m_views.setReducedMotion(room->reducedMotion());
+        m_views.setTextScale(room->textScale());
+    }
+    void speak() {
+        const QLocale locale = m_store.appearance()->locale();
+        m_translations.use(locale);
+        m_engine.setUiLanguage(locale.name());
+    }
+
+    QQmlEngine &m_engine;
+    store::AppStore &m_store;
+    Appearance &m_views;
+    Translations m_translations;
+};
+
+} // namespace
+
 Appearance &registerModules(QQmlEngine &engine) {
     static void (*volatile const registrations[])() = {
         qml_register_types_Kiv_Scene,    qml_register_types_Kiv_Store,
@@ -50,11 +94,7 @@ Appearance &registerModules(QQmlEngine &engine) {
 
 void showMainWindow(QQmlApplicationEngine &engine, store::AppStore &store, Commands &commands,
                     const WindowLook &look) {
-    Appearance &views = registerModules(engine);
-    const store::AppearanceRoom *chosen = store.appearance();
-    views.setDark(chosen->dark());
-    QObject::connect(chosen, &store::AppearanceRoom::darkChanged, &views,
-                     [chosen, &views] { views.setDark(chosen->dark()); });
+    new Bindings(engine, store);
     QVariantMap properties = {{u"store"_s, QVariant::fromValue(&store)},
                               {u"commands"_s, QVariant::fromValue(&commands)}};
     if (look.frame) {

@@ -1,9 +1,12 @@
 #include "app/SystemLook.h"
+#include "store/AppearanceRoom.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QProcess>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -17,19 +20,19 @@ const QString lookGroup = u"org.freedesktop.appearance"_s;
 
 } // namespace
 
-/// The settings portal of a desktop, with one setting.
+/// The settings portal of a desktop.
 class Portal : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 public:
-    uint scheme = 0;
-    bool isOld = false; ///< does not know the setting
+    QHash<QString, QVariant> settings; ///< by group and key
 
 public Q_SLOTS:
     QDBusVariant Read(const QString &group, const QString &key) {
-        if (isOld || group != lookGroup || key != u"color-scheme"_s)
+        const QString name = group + u' ' + key;
+        if (!settings.contains(name))
             sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s);
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(scheme)));
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(settings.value(name, QVariant(0u)))));
     }
 
 Q_SIGNALS:
@@ -62,7 +65,7 @@ private Q_SLOTS:
 
     void followsTheDesktop() {
         Portal portal;
-        portal.scheme = 1;
+        portal.settings.insert(lookGroup + u" color-scheme"_s, 1u);
         offer(portal);
         SystemLook look(QDBusConnection::connectToBus(m_address, u"program"_s));
         QSignalSpy changed(&look, &SystemLook::darkChanged);
@@ -80,6 +83,38 @@ private Q_SLOTS:
         }
     }
 
+    /// Everything that a desktop says arrives in the room of the appearance.
+    void tellsTheRoom() {
+        Portal portal;
+        const QString desktopGroup = u"org.gnome.desktop.interface"_s;
+        portal.settings = {{lookGroup + u" contrast"_s, 1u},
+                           {lookGroup + u" reduced-motion"_s, 0u},
+                           {desktopGroup + u" enable-animations"_s, false},
+                           {desktopGroup + u" text-scaling-factor"_s, 1.25}};
+        offer(portal);
+        QTemporaryDir folder;
+        QSettings settings(folder.filePath(u"kiv.conf"_s), QSettings::IniFormat);
+        store::AppearanceRoom room(settings);
+        SystemLook look(QDBusConnection::connectToBus(m_address, u"program"_s));
+        look.tell(room);
+        look.watch();
+        QTRY_VERIFY(room.highContrast());
+        QTRY_VERIFY(room.reducedMotion());
+        QTRY_COMPARE(room.textScale(), 1.25);
+        const auto say = [&](const QString &group, const QString &key, const QVariant &value) {
+            Q_EMIT portal.SettingChanged(group, key, QDBusVariant(value));
+        };
+        say(lookGroup, u"contrast"_s, 0u);
+        QTRY_VERIFY(!room.highContrast());
+        say(desktopGroup, u"enable-animations"_s, true);
+        QTRY_VERIFY(!room.reducedMotion());
+        say(lookGroup, u"reduced-motion"_s, 1u);
+        QTRY_VERIFY(room.reducedMotion());
+        say(desktopGroup, u"text-scaling-factor"_s, -3.0);
+        say(desktopGroup, u"text-scaling-factor"_s, 9.0);
+        QTRY_COMPARE(room.textScale(), 1.5);
+    }
+
     void saysNothingWithoutOne_data() {
         QTest::addColumn<bool>("bus");
         QTest::addColumn<bool>("portal");
@@ -91,7 +126,6 @@ private Q_SLOTS:
         QFETCH(bool, bus);
         QFETCH(bool, portal);
         Portal old;
-        old.isOld = true;
         if (portal)
             offer(old);
         const QString address = bus ? m_address : u"unix:path=/nowhere"_s;

@@ -107,6 +107,10 @@ void Gallery::setReducedMotion(bool reduced) {
     m_reducedMotion = reduced;
 }
 
+void Gallery::setTextScale(double scale) {
+    m_engine->findChild<Appearance *>()->setTextScale(scale);
+}
+
 QImage Gallery::save(const QString &name) {
     QTest::qWait(entrance);
     return grab(name);

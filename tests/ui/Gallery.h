@@ -28,6 +28,8 @@ public:
     void close();
     void setDark(bool dark);
     void setReducedMotion(bool reduced);
+    /// Of what is shown, a page.
+    void setTextScale(double scale);
 
     /// Saves the window below the build's folder of pictures, once what moves has come to rest.
     QImage save(const QString &name);

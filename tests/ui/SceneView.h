@@ -2,22 +2,10 @@
 
 #include "ui/Gallery.h"
 #include "ui/SceneAnswers.h"
+#include "ui/SeenText.h"
 #include "ui/Workspace.h"
 
-#include <QColor>
-
 namespace kiv::ui {
-
-/// A text of the window as it is seen.
-struct SeenText {
-    QString words;
-    QRectF box; ///< what of it is not clipped, in the window
-    QColor color;
-    bool cut = false; ///< elided, or running out of its room
-};
-
-/// What of an item's area no clipping item above it cuts off.
-QRectF shownPart(const QQuickItem *item, const QRectF &area);
 
 /// A sheet with a scene in a window off screen.
 class SceneView {

@@ -43,7 +43,7 @@ FocusScope {
             x: Math.round((scroller.width - width) / 2)
             y: 28
             width: page.column
-            height: 36
+            height: Tokens.fit(36)
 
             IconButton {
                 id: back
@@ -81,7 +81,7 @@ FocusScope {
 
             x: head.x
             y: head.y + head.height + 20
-            width: page.wide ? 232 : page.column
+            width: page.wide ? Tokens.fit(232) : page.column
             stacked: page.wide
             current: page.tab
             onPicked: tab => page.store.layout.openAccount(tab)
@@ -90,9 +90,9 @@ FocusScope {
         AccountBody {
             id: body
 
-            x: head.x + (page.wide ? 280 : 0)
+            x: head.x + (page.wide ? Tokens.fit(232) + 48 : 0)
             y: page.wide ? tabs.y : tabs.y + tabs.height + 20
-            width: Math.min(720, page.column - (page.wide ? 280 : 0))
+            width: Math.min(720, page.column - (page.wide ? Tokens.fit(232) + 48 : 0))
             store: page.store
         }
     }

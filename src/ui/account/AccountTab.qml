@@ -14,7 +14,7 @@ T.Button {
     readonly property color color: destructive ? Tokens.dangerText : chosen ? Tokens.accentText : Tokens.t2
 
     implicitWidth: Math.ceil(words.implicitWidth) + 56
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     Accessible.role: Accessible.PageTab
     Accessible.name: text
     Accessible.selected: chosen

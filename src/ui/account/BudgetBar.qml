@@ -15,10 +15,10 @@ Item {
     readonly property string leftText: figure(budget.left)
 
     function figure(tokens: real): string {
-        return tokens < 0 ? "–" : tokens.toLocaleString(Qt.locale("en_GB"), "f", 0)
+        return tokens < 0 ? "–" : tokens.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 0)
     }
 
-    implicitHeight: 54
+    implicitHeight: 33 + Tokens.type.small.line + 3
     Accessible.role: Accessible.ProgressBar
     Accessible.name: qsTr("Tokens: %1 spent, %2 left").arg(spentText).arg(leftText)
 

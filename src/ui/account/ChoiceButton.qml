@@ -14,7 +14,7 @@ T.Button {
     /// Room kept free before the arrow.
     property int trailing: 0
 
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     Accessible.role: Accessible.ComboBox
     Accessible.name: label
     Accessible.description: text

@@ -21,6 +21,8 @@ Item {
         id: options
 
         kind: entry.kind
+        language: Qt.uiLanguage
+        value: entry.value.text
     }
     Label {
         id: heading
@@ -34,7 +36,7 @@ Item {
         y: heading.height + 6
         width: parent.width
         label: entry.label
-        text: entry.value.text === "" ? "" : options.labelOf(entry.value.text)
+        text: options.label
         placeholder: entry.placeholder
         failed: entry.value.state === Store.SaveState.Failed
         trailing: note.visible ? note.width + 8 : 0

@@ -37,7 +37,7 @@ Popover {
     }
 
     contentItem: Item {
-        implicitHeight: popover.searchHeight + Math.min(Math.max(1, popover.choices.count), 8) * 36
+        implicitHeight: popover.searchHeight + Math.min(Math.max(1, popover.choices.count), 8) * Tokens.fit(36)
     }
 
     Item {
@@ -52,7 +52,7 @@ Popover {
 
             objectName: "choiceSearch"
             width: parent.width
-            implicitHeight: 36
+            implicitHeight: Tokens.fit(36)
             visible: popover.choices.searchable
             iconName: "search"
             placeholderText: qsTr("Search")
@@ -87,7 +87,7 @@ Popover {
         Label {
             y: popover.searchHeight
             x: 10
-            height: 36
+            height: Tokens.fit(36)
             visible: list.count === 0
             verticalAlignment: Text.AlignVCenter
             style: Tokens.type.small

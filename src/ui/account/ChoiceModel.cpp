@@ -1,8 +1,12 @@
 #include "ui/account/ChoiceModel.h"
 
+#include <QCollator>
 #include <QDateTime>
 #include <QLocale>
+#include <QMap>
 #include <QTimeZone>
+
+#include <unicode/locid.h>
 
 #include <algorithm>
 #include <utility>
@@ -17,26 +21,55 @@ using Choices = QList<ChoiceModel::Choice>;
 
 constexpr qsizetype shortList = 12;
 
-Choices plain(const QStringList &labels) {
+/// What is stored is English; `texts` are marked for the context ChoiceModel.
+Choices worded(std::initializer_list<const char *> texts) {
     Choices choices;
-    for (const QString &label : labels)
-        choices.append({label, label});
+    for (const char *text : texts)
+        choices.append({QString::fromUtf8(text), ChoiceModel::tr(text)});
     return choices;
 }
 
-/// Names that locales have for what they speak, or for where they are, each once.
-template <typename Name>
-Choices namesOfLocales(const Name &name) {
-    QStringList names;
+/// What locales speak, or where they are, each once: stored by the name it has in English, shown by
+/// the one it has in `language`.
+template <typename Name, typename Label>
+Choices namesOfLocales(const QLocale &language, const Name &name, const Label &label) {
+    QMap<QString, QString> labels;
     for (const QLocale &locale : QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript,
                                                           QLocale::AnyTerritory)) {
         if (locale.language() != QLocale::C && locale.territory() < QLocale::World)
-            names.append(name(locale));
+            labels.insert(name(locale), QString());
+        if (QString &shown = labels[name(locale)]; shown.isEmpty())
+            shown = language.language() == QLocale::Russian ? label(locale) : name(locale);
     }
-    names.removeAll(QString());
-    names.sort(Qt::CaseInsensitive);
-    names.erase(std::unique(names.begin(), names.end()), names.end());
-    return plain(names);
+    labels.remove(QString());
+    Choices choices;
+    for (const auto &[value, shown] : labels.asKeyValueRange())
+        choices.append({value, shown});
+    QCollator order(language);
+    order.setCaseSensitivity(Qt::CaseInsensitive);
+    std::ranges::sort(choices, order, &ChoiceModel::Choice::label);
+    return choices;
+}
+
+QString capitalised(const icu::UnicodeString &text) {
+    QString name = QString::fromUtf16(text.getBuffer(), text.length());
+    if (!name.isEmpty())
+        name.front() = name.front().toUpper();
+    return name;
+}
+
+QString russianLanguage(const QLocale &locale) {
+    icu::UnicodeString name;
+    icu::Locale(qPrintable(QLocale::languageToCode(locale.language())))
+        .getDisplayLanguage(icu::Locale("ru"), name);
+    return capitalised(name);
+}
+
+QString russianTerritory(const QLocale &locale) {
+    icu::UnicodeString name;
+    icu::Locale("", qPrintable(QLocale::territoryToCode(locale.territory())))
+        .getDisplayCountry(icu::Locale("ru"), name);
+    return capitalised(name);
 }
 
 QString offsetText(int seconds) {
@@ -73,43 +106,62 @@ Choices hours() {
     return choices;
 }
 
-Choices made(ChoiceModel::Kind kind) {
+Choices made(ChoiceModel::Kind kind, const QLocale &language) {
     switch (kind) {
     case ChoiceModel::CompanySizes:
-        return plain({u"Only me"_s, u"2–10"_s, u"11–50"_s, u"51–200"_s, u"201–1,000"_s,
-                      u"1,001–5,000"_s, u"More than 5,000"_s});
+        return worded({QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Only me"), "2–10", "11–50",
+                       "51–200", QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "201–1,000"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "1,001–5,000"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "More than 5,000")});
     case ChoiceModel::Industries:
-        return plain({u"Agriculture"_s, u"Construction"_s, u"Consulting"_s, u"Education"_s,
-                      u"Energy"_s, u"Finance"_s, u"Health"_s, u"Hospitality"_s, u"Law"_s,
-                      u"Manufacturing"_s, u"Media"_s, u"Public services"_s, u"Real estate"_s,
-                      u"Retail"_s, u"Software"_s, u"Telecommunications"_s, u"Transport"_s,
-                      u"Other"_s});
+        return worded({QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Agriculture"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Construction"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Consulting"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Education"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Energy"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Finance"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Health"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Hospitality"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Law"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Manufacturing"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Media"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Public services"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Real estate"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Retail"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Software"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Telecommunications"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Transport"),
+                       QT_TRANSLATE_NOOP("kiv::ui::ChoiceModel", "Other")});
     case ChoiceModel::TimeZones:
         return timeZones();
     case ChoiceModel::Languages:
         return namesOfLocales(
-            [](const QLocale &locale) { return QLocale::languageToString(locale.language()); });
+            language,
+            [](const QLocale &locale) { return QLocale::languageToString(locale.language()); },
+            russianLanguage);
     case ChoiceModel::Countries:
         return namesOfLocales(
-            [](const QLocale &locale) { return QLocale::territoryToString(locale.territory()); });
+            language,
+            [](const QLocale &locale) { return QLocale::territoryToString(locale.territory()); },
+            russianTerritory);
     case ChoiceModel::Styles:
-        return {{u"concise"_s, u"Concise: the answer first, few words"_s},
-                {u"balanced"_s, u"Balanced: the answer with its reasons"_s},
-                {u"detailed"_s, u"Detailed: everything that may matter"_s},
-                {u"friendly"_s, u"Friendly: relaxed and personal"_s},
-                {u"formal"_s, u"Formal: as in a letter to a customer"_s}};
+        return {{u"concise"_s, ChoiceModel::tr("Concise: the answer first, few words")},
+                {u"balanced"_s, ChoiceModel::tr("Balanced: the answer with its reasons")},
+                {u"detailed"_s, ChoiceModel::tr("Detailed: everything that may matter")},
+                {u"friendly"_s, ChoiceModel::tr("Friendly: relaxed and personal")},
+                {u"formal"_s, ChoiceModel::tr("Formal: as in a letter to a customer")}};
     case ChoiceModel::Hours:
         return hours();
     }
     return {};
 }
 
-/// Every list once, on its first use.
-const Choices &choicesOf(ChoiceModel::Kind kind) {
-    static QHash<int, Choices> all;
-    auto found = all.find(kind);
+/// Every list once for a language, on its first use.
+const Choices &choicesOf(ChoiceModel::Kind kind, const QString &language) {
+    static QHash<std::pair<int, QString>, Choices> all;
+    auto found = all.find({kind, language});
     if (found == all.end())
-        found = all.insert(kind, made(kind));
+        found = all.insert({kind, language}, made(kind, QLocale(language)));
     return *found;
 }
 
@@ -117,40 +169,58 @@ const Choices &choicesOf(ChoiceModel::Kind kind) {
 
 void ChoiceModel::setKind(Kind kind) {
     m_kind = kind;
-    beginResetModel();
-    m_shown = choicesOf(kind);
-    endResetModel();
+    offer();
     Q_EMIT kindChanged();
-    Q_EMIT countChanged();
+    Q_EMIT valueChanged();
+}
+
+void ChoiceModel::setLanguage(const QString &language) {
+    if (language == m_language)
+        return;
+    m_language = language;
+    offer();
+    Q_EMIT languageChanged();
+    Q_EMIT valueChanged();
 }
 
 void ChoiceModel::setFilter(const QString &filter) {
     if (filter == m_filter)
         return;
     m_filter = filter;
+    offer();
+    Q_EMIT filterChanged();
+}
+
+void ChoiceModel::offer() {
     beginResetModel();
-    m_shown = choicesOf(m_kind);
-    const QStringList words = filter.split(u' ', Qt::SkipEmptyParts);
+    m_shown = choicesOf(m_kind, m_language);
+    const QStringList words = m_filter.split(u' ', Qt::SkipEmptyParts);
     m_shown.removeIf([&](const Choice &choice) {
         return !std::all_of(words.begin(), words.end(), [&](const QString &word) {
             return choice.label.contains(word, Qt::CaseInsensitive);
         });
     });
     endResetModel();
-    Q_EMIT filterChanged();
     Q_EMIT countChanged();
 }
 
 bool ChoiceModel::isSearchable() const {
-    return choicesOf(m_kind).size() > shortList;
+    return choicesOf(m_kind, m_language).size() > shortList;
 }
 
-QString ChoiceModel::labelOf(const QString &value) const {
-    for (const Choice &choice : choicesOf(m_kind)) {
-        if (choice.value == value)
+void ChoiceModel::setValue(const QString &value) {
+    if (value == m_value)
+        return;
+    m_value = value;
+    Q_EMIT valueChanged();
+}
+
+QString ChoiceModel::label() const {
+    for (const Choice &choice : choicesOf(m_kind, m_language)) {
+        if (choice.value == m_value)
             return choice.label;
     }
-    return value;
+    return m_value;
 }
 
 QString ChoiceModel::valueAt(int row) const {

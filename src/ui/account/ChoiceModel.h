@@ -10,6 +10,11 @@ class ChoiceModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Kind kind READ kind WRITE setKind NOTIFY kindChanged REQUIRED)
+    /// The name of the locale whose words the choices are shown in.
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
+    /// What is stored, and how it shows: as it is when it is none of the choices.
+    Q_PROPERTY(QString value READ value WRITE setValue NOTIFY valueChanged)
+    Q_PROPERTY(QString label READ label NOTIFY valueChanged)
     Q_PROPERTY(QString filter READ filter WRITE setFilter NOTIFY filterChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     /// Long enough to be searched.
@@ -29,13 +34,16 @@ public:
 
     Kind kind() const { return m_kind; }
     void setKind(Kind kind);
+    QString language() const { return m_language; }
+    void setLanguage(const QString &language);
+    QString value() const { return m_value; }
+    void setValue(const QString &value);
+    QString label() const;
     QString filter() const { return m_filter; }
     void setFilter(const QString &filter);
     int count() const { return static_cast<int>(m_shown.size()); }
     bool isSearchable() const;
 
-    /// How a stored value shows: as it is when it is none of ours.
-    Q_INVOKABLE QString labelOf(const QString &value) const;
     Q_INVOKABLE QString valueAt(int row) const;
     Q_INVOKABLE int rowOf(const QString &value) const;
 
@@ -45,11 +53,18 @@ public:
 
 Q_SIGNALS:
     void kindChanged();
+    void languageChanged();
+    void valueChanged();
     void filterChanged();
     void countChanged();
 
 private:
+    /// What of the list meets the search.
+    void offer();
+
     Kind m_kind = CompanySizes;
+    QString m_language;
+    QString m_value;
     QString m_filter;
     QList<Choice> m_shown;
 };

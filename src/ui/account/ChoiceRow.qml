@@ -15,7 +15,7 @@ T.Button {
     /// The keys are at it.
     property bool marked: false
 
-    implicitHeight: 36
+    implicitHeight: Tokens.fit(36)
     focusPolicy: Qt.NoFocus
     Accessible.role: Accessible.ListItem
     Accessible.name: label

@@ -8,7 +8,7 @@ Column {
 
     required property string label
     required property real credits
-    readonly property string text: credits < 0 ? "–" : credits.toLocaleString(Qt.locale("en_GB"), "f", 2)
+    readonly property string text: credits < 0 ? "–" : credits.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 2)
 
     spacing: 2
 

@@ -7,8 +7,8 @@ import Kiv.Tokens
 T.AbstractButton {
     id: day
 
-    implicitWidth: 52
-    implicitHeight: 36
+    implicitWidth: Tokens.fit(52)
+    implicitHeight: Tokens.fit(36)
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
     Accessible.checkable: true

@@ -18,6 +18,7 @@ Column {
         id: week
 
         text: entry.value.text
+        language: Qt.uiLanguage
     }
     Label {
         style: Tokens.type.smallMedium
@@ -25,13 +26,13 @@ Column {
     }
     Item {
         width: parent.width
-        height: 36
+        height: Tokens.fit(36)
 
         Row {
             spacing: 6
 
             Repeater {
-                model: week.names
+                model: week.labels
 
                 DayButton {
                     required property int index

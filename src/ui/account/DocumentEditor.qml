@@ -53,7 +53,7 @@ Rectangle {
 
         x: parent.width - width - 24
         y: 14
-        width: 180
+        width: Tokens.fit(180)
         name: qsTr("View")
         labels: [qsTr("Write"), qsTr("Preview")]
         current: editor.reading ? 1 : 0
@@ -99,7 +99,7 @@ Rectangle {
         x: 24
         y: area.y + area.height + (reason.visible ? reason.height + 6 : 0) + 14
         width: area.width
-        height: 36
+        height: Tokens.fit(36)
 
         Label {
             objectName: "documentLength"
@@ -107,8 +107,8 @@ Rectangle {
             style: Tokens.type.caption
             color: editor.tooLong ? Tokens.dangerText : Tokens.t3
             text: qsTr("%1 of %2 characters")
-                .arg(editor.value.text.length.toLocaleString(Qt.locale("en_GB"), "f", 0))
-                .arg(editor.most.toLocaleString(Qt.locale("en_GB"), "f", 0))
+                .arg(editor.value.text.length.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 0))
+                .arg(editor.most.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 0))
         }
         SaveNote {
             anchors.verticalCenter: parent.verticalCenter

@@ -17,7 +17,7 @@ T.Button {
 
     readonly property bool unsaved: value.state === Store.SaveState.Edited || value.state === Store.SaveState.Failed
 
-    implicitHeight: 60
+    implicitHeight: Tokens.fit(60)
     text: name
     Accessible.name: name
     Accessible.description: detail
@@ -59,7 +59,7 @@ T.Button {
         color: row.unsaved ? Tokens.amber.text : Tokens.t3
         text: row.unsaved ? qsTr("Not saved")
             : row.value.text === "" ? qsTr("Empty")
-            : qsTr("%1 characters").arg(row.value.text.length.toLocaleString(Qt.locale("en_GB"), "f", 0))
+            : qsTr("%Ln character(s)", "", row.value.text.length)
     }
     Icon {
         anchors.verticalCenter: parent.verticalCenter

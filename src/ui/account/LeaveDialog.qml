@@ -9,7 +9,7 @@ Dialog {
 
     required property AccountRoom account
 
-    width: 424
+    width: Tokens.fit(424)
     padding: 28
     visible: account.leaveAsked
     onAboutToShow: stay.forceActiveFocus(Qt.PopupFocusReason)

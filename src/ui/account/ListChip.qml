@@ -13,7 +13,7 @@ Rectangle {
     signal dropped()
 
     implicitWidth: words.implicitWidth + 34
-    implicitHeight: 24
+    implicitHeight: Tokens.fit(24)
     radius: Tokens.radiusChip
     color: Tokens.sunken
 

@@ -60,7 +60,7 @@ Item {
                 id: input
 
                 width: Math.max(120, Math.min(flow.width, contentWidth + 12))
-                height: 24
+                height: Tokens.fit(24)
                 leftPadding: 4
                 verticalAlignment: TextInput.AlignVCenter
                 font.family: Tokens.family

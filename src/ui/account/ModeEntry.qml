@@ -17,10 +17,10 @@ Column {
 
     Item {
         width: parent.width
-        height: 36
+        height: Tokens.fit(36)
 
         Segments {
-            width: 372
+            width: Math.min(parent.width, Tokens.fit(372))
             name: qsTr("Data sources")
             labels: [qsTr("Automatic"), qsTr("Workspace only"), qsTr("Ask first")]
             current: entry.modes.indexOf(entry.mode)

@@ -24,7 +24,7 @@ Column {
             width: parent.width
             name: page.budget.plan === "" ? qsTr("No plan") : page.budget.plan
             detail: page.budget.limit < 0 ? qsTr("Without a limit of tokens")
-                : qsTr("%1 tokens").arg(page.budget.limit.toLocaleString(Qt.locale("en_GB"), "f", 0))
+                : qsTr("Tokens: %1").arg(page.budget.limit.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 0))
         }
         BudgetBar {
             objectName: "budgetBar"

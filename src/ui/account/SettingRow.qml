@@ -10,7 +10,7 @@ Item {
     property string detail: ""
     property int trailing: 0
 
-    implicitHeight: Math.max(60, words.height + 20)
+    implicitHeight: Math.max(Tokens.fit(60), words.height + 20)
 
     Column {
         id: words

@@ -1,11 +1,32 @@
 #include "ui/account/WeekDays.h"
 
+#include <QLocale>
+
 namespace kiv::ui {
 
 using namespace Qt::StringLiterals;
 
-QStringList WeekDays::names() const {
-    return {u"Mon"_s, u"Tue"_s, u"Wed"_s, u"Thu"_s, u"Fri"_s, u"Sat"_s, u"Sun"_s};
+namespace {
+
+const QStringList &names() {
+    static const QStringList names{u"Mon"_s, u"Tue"_s, u"Wed"_s, u"Thu"_s,
+                                   u"Fri"_s, u"Sat"_s, u"Sun"_s};
+    return names;
+}
+
+} // namespace
+
+QStringList WeekDays::labels() const {
+    const QLocale locale(m_language);
+    if (locale.language() == QLocale::C)
+        return names();
+    QStringList labels;
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        QString label = locale.standaloneDayName(day, QLocale::ShortFormat);
+        label.front() = label.front().toUpper();
+        labels.append(label);
+    }
+    return labels;
 }
 
 QList<bool> WeekDays::chosen() const {

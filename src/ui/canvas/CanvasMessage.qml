@@ -60,7 +60,7 @@ Item {
         Label {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
-            width: Math.min(implicitWidth, 260)
+            width: Math.min(implicitWidth, Tokens.fit(260))
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             color: Tokens.t2

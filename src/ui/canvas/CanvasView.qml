@@ -45,7 +45,7 @@ FocusScope {
     }
     BuildingBar {
         x: 24
-        y: 56
+        y: caption.y + caption.height + 4
         width: parent.width - 48
         visible: view.canvas.state === Store.CanvasState.BuildingScene
         running: visible
@@ -68,7 +68,7 @@ FocusScope {
         id: frame
 
         x: 24
-        y: 64
+        y: caption.y + caption.height + 12
         width: parent.width - 48
         height: parent.height - y - 24 - view.reserved
     }

@@ -18,15 +18,15 @@ constexpr double nameRoom = 30; ///< below the plot, for names alone
 constexpr double scrollRoom = 14;
 constexpr double figureGap = 6;
 constexpr double labelLeast = 38;
-constexpr double labelHeight = 20;
+constexpr int normalText = 12; ///< pixels
 constexpr double labelPadding = 8;
 constexpr double labelDistance = 8; ///< from its point
 constexpr double labelGap = 4;
 constexpr qsizetype mostLabelled = 12; ///< of more periods only the ends and extremes have labels
 
-bool overlap(const PlotLabel &a, const PlotLabel &b) {
+bool overlap(const PlotLabel &a, const PlotLabel &b, double height) {
     return a.x < b.x + b.width + labelGap && b.x < a.x + a.width + labelGap &&
-           std::abs(a.y - b.y) < labelHeight + labelGap;
+           std::abs(a.y - b.y) < height + labelGap;
 }
 
 } // namespace
@@ -68,7 +68,12 @@ void CashflowPlot::setFont(const QFont &font) {
         return;
     m_font = font;
     Q_EMIT fontChanged();
+    Q_EMIT belowChanged();
     layOut();
+}
+
+double CashflowPlot::fit(double length) const {
+    return std::round(length * std::max(1.0, m_font.pixelSize() / double(normalText)));
 }
 
 double CashflowPlot::zeroY() const {
@@ -82,7 +87,7 @@ double CashflowPlot::belowHeight() const {
 
 double CashflowPlot::wordsHeight() const {
     const int lines = m_showsFigures ? (m_hasIn ? 1 : 0) + (m_hasOut ? 1 : 0) : 0;
-    return lines > 0 ? figuresY() + lines * figureHeight() : nameRoom;
+    return lines > 0 ? figuresY() + lines * figureHeight() : fit(nameRoom);
 }
 
 void CashflowPlot::layOut() {
@@ -167,11 +172,12 @@ std::optional<PlotLabel> CashflowPlot::freeLabel(qsizetype point) const {
                                            2 * labelPadding);
     label.x =
         std::round(std::clamp(at.x() - label.width / 2, 0.0, std::max(0.0, right - label.width)));
-    for (const double y : {at.y() - labelDistance - labelHeight, at.y() + labelDistance}) {
+    for (const double y : {at.y() - labelDistance - labelHeight(), at.y() + labelDistance}) {
         label.y = std::round(y);
-        if (label.y >= -headroom() && label.y + labelHeight <= m_height &&
-            std::none_of(m_labels.cbegin(), m_labels.cend(),
-                         [&label](const PlotLabel &other) { return overlap(label, other); }))
+        if (label.y >= -headroom() && label.y + labelHeight() <= m_height &&
+            std::none_of(m_labels.cbegin(), m_labels.cend(), [&](const PlotLabel &other) {
+                return overlap(label, other, labelHeight());
+            }))
             return label;
     }
     return std::nullopt;

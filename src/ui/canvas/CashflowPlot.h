@@ -50,10 +50,11 @@ class CashflowPlot : public QObject {
     Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
     Q_PROPERTY(double height READ height WRITE setHeight NOTIFY heightChanged REQUIRED)
     Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
-    Q_PROPERTY(double headroom READ headroom CONSTANT)
+    Q_PROPERTY(double headroom READ headroom NOTIFY fontChanged)
+    Q_PROPERTY(double labelHeight READ labelHeight NOTIFY fontChanged)
     Q_PROPERTY(double barGap READ barGap CONSTANT)
-    Q_PROPERTY(double figuresY READ figuresY CONSTANT)
-    Q_PROPERTY(double figureHeight READ figureHeight CONSTANT)
+    Q_PROPERTY(double figuresY READ figuresY NOTIFY fontChanged)
+    Q_PROPERTY(double figureHeight READ figureHeight NOTIFY fontChanged)
     Q_PROPERTY(double wordsHeight READ wordsHeight NOTIFY belowChanged)
     Q_PROPERTY(double belowHeight READ belowHeight NOTIFY belowChanged)
     Q_PROPERTY(bool scrolls READ scrolls NOTIFY belowChanged)
@@ -82,12 +83,13 @@ public:
     void setFont(const QFont &font);
 
     /// Above the plot, for labels.
-    static double headroom() { return 24; }
+    double headroom() const { return fit(24); }
+    double labelHeight() const { return fit(20); }
     /// Between the bars of a period.
     static double barGap() { return 6; }
     /// Where the figures of the bars begin below the plot, and how high each line of them is.
-    static double figuresY() { return 34; }
-    static double figureHeight() { return 18; }
+    double figuresY() const { return fit(34); }
+    double figureHeight() const { return fit(18); }
     /// What the names and figures take below the plot.
     double wordsHeight() const;
     /// The same with a scroll bar.
@@ -116,6 +118,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    /// A length for text of the normal size, for larger text as it is.
+    double fit(double length) const;
     void layOut();
     void divide();
     void placeNames();

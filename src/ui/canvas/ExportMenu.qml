@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
+import Kiv.Tokens
 
 // The ways out of the canvas.
 Popover {
@@ -8,11 +9,11 @@ Popover {
 
     required property CanvasExport exporter
 
-    width: 260
+    width: Tokens.fit(260)
     onAboutToShow: picture.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 144
+        implicitHeight: 4 * Tokens.fit(36)
     }
 
     Column {

@@ -14,13 +14,13 @@ Popover {
     signal submitted(text: string)
     signal picked(chip: replyChip)
 
-    width: 340
+    width: Tokens.fit(340)
     padding: 12
     onAboutToShow: wish.forceActiveFocus(Qt.PopupFocusReason)
     onClosed: wish.clear()
 
     contentItem: Item {
-        implicitHeight: replies.visible ? replies.y + replies.height : 40
+        implicitHeight: replies.visible ? replies.y + replies.height : Tokens.fit(40)
     }
 
     TextField {
@@ -38,7 +38,7 @@ Popover {
     ReplyChips {
         id: replies
 
-        y: 48
+        y: Tokens.fit(40) + 8
         width: popover.availableWidth
         chips: popover.chips
         most: 3

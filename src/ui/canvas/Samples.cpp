@@ -22,7 +22,7 @@ canvas::SceneOut sceneOf(const QString &art) {
         qFatal("The sample of %s does not draw it", qPrintable(art));
     // No answer stands behind it.
     scene->countLine.remove(u" · from the answer"_s);
-    scene->countLine += Samples::tr(" · sample");
+    scene->countLine += u" · sample"_s;
     scene->insight.clear();
     return *scene;
 }

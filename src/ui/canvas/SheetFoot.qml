@@ -19,7 +19,7 @@ Item {
 
     signal messageRequested()
 
-    implicitHeight: 44
+    implicitHeight: Tokens.fit(44)
 
     Divider {
         width: parent.width

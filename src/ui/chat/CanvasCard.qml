@@ -12,7 +12,7 @@ T.Button {
     required property string art
     required property bool shown
 
-    implicitHeight: 44
+    implicitHeight: Tokens.fit(44)
     text: shown ? qsTr("%1, on the canvas").arg(title) : qsTr("Show %1 on the canvas").arg(title)
     Accessible.name: text
 

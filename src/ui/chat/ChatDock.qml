@@ -39,7 +39,7 @@ FocusScope {
         id: head
 
         width: parent.width
-        height: 56
+        height: Tokens.fit(56)
 
         Figure {
             id: figure

@@ -15,7 +15,7 @@ FocusScope {
 
     readonly property string trouble: store.chat.chatNote
 
-    implicitHeight: bar.height + (floating ? 0 : 22)
+    implicitHeight: bar.height + (floating ? 0 : Tokens.fit(22))
 
     AskBar {
         id: bar

@@ -2,6 +2,7 @@ import QtQuick
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Store
+import Kiv.Tokens
 
 // What can be done with the conversation as a whole.
 Popover {
@@ -14,7 +15,7 @@ Popover {
     onAboutToShow: find.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 108
+        implicitHeight: 3 * Tokens.fit(36)
     }
 
     Column {

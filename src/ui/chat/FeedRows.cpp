@@ -1,9 +1,8 @@
 #include "ui/chat/FeedRows.h"
 
+#include "base/LocalText.h"
 #include "store/MessageModel.h"
 #include "text/MDParser.h"
-
-#include <QLocale>
 
 #include <algorithm>
 
@@ -299,9 +298,7 @@ QString FeedRows::dayLabel(int message) const {
         return tr("Today");
     if (day == today().addDays(-1))
         return tr("Yesterday");
-    const QLocale english(QLocale::English);
-    return english.toString(day,
-                            day.year() == today().year() ? u"dddd, d MMMM"_s : u"d MMMM yyyy"_s);
+    return dayText(day, today());
 }
 
 void FeedRows::sumUp(int from) {

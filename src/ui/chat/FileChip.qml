@@ -25,7 +25,7 @@ T.Button {
     readonly property real words: Math.max(title.implicitWidth, below.implicitWidth)
 
     implicitWidth: Math.min(36 + Math.ceil(words) + tail, maximumWidth)
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     hoverEnabled: pressable
     focusPolicy: pressable ? Qt.TabFocus : Qt.NoFocus
     text: name

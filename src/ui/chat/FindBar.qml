@@ -31,7 +31,7 @@ FocusScope {
             closed()
     }
 
-    implicitHeight: 52
+    implicitHeight: Tokens.fit(52)
     visible: find.shown
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Find in the conversation")
@@ -52,7 +52,7 @@ FocusScope {
         x: 24
         anchors.verticalCenter: parent.verticalCenter
         width: back.x - x - 8
-        implicitHeight: 36
+        implicitHeight: Tokens.fit(36)
         focus: true
         iconName: "search"
         trailing: result.width + 8

@@ -54,7 +54,7 @@ Item {
         Chip {
             anchors.verticalCenter: parent.verticalCenter
             visible: head.row.memberLabel !== ""
-            height: 20
+            height: Tokens.fit(20)
             text: qsTr("with %1").arg(head.row.memberLabel)
         }
     }

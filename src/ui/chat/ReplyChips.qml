@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Controls
 import Kiv.Scene
+import Kiv.Tokens
 
 // The replies offered under an answer: one stop of the tab key, Left and Right go through them. What
 // does not fit into two lines is left out.
@@ -13,7 +14,7 @@ FocusScope {
     /// How many are offered.
     property int most: chips.length
 
-    readonly property int lineHeight: 32
+    readonly property int lineHeight: Tokens.fit(32)
     readonly property int gap: 8
     readonly property int lines: 2
 

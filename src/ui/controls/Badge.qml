@@ -9,8 +9,8 @@ Rectangle {
     property color ground: Tokens.rail
 
     visible: count > 0
-    width: Math.max(20, number.implicitWidth + 12)
-    height: 20
+    width: Math.max(height, number.implicitWidth + 12)
+    height: Tokens.fit(20)
     radius: 10
     color: ground
 

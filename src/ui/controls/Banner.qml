@@ -15,7 +15,7 @@ Rectangle {
     signal acted()
     signal closed()
 
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     color: tone.tint
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text

@@ -23,7 +23,7 @@ T.Button {
     readonly property bool filled: kind === Button.Main || kind === Button.DangerFilled
 
     implicitWidth: Math.ceil(row.implicitWidth) + leftPadding + rightPadding
-    implicitHeight: size === Button.Small ? 32 : size === Button.Large ? 44 : 36
+    implicitHeight: Tokens.fit(size === Button.Small ? 32 : size === Button.Large ? 44 : 36)
     horizontalPadding: size === Button.Small ? 12 : 14
     Accessible.name: text
     Keys.onReturnPressed: button.clicked()

@@ -21,7 +21,7 @@ Rectangle {
         : Tokens.t2
 
     implicitWidth: label.implicitWidth + reserved
-    implicitHeight: 24
+    implicitHeight: Tokens.fit(24)
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     radius: Tokens.radiusChip

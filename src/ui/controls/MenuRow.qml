@@ -12,7 +12,7 @@ T.Button {
     property bool destructive: false
 
     implicitWidth: 200
-    implicitHeight: 36
+    implicitHeight: Tokens.fit(36)
     Accessible.name: text
     Accessible.role: Accessible.MenuItem
     Keys.onReturnPressed: clicked()

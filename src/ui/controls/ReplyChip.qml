@@ -9,7 +9,7 @@ T.Button {
     property int maximumWidth: 420
 
     implicitWidth: Math.min(caption.implicitWidth + 26, maximumWidth)
-    implicitHeight: 32
+    implicitHeight: Tokens.fit(32)
 
     Accessible.name: text
 

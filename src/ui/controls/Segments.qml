@@ -21,7 +21,7 @@ FocusScope {
         (cells.itemAt(next) as T.AbstractButton)?.forceActiveFocus(Qt.TabFocusReason)
     }
 
-    implicitHeight: 36
+    implicitHeight: Tokens.fit(36)
     Accessible.role: Accessible.Grouping
     Accessible.name: name
     Keys.onLeftPressed: go(-1)

@@ -12,7 +12,7 @@ T.TextField {
     /// Room kept free at the right end for what a form puts there.
     property int trailing: 0
 
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     implicitWidth: 240
     leftPadding: iconName === "" ? 12 : 38
     rightPadding: 12 + trailing

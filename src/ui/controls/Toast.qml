@@ -11,8 +11,8 @@ Rectangle {
     required property url target
     required property int index
 
-    implicitWidth: Math.min(440, label.implicitWidth + (link.visible ? link.width + 16 : 0) + 32)
-    implicitHeight: 44
+    implicitWidth: Math.min(Tokens.fit(440), label.implicitWidth + (link.visible ? link.width + 16 : 0) + 32)
+    implicitHeight: Tokens.fit(44)
     radius: Tokens.radiusBlock
     color: Tokens.tip
     opacity: 0

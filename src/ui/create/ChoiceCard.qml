@@ -16,7 +16,7 @@ T.AbstractButton {
     property bool compact: false
     property bool ringed: false
 
-    implicitHeight: compact ? 36 : 52
+    implicitHeight: Tokens.fit(compact ? 36 : 52)
     text: choice.title
     Accessible.role: several ? Accessible.CheckBox : Accessible.RadioButton
     Accessible.name: choice.title
@@ -50,7 +50,7 @@ T.AbstractButton {
 
         Label {
             width: parent.width
-            height: 18
+            height: Tokens.fit(18)
             style: Tokens.type.name
             text: card.choice.title
             Accessible.ignored: true

@@ -14,8 +14,8 @@ Dialog {
     readonly property bool editing: room.phase === Store.CreatePhase.Editing
 
     objectName: "createWizard"
-    width: 800
-    height: Math.min(600, (T.Overlay.overlay?.height ?? 648) - 48)
+    width: Math.min(Tokens.fit(800), (T.Overlay.overlay?.width ?? 848) - 48)
+    height: Math.min(Tokens.fit(600), (T.Overlay.overlay?.height ?? 648) - 48)
     padding: 0
     bottomPadding: 0
     closePolicy: T.Popup.NoAutoClose
@@ -35,7 +35,7 @@ Dialog {
         WizardSteps {
             id: steps
 
-            width: 224
+            width: Tokens.fit(224)
             height: parent.height
             room: wizard.room
         }
@@ -61,7 +61,7 @@ Dialog {
             }
             Label {
                 x: 32
-                y: 54
+                y: Tokens.fit(54)
                 width: parent.width - 96
                 style: Tokens.type.line
                 color: Tokens.t2
@@ -71,7 +71,7 @@ Dialog {
                 id: body
 
                 x: 32
-                y: 95
+                y: Tokens.fit(95)
                 width: parent.width - 64
                 height: parent.height - y - 6
                 focus: true

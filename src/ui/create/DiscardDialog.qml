@@ -10,7 +10,7 @@ Dialog {
     required property CreateRoom room
 
     objectName: "discardDialog"
-    width: 400
+    width: Tokens.fit(400)
     padding: 28
     visible: room.asking
     onAboutToShow: keep.forceActiveFocus(Qt.PopupFocusReason)

@@ -9,7 +9,7 @@ Item {
     property string error: ""
     property string count: ""
 
-    implicitHeight: 20
+    implicitHeight: Tokens.fit(20)
 
     Label {
         y: 4

@@ -29,7 +29,7 @@ Item {
 
         objectName: "parentButton"
         y: heading.height + 6
-        height: 40
+        height: Tokens.fit(40)
         trailingIcon: "down"
         text: form.chosenTitle
         Accessible.name: qsTr("Project: %1").arg(text)
@@ -53,7 +53,7 @@ Item {
                 id: list
 
                 width: popover.availableWidth
-                height: Math.min(contentHeight, 6 * 36)
+                height: Math.min(contentHeight, 6 * Tokens.fit(36))
                 model: form.choices
                 clip: true
                 focus: true

@@ -46,7 +46,7 @@ FocusScope {
 
             objectName: "review:" + modelData.id
             width: lines.width
-            height: Math.max(44, words.height + 24)
+            height: Math.max(Tokens.fit(44), words.height + 24)
             Accessible.role: Accessible.ListItem
             Accessible.name: qsTr("%1: %2").arg(modelData.title).arg(modelData.summary)
 
@@ -60,7 +60,7 @@ FocusScope {
             Label {
                 id: words
 
-                x: 112
+                x: Tokens.fit(112)
                 y: 12
                 width: parent.width - x - 12
                 style: Tokens.type.line

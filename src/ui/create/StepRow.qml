@@ -12,7 +12,7 @@ T.AbstractButton {
     property bool current: false
     property bool done: false
 
-    implicitHeight: 40
+    implicitHeight: Tokens.fit(40)
     Accessible.role: Accessible.Button
     Accessible.name: current ? qsTr("%1, current step").arg(text) : done ? qsTr("%1, done").arg(text) : text
 

@@ -13,7 +13,7 @@ Item {
     readonly property bool created: room.phase === Store.CreatePhase.Created
     readonly property bool sending: room.phase === Store.CreatePhase.Sending
 
-    implicitHeight: 68
+    implicitHeight: Tokens.fit(68)
 
     Divider {
         width: parent.width

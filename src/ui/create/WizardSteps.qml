@@ -39,7 +39,7 @@ Item {
     }
     Column {
         x: 16
-        y: 68
+        y: Tokens.fit(68)
         width: parent.width - 32
         spacing: 4
 

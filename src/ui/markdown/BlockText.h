@@ -28,6 +28,8 @@ class BlockText : public QQuickItem {
     /// Of the text edit.
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY changed REQUIRED)
     Q_PROPERTY(double lineHeight READ lineHeight WRITE setLineHeight NOTIFY changed REQUIRED)
+    /// Of inline code and of the head of a table.
+    Q_PROPERTY(int smallSize READ smallSize WRITE setSmallSize NOTIFY changed)
     Q_PROPERTY(QColor linkColor READ linkColor WRITE setLinkColor NOTIFY changed)
     Q_PROPERTY(QColor faintColor READ faintColor WRITE setFaintColor NOTIFY changed)
     Q_PROPERTY(QString codeFamily READ codeFamily WRITE setCodeFamily NOTIFY changed)
@@ -53,6 +55,11 @@ public:
     void setPart(const MarkdownPart &part);
     double lineHeight() const { return m_look.lineHeight; }
     void setLineHeight(double height) { change(m_look.lineHeight, height); }
+    int smallSize() const { return m_look.codeSize; }
+    void setSmallSize(int size) {
+        m_look.headSize = size;
+        change(m_look.codeSize, size);
+    }
     QColor linkColor() const { return m_look.link; }
     void setLinkColor(const QColor &color) { change(m_look.link, color); }
     QColor faintColor() const { return m_look.faint; }

@@ -55,6 +55,7 @@ TextEdit {
         plain: words.plain
         font: words.font
         lineHeight: words.style.line
+        smallSize: Tokens.type.code.size
         linkColor: Tokens.accentText
         faintColor: Tokens.t3
         codeFamily: Tokens.codeFamily

@@ -17,8 +17,7 @@ using Tone = TextRun::Tone;
 namespace {
 
 constexpr double inset = 14;
-constexpr double headLine = 16;
-constexpr double rowLine = 18;
+constexpr double headShorter = 2; ///< the line of the head than that of a row
 /// A column of words that is wider than this wraps before the table scrolls.
 constexpr double wordsMost = 240;
 constexpr double headMost = 120; ///< the same for the head of figures
@@ -199,7 +198,7 @@ void TableColumns::addRow(QList<TextLine> &lines, qsizetype row) {
         pieces.append(wrapped(cells.at(i), m_columns.at(i).width));
         height = std::max(height, pieces.last().size());
     }
-    const double lineHeight = row == 0 ? headLine : rowLine;
+    const double lineHeight = m_look.lineHeight - (row == 0 ? headShorter : 0);
     for (qsizetype k = 0; k < height; ++k) {
         TextLine line{.above = k == 0 ? 2 * rowMargin : 0, .height = lineHeight};
         if (!m_text.isEmpty() || !lines.isEmpty())

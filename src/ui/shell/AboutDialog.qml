@@ -9,7 +9,7 @@ Dialog {
 
     required property Commands commands
 
-    width: 360
+    width: Tokens.fit(360)
     objectName: "aboutDialog"
     onAboutToShow: close.forceActiveFocus(Qt.PopupFocusReason)
 

@@ -31,7 +31,7 @@ Item {
         (tiles.itemAt(card - first) as AgentTile)?.forceActiveFocus(Qt.TabFocusReason)
     }
 
-    implicitHeight: heading === "" ? 128 : 52
+    implicitHeight: heading === "" ? Tokens.fit(112) + 16 : Tokens.fit(52)
 
     Figure {
         id: figure

@@ -12,6 +12,7 @@ void AgentLines::setScope(store::ScopeRoom *scope) {
     m_scope = scope;
     connect(scope, &store::ScopeRoom::projectsChanged, this, &AgentLines::arrange);
     connect(scope, &store::ScopeRoom::standaloneAgentsChanged, this, &AgentLines::arrange);
+    connect(scope, &store::ScopeRoom::retranslated, this, &AgentLines::arrange);
     arrange();
     Q_EMIT scopeChanged();
 }
@@ -30,7 +31,7 @@ void AgentLines::arrange() {
     beginResetModel();
     m_lines.clear();
     m_count = 0;
-    addCards({{store::RailRow::Kiv, {}, {}, tr("KIV"), tr("Sees all projects and agents"), {}}});
+    addCards({{store::RailRow::Kiv, {}, {}, u"KIV"_s, tr("Sees all projects and agents"), {}}});
     const QList<store::Project> projects = m_scope->projects();
     for (const store::Project &project : projects) {
         m_lines.append({project.name, project.meta, project.colorHex, {}, m_count});

@@ -16,7 +16,7 @@ T.ItemDelegate {
 
     signal called()
 
-    implicitHeight: 112
+    implicitHeight: Tokens.fit(112)
     text: name
     Accessible.name: qsTr("%1, %2").arg(name).arg(detail)
     Accessible.role: Accessible.ListItem
@@ -64,7 +64,7 @@ T.ItemDelegate {
     }
     Row {
         x: 64
-        y: 64
+        y: Tokens.fit(64)
         spacing: 8
 
         Button {

@@ -26,7 +26,7 @@ Dialog {
     anchors.centerIn: undefined
     x: Math.round((T.Overlay.overlay.width - width) / 2)
     y: Tokens.topBarHeight + 48
-    width: 560
+    width: Tokens.fit(560)
     padding: 8
     bottomPadding: 8
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
@@ -40,7 +40,7 @@ Dialog {
     onClosed: entries.choose(chosen)
 
     contentItem: Item {
-        implicitHeight: 50 + Math.max(44, list.height)
+        implicitHeight: Tokens.fit(50) + Math.max(Tokens.fit(44), list.height)
     }
 
     PaletteModel {
@@ -55,7 +55,7 @@ Dialog {
 
         objectName: "paletteSearch"
         width: root.availableWidth
-        height: 42
+        height: Tokens.fit(42)
         iconName: "search"
         placeholderText: qsTr("Find a command, a project, an agent or a canvas")
         Accessible.name: placeholderText
@@ -69,7 +69,7 @@ Dialog {
     }
     Label {
         x: 12
-        y: 62
+        y: Tokens.fit(50) + 12
         visible: list.count === 0
         color: Tokens.t3
         text: qsTr("Nothing is called that")
@@ -78,9 +78,9 @@ Dialog {
         id: list
 
         objectName: "paletteList"
-        y: 50
+        y: Tokens.fit(50)
         width: root.availableWidth
-        height: Math.min(contentHeight, 10 * 40)
+        height: Math.min(contentHeight, 10 * Tokens.fit(40))
         model: entries
         clip: true
         currentIndex: 0

@@ -44,6 +44,8 @@ QList<MenuEntry> Commands::everyKey() const {
                                    beside(tr("Earlier canvas"), u"Alt+Left"_s),
                                    beside(tr("Later canvas"), u"Alt+Right"_s),
                                    beside(tr("Next area of the window"), u"F6"_s),
+                                   beside(tr("Larger text"), u"Ctrl++"_s),
+                                   beside(tr("Smaller text"), u"Ctrl+-"_s),
                                    beside(tr("Send"), u"Return"_s),
                                    beside(tr("New line"), u"Shift+Return"_s),
                                    beside(tr("Last message again, in an empty field"), u"Up"_s),

@@ -13,7 +13,7 @@ Popover {
 
     readonly property bool chosen: store.scope.project !== ""
 
-    width: 360
+    width: Tokens.fit(360)
     onAboutToShow: {
         events.toFirst()
         events.forceActiveFocus(Qt.PopupFocusReason)
@@ -43,9 +43,9 @@ Popover {
     EventList {
         id: events
 
-        y: 42
+        y: Tokens.fit(42)
         width: popover.availableWidth
-        most: popover.most - 110
+        most: popover.most - Tokens.fit(110)
         focus: true
         store: popover.store
     }

@@ -18,7 +18,7 @@ FocusScope {
         list.currentIndex = 0
     }
 
-    height: list.count === 0 ? 34 : list.height
+    height: list.count === 0 ? Tokens.fit(34) : list.height
 
     Label {
         objectName: "eventsEmpty"

@@ -19,7 +19,7 @@ T.ItemDelegate {
         : Tokens.amber
     readonly property bool plain: tone === Store.EventTone.Neutral
 
-    height: 48
+    height: Tokens.fit(48)
     focusPolicy: Qt.NoFocus
     text: title
     Accessible.name: detail === "" ? qsTr("%1, %2").arg(title).arg(age) : qsTr("%1, %2, %3").arg(title).arg(detail).arg(age)

@@ -14,14 +14,14 @@ Popover {
     required property CanvasRoom canvas
     property real most: 600
 
-    width: 360
+    width: Tokens.fit(360)
     onAboutToShow: {
         list.currentIndex = 0
         list.forceActiveFocus(Qt.PopupFocusReason)
     }
 
     contentItem: Item {
-        implicitHeight: 42 + (list.count === 0 ? 34 : list.height)
+        implicitHeight: Tokens.fit(42) + (list.count === 0 ? Tokens.fit(34) : list.height)
     }
 
     Label {
@@ -33,7 +33,7 @@ Popover {
     }
     Label {
         x: 12
-        y: 46
+        y: Tokens.fit(46)
         visible: list.count === 0
         color: Tokens.t3
         text: qsTr("Nothing drawn yet")
@@ -42,9 +42,9 @@ Popover {
         id: list
 
         objectName: "historyList"
-        y: 42
+        y: Tokens.fit(42)
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - 60)
+        height: Math.min(contentHeight, popover.most - Tokens.fit(60))
         model: popover.canvas.history
         clip: true
         focus: true
@@ -69,7 +69,7 @@ Popover {
             required property string time
 
             width: list.width
-            height: 48
+            height: Tokens.fit(48)
             focusPolicy: Qt.NoFocus
             text: title
             highlighted: ListView.isCurrentItem && list.activeFocus

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Controls
 import Kiv.Shell
+import Kiv.Tokens
 
 // The main menu: its menus at the left, the commands of the current one beside them. A command is
 // carried out when the menu is gone and the focus is back where it was.
@@ -27,7 +28,7 @@ Popover {
     onClosed: commands.performNumber(chosen)
 
     contentItem: Item {
-        implicitHeight: 8 * 36 + 2 * 13
+        implicitHeight: 8 * Tokens.fit(36) + 2 * 13
     }
 
     ListView {

@@ -184,6 +184,12 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
+    AnswerNews {
+        chat: view.store.chat
+        name: view.store.scope.scopeName
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: words
+    }
     SignInSheet {
         store: view.store
     }
@@ -296,6 +302,14 @@ FocusScope {
         sequence: "Ctrl+Shift+F"
         enabled: view.visible && view.store.canvas.framed
         onActivated: view.layout.toggleCanvasFull()
+    }
+    Shortcut {
+        sequences: ["Ctrl++", "Ctrl+="]
+        onActivated: view.store.appearance.enlargeText()
+    }
+    Shortcut {
+        sequence: "Ctrl+-"
+        onActivated: view.store.appearance.reduceText()
     }
     Shortcut {
         sequence: "F6"

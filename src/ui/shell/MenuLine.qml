@@ -14,7 +14,7 @@ T.ItemDelegate {
 
     readonly property int gap: afterGap ? 13 : 0
 
-    implicitHeight: 36 + gap
+    implicitHeight: Tokens.fit(36) + gap
     focusPolicy: Qt.NoFocus
     Accessible.name: text
     Accessible.role: Accessible.MenuItem
@@ -23,7 +23,7 @@ T.ItemDelegate {
         Rectangle {
             y: line.gap
             width: parent.width
-            height: 36
+            height: Tokens.fit(36)
             radius: Tokens.radiusControl
             color: line.enabled && (line.hovered || line.highlighted) ? Tokens.hoverRaised : "transparent"
         }

@@ -30,7 +30,7 @@ T.ItemDelegate {
     signal createRequested()
 
     objectName: label ? "" : "railRow:" + entryId
-    implicitHeight: kiv ? 48 : label ? 34 : project ? 36 : 32
+    implicitHeight: Tokens.fit(kiv ? 48 : label ? 34 : project ? 36 : 32)
     hoverEnabled: !label
     focusPolicy: Qt.NoFocus
     text: name

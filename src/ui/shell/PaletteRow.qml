@@ -13,7 +13,7 @@ T.ItemDelegate {
     required property string sign
     required property string keys
 
-    height: 40
+    height: Tokens.fit(40)
     focusPolicy: Qt.NoFocus
     text: title
     Accessible.name: detail === "" ? title : qsTr("%1, %2").arg(title).arg(detail)
@@ -36,7 +36,7 @@ T.ItemDelegate {
 
         x: 42
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.min(implicitWidth, 300)
+        width: Math.min(implicitWidth, Tokens.fit(300))
         style: Tokens.type.name
         text: row.title
         Accessible.ignored: true

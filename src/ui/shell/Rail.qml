@@ -91,7 +91,7 @@ FocusScope {
         anchors.top: split.bottom
         visible: rail.signedIn
         width: parent.width - 1
-        height: 36
+        height: Tokens.fit(36)
 
         Label {
             x: 22

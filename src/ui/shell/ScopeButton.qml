@@ -18,7 +18,7 @@ T.Button {
 
     objectName: "scopeButton"
     implicitWidth: Math.ceil(row.implicitWidth) + 18
-    implicitHeight: 36
+    implicitHeight: Tokens.fit(36)
     enabled: scope.auth === Store.AuthPhase.SignedIn
     text: scope.scopeDetail === "" ? scope.scopeName : qsTr("%1, %2").arg(scope.scopeName).arg(scope.scopeDetail)
     Accessible.name: text
@@ -52,7 +52,7 @@ T.Button {
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, 220)
+            width: Math.min(implicitWidth, Tokens.fit(220))
             style: Tokens.type.name
             text: button.scope.scopeName
             Accessible.ignored: true
@@ -60,7 +60,7 @@ T.Button {
         Label {
             anchors.verticalCenter: parent.verticalCenter
             visible: text !== ""
-            width: Math.min(implicitWidth, 180)
+            width: Math.min(implicitWidth, Tokens.fit(180))
             style: Tokens.type.line
             color: Tokens.t3
             text: button.scope.scopeDetail

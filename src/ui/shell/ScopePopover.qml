@@ -25,7 +25,7 @@ Popover {
     }
 
     alignLeft: true
-    width: 340
+    width: Tokens.fit(340)
     onAboutToShow: {
         search.text = typed
         typed = ""
@@ -45,7 +45,7 @@ Popover {
         x: 2
         y: 2
         width: popover.availableWidth - 4
-        height: 36
+        height: Tokens.fit(36)
         iconName: "search"
         placeholderText: qsTr("Find a project or agent")
         Accessible.name: placeholderText
@@ -61,9 +61,9 @@ Popover {
         id: list
 
         objectName: "scopeChoices"
-        y: 44
+        y: Tokens.fit(36) + 8
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - 110)
+        height: Math.min(contentHeight, popover.most - Tokens.fit(110))
         model: popover.scope.choices
         clip: true
         currentIndex: 0
@@ -86,7 +86,7 @@ Popover {
     }
     Label {
         x: 12
-        y: 52
+        y: Tokens.fit(36) + 16
         visible: list.count === 0
         color: Tokens.t3
         text: qsTr("Nobody is called that")
@@ -100,7 +100,7 @@ Popover {
         id: everybody
 
         objectName: "showAgents"
-        y: 44 + Math.max(list.height, list.count === 0 ? 36 : 0) + 13
+        y: Tokens.fit(36) + 8 + Math.max(list.height, list.count === 0 ? 36 : 0) + 13
         width: popover.availableWidth
         iconName: "agents"
         text: qsTr("Show all agents")

@@ -18,7 +18,7 @@ T.ItemDelegate {
 
     readonly property bool label: kind === Store.RailRow.SectionLabel
 
-    implicitHeight: label ? 28 : 48
+    implicitHeight: Tokens.fit(label ? 28 : 48)
     enabled: !label
     text: name
     Accessible.name: detail === "" ? name : qsTr("%1, %2").arg(name).arg(detail)

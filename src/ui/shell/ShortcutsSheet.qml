@@ -12,12 +12,12 @@ Dialog {
 
     required property Commands commands
 
-    width: 520
+    width: Tokens.fit(520)
     objectName: "shortcutsSheet"
     onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 44 + list.height
+        implicitHeight: Tokens.fit(44) + list.height
     }
 
     Label {
@@ -36,9 +36,9 @@ Dialog {
         id: list
 
         objectName: "shortcutList"
-        y: 44
+        y: Tokens.fit(44)
         width: sheet.availableWidth
-        height: Math.min(contentHeight, 12 * 36)
+        height: Math.min(contentHeight, 12 * Tokens.fit(36))
         model: sheet.commands.everyKey
         clip: true
         focus: true
@@ -57,7 +57,7 @@ Dialog {
             required property menuEntry modelData
 
             width: list.width
-            height: 36
+            height: Tokens.fit(36)
             focusPolicy: Qt.NoFocus
             text: modelData.title
             Accessible.name: qsTr("%1, %2").arg(modelData.title).arg(modelData.keys)

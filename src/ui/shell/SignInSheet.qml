@@ -19,7 +19,7 @@ Dialog {
             session.submitAuth(email.field.text, password.field.text, signup)
     }
 
-    width: 424
+    width: Tokens.fit(424)
     visible: session.authSheet !== Store.AuthSheetMode.Closed
     onAboutToShow: (email.field.text === "" ? email : password).field.forceActiveFocus(Qt.PopupFocusReason)
     onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()

@@ -164,6 +164,7 @@ FocusScope {
             }
             ProfilePopover {
                 store: bar.store
+                most: bar.popoverHeight
                 visible: bar.store.layout.profileOpen
                 onAboutToHide: bar.store.layout.closePopovers()
             }

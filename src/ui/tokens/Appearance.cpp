@@ -22,4 +22,14 @@ void Appearance::setReducedMotion(bool reduced) {
         Q_EMIT reducedMotionChanged();
 }
 
+void Appearance::setHighContrast(bool high) {
+    if (std::exchange(m_highContrast, high) != high)
+        Q_EMIT highContrastChanged();
+}
+
+void Appearance::setTextScale(double scale) {
+    if (!qFuzzyCompare(std::exchange(m_textScale, scale), scale))
+        Q_EMIT textScaleChanged();
+}
+
 } // namespace kiv::ui

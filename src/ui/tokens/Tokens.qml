@@ -10,6 +10,13 @@ QtObject {
 
     readonly property bool dark: Appearance.dark
     readonly property bool reducedMotion: Appearance.reducedMotion
+    readonly property bool highContrast: Appearance.highContrast
+    readonly property real textScale: Appearance.textScale
+
+    /// A length that text of the normal size needs, for text as it is now. Smaller text leaves it.
+    function fit(length: real): int {
+        return Math.round(length * Math.max(1, textScale))
+    }
 
     readonly property color bg: dark ? "#0e1016" : "#f3f4f8"
     readonly property color rail: dark ? "#12141c" : "#fafbfd"
@@ -22,26 +29,26 @@ QtObject {
     readonly property color hover: dark ? "#1f2330" : "#eff0f6"
     readonly property color hoverRaised: dark ? "#2a3041" : "#eff0f6"
     readonly property color press: dark ? "#272c3b" : "#e6e8f0"
-    readonly property color line: dark ? "#272b38" : "#e4e6ee"
-    readonly property color line2: dark ? "#3a4052" : "#d0d4df"
-    readonly property color control: dark ? "#727a92" : "#868da1"
-    readonly property color t1: dark ? "#f1f2f7" : "#141722"
-    readonly property color t2: dark ? "#b6bccb" : "#474d5f"
-    readonly property color t3: dark ? "#949bb0" : "#616880"
-    readonly property color tDisabled: dark ? "#646b80" : "#9aa0b1"
+    readonly property color line: dark ? (highContrast ? "#727a92" : "#272b38") : (highContrast ? "#868da1" : "#e4e6ee")
+    readonly property color line2: dark ? (highContrast ? "#949bb0" : "#3a4052") : (highContrast ? "#616880" : "#d0d4df")
+    readonly property color control: dark ? (highContrast ? "#b6bccb" : "#727a92") : (highContrast ? "#474d5f" : "#868da1")
+    readonly property color t1: dark ? (highContrast ? "#ffffff" : "#f1f2f7") : (highContrast ? "#000000" : "#141722")
+    readonly property color t2: dark ? (highContrast ? "#e9ebf2" : "#b6bccb") : (highContrast ? "#232735" : "#474d5f")
+    readonly property color t3: dark ? (highContrast ? "#d0d4df" : "#949bb0") : (highContrast ? "#343a4a" : "#616880")
+    readonly property color tDisabled: dark ? (highContrast ? "#949bb0" : "#646b80") : (highContrast ? "#616880" : "#9aa0b1")
     readonly property color accent: dark ? "#6b4af2" : "#6644e6"
     readonly property color accentHover: dark ? "#7857fb" : "#5936d6"
     readonly property color accentInk: "#ffffff"
-    readonly property color accentText: dark ? "#b3a3ff" : "#5a38d6"
+    readonly property color accentText: dark ? (highContrast ? "#d6ccfb" : "#b3a3ff") : (highContrast ? "#3d1fb8" : "#5a38d6")
     readonly property color accentTint: dark ? "#2a274c" : "#f1edff"
-    readonly property color accentLine: dark ? "#453c86" : "#d6ccfb"
-    readonly property color focus: dark ? "#a996ff" : "#6644e6"
+    readonly property color accentLine: dark ? (highContrast ? "#a996ff" : "#453c86") : (highContrast ? "#6644e6" : "#d6ccfb")
+    readonly property color focus: dark ? (highContrast ? "#d6ccfb" : "#a996ff") : (highContrast ? "#3d1fb8" : "#6644e6")
     readonly property color selection: dark ? "#473a8f" : "#d9d0ff"
     /// The ground of words that are looked for, and the edge of those that the search is at.
     readonly property color found: dark ? "#6a5023" : "#fbd9a0"
     readonly property color foundEdge: dark ? "#fbbf4a" : "#8a5200"
     readonly property color danger: dark ? "#cc3336" : "#c9282f"
-    readonly property color dangerText: dark ? "#ff8f90" : "#b91f28"
+    readonly property color dangerText: dark ? (highContrast ? "#ffc1c2" : "#ff8f90") : (highContrast ? "#8f0f18" : "#b91f28")
     readonly property color dangerTint: dark ? "#3c232c" : "#fdecec"
     readonly property color scrim: dark ? "#9905060a" : "#5c141722"
     readonly property color tip: dark ? "#e9ebf2" : "#232735"
@@ -82,7 +89,7 @@ QtObject {
     /// Every digit of one width, for columns, timers, time stamps and labels that count.
     readonly property string tabularFamily: "KIV Tabular"
     readonly property string codeFamily: Appearance.codeFamily
-    readonly property TypeScale type: TypeScale {}
+    readonly property TypeScale type: TypeScale { scale: tokens.textScale }
 
     readonly property int radiusSmall: 4
     readonly property int radiusChip: 6
@@ -94,10 +101,10 @@ QtObject {
     readonly property int radiusFloat: 18
     readonly property int radiusDialog: 20
 
-    readonly property int topBarHeight: 52
+    readonly property int topBarHeight: fit(36) + 16
     readonly property int stripWidth: 56
-    readonly property int wideBody: 880
-    readonly property int mediumBody: 600
+    readonly property int wideBody: fit(880)
+    readonly property int mediumBody: fit(600)
     /// Wider than this, a row is hard to follow from its name to its figure.
     readonly property int widestBody: 1760
     /// A view follows the end of what grows while it is within this of it.

@@ -69,7 +69,7 @@ ArtScene {
         y: summary.y + summary.height
         height: agents.height - y - legend.height - 18 - agents.footroom
         currentIndex: groups.groupOf(agents.current)
-        leastRow: 56
+        leastRow: Tokens.fit(56)
         mostRow: 88
         Keys.onUpPressed: agents.go(groups.beside(agents.current, -1))
         Keys.onDownPressed: agents.go(groups.beside(agents.current, 1))

@@ -32,7 +32,7 @@ Item {
             x: modelData.x - balance.offset
             y: balance.plot.headroom + modelData.y
             width: modelData.width
-            height: 20
+            height: balance.plot.labelHeight
             radius: Tokens.radiusChip
             color: Tokens.surface
             border.width: 1

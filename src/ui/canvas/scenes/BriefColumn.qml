@@ -58,7 +58,7 @@ Rectangle {
         board: column.board
         column: column.index
         x: 10
-        y: 42
+        y: Tokens.fit(42)
         width: parent.width - 20
         height: parent.height - y - 10
         spacing: 8

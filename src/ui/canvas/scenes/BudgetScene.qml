@@ -22,7 +22,7 @@ ArtScene {
         x: budget.side
         y: budget.headroom
         width: budget.inner
-        height: 32
+        height: Tokens.fit(32)
 
         HeadLabel {
             width: columns.name
@@ -68,7 +68,7 @@ ArtScene {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: budget.footroom
         art: budget
-        leastRow: 48
+        leastRow: Tokens.fit(48)
         mostRow: 68
         model: SceneModel {
             rows: budget.scene.bgRows

@@ -34,7 +34,7 @@ ArtScene {
         x: compare.side
         y: compare.headroom
         width: compare.inner
-        height: 36
+        height: Tokens.fit(36)
 
         Label {
             anchors.verticalCenter: parent.verticalCenter
@@ -79,7 +79,7 @@ ArtScene {
         anchors.bottom: sideways.visible ? sideways.top : parent.bottom
         anchors.bottomMargin: 8
         art: compare
-        leastRow: 44
+        leastRow: Tokens.fit(44)
         mostRow: 56
         model: SceneModel {
             rows: compare.scene.cpRows

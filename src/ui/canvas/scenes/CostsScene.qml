@@ -78,7 +78,7 @@ ArtScene {
             readonly property bool beside: word.x + word.width + 16 + implicitWidth < head.width
 
             x: beside ? head.width - width : 0
-            y: beside ? 18 : 40
+            y: beside ? Tokens.fit(18) : Tokens.fit(40)
             width: Math.min(implicitWidth, head.width)
             style: Tokens.type.caption
             color: Tokens.t3
@@ -87,7 +87,7 @@ ArtScene {
         StackedBar {
             id: parts
 
-            y: note.beside ? 50 : 68
+            y: Tokens.fit(note.beside ? 50 : 68)
             width: parent.width
             visible: costs.scene.coSegs.length > 0
             art: costs
@@ -101,7 +101,7 @@ ArtScene {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: costs.footroom
         art: costs
-        leastRow: 44
+        leastRow: Tokens.fit(44)
         mostRow: 64
         model: SceneModel {
             rows: costs.scene.coRows

@@ -71,7 +71,7 @@ ArtScene {
         anchors.topMargin: decision.narrow ? 8 : 16
         anchors.bottom: outcome.visible ? outcome.top : parent.bottom
         anchors.bottomMargin: outcome.visible ? 20 : decision.footroom
-        leastRow: decision.narrow ? 56 : 42
+        leastRow: Tokens.fit(decision.narrow ? 56 : 42)
         mostRow: decision.narrow ? 72 : 58
         model: SceneModel {
             rows: decision.scene.criteria

@@ -3,13 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Scene
+import Kiv.Tokens
 
 // The figures beside the parts, sharing the height.
 ScrollArea {
     id: column
 
     readonly property int count: art.scene.ueKpis.length
-    readonly property real cardHeight: Math.max(112, Math.floor((height - 12 * (count - 1)) / Math.max(1, count)))
+    readonly property real cardHeight: Math.max(Tokens.fit(112), Math.floor((height - 12 * (count - 1)) / Math.max(1, count)))
 
     contentHeight: cards.height
 

@@ -31,7 +31,7 @@ ArtScene {
         x: funnel.side
         y: funnel.headroom
         width: funnel.inner
-        height: 28
+        height: Tokens.fit(28)
         Accessible.ignored: true
 
         Label {
@@ -59,7 +59,7 @@ ArtScene {
         anchors.top: head.bottom
         anchors.bottom: parent.bottom
         anchors.bottomMargin: funnel.footroom
-        leastRow: (funnel.dense ? 36 : 48) + gap + (funnel.narrow ? 8 : 0)
+        leastRow: Tokens.fit(funnel.dense ? 36 : 48) + gap + (funnel.narrow ? 8 : 0)
         mostRow: leastRow + 38
         model: SceneModel {
             rows: funnel.scene.fnStages

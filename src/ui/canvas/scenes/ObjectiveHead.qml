@@ -11,15 +11,15 @@ Item {
     required property okObj objective
     required property DataColor colors
 
-    implicitHeight: Math.max(56, words.height)
+    implicitHeight: Math.max(tile.height, words.height)
     Accessible.role: Accessible.RowHeader
     Accessible.name: Figures.joined([objective.name, objective.owner, objective.score], ", ")
 
     Rectangle {
         id: tile
 
-        width: 64
-        height: 56
+        width: Tokens.fit(64)
+        height: Tokens.fit(56)
         radius: Tokens.radiusCard
         color: head.colors.tint
 

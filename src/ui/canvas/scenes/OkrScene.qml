@@ -11,7 +11,7 @@ ArtScene {
     readonly property real headWidth: wide ? Math.min(392, inner * 0.42) : narrow ? 0 : inner * 0.4
     readonly property real titleWidth: Math.min(256, (inner - (narrow ? 0 : headWidth + 40)) * (wide ? 0.48 : 0.42))
     /// Titles that do not fit take two lines.
-    readonly property int resultHeight: titles.wanted > titleWidth ? 46 : 38
+    readonly property int resultHeight: Tokens.fit(titles.wanted > titleWidth ? 46 : 38)
     /// Height that the rows do not need.
     readonly property real spare: Math.max(0, list.height - results.count * resultHeight - list.count * 30)
 

@@ -18,7 +18,7 @@ Rectangle {
     readonly property string verdict: better ? qsTr("Recommended") : even ? qsTr("Even") : ""
     readonly property real nameX: 18 + disc.width + 12
 
-    implicitHeight: 64
+    implicitHeight: Tokens.fit(64)
     radius: Tokens.radiusCard
     color: better ? colors.tint : Tokens.surface
     border.width: 1

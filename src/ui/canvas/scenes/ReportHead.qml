@@ -43,7 +43,7 @@ Item {
                 art: head.art
                 place: index
                 width: head.cardWidth
-                height: head.lines === 0 ? 148 : 118
+                height: Tokens.fit(head.lines === 0 ? 148 : 118)
                 card: modelData
             }
         }

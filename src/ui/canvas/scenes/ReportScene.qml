@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Kiv.Canvas
+import Kiv.Tokens
 
 // Headline figures as cards, and the highlights of the answer below them.
 ArtScene {
@@ -20,7 +21,7 @@ ArtScene {
         id: list
 
         /// What the highlights share, when there is more than they need.
-        readonly property real lineHeight: Math.max(40, Math.min(60, Math.floor((height - topMargin - headHeight) / Math.max(1, report.lines))))
+        readonly property real lineHeight: Math.max(Tokens.fit(40), Math.min(Tokens.fit(60), Math.floor((height - topMargin - headHeight) / Math.max(1, report.lines))))
 
         art: report
         // Room for the ring of a card.

@@ -39,7 +39,7 @@ Item {
         Accessible.ignored: true
     }
     Rectangle {
-        y: 34
+        y: Tokens.fit(34)
         width: parent.width
         height: 2
         radius: 1
@@ -50,7 +50,7 @@ Item {
 
         board: column.board
         column: column.index
-        y: 50
+        y: Tokens.fit(34) + 16
         width: parent.width
         height: parent.height - y
         spacing: 10

@@ -16,7 +16,7 @@ Item {
     /// Towards the left.
     property bool mirrored: false
 
-    implicitHeight: 20
+    implicitHeight: Tokens.fit(20)
 
     ValueBar {
         anchors.verticalCenter: parent.verticalCenter

@@ -15,9 +15,11 @@ SceneRow {
     required property bool measured
     /// What the whole track stands for, in per cent.
     required property real full
+    /// Room for the longest verdict.
+    required property real verdictWidth
 
     /// Beside the figure on a wide sheet, else under it.
-    readonly property int goalWidth: measured && !art.narrow ? 84 : 0
+    readonly property int goalWidth: measured && !art.narrow ? Tokens.fit(84) : 0
     readonly property real figureEnd: chip.x - (chip.width > 0 ? 16 : 0) - (goalWidth > 0 ? goalWidth + 24 : 0)
     readonly property bool hasTarget: modelData.target >= 0
     readonly property string verdict: hasTarget ? (modelData.good ? qsTr("On track") : qsTr("Behind"))
@@ -90,7 +92,7 @@ SceneRow {
         x: parent.width - width
         anchors.verticalCenter: parent.verticalCenter
         visible: text !== ""
-        width: row.measured ? 88 : 0
+        width: row.measured ? row.verdictWidth : 0
         tone: row.modelData.good ? Chip.Good : Chip.Bad
         iconName: row.modelData.good ? "check" : "bang"
         text: row.verdict

@@ -55,13 +55,23 @@ ArtScene {
         field: "note"
         style: Tokens.type.small
     }
+    FontMetrics {
+        id: verdicts
+
+        readonly property real wanted: 36 + Math.max(advanceWidth(qsTr("On track")), advanceWidth(qsTr("Behind")),
+            advanceWidth(qsTr("Blocked")))
+
+        font.family: Tokens.family
+        font.pixelSize: Tokens.type.captionMedium.size
+        font.weight: Tokens.type.captionMedium.weight
+    }
     Label {
         id: summary
 
         x: status.side
         y: status.headroom
         width: status.inner
-        height: text === "" ? 0 : 24
+        height: text === "" ? 0 : Tokens.fit(24)
         style: Tokens.type.smallStrong
         text: status.scene.statusSummary
     }
@@ -72,7 +82,7 @@ ArtScene {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: status.footroom
         art: status
-        leastRow: status.narrow ? 60 : 56
+        leastRow: Tokens.fit(status.narrow ? 60 : 56)
         mostRow: 88
         model: SceneModel {
             rows: status.scene.streams
@@ -86,6 +96,7 @@ ArtScene {
             figureWidth: figures.wanted + 22
             measured: targets.highest >= 0 || judged.lowest < 1
             full: status.full
+            verdictWidth: verdicts.wanted
         }
     }
 }

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Scene
+import Kiv.Tokens
 
 // The figures beside the parts, below their rows.
 Item {
@@ -40,7 +41,7 @@ Item {
                 art: figures.art
                 place: (figures.art?.scene.ueRows.length ?? 0) + index
                 width: figures.cardWidth
-                height: 118
+                height: Tokens.fit(118)
                 card: modelData
             }
         }

@@ -57,9 +57,9 @@ ArtScene {
 
         readonly property real room: unit.height - unit.headroom - unit.footroom
         /// Beside the ring the rows stand in the middle of the height.
-        readonly property real linesHeight: Math.min(room, unit.parts * 52)
+        readonly property real linesHeight: Math.min(room, unit.parts * Tokens.fit(52))
         readonly property real below: footerItem?.height ?? 0
-        readonly property real lineHeight: Math.floor(Math.max(40, Math.min(52, (height - below) / Math.max(1, unit.parts))))
+        readonly property real lineHeight: Math.floor(Math.max(Tokens.fit(40), Math.min(Tokens.fit(52), (height - below) / Math.max(1, unit.parts))))
 
         art: unit
         focus: !unit.beside || unit.current < unit.parts

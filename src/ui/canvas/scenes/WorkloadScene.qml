@@ -41,7 +41,7 @@ ArtScene {
         anchors.bottom: legend.top
         anchors.bottomMargin: 12
         art: workload
-        leastRow: 52
+        leastRow: Tokens.fit(52)
         mostRow: 68
         model: SceneModel {
             rows: workload.scene.wlRows

@@ -1,0 +1,221 @@
+#include "ui/EveryPlace.h"
+#include "ui/SceneView.h"
+
+#include <QAccessible>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+namespace {
+
+/// What has happened for a screen reader, by the name of what it happened to.
+QStringList *heard = nullptr;
+
+void hear(QAccessibleEvent *event) {
+    if (event->type() == QAccessible::Alert && heard && event->accessibleInterface())
+        heard->append(event->accessibleInterface()->text(QAccessible::Name));
+}
+
+QString described(QAccessibleInterface *item) {
+    const QObject *object = item->object();
+    return u"%1 %2 “%3”"_s.arg(QString::number(item->role(), 16),
+                               object ? QLatin1StringView(object->metaObject()->className())
+                                      : QLatin1StringView(),
+                               item->text(QAccessible::Name).left(40)) +
+           (object ? u" "_s + object->objectName() : QString());
+}
+
+bool isInteractive(QAccessible::Role role) {
+    static const QSet<int> roles{
+        QAccessible::Button,   QAccessible::CheckBox, QAccessible::RadioButton,
+        QAccessible::MenuItem, QAccessible::ListItem, QAccessible::EditableText,
+        QAccessible::ComboBox, QAccessible::Link,     QAccessible::Slider,
+        QAccessible::SpinBox,  QAccessible::PageTab,  QAccessible::ButtonMenu,
+        QAccessible::Row,      QAccessible::Dialog};
+    return roles.contains(role);
+}
+
+/// What is wrong in the tree below an item.
+class TreeWalk {
+public:
+    QStringList faults;
+
+    void look(QAccessibleInterface *item, QAccessibleInterface *group = nullptr) {
+        if (item->state().invisible)
+            return;
+        const QString name = item->text(QAccessible::Name).trimmed();
+        const QAccessible::Role role = item->role();
+        if ((isInteractive(role) || item->state().focusable) && name.isEmpty())
+            faults.append(u"no name: "_s + described(item));
+        if (item->state().focusable && (role == QAccessible::NoRole || role == QAccessible::Client))
+            faults.append(u"no role: "_s + described(item));
+        const bool isGroup = role == QAccessible::Grouping || role == QAccessible::Pane;
+        if (isGroup && (name.isEmpty() || shownChildren(item) == 0))
+            faults.append(u"a group of nothing: "_s + described(item));
+        if (isGroup && group && group->text(QAccessible::Name).trimmed() == name)
+            faults.append(u"a group in its like: "_s + described(item));
+        for (int i = 0; i < item->childCount(); ++i)
+            look(item->child(i), isGroup ? item : group);
+    }
+
+private:
+    static int shownChildren(QAccessibleInterface *item) {
+        int shown = 0;
+        for (int i = 0; i < item->childCount(); ++i)
+            shown += !item->child(i)->state().invisible;
+        return shown;
+    }
+};
+
+/// Where the tab key leads, from where the focus is until it is there again.
+QList<QQuickItem *> tabStops(Gallery &gallery) {
+    constexpr int most = 150;
+    QList<QQuickItem *> stops;
+    for (int i = 0; i < most; ++i) {
+        gallery.press(Qt::Key_Tab);
+        QQuickItem *item = gallery.window().activeFocusItem();
+        if (stops.contains(item))
+            break;
+        stops.append(item);
+    }
+    return stops;
+}
+
+QStringList faultsOfStops(const QList<QQuickItem *> &stops) {
+    QStringList faults;
+    for (QQuickItem *stop : stops) {
+        QAccessibleInterface *item = QAccessible::queryAccessibleInterface(stop);
+        if (!item) {
+            faults.append(u"a stop that nobody reads: "_s +
+                          QLatin1StringView(stop->metaObject()->className()) + u' ' +
+                          stop->objectName());
+            continue;
+        }
+        if (item->text(QAccessible::Name).trimmed().isEmpty())
+            faults.append(u"a stop without a name: "_s + described(item));
+        const QRectF shown =
+            shownPart(stop, stop->boundingRect()) & QRectF(QPointF(), stop->window()->size());
+        if (!stop->isVisible() || shown.isEmpty())
+            faults.append(u"a stop out of sight: "_s + described(item));
+    }
+    return faults;
+}
+
+} // namespace
+
+/// What a screen reader and the tab key find in the window.
+class AccessTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QAccessible::setActive(true); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s)); }
+    void everyPlace_data();
+    void everyPlace();
+    void everyScene_data();
+    void everyScene();
+    void areasInOrder();
+    void answersOnce();
+};
+
+void AccessTest::everyPlace_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("wide") << QSize(1440, 900);
+    QTest::newRow("least") << QSize(1024, 680);
+}
+
+void AccessTest::everyPlace() {
+    QFETCH(QSize, size);
+    QStringList faults;
+    Gallery gallery;
+    gallery.setReducedMotion(true);
+    visitEveryPlace(gallery, {.size = size}, [&](const QString &place) {
+        TreeWalk walk;
+        walk.look(QAccessible::queryAccessibleInterface(&gallery.window()));
+        QQuickItem *focused = gallery.window().activeFocusItem();
+        const QStringList all = walk.faults + faultsOfStops(tabStops(gallery));
+        for (const QString &fault : all)
+            faults.append(place + u": "_s + fault);
+        if (focused)
+            focused->forceActiveFocus(Qt::OtherFocusReason);
+    });
+    faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+}
+
+void AccessTest::everyScene_data() {
+    QTest::addColumn<QString>("name");
+    for (const SceneAnswer &answer : sceneAnswers()) {
+        if (!answer.name.contains(u' '))
+            QTest::newRow(qPrintable(answer.name)) << answer.name;
+    }
+}
+
+/// A scene is one stop, and its rows are read one by one.
+void AccessTest::everyScene() {
+    QFETCH(QString, name);
+    SceneView view;
+    view.show(sceneOf(answerNamed(name)));
+    TreeWalk walk;
+    walk.look(QAccessible::queryAccessibleInterface(&view.gallery.window()));
+    const QStringList faults = walk.faults + faultsOfStops(tabStops(view.gallery));
+    QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
+}
+
+/// The tab key goes through one area after the other: top bar, rail, canvas, dock.
+void AccessTest::areasInOrder() {
+    Workspace workspace;
+    Gallery gallery;
+    QVERIFY(workspace.signIn());
+    gallery.open(*workspace.store, {1440, 900});
+    QVERIFY(workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s));
+    gallery.item(u"menuButton"_s)->forceActiveFocus(Qt::TabFocusReason);
+    const double railEnd = workspace.store->layout()->shownRailW();
+    int area = 0;
+    QStringList seen;
+    for (const QQuickItem *stop : tabStops(gallery)) {
+        const QPointF place = stop->mapToScene(QPointF(stop->width() / 2, stop->height() / 2));
+        const int here = place.y() < 52 ? 0 : place.x() <= railEnd + 4 ? 1 : 2;
+        seen.append(u"%1 %2"_s.arg(here).arg(stop->objectName()));
+        if (here == 0 && area == 2)
+            break; // around
+        QVERIFY2(here >= area, qPrintable(seen.join(u'\n')));
+        area = here;
+    }
+    QCOMPARE(area, 2);
+}
+
+/// An answer is told of when it is complete, and never again.
+void AccessTest::answersOnce() {
+    QStringList told;
+    heard = &told;
+    const auto before = QAccessible::installUpdateHandler(hear);
+    Workspace workspace;
+    Gallery gallery;
+    QVERIFY(workspace.signIn());
+    gallery.open(*workspace.store, {1440, 900});
+    workspace.store->chat()->send(u"How was the week?"_s);
+    workspace.row(101, u"How was the week?"_s, u"user"_s);
+    for (const char *text : {"A **good**", "A **good** week", "A **good** week [so far](x)."}) {
+        workspace.row(102, QLatin1StringView(text));
+        QTest::qWait(30);
+        workspace.clock.advance(300ms);
+    }
+    QCOMPARE(told, QStringList());
+    QVERIFY(workspace.settle(QString()));
+    QTRY_COMPARE(told, QStringList{u"KIV has answered: A good week so far."_s});
+    workspace.row(102, u"A **good** week [so far](x). And more."_s);
+    QTest::qWait(30);
+    QVERIFY(workspace.settle(QString()));
+    QCOMPARE(told.size(), 1);
+    QAccessible::installUpdateHandler(before);
+    heard = nullptr;
+}
+
+} // namespace kiv::ui
+
+QTEST_MAIN(kiv::ui::AccessTest)
+#include "AccessTest.moc"

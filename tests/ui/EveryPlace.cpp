@@ -1,0 +1,237 @@
+#include "ui/EveryPlace.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::ui {
+
+namespace {
+
+void require(bool condition, const char *what) {
+    if (!condition)
+        qFatal("The window does not come to %s", what);
+}
+
+/// The way through the window.
+class Way {
+public:
+    Way(Gallery &gallery, const Look &look, const std::function<void(const QString &)> &visit)
+        : m_gallery(gallery), m_look(look), m_visit(visit) {
+        answerAccount();
+    }
+
+    void go() {
+        signedOut();
+        conversation();
+        popovers();
+        dialogs();
+        panels();
+        accountPages();
+        wizard();
+    }
+
+private:
+    void signedOut();
+    void conversation();
+    void popovers();
+    void dialogs();
+    void panels();
+    void accountPages();
+    void wizard();
+    void answerAccount();
+
+    void visit(const char *place) { m_visit(QLatin1StringView(place)); }
+    /// Opens what an item opens, visits it and closes it.
+    void visitBehind(const char *item, const char *place) {
+        m_gallery.click(QLatin1StringView(item));
+        QTest::qWait(200);
+        visit(place);
+        escape();
+    }
+    void escape() {
+        m_gallery.press(Qt::Key_Escape);
+        QTest::qWait(200);
+    }
+    void click(const char *item) {
+        QTest::qWait(20);
+        m_gallery.click(QLatin1StringView(item));
+    }
+    store::AppStore &store() { return *m_workspace.store; }
+
+    Workspace m_workspace;
+    Gallery &m_gallery;
+    const Look &m_look;
+    const std::function<void(const QString &)> &m_visit;
+};
+
+void Way::answerAccount() {
+    m_workspace.backend.answer(u"GET api/v2/user/profile"_s,
+                               R"({"email":"lead@night-ferry.example","full_name":"Ona Lindqvist",
+        "handle":"ona.lindqvist","company_name":"Harbour & Lane","company_size":"51–200",
+        "industry":"Transport","time_zone":"Europe/Oslo","preferred_language":"English",
+        "preferred_country":"Norway","preferred_sectors":["Logistics","Public services"],
+        "communication_style":"balanced","working_hours_start":"09:00","working_hours_end":"17:30",
+        "working_hours_days":"Mon, Tue","goals_md":"# Goals\n\nShip the **guided sign-up**."})");
+    m_workspace.backend.answer(u"GET api/v2/user/plan"_s,
+                               R"({"name":"Team","plan_key":"team","token_limit":2000000,
+        "spent_tokens":1240500,"tokens_left":759500})");
+    m_workspace.backend.answer(u"GET api/v2/user/wallet"_s,
+                               R"({"wallet":{"balance_credits":1212.4,"available_credits":180}})");
+    m_workspace.backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
+}
+
+void Way::signedOut() {
+    require(m_workspace.bootSignedOut(), "its start");
+    store().appearance()->presetLanguage(m_look.language);
+    store().appearance()->presetTextSize(m_look.textSize);
+    m_gallery.setDark(m_look.dark);
+    m_gallery.open(store(), m_look.size);
+    visit("signed-out");
+    m_gallery.click(u"signInButton"_s);
+    visit("sign-in");
+    click("switchAuthMode");
+    m_gallery.type(u"lead@night-ferry.example"_s);
+    m_gallery.press(Qt::Key_Tab);
+    m_gallery.type(u"short"_s);
+    m_gallery.press(Qt::Key_Return);
+    visit("sign-up");
+    escape();
+}
+
+void Way::conversation() {
+    m_workspace.backend.answer(
+        u"GET api/v2/auth/me"_s,
+        R"({"id":"u1","email":"lead@night-ferry.example","name":"Ona Lindqvist"})");
+    require(m_workspace.signIn(), "its conversation");
+    visit("empty");
+    store().chat()->send(u"Tell me a story"_s);
+    visit("thinking");
+    require(m_workspace.ask(u"Tell me a story"_s, u"Once there was a ferry."_s, QString()),
+            "its hint");
+    visit("hint");
+    require(m_workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s),
+            "its report");
+    visit("report");
+    m_workspace.connectivity.setOnline(false);
+    visit("offline");
+    m_workspace.connectivity.setOnline(true);
+}
+
+void Way::popovers() {
+    m_gallery.press(Qt::Key_F10);
+    QTest::qWait(200);
+    visit("menu");
+    escape();
+    visitBehind("scopeButton", "scope");
+    visitBehind("historyButton", "history");
+    visitBehind("profileButton", "profile");
+    visitBehind("exportButton", "export");
+    visitBehind("refineButton", "refine");
+    m_gallery.press(Qt::Key_J, Qt::ControlModifier);
+    QTest::qWait(400);
+    visit("dock");
+    visitBehind("moreButton", "more");
+    click("findButton");
+    m_gallery.type(u"week"_s);
+    visit("find");
+    escape();
+    m_gallery.press(Qt::Key_J, Qt::ControlModifier);
+    QTest::qWait(400);
+    m_gallery.press(Qt::Key_Backslash, Qt::ControlModifier);
+    visit("strip");
+    m_gallery.press(Qt::Key_Backslash, Qt::ControlModifier);
+}
+
+void Way::dialogs() {
+    m_gallery.press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    m_gallery.item(u"paletteSearch"_s);
+    visit("palette");
+    m_gallery.type(m_look.language == store::Language::Russian ? u"клавиш"_s : u"keyboard"_s);
+    m_gallery.press(Qt::Key_Return);
+    m_gallery.item(u"shortcutList"_s);
+    visit("shortcuts");
+    escape();
+    m_gallery.commands().perform(Command::About);
+    m_gallery.item(u"aboutVersion"_s);
+    visit("about");
+    escape();
+    m_gallery.press(Qt::Key_D, Qt::ControlModifier);
+    visit("toast");
+}
+
+void Way::panels() {
+    store().scope()->enterProject(u"ferry"_s);
+    require(m_workspace.streaming(u"api/v2/projects/ferry/chat"_s, 1), "a project");
+    visit("project");
+    visitBehind("eventsButton", "events");
+    for (const char *panel : {"agents", "events"}) {
+        store().canvas()->openPanel(QLatin1StringView(panel));
+        require(QTest::qWaitFor([&] { return !store().events()->eventsLoading(); }), panel);
+        m_visit(QLatin1StringView(panel) + u"-page"_s);
+    }
+    store().canvas()->closePanel();
+}
+
+void Way::accountPages() {
+    store().layout()->openAccount(u"profile"_s);
+    require(QTest::qWaitFor([&] {
+                return store().account()->profileLoad() == store::LoadState::Ready &&
+                       store().account()->budgetLoad() == store::LoadState::Ready;
+            }),
+            "the account");
+    for (const char *tab :
+         {"plan", "security", "sources", "voice", "notifications", "memory", "profile"}) {
+        click(qPrintable(QLatin1StringView(tab) + u"Tab"_s));
+        m_gallery.item(QLatin1StringView(tab) + u"Page"_s);
+        m_visit(u"account-"_s + QLatin1StringView(tab));
+    }
+    click("country");
+    QTest::qWait(200);
+    visit("account-list");
+    escape();
+    click("memoryTab");
+    click("goals_md");
+    m_gallery.item(u"documentText"_s);
+    visit("account-editor");
+    click("documentText");
+    m_gallery.type(u"x"_s);
+    click("leaveAccount");
+    m_gallery.item(u"leaveAnyway"_s);
+    visit("leave");
+    click("leaveAnyway");
+    QTest::qWait(200);
+}
+
+void Way::wizard() {
+    m_gallery.commands().perform(Command::NewAgent);
+    m_gallery.item(u"template:empty"_s);
+    visit("create-template");
+    click("wizardStep1");
+    visit("create-kind");
+    click("wizardNext");
+    click("template:researcher");
+    click("wizardNext");
+    m_gallery.type(u"2"_s);
+    visit("create-details");
+    click("wizardNext");
+    visit("create-tools");
+    click("wizardNext");
+    visit("create-review");
+    escape();
+    m_gallery.item(u"keepEditing"_s);
+    visit("create-asked");
+    click("discardDraft");
+}
+
+} // namespace
+
+void visitEveryPlace(Gallery &gallery, const Look &look,
+                     const std::function<void(const QString &)> &visit) {
+    Way way(gallery, look, visit);
+    way.go();
+    gallery.close();
+}
+
+} // namespace kiv::ui
