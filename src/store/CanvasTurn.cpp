@@ -110,7 +110,7 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
     if (gen != m_store.chat()->chatGen() || row < 0)
         co_return;
     const Msg answer = messages->messages().at(row);
-    m_store.chat()->answerSettled();
+    m_store.chat()->answerSettled(answer.id);
     m_awaitingAnswer = false;
     if (!answer.serverID)
         co_return; // drawn when it came

@@ -169,8 +169,7 @@ QCoro::Task<void> ChatRoom::watchAnswer(Cancel cancel) {
     // An answer that is being written has come; it settles by itself.
     if (!m_store.canvas()->awaitingAnswer() || !m_msgs.growing().isNull())
         co_return;
-    endWaiting();
-    m_store.canvas()->failTurn();
+    failTurn();
 }
 
 QCoro::Task<void> ChatRoom::post(Post post, Cancel cancel) {
@@ -241,11 +240,15 @@ void ChatRoom::failPost(const Post &post, const std::exception &error) {
     failed.failed = true;
     m_store.attachments()->putBack(failed.attachments);
     m_msgs.update(row, std::move(failed));
-    if (post.message == m_turn) {
-        endWaiting();
-        m_store.canvas()->failTurn();
-    }
+    if (post.message == m_turn)
+        failTurn();
     m_msgs.append(localMsg(Who::Agent, liveSendNote(error)));
+}
+
+void ChatRoom::failTurn() {
+    endWaiting();
+    m_store.canvas()->failTurn();
+    Q_EMIT answerFailed();
 }
 
 void ChatRoom::endWaiting() {
@@ -255,12 +258,13 @@ void ChatRoom::endWaiting() {
     m_msgs.setGrowing({});
 }
 
-void ChatRoom::answerSettled() {
+void ChatRoom::answerSettled(const QUuid &answer) {
     m_watchdog.cancel();
     m_canStop = false;
     m_msgs.setGrowing({});
     // An agent that answers may have done something worth an event.
     m_store.events()->loadEvents();
+    Q_EMIT answerEnded(answer);
 }
 
 void ChatRoom::stopLive() {

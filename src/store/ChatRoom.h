@@ -81,12 +81,16 @@ public:
     void markSeen();
     /// Puts a line under the composer, or takes it away with an empty text.
     void showNote(const QString &note) { m_chatNote = note; }
-    /// The answer is no longer waited for; the canvas says so when it settled or gave up.
-    void answerSettled();
+    /// This answer is no longer waited for; the canvas says so when it has settled.
+    void answerSettled(const QUuid &answer);
     /// The person leaves for good: nothing of what they typed is kept.
     void forgetTyped();
 
 Q_SIGNALS:
+    /// The answer to the question of this turn is complete, as far as can be told.
+    void answerEnded(const QUuid &answer);
+    /// The question of this turn gets no answer.
+    void answerFailed();
     void draftChanged();
     void feedWindowChanged();
     void seenMsgsChanged();
@@ -121,6 +125,7 @@ private:
     void resumeTurn();
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     bool isStoppable() const { return m_connected && m_connected->isAgent(); }
+    void failTurn();
     void endWaiting();
     bool isShown() const;
     void countUnseen();
