@@ -18,6 +18,8 @@ struct Options {
     /// The look of this run; nothing for the one that the person has chosen.
     std::optional<store::Theme> theme;
     Places places;
+    /// Links to chats, to be opened; they may be anything.
+    QStringList links;
     /// Further arguments of the embedded server.
     QStringList sandboxArguments;
 };
