@@ -2,6 +2,8 @@
 
 #include "ui/shell/Commands.h"
 
+#include <functional>
+
 class QWindow;
 
 namespace kiv::store {
@@ -19,9 +21,12 @@ public:
     explicit AppDelegate(store::AppStore &store);
 
     void setWindow(QWindow *window) { m_window = window; }
+    /// Who knows what is asked for by "Copy diagnostics"; nothing is told without.
+    void setDiagnostics(std::function<QString()> tell) { m_diagnostics = std::move(tell); }
 
     QList<ui::MenuDescription> menus() const override;
     void perform(ui::Command command) override;
+    QString diagnostics() const override { return m_diagnostics ? m_diagnostics() : QString(); }
 
 private:
     void toggleCall();
@@ -31,6 +36,7 @@ private:
 
     store::AppStore &m_store;
     QWindow *m_window = nullptr;
+    std::function<QString()> m_diagnostics;
 };
 
 } // namespace kiv::app

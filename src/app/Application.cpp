@@ -1,12 +1,16 @@
 #include "app/Application.h"
 
+#include "base/AppVersion.h"
 #include "base/BaseUrl.h"
+#include "desktop/Diagnostics.h"
+#include "desktop/Instance.h"
 #include "ui/Modules.h"
 #include "voice/FileDevices.h"
 #include "voice/MicrophoneHost.h"
 
 #include <QFile>
 #include <QQuickWindow>
+#include <QSGRendererInterface>
 
 namespace kiv::app {
 
@@ -24,7 +28,27 @@ void letPagesHear(const QString &file) {
                           .trimmed());
 }
 
+constexpr qsizetype reportedLines = 40;
+const QString askAction = u"ask-kiv"_s;
+
+QString drawnBy(const QQuickWindow *window) {
+    switch (window->rendererInterface()->graphicsApi()) {
+    case QSGRendererInterface::OpenGL:
+        return u"OpenGL"_s;
+    case QSGRendererInterface::Software:
+        return u"software"_s;
+    default:
+        return u"other"_s;
+    }
+}
+
 } // namespace
+
+Application::Ground::Ground(const Options &options) : log(options.places.logFile) {
+    log.capture();
+    log.write(QtInfoMsg, u"KIV %1 starts"_s.arg(AppVersion::running().display()));
+    options.places.adoptEarlier();
+}
 
 void Application::prepareProcess() {
     // A web engine that is loaded later draws with what the window draws with.
@@ -34,9 +58,14 @@ void Application::prepareProcess() {
 
 Application::Application(const Options &options)
     : m_options(options),
+      m_ground(options),
       m_settings(options.places.settingsFile, QSettings::IniFormat),
-      m_frame(m_settings, m_clock),
-      m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile)),
+      m_state(options.places.stateFile, QSettings::IniFormat),
+      m_frame(m_state, m_clock),
+      // A profile of its own is whole in its folder.
+      m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile,
+                                             options.places.profile.isEmpty() ? &m_keyChain
+                                                                              : nullptr)),
       m_webHost(options.places.webPlugin) {
     m_store = std::make_unique<store::AppStore>(
         m_clock, *m_net, m_settings, options.places.draftsFile,
@@ -44,6 +73,15 @@ Application::Application(const Options &options)
     m_store->attachments()->setChooser(&m_chooser);
     m_store->account()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
+    m_delegate->setDiagnostics([this] { return diagnostics(); });
+    m_notes = std::make_unique<AnswerNotes>(*m_store, m_notifier);
+    QObject::connect(&m_notifier, &desktop::Notifier::clicked, m_store.get(),
+                     [this](const QString &topic, const QString &token) {
+                         raise(token);
+                         openLink(topic);
+                     });
+    QObject::connect(&m_net->cookies(), &net::PersistentCookieJar::joined, m_store.get(),
+                     [this] { bootAgain(); });
     m_store->setWebHost(&m_webHost);
     if (options.audioFile.isEmpty()) {
         m_microphones = std::make_unique<voice::MicrophoneHost>(options.places.micPlugin);
@@ -77,6 +115,7 @@ void Application::start() {
     }
     ui::showMainWindow(m_engine, *m_store, *m_delegate, look);
     m_delegate->setWindow(window());
+    m_notes->setWindow(window());
     m_chooser.setWindow(window());
     if (window() && !m_options.snapshot)
         m_frame.follow(window(), look.frame.value_or(window()->geometry()));
@@ -96,12 +135,72 @@ QCoro::Task<void> Application::connectToBackend(Cancel cancel) {
             m_net->setBaseUrl(greeting.url);
             m_store->session()->offerSample(greeting.sample);
         }
-        m_store->boot();
+        boot();
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
         qCritical("%s", error.what());
         m_store->session()->reportUnavailable(QString::fromUtf8(error.what()));
     }
+}
+
+/// Who is signed in is asked when the session is there, or known to be nowhere.
+void Application::boot() {
+    net::PersistentCookieJar &cookies = m_net->cookies();
+    if (cookies.isWaiting())
+        QObject::connect(&cookies, &net::PersistentCookieJar::settled, m_store.get(),
+                         &store::AppStore::boot, Qt::SingleShotConnection);
+    else
+        m_store->boot();
+}
+
+/// The key chain was unlocked late: nobody has to sign in who was signed in.
+void Application::bootAgain() {
+    if (m_store->scope()->auth() == store::AuthPhase::Anon && !m_store->session()->busy())
+        m_store->boot();
+}
+
+void Application::serve(desktop::Instance &instance) {
+    QObject::connect(&instance, &desktop::Instance::activated, m_store.get(),
+                     [this](const QString &token) { raise(token); });
+    QObject::connect(&instance, &desktop::Instance::linkOpened, m_store.get(),
+                     [this](const QString &link) { openLink(link); });
+    QObject::connect(&instance, &desktop::Instance::actionChosen, m_store.get(),
+                     [this](const QString &action) {
+                         if (action == askAction)
+                             m_store->door()->open({});
+                     });
+}
+
+void Application::openLink(const QString &link) {
+    if (const auto chat = store::ChatLink::parse(link))
+        m_store->door()->open(*chat);
+    else
+        qWarning("A link that is no link to a chat was not followed");
+}
+
+void Application::raise(const QString &token) {
+    QQuickWindow *shown = window();
+    if (!shown)
+        return;
+    // The platform's plugin takes the desktop's leave from there, once.
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
+    shown->setWindowStates(shown->windowStates() & ~Qt::WindowMinimized);
+    shown->show();
+    shown->raise();
+    shown->requestActivate();
+}
+
+QString Application::diagnostics() const {
+    QList<std::pair<QString, QString>> facts{
+        {u"Workspace"_s, m_options.baseUrl ? u"hosted"_s : u"embedded"_s},
+        {u"Look"_s, m_store->appearance()->dark() ? u"dark"_s : u"light"_s},
+        {u"Profile"_s, m_options.places.profile.isEmpty() ? u"the user's"_s : u"its own"_s}};
+    if (const QQuickWindow *shown = window()) {
+        facts.append({u"Drawn by"_s, drawnBy(shown)});
+        facts.append({u"Window"_s, u"%1 x %2"_s.arg(shown->width()).arg(shown->height())});
+    }
+    return desktop::diagnostics(facts, m_ground.log.lastLines(reportedLines));
 }
 
 QQuickWindow *Application::window() const {

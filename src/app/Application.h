@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/AnswerNotes.h"
 #include "app/AppDelegate.h"
 #include "app/EmbeddedServer.h"
 #include "app/Options.h"
@@ -7,6 +8,9 @@
 #include "app/WindowFrame.h"
 #include "base/SystemClock.h"
 #include "base/Work.h"
+#include "desktop/KeychainStore.h"
+#include "desktop/LogFile.h"
+#include "desktop/Notifier.h"
 #include "net/APIClient.h"
 #include "net/Connectivity.h"
 #include "net/PersistentCookieJar.h"
@@ -21,6 +25,10 @@
 #include <memory>
 
 class QQuickWindow;
+
+namespace kiv::desktop {
+class Instance;
+}
 
 namespace kiv::app {
 
@@ -37,18 +45,36 @@ public:
     /// Shows the window and begins to talk to the backend.
     void start();
 
+    /// Does what other starts of the program and the desktop ask of this one.
+    void serve(desktop::Instance &instance);
+    /// Opens the chat that a link names; one that is no such link is not followed.
+    void openLink(const QString &link);
+
     QQuickWindow *window() const;
     store::AppStore &store() { return *m_store; }
 
 private:
+    /// Keeps files that must be where they belong before anything reads them.
+    struct Ground {
+        explicit Ground(const Options &options);
+        desktop::LogFile log;
+    };
+
     QCoro::Task<void> connectToBackend(Cancel cancel);
+    void boot();
+    void bootAgain();
+    void raise(const QString &token);
+    QString diagnostics() const;
 
     Options m_options;
+    Ground m_ground;
     SystemClock m_clock;
     QSettings m_settings;
+    QSettings m_state;
     WindowFrame m_frame;
     SystemLook m_systemLook{QDBusConnection::sessionBus()};
     net::SystemConnectivity m_connectivity;
+    desktop::KeychainStore m_keyChain{QStringLiteral("session")};
     std::unique_ptr<net::APIClient> m_net;
     std::unique_ptr<EmbeddedServer> m_server;
     ui::DialogChooser m_chooser;
@@ -56,6 +82,8 @@ private:
     std::unique_ptr<voice::AudioDevices> m_microphones;
     std::unique_ptr<store::AppStore> m_store;
     std::unique_ptr<AppDelegate> m_delegate;
+    desktop::Notifier m_notifier{QDBusConnection::sessionBus()};
+    std::unique_ptr<AnswerNotes> m_notes;
     QQmlApplicationEngine m_engine;
     Work m_start;
 };

@@ -43,10 +43,13 @@ Options readOptions(const QStringList &arguments) {
     parser.setApplicationDescription(u"Talk to your agents and see what they answer."_s);
     parser.addHelpOption();
     parser.addVersionOption();
+    parser.addPositionalArgument(u"link"_s, u"A chat to open, as kiv://chat/project/NAME."_s,
+                                 u"[link]"_s);
     parser.addOptions({baseUrl, snapshot, theme, language, profile, audioFile});
     parser.process(arguments);
 
     Options options;
+    options.links = parser.positionalArguments();
     options.snapshot = parser.isSet(snapshot);
     if (parser.isSet(theme))
         options.theme = themeNamed(parser.value(theme));

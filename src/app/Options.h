@@ -22,6 +22,8 @@ struct Options {
     Places places;
     /// A WAV file that is heard in place of the microphone; empty for the microphone.
     QString audioFile;
+    /// Links to chats, to be opened; they may be anything.
+    QStringList links;
     /// Further arguments of the embedded server.
     QStringList sandboxArguments;
 };

@@ -1,8 +1,12 @@
 #include "app/Places.h"
 
+#include "app/WindowFrame.h"
+#include "base/PrivateFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 
 namespace kiv::app {
@@ -26,31 +30,62 @@ QString besideProgram(const QString &path) {
     return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(path));
 }
 
+Places in(const QString &config, const QString &data, const QString &state) {
+    return {.settingsFile = config + u"/kiv.conf"_s,
+            .cookieFile = data + u"/cookies"_s,
+            .draftsFile = data + u"/drafts"_s,
+            .workspaceDir = data + u"/workspace"_s,
+            .stateFile = state + u"/window.conf"_s,
+            .logFile = state + u"/kiv.log"_s,
+            .sandboxProgram = findSandbox(),
+            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
+            .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
+}
+
 QString folder(QStandardPaths::StandardLocation location) {
     return QStandardPaths::writableLocation(location) + u"/kiv"_s;
+}
+
+/// Qt 6.4 does not know the folder of states.
+QString stateFolder() {
+    const QString named = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString base =
+        QDir::isAbsolutePath(named) ? named : QDir::homePath() + u"/.local/state"_s;
+    return base + u"/kiv"_s;
+}
+
+void move(const QString &from, const QString &to) {
+    if (!QFileInfo::exists(from) || QFileInfo::exists(to))
+        return;
+    PrivateFile::makeFolderOf(to);
+    if (!QFile::rename(from, to))
+        qWarning("%s cannot be moved to its new place", qUtf8Printable(from));
 }
 
 } // namespace
 
 Places Places::standard() {
-    return {.settingsFile = folder(QStandardPaths::GenericConfigLocation) + u"/kiv.conf"_s,
-            .cookieFile = folder(QStandardPaths::GenericDataLocation) + u"/cookies"_s,
-            .draftsFile = folder(QStandardPaths::GenericDataLocation) + u"/drafts"_s,
-            .workspaceDir = folder(QStandardPaths::GenericDataLocation) + u"/workspace"_s,
-            .sandboxProgram = findSandbox(),
-            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
-            .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
+    return in(folder(QStandardPaths::GenericConfigLocation),
+              folder(QStandardPaths::GenericDataLocation), stateFolder());
 }
 
-Places Places::below(const QString &profile) {
-    const QDir dir(profile);
-    return {.settingsFile = dir.absoluteFilePath(u"kiv.conf"_s),
-            .cookieFile = dir.absoluteFilePath(u"cookies"_s),
-            .draftsFile = dir.absoluteFilePath(u"drafts"_s),
-            .workspaceDir = dir.absoluteFilePath(u"workspace"_s),
-            .sandboxProgram = findSandbox(),
-            .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
-            .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
+Places Places::below(const QString &folder) {
+    const QDir dir(folder);
+    Places places = in(dir.absoluteFilePath(u"config"_s), dir.absoluteFilePath(u"data"_s),
+                       dir.absoluteFilePath(u"state"_s));
+    places.profile = dir.absolutePath();
+    return places;
+}
+
+void Places::adoptEarlier() const {
+    if (!profile.isEmpty()) {
+        const QDir dir(profile);
+        for (const QString &now : {settingsFile, cookieFile, draftsFile, workspaceDir})
+            move(dir.filePath(QFileInfo(now).fileName()), now);
+    }
+    QSettings settings(settingsFile, QSettings::IniFormat);
+    QSettings state(stateFile, QSettings::IniFormat);
+    WindowFrame::moveFrame(settings, state);
 }
 
 } // namespace kiv::app

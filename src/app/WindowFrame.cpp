@@ -63,6 +63,18 @@ bool WindowFrame::wasMaximized() const {
     return m_settings.value(maximizedKey).toBool();
 }
 
+void WindowFrame::moveFrame(QSettings &from, QSettings &to) {
+    for (const QString &key : {frameKey, maximizedKey}) {
+        if (!from.contains(key))
+            continue;
+        if (!to.contains(key))
+            to.setValue(key, from.value(key));
+        to.sync();
+        if (to.status() == QSettings::NoError)
+            from.remove(key);
+    }
+}
+
 QRect WindowFrame::fitted(const QRect &frame, const QRect &area, const QSize &least) {
     const QSize size = frame.size().expandedTo(least).boundedTo(area.size());
     const int x = std::clamp(frame.x(), area.x(), area.x() + area.width() - size.width());

@@ -17,7 +17,7 @@ namespace kiv::app {
 class WindowFrame : public QObject {
     Q_OBJECT
 public:
-    /// Settings and clock outlive this.
+    /// Settings, which hold nothing but the frame, and clock outlive this.
     WindowFrame(QSettings &settings, Clock &clock);
 
     /// The frame to open with: the saved one, moved and cut so that it lies on a screen that is
@@ -30,6 +30,9 @@ public:
     void follow(QWindow *window, const QRect &frame);
     /// Saves at once.
     void save();
+
+    /// Takes a frame that stands among other settings out of them, unless there is one already.
+    static void moveFrame(QSettings &from, QSettings &to);
 
     /// `frame` within the free area of a screen, not smaller than `least` unless the area is.
     static QRect fitted(const QRect &frame, const QRect &area, const QSize &least);

@@ -11,13 +11,13 @@ namespace {
 constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 constexpr auto ownerFolder = ownerFile | QFileDevice::ExeOwner;
 
-void makeFolderOf(const QString &path) {
+} // namespace
+
+void PrivateFile::makeFolderOf(const QString &path) {
     const QString folder = QFileInfo(path).absolutePath();
     if (!QFileInfo::exists(folder) && QDir().mkpath(folder))
         QFile::setPermissions(folder, ownerFolder);
 }
-
-} // namespace
 
 QString PrivateFile::write(const QString &path, const QByteArray &bytes) {
     makeFolderOf(path);

@@ -6,6 +6,9 @@
 /// Files that nobody but this user may read.
 namespace kiv::PrivateFile {
 
+/// Makes the folder that `path` stands in, for this user alone, where there is none.
+void makeFolderOf(const QString &path);
+
 /// Exchanges the whole file, making its folder where there is none; a file that cannot be written
 /// whole is left as it was. Nothing, or why it failed.
 QString write(const QString &path, const QByteArray &bytes);

@@ -32,9 +32,10 @@ QCoro::Task<void> ignoreFailure(QCoro::Task<QByteArray> task) {
 
 } // namespace
 
-APIClient::APIClient(Clock &clock, Connectivity &connectivity, QString cookieFile, QObject *parent)
+APIClient::APIClient(Clock &clock, Connectivity &connectivity, QString cookieFile,
+                     SecretStore *secrets, QObject *parent)
     : QObject(parent),
-      m_cookies(std::move(cookieFile)),
+      m_cookies(std::move(cookieFile), &clock, secrets),
       m_session(HttpEnvironment{&clock, &m_cookies, &connectivity}) {}
 
 HttpRequest APIClient::request(QByteArray method, const QString &path, const Query &query) const {

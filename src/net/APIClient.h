@@ -18,10 +18,10 @@ class APIClient : public QObject {
 public:
     using Query = QList<std::pair<QString, QString>>;
 
-    /// `cookieFile` is where the session survives a restart. The clock and the connectivity
-    /// outlive the client.
+    /// `cookieFile` is where the session survives a restart, with `secrets` the key chain, which
+    /// may be null. Clock, connectivity and key chain outlive the client.
     APIClient(Clock &clock, Connectivity &connectivity, QString cookieFile,
-              QObject *parent = nullptr);
+              SecretStore *secrets = nullptr, QObject *parent = nullptr);
 
     void setBaseUrl(const QUrl &url) { m_baseUrl = url; }
     const QUrl &baseUrl() const { return m_baseUrl; }

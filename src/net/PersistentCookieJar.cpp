@@ -1,14 +1,13 @@
 #include "net/PersistentCookieJar.h"
 
 #include "base/BaseUrl.h"
-#include "base/PrivateFile.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkCookie>
+
+#include <algorithm>
 
 namespace kiv::net {
 
@@ -31,21 +30,28 @@ QJsonObject toJson(QNetworkCookie cookie) {
     return {{hostKey, host}, {cookieKey, QString::fromLatin1(cookie.toRawForm())}};
 }
 
-QList<QNetworkCookie> fromJson(const QJsonObject &entry) {
-    const QString host = entry.value(hostKey).toString();
-    QList<QNetworkCookie> cookies =
-        QNetworkCookie::parseCookies(entry.value(cookieKey).toString().toLatin1());
-    for (QNetworkCookie &cookie : cookies)
-        cookie.setDomain(host);
-    cookies.removeIf([&](const auto &cookie) { return host.isEmpty() || isExpired(cookie); });
-    return cookies;
+QList<QNetworkCookie> fromJson(const QJsonArray &entries) {
+    QList<QNetworkCookie> all;
+    for (const QJsonValue entry : entries) {
+        const QString host = entry[hostKey].toString();
+        const QByteArray form = entry[cookieKey].toString().toLatin1();
+        QList<QNetworkCookie> cookies = QNetworkCookie::parseCookies(form);
+        for (QNetworkCookie &cookie : cookies)
+            cookie.setDomain(host);
+        cookies.removeIf([&](const auto &cookie) { return host.isEmpty() || isExpired(cookie); });
+        all += cookies;
+    }
+    return all;
 }
 
 } // namespace
 
-PersistentCookieJar::PersistentCookieJar(QString path, QObject *parent)
-    : QNetworkCookieJar(parent), m_path(std::move(path)) {
-    load();
+PersistentCookieJar::PersistentCookieJar(QString file, Clock *clock, SecretStore *secrets,
+                                         QObject *parent)
+    : QNetworkCookieJar(parent), m_vault(std::move(file), clock, secrets) {
+    connect(&m_vault, &SessionVault::found, this, &PersistentCookieJar::join);
+    connect(&m_vault, &SessionVault::settled, this, &PersistentCookieJar::settled);
+    setAllCookies(fromJson(m_vault.open()));
 }
 
 PersistentCookieJar::~PersistentCookieJar() {
@@ -77,20 +83,23 @@ bool PersistentCookieJar::setCookiesFromUrl(const QList<QNetworkCookie> &cookies
 void PersistentCookieJar::clear() {
     setAllCookies({});
     m_savePending = false;
-    QFile::remove(m_path);
+    m_vault.forget();
 }
 
-void PersistentCookieJar::load() {
-    QFile file(m_path);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-    if (!document.isArray())
-        qWarning("The saved session cannot be read; sign in again.");
-    QList<QNetworkCookie> cookies;
-    for (const QJsonValue entry : document.array())
-        cookies += fromJson(entry.toObject());
-    setAllCookies(cookies);
+/// What has been set meanwhile is newer than what was kept.
+void PersistentCookieJar::join(const QJsonArray &found) {
+    const bool isChanged = !allCookies().isEmpty();
+    bool isNews = false;
+    for (const QNetworkCookie &cookie : fromJson(found)) {
+        const auto isNamesake = [&](const auto &other) { return other.hasSameIdentifier(cookie); };
+        const QList<QNetworkCookie> known = allCookies();
+        if (std::none_of(known.begin(), known.end(), isNamesake))
+            isNews |= insertCookie(cookie);
+    }
+    if (isChanged)
+        scheduleSave();
+    if (isNews)
+        Q_EMIT joined();
 }
 
 void PersistentCookieJar::save() {
@@ -100,9 +109,7 @@ void PersistentCookieJar::save() {
         if (!isExpired(cookie))
             entries.append(toJson(cookie));
     }
-    const QString failure = PrivateFile::write(m_path, QJsonDocument(entries).toJson());
-    if (!failure.isEmpty())
-        qWarning("The session cannot be saved: %s", qUtf8Printable(failure));
+    m_vault.keep(entries);
 }
 
 void PersistentCookieJar::scheduleSave() {

@@ -28,7 +28,8 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_appearance(settings),
       m_create(*this),
       m_update(*this),
-      m_account(*this) {
+      m_account(*this),
+      m_door(*this) {
     if (isSnapshot())
         return;
     m_layout.restoreChrome();

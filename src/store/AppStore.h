@@ -9,6 +9,7 @@
 #include "store/Calendar.h"
 #include "store/CallRoom.h"
 #include "store/CanvasRoom.h"
+#include "store/ChatDoor.h"
 #include "store/ChatRoom.h"
 #include "store/ConnectionRoom.h"
 #include "store/CreateRoom.h"
@@ -81,6 +82,7 @@ public:
     CreateRoom *create() { return &m_create; }
     UpdateRoom *update() { return &m_update; }
     AccountRoom *account() { return &m_account; }
+    ChatDoor *door() { return &m_door; }
 
     Clock &clock() { return m_clock; }
     net::APIClient &net() { return m_net; }
@@ -131,6 +133,7 @@ private:
     CreateRoom m_create;
     UpdateRoom m_update;
     AccountRoom m_account;
+    ChatDoor m_door;
 };
 
 } // namespace kiv::store

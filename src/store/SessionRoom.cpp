@@ -76,6 +76,7 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     }
     scope->restoreScope();
     m_entering = false;
+    m_store.door()->enter();
     // The person may have entered a project meanwhile, and asked there.
     const auto target = scope->chatTarget();
     if (!target || target != m_store.chat()->connected())

@@ -1,5 +1,7 @@
 // The program as a process: what it refuses, and what it leaves behind.
 
+#include "support/PrivateBus.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -78,13 +80,58 @@ private Q_SLOTS:
         QList<qint64> children;
         QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(program.processId())).isEmpty(), 15000);
         const qint64 server = children.first();
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(profile.filePath(u"workspace"_s)), 15000);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(profile.filePath(u"data/workspace"_s)), 15000);
         if (killed)
             program.kill();
         else
             program.terminate();
         QVERIFY(program.waitForFinished());
         QTRY_VERIFY_WITH_TIMEOUT(!isRunning(server), 10000);
+    }
+
+    void aSecondStartHandsItsLinkOver() {
+        const kiv::test::PrivateBus bus;
+        if (!bus.isThere())
+            QSKIP("There is no dbus-daemon");
+        const QTemporaryDir profile;
+        const QTemporaryDir other;
+        QProcess first;
+        start(first, bus, {u"--profile"_s, profile.path()});
+        const QString log = profile.filePath(u"state/kiv.log"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(log), 15000);
+
+        QProcess second;
+        start(second, bus, {u"--profile"_s, profile.path(), u"kiv://chat/nowhere/at/all"_s});
+        QVERIFY(second.waitForFinished(20000));
+        QCOMPARE(second.exitCode(), 0);
+        // The first one has got it, and says that it is no link to a chat.
+        const auto logged = [&] {
+            QFile file(log);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(logged().contains("not followed"), 15000);
+        QVERIFY(!logged().contains("nowhere"));
+
+        QProcess elsewhere;
+        start(elsewhere, bus, {u"--profile"_s, other.path()});
+        QTRY_VERIFY_WITH_TIMEOUT(!childrenOf(elsewhere.processId()).isEmpty(), 15000);
+        QCOMPARE(first.state(), QProcess::Running);
+        for (QProcess *program : {&first, &elsewhere}) {
+            program->terminate();
+            QVERIFY(program->waitForFinished());
+        }
+    }
+
+private:
+    static void start(QProcess &program, const kiv::test::PrivateBus &bus,
+                      const QStringList &arguments) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+        program.setProcessEnvironment(environment);
+        program.setProgram(QStringLiteral(KIV_PROGRAM));
+        program.setArguments(arguments);
+        program.start();
+        QVERIFY(program.waitForStarted());
     }
 };
 

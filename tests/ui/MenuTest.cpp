@@ -3,6 +3,7 @@
 
 #include "app/MainMenu.h"
 #include "app/WindowFrame.h"
+#include "ui/shell/Notices.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -231,7 +232,26 @@ void MenuTest::about() {
     const QString version = m_gallery->item(u"aboutVersion"_s)->property("text").toString();
     QVERIFY2(version.contains(AppVersion::running().display()), qPrintable(version));
     m_gallery->save(u"about"_s);
-    m_gallery->press(Qt::Key_Return); // on its one button
+    m_gallery->commands().setDiagnostics([] { return u"KIV: 1"_s; });
+    m_gallery->click(u"copyDiagnostics"_s);
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"KIV: 1"_s);
+    m_gallery->click(u"showNotices"_s);
+    QTRY_VERIFY(!m_gallery->find(u"aboutVersion"_s));
+    m_gallery->save(u"notices"_s);
+    // What stands under a licence must be named, down to the last of the list.
+    QStringList named;
+    for (const Notice &notice : Notices::all()) {
+        QVERIFY2(!notice.licence.isEmpty() && !notice.holder.isEmpty(), qPrintable(notice.name));
+        named.append(notice.name);
+    }
+    QVERIFY(named.contains(u"Qt 6"_s));
+    QCOMPARE(m_gallery->item(u"noticeList"_s)->property("count").toInt(), int(named.size()));
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(!m_gallery->find(u"noticeList"_s));
+
+    m_gallery->commands().perform(Command::About);
+    QTRY_VERIFY(m_gallery->find(u"aboutVersion"_s));
+    m_gallery->press(Qt::Key_Return); // on the button that closes it
     QTRY_VERIFY(!m_gallery->find(u"aboutVersion"_s));
 }
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Chat
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Tokens
@@ -8,6 +9,8 @@ Dialog {
     id: dialog
 
     required property Commands commands
+
+    signal noticesRequested
 
     width: Tokens.fit(360)
     objectName: "aboutDialog"
@@ -45,6 +48,31 @@ Dialog {
             wrapMode: Text.Wrap
             color: Tokens.t2
             text: qsTr("Talk to your agents and see what they answer.")
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 16
+
+            TextLink {
+                objectName: "copyDiagnostics"
+                bottomPadding: 4
+                style: Tokens.type.small
+                text: qsTr("Copy diagnostics")
+                onClicked: {
+                    Clipboard.setText(dialog.commands.diagnostics())
+                    Toasts.show(qsTr("Copied"))
+                }
+            }
+            TextLink {
+                objectName: "showNotices"
+                bottomPadding: 4
+                style: Tokens.type.small
+                text: qsTr("Third-party notices")
+                onClicked: {
+                    dialog.close()
+                    dialog.noticesRequested()
+                }
+            }
         }
         Button {
             id: close

@@ -20,6 +20,9 @@ public:
     /// The same for the views, by the number that an entry of the menu gives.
     Q_INVOKABLE void performNumber(int command) { perform(static_cast<Command>(command)); }
 
+    /// What somebody needs to know who looks for a fault, as text to be sent to them.
+    Q_INVOKABLE virtual QString diagnostics() const = 0;
+
     /// The version of the program, for people.
     static QString version();
     /// The entries whose keys the window takes, of all menus. Keys that edit are the fields' own.

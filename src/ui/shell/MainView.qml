@@ -223,6 +223,10 @@ FocusScope {
         id: about
 
         commands: view.commands
+        onNoticesRequested: notices.open()
+    }
+    NoticesSheet {
+        id: notices
     }
     ShortcutsSheet {
         id: shortcuts

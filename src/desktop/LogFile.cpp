@@ -1,0 +1,107 @@
+#include "desktop/LogFile.h"
+
+#include "desktop/LogText.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+namespace kiv::desktop {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+
+/// The handler of Qt is a plain function: this is the log that it writes to.
+LogFile *capturing = nullptr;
+QtMessageHandler before = nullptr;
+
+QString wordOf(QtMsgType type) {
+    switch (type) {
+    case QtDebugMsg:
+        return u"debug"_s;
+    case QtInfoMsg:
+        return u"info"_s;
+    case QtWarningMsg:
+        return u"warning"_s;
+    case QtCriticalMsg:
+        return u"critical"_s;
+    case QtFatalMsg:
+        return u"fatal"_s;
+    }
+    return {};
+}
+
+void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+    // What writing a line itself complains of would be written, and complained of, for ever.
+    thread_local bool isInside = false;
+    if (capturing && !isInside) {
+        isInside = true;
+        const QString category = QString::fromLatin1(context.category);
+        const bool isNamed = !category.isEmpty() && category != u"default"_s;
+        capturing->write(type, isNamed ? category + u": "_s + text : text);
+        isInside = false;
+    }
+    if (before)
+        before(type, context, text);
+}
+
+} // namespace
+
+LogFile::LogFile(const QString &path, qint64 limit) : m_path(path), m_file(path), m_limit(limit) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        m_file.setPermissions(ownerFile);
+}
+
+LogFile::~LogFile() {
+    if (!m_captures)
+        return;
+    qInstallMessageHandler(before);
+    capturing = nullptr;
+}
+
+void LogFile::capture() {
+    if (m_captures || capturing)
+        return;
+    m_captures = true;
+    capturing = this;
+    before = qInstallMessageHandler(handle);
+}
+
+void LogFile::write(QtMsgType type, const QString &line) {
+    const QByteArray bytes = (QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs) + u' ' +
+                              wordOf(type) + u' ' + LogText::redacted(line) + u'\n')
+                                 .toUtf8();
+    const QMutexLocker lock(&m_mutex);
+    if (!m_file.isOpen())
+        return;
+    if (m_file.size() + bytes.size() > m_limit)
+        rotate();
+    m_file.write(bytes);
+}
+
+void LogFile::rotate() {
+    const QString old = m_path + u".1"_s;
+    m_file.close();
+    QFile::remove(old);
+    QFile::rename(m_path, old);
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        m_file.setPermissions(ownerFile);
+}
+
+QStringList LogFile::lastLines(qsizetype count) const {
+    const QMutexLocker lock(&m_mutex);
+    QStringList lines;
+    for (const QString &path : {m_path + u".1"_s, m_path}) {
+        QFile file(path);
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        lines += QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    }
+    return lines.last(std::min(count, lines.size()));
+}
+
+} // namespace kiv::desktop

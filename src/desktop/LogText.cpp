@@ -1,0 +1,58 @@
+#include "desktop/LogText.h"
+
+#include "base/Regex.h"
+
+#include <QDir>
+
+#include <span>
+
+namespace kiv::desktop {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostCharacters = 400;
+
+struct Rule {
+    Regex pattern;
+    QString instead;
+};
+
+// clang-format off
+/// In this order: what a rule leaves is what the next one reads.
+std::span<const Rule> rules() {
+    static const Rule table[] = {
+        // Whole headers: everything up to the end is theirs.
+        {Regex(uR"(\b((?:set-)?cookie|authorization)\b(\W{0,3}[:=]).*)", Regex::CaseInsensitive),
+         u"$1$2 […]"_s},
+        // The name in an address of the web may carry a password, its end what was asked for.
+        {Regex(uR"(\b([a-z][a-z0-9+.-]*://)[^\s/"'<>@]*@)", Regex::CaseInsensitive), u"$1"_s},
+        {Regex(uR"(\b([a-z][a-z0-9+.-]*://[^\s?#"'<>]*)[?#][^\s"'<>]*)", Regex::CaseInsensitive),
+         u"$1[…]"_s},
+        {Regex(uR"(\bbearer\s+\S+)", Regex::CaseInsensitive), u"bearer […]"_s},
+        {Regex(uR"re(\b([\w-]*(?:password|passwd|secret|token|session|sid|api[_-]?key))(["']?\s*[:=]\s*)("[^"]*"?|'[^']*'?|[^\s,;&}]+))re",
+               Regex::CaseInsensitive), u"$1$2[…]"_s},
+        {Regex(uR"([^\s"'<>@:/]+@[^\s"'<>@]+\.[a-z]{2,})", Regex::CaseInsensitive), u"[address]"_s},
+        // What is long and means nothing to a reader: keys, signatures, cookies without a name.
+        {Regex(uR"([A-Za-z0-9+_=-]{32,})"), u"[…]"_s},
+        // A quotation of some length is what somebody wrote.
+        {Regex(uR"("[^"]{60,}"?)"), u"\"[…]\""_s},
+    };
+    return table;
+}
+// clang-format on
+
+} // namespace
+
+QString LogText::redacted(const QString &line) {
+    QString text = line.simplified().left(4 * mostCharacters);
+    for (const Rule &rule : rules())
+        text = rule.pattern.replaceAll(text, rule.instead);
+    text.replace(QDir::homePath(), u"~"_s);
+    if (text.size() > mostCharacters)
+        text = text.left(mostCharacters) + u'…';
+    return text;
+}
+
+} // namespace kiv::desktop

@@ -1,0 +1,94 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Kiv.Controls
+import Kiv.Shell
+import Kiv.Tokens
+
+// The works of others that the program is made with, and under which licence each is.
+Dialog {
+    id: sheet
+
+    width: 560
+    objectName: "noticesSheet"
+    onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
+
+    contentItem: Item {
+        implicitHeight: 44 + list.height
+    }
+
+    Label {
+        style: Tokens.type.title
+        text: qsTr("Third-party notices")
+        Accessible.role: Accessible.Heading
+    }
+    IconButton {
+        x: sheet.availableWidth + sheet.rightPadding - width - 14
+        y: 14 - sheet.topPadding
+        iconName: "close"
+        text: qsTr("Close")
+        onClicked: sheet.close()
+    }
+    ListView {
+        id: list
+
+        objectName: "noticeList"
+        y: 44
+        width: sheet.availableWidth
+        height: Math.min(contentHeight, 7 * 64)
+        model: Notices.all
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
+        highlightMoveDuration: 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Third-party notices")
+
+        T.ScrollBar.vertical: ScrollBar {}
+
+        delegate: T.ItemDelegate {
+            id: row
+
+            required property notice modelData
+
+            width: list.width
+            height: 64
+            focusPolicy: Qt.NoFocus
+            text: modelData.name
+            Accessible.name: qsTr("%1: %2. %3. %4").arg(modelData.name).arg(modelData.part).arg(modelData.licence).arg(modelData.holder)
+            Accessible.role: Accessible.ListItem
+
+            Column {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width - 12
+
+                Label {
+                    width: parent.width
+                    elide: Text.ElideRight
+                    style: Tokens.type.name
+                    text: row.modelData.name
+                    Accessible.ignored: true
+                }
+                Label {
+                    width: parent.width
+                    elide: Text.ElideRight
+                    style: Tokens.type.caption
+                    color: Tokens.t2
+                    text: row.modelData.licence + " · " + row.modelData.holder
+                    Accessible.ignored: true
+                }
+                Label {
+                    width: parent.width
+                    elide: Text.ElideRight
+                    style: Tokens.type.caption
+                    color: Tokens.t3
+                    text: row.modelData.part
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,146 @@
+#include "desktop/Instance.h"
+#include "support/PrivateBus.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kiv::desktop {
+
+/// Starts of the program on a bus of their own.
+class InstanceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        if (!m_bus.isThere())
+            QSKIP("There is no dbus-daemon");
+    }
+    void cleanup() {
+        for (const QString &name : {u"first"_s, u"second"_s, u"desktop"_s})
+            QDBusConnection::disconnectFromBus(name);
+    }
+
+    void aSecondStartHandsOver_data() {
+        QTest::addColumn<QStringList>("links");
+        QTest::addColumn<QString>("token");
+        QTest::newRow("to raise the window") << QStringList() << QString();
+        QTest::newRow("with the leave to") << QStringList() << u"token_TIME7"_s;
+        QTest::newRow("with a link") << QStringList{u"kiv://chat/kiv"_s} << u"t"_s;
+        QTest::newRow("with whatever it was given")
+            << QStringList{u"file:///etc/passwd"_s, u"kiv://chat/agent/scout"_s} << QString();
+    }
+    void aSecondStartHandsOver() {
+        QFETCH(QStringList, links);
+        QFETCH(QString, token);
+        Instance first(m_bus.connection(u"first"_s), {});
+        QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        QSignalSpy activated(&first, &Instance::activated);
+        QSignalSpy opened(&first, &Instance::linkOpened);
+        QCOMPARE(startAgain({}, links, token), Instance::Place::HandedOver);
+        QCOMPARE(activated.size(), 1);
+        QCOMPARE(activated.first().first().toString(), token);
+        QStringList got;
+        for (const QList<QVariant> &call : opened)
+            got.append(call.first().toString());
+        QCOMPARE(got, links);
+    }
+
+    void aProfileIsAPlaceOfItsOwn() {
+        const QTemporaryDir profile;
+        Instance first(m_bus.connection(u"first"_s), {});
+        QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        QCOMPARE(startAgain(profile.path(), {}, {}), Instance::Place::First);
+    }
+
+    void thePlaceIsFreeAgainAfterwards() {
+        {
+            Instance first(m_bus.connection(u"first"_s), {});
+            QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        }
+        Instance second(m_bus.connection(u"first"_s), {});
+        QCOMPARE(second.claim({}, {}, 1s), Instance::Place::First);
+    }
+
+    void oneThatIsStuckIsNotWaitedForLong() {
+        Instance first(m_bus.connection(u"first"_s), {});
+        QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        Instance::Place place = Instance::Place::First;
+        QElapsedTimer time;
+        time.start();
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            Instance second(m_bus.connection(u"second"_s), {});
+            place = second.claim({u"kiv://chat/kiv"_s}, {}, 300ms);
+        }));
+        thread->start();
+        QVERIFY(thread->wait(10000)); // meanwhile the first one does nothing
+        QCOMPARE(place, Instance::Place::NoAnswer);
+        QVERIFY(time.elapsed() < 5000);
+    }
+
+    void withoutABusEveryoneIsTheFirst() {
+        Instance instance(test::PrivateBus::noConnection(), {});
+        QCOMPARE(instance.claim({u"kiv://chat/kiv"_s}, {}, 1s), Instance::Place::First);
+    }
+
+    void theDesktopStartsActions() {
+        Instance first(m_bus.connection(u"first"_s), {});
+        QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        QSignalSpy chosen(&first, &Instance::actionChosen);
+        QDBusMessage call =
+            QDBusMessage::createMethodCall(u"ai.kiv.Desktop"_s, u"/ai/kiv/Desktop"_s,
+                                           u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+        call << u"ask-kiv"_s << QVariantList() << QVariantMap();
+        m_bus.connection(u"desktop"_s).asyncCall(call);
+        QVERIFY(chosen.wait());
+        QCOMPARE(chosen.first().first().toString(), u"ask-kiv"_s);
+    }
+
+    void names() {
+        const QTemporaryDir folder;
+        const QDir dir(folder.path());
+        QVERIFY(dir.mkdir(u"one"_s) && dir.mkdir(u"two"_s));
+        QVERIFY(QFile::link(dir.filePath(u"one"_s), dir.filePath(u"other way"_s)));
+        const QString one = Instance::nameFor(dir.filePath(u"one"_s));
+        QCOMPARE(Instance::nameFor({}), u"ai.kiv.Desktop"_s);
+        for (const QString &way : {u"one/"_s, u"./two/../one"_s, u"other way"_s})
+            QCOMPARE(Instance::nameFor(dir.filePath(way)), one);
+        QVERIFY(Instance::nameFor(dir.filePath(u"two"_s)) != one);
+        QVERIFY(Instance::nameFor(dir.filePath(u"none"_s)) != one);
+        // Every element of a name on the bus begins with no figure.
+        QVERIFY(QRegularExpression(u"^ai\\.kiv\\.Desktop\\.Profile[0-9a-f]{16}$"_s)
+                    .match(one)
+                    .hasMatch());
+    }
+
+private:
+    /// What a start finds while this one goes on.
+    Instance::Place startAgain(const QString &profile, const QStringList &links,
+                               const QString &token) {
+        Instance::Place place = Instance::Place::NoAnswer;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            Instance second(m_bus.connection(u"second"_s), profile);
+            place = second.claim(links, token, 5s);
+        }));
+        QSignalSpy done(thread.get(), &QThread::finished);
+        thread->start();
+        if (!thread->isFinished())
+            done.wait(10000);
+        thread->wait();
+        return place;
+    }
+
+    test::PrivateBus m_bus;
+};
+
+} // namespace kiv::desktop
+
+QTEST_GUILESS_MAIN(kiv::desktop::InstanceTest)
+#include "InstanceTest.moc"

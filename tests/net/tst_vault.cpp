@@ -1,0 +1,309 @@
+// Where the session is kept: the key chain in all its moods, the file, and the way between them.
+
+#include "net/PersistentCookieJar.h"
+#include "support/ManualClock.h"
+
+#include <QFile>
+#include <QNetworkCookie>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <deque>
+
+using namespace kiv;
+using namespace kiv::net;
+using namespace Qt::StringLiterals;
+using Outcome = SecretStore::Outcome;
+
+namespace {
+
+/// A key chain that answers when the test says so. What it holds outlives a program.
+class ScriptedSecrets : public SecretStore {
+public:
+    enum class Mood { Works, Hangs, Refuses };
+
+    void read(Answer answer) override {
+        ++reads;
+        m_asked.push_back([this, answer] {
+            if (mood == Mood::Refuses)
+                answer(Outcome::Failed, {});
+            else
+                answer(secret.isEmpty() ? Outcome::NotFound : Outcome::Done, secret);
+        });
+    }
+    void write(const QByteArray &written, Answer answer) override {
+        m_asked.push_back([this, written, answer] {
+            if (mood == Mood::Works)
+                secret = written;
+            answer(mood == Mood::Works ? Outcome::Done : Outcome::Failed, {});
+        });
+    }
+    void remove() override {
+        m_asked.push_back([this] { secret.clear(); });
+    }
+
+    /// Answers what was asked, unless it hangs.
+    void answer() {
+        while (mood != Mood::Hangs && !m_asked.empty()) {
+            const auto next = std::move(m_asked.front());
+            m_asked.pop_front();
+            next();
+        }
+    }
+    bool holds(const QByteArray &text) const { return secret.contains(text); }
+
+    Mood mood = Mood::Works;
+    QByteArray secret;
+    int reads = 0;
+
+private:
+    std::deque<std::function<void()>> m_asked;
+};
+
+using Mood = ScriptedSecrets::Mood;
+const QUrl server(u"https://kiv.example"_s);
+
+} // namespace
+
+class Vault : public QObject {
+    Q_OBJECT
+
+private:
+    /// One run of the program after another, with the same file and the same key chain.
+    struct Runs {
+        QTemporaryDir folder;
+        test::ManualClock clock;
+        ScriptedSecrets secrets;
+        std::unique_ptr<PersistentCookieJar> jar;
+
+        void start() { jar = std::make_unique<PersistentCookieJar>(path(), &clock, &secrets); }
+        void end() { jar.reset(); }
+        void signIn(const QByteArray &value, const QByteArray &name = "sid") {
+            QNetworkCookie cookie(name, value);
+            jar->setCookiesFromUrl({cookie}, server);
+            QCoreApplication::processEvents(); // the jar saves once for all that came
+        }
+        void signOut() {
+            QNetworkCookie cookie("sid", "");
+            cookie.setExpirationDate(QDateTime::fromSecsSinceEpoch(1));
+            jar->setCookiesFromUrl({cookie}, server);
+            QCoreApplication::processEvents();
+        }
+        QString path() const { return folder.filePath(u"cookies"_s); }
+        QByteArray session() const {
+            for (const QNetworkCookie &cookie : jar->cookiesForUrl(server)) {
+                if (cookie.name() == "sid")
+                    return cookie.value();
+            }
+            return {};
+        }
+        bool fileHolds(const QByteArray &text) const {
+            QFile file(path());
+            return file.open(QIODevice::ReadOnly) && file.readAll().contains(text);
+        }
+        /// A first run with a key chain that works leaves the session in there.
+        void keepInChain(const QByteArray &value) {
+            start();
+            signIn(value);
+            secrets.answer();
+            end();
+        }
+    };
+
+private Q_SLOTS:
+    void theChainTakesTheSession() {
+        Runs at;
+        at.keepInChain("first");
+        QVERIFY(at.secrets.holds("first"));
+        QVERIFY(!at.fileHolds("first"));
+
+        at.start();
+        QVERIFY(at.jar->isWaiting());
+        QCOMPARE(at.session(), ""_ba);
+        QSignalSpy settled(at.jar.get(), &PersistentCookieJar::settled);
+        at.secrets.answer();
+        QCOMPARE(settled.size(), 1);
+        QVERIFY(!at.jar->isWaiting());
+        QCOMPARE(at.session(), "first"_ba);
+        // One that works is trusted: a newer session is never in the file.
+        at.signIn("second");
+        QVERIFY(!at.fileHolds("second"));
+        at.secrets.answer();
+        QVERIFY(at.secrets.holds("second"));
+        QCOMPARE(at.clock.pending(), 0);
+    }
+
+    void nobodyWaitsWhereThereIsNothingToWaitFor() {
+        Runs at;
+        at.start();
+        QVERIFY(!at.jar->isWaiting());
+        QCOMPARE(at.secrets.reads, 0);
+    }
+
+    void theFileMovesIntoTheChain_data() {
+        QTest::addColumn<Mood>("mood");
+        QTest::addColumn<bool>("moved");
+        QTest::newRow("one that works") << Mood::Works << true;
+        QTest::newRow("one that hangs") << Mood::Hangs << false;
+        QTest::newRow("one that refuses") << Mood::Refuses << false;
+    }
+    void theFileMovesIntoTheChain() {
+        QFETCH(Mood, mood);
+        QFETCH(bool, moved);
+        Runs at;
+        {
+            PersistentCookieJar earlier(at.path());
+            earlier.setCookiesFromUrl({QNetworkCookie("sid", "old")}, server);
+        }
+        QVERIFY(at.fileHolds("old"));
+        at.secrets.mood = mood;
+        at.start();
+        QVERIFY(!at.jar->isWaiting()); // the session is there at once
+        QCOMPARE(at.session(), "old"_ba);
+        at.secrets.answer();
+        at.clock.advance(SessionVault::patience);
+        at.end();
+        QCOMPARE(at.fileHolds("old"), !moved);
+        QCOMPARE(at.secrets.holds("old"), moved);
+        at.start();
+        at.secrets.answer();
+        QCOMPARE(at.session(), "old"_ba);
+    }
+
+    void whatTheChainDoesNotTakeStaysInTheFile_data() {
+        QTest::addColumn<Mood>("mood");
+        QTest::addColumn<bool>("ended"); // before anybody could notice
+        QTest::newRow("hangs") << Mood::Hangs << false;
+        QTest::newRow("hangs to the end") << Mood::Hangs << true;
+        QTest::newRow("refuses") << Mood::Refuses << false;
+        QTest::newRow("refuses too late") << Mood::Refuses << true;
+    }
+    void whatTheChainDoesNotTakeStaysInTheFile() {
+        QFETCH(Mood, mood);
+        QFETCH(bool, ended);
+        Runs at;
+        at.keepInChain("first");
+        at.start();
+        at.secrets.answer();
+        at.secrets.mood = mood;
+        at.signIn("second");
+        if (!ended) {
+            at.secrets.answer();
+            at.clock.advance(SessionVault::patience);
+        }
+        at.end();
+        QVERIFY(at.fileHolds("second"));
+        at.start();
+        QVERIFY(!at.jar->isWaiting());
+        QCOMPARE(at.session(), "second"_ba);
+    }
+
+    void aChainThatAnswersLateIsUsedAgain() {
+        Runs at;
+        at.start();
+        at.secrets.mood = Mood::Hangs;
+        at.signIn("first");
+        at.clock.advance(SessionVault::patience);
+        at.signIn("second");
+        QVERIFY(at.fileHolds("second"));
+        at.secrets.mood = Mood::Works;
+        at.secrets.answer();
+        QVERIFY(at.secrets.holds("second"));
+        QVERIFY(!at.fileHolds("second"));
+    }
+
+    /// Nobody is signed out by a chain that cannot be read.
+    void anUnreadChainIsLeftAlone_data() {
+        QTest::addColumn<Mood>("mood");
+        QTest::newRow("hangs") << Mood::Hangs;
+        QTest::newRow("locked") << Mood::Refuses;
+    }
+    void anUnreadChainIsLeftAlone() {
+        QFETCH(Mood, mood);
+        Runs at;
+        at.keepInChain("first");
+        at.secrets.mood = mood;
+        at.start();
+        QSignalSpy settled(at.jar.get(), &PersistentCookieJar::settled);
+        at.secrets.answer();
+        at.clock.advance(SessionVault::patience);
+        QCOMPARE(settled.size(), 1);
+        QCOMPARE(at.session(), ""_ba);
+        // The server greets somebody it does not know.
+        at.signIn("en", "language");
+        at.end();
+        QVERIFY(at.secrets.holds("first"));
+
+        at.secrets.mood = Mood::Works;
+        at.start();
+        at.secrets.answer();
+        QCOMPARE(at.session(), "first"_ba);
+    }
+
+    void aLateAnswerIsTold() {
+        Runs at;
+        at.keepInChain("first");
+        at.secrets.mood = Mood::Hangs;
+        at.start();
+        QSignalSpy joined(at.jar.get(), &PersistentCookieJar::joined);
+        at.clock.advance(SessionVault::patience);
+        QVERIFY(!at.jar->isWaiting());
+        at.secrets.mood = Mood::Works;
+        at.secrets.answer(); // somebody has unlocked it
+        QCOMPARE(joined.size(), 1);
+        QCOMPARE(at.session(), "first"_ba);
+    }
+
+    void aNewerSessionWinsOverALateAnswer() {
+        Runs at;
+        at.keepInChain("first");
+        at.secrets.mood = Mood::Hangs;
+        at.start();
+        at.clock.advance(SessionVault::patience);
+        at.signIn("second");
+        QVERIFY(at.fileHolds("second"));
+        at.secrets.mood = Mood::Works;
+        at.secrets.answer();
+        QCOMPARE(at.session(), "second"_ba);
+        QCoreApplication::processEvents();
+        at.secrets.answer();
+        at.end();
+        QVERIFY(at.secrets.holds("second") && !at.secrets.holds("first"));
+        QVERIFY(!at.fileHolds("second"));
+    }
+
+    void signingOutLeavesNothing_data() {
+        QTest::addColumn<bool>("answered"); // before the person signs out
+        QTest::newRow("kept") << true;
+        QTest::newRow("on its way") << false;
+    }
+    void signingOutLeavesNothing() {
+        QFETCH(bool, answered);
+        Runs at;
+        at.start();
+        at.signIn("first");
+        if (answered)
+            at.secrets.answer();
+        at.signOut();
+        QVERIFY(!QFile::exists(at.path()));
+        at.secrets.answer();
+        at.end();
+        QCOMPARE(at.secrets.secret, ""_ba);
+        QVERIFY(!QFile::exists(at.path()));
+        at.start();
+        QVERIFY(!at.jar->isWaiting());
+    }
+
+    void answersMayOutliveTheProgram() {
+        Runs at;
+        at.keepInChain("first");
+        at.start();
+        at.end();
+        at.secrets.answer();
+        QVERIFY(at.secrets.holds("first"));
+    }
+};
+
+QTEST_GUILESS_MAIN(Vault)
+#include "tst_vault.moc"
