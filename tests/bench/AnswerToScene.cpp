@@ -37,16 +37,16 @@ QList<Row> answerToScene() {
                            u"\n```\n\nThe first is the cheapest."_s;
     const QByteArray utf8 = json.toUtf8();
     Row row{.name = u"answer-to-scene"_s, .peer = u"its JSON parse"_s};
-    row.nanoseconds = measure(row.name, [&] {
+    row.figure = measure(row.name, [&] {
         const auto drawable = canvas::CanvasEngine::extractViewSpec(answer);
         auto scene = canvas::SceneAdapter::vals(*drawable.spec, std::nullopt);
         benchmark::DoNotOptimize(scene);
     });
-    row.peerNanoseconds = measure(row.peer, [&] {
+    row.peerFigure = measure(row.peer, [&] {
         auto value = JVal::parse(utf8);
         benchmark::DoNotOptimize(value);
     });
-    row.targetNanoseconds = 150e3;
+    row.target = 150e3;
     return {row};
 }
 

@@ -49,11 +49,11 @@ QList<Row> classify() {
         patterns.push_back(compiled(rule.pattern()));
 
     Row row{.name = u"classify"_s, .peer = u"PCRE2 JIT"_s};
-    row.nanoseconds = measure(row.name, [&] {
+    row.figure = measure(row.name, [&] {
         auto intent = canvas::CanvasIntents::classify(question);
         benchmark::DoNotOptimize(intent);
     });
-    row.peerNanoseconds = measure(row.peer, [&] {
+    row.peerFigure = measure(row.peer, [&] {
         const QString lower = question.toLower();
         int first = -1;
         for (size_t rule = 0; rule < patterns.size() && first < 0; ++rule) {
@@ -62,7 +62,7 @@ QList<Row> classify() {
         }
         benchmark::DoNotOptimize(first);
     });
-    row.targetNanoseconds = 200e3;
+    row.target = 200e3;
     return {row};
 }
 

@@ -30,7 +30,7 @@ double once(const std::function<void()> &step) {
 } // namespace
 
 QList<Row> explain() {
-    Row slowest{.name = u"explain"_s, .targetNanoseconds = 1e9};
+    Row slowest{.name = u"explain"_s, .target = 1e9};
     for (const auto &[name, text] : test::hostileAnswers()) {
         const QByteArray request =
             QJsonDocument(QJsonObject{{u"text"_s, text}}).toJson(QJsonDocument::Compact);
@@ -38,11 +38,11 @@ QList<Row> explain() {
             auto reply = tools::explain(request, QUrl(u"https://kiv.example"_s));
             benchmark::DoNotOptimize(reply);
         });
-        if (time < slowest.nanoseconds)
+        if (time < slowest.figure)
             continue;
-        slowest.nanoseconds = time;
+        slowest.figure = time;
         slowest.peer = u"JSON parse, "_s + QString::fromUtf8(name).simplified().left(16);
-        slowest.peerNanoseconds = once([&] {
+        slowest.peerFigure = once([&] {
             const JsonDocument document(request);
             auto value = document.root().toJVal();
             benchmark::DoNotOptimize(value);

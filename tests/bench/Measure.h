@@ -9,14 +9,17 @@ namespace kiv::bench {
 
 /// One row of the table: a figure, what it stands beside, and what was promised of it.
 struct Row {
-    QString name;
-    double nanoseconds = 0;
-    QString peer;
-    double peerNanoseconds = 0;
-    double targetNanoseconds = 0;
+    enum class Unit { Nanoseconds, Percent };
 
-    double ratio() const { return nanoseconds / peerNanoseconds; }
-    bool isShort() const { return nanoseconds > targetNanoseconds; }
+    QString name;
+    double figure = 0;
+    QString peer;
+    double peerFigure = 0;
+    double target = 0; ///< the most that the figure may be
+    Unit unit = Unit::Nanoseconds;
+
+    double ratio() const { return figure / peerFigure; }
+    bool isShort() const { return figure > target; }
 };
 
 /// Nanoseconds of one call: the median of several runs, each long enough to be told from noise.
@@ -24,6 +27,7 @@ double measure(const QString &name, const std::function<void()> &step);
 
 QList<Row> answerToScene();
 QList<Row> classify();
+QList<Row> dictation();
 QList<Row> explain();
 QList<Row> longChat();
 QList<Row> markdown();

@@ -53,10 +53,10 @@ QList<Row> render() {
     const QTemporaryDir folder;
     const QStringList arguments{u"render"_s, u"-o"_s, folder.filePath(u"out.png"_s), u"-"_s};
     return {{.name = u"render"_s,
-             .nanoseconds = processTime(QStringLiteral(KIV_PREVIEWER), arguments),
+             .figure = processTime(QStringLiteral(KIV_PREVIEWER), arguments),
              .peer = u"empty window"_s,
-             .peerNanoseconds = processTime(QStringLiteral(KIV_EMPTY_WINDOW), {}),
-             .targetNanoseconds = 700e6}};
+             .peerFigure = processTime(QStringLiteral(KIV_EMPTY_WINDOW), {}),
+             .target = 700e6}};
 }
 
 } // namespace kiv::bench

@@ -138,8 +138,8 @@ double sceneTime(Stage &stage, const SceneOut &scene) {
 Row slowest(Stage &stage, int rows, double target) {
     Row row{.name = {},
             .peer = u"%1 texts in a list"_s.arg(rows),
-            .peerNanoseconds = listTime(stage, rows),
-            .targetNanoseconds = target};
+            .peerFigure = listTime(stage, rows),
+            .target = target};
     QQmlComponent sheet(&stage.engine(), QUrl(u"qrc:/qt/qml/Kiv/Canvas/Sheet.qml"_s));
     stage.show(sheet, {{u"scene"_s, QVariant::fromValue(SceneOut())},
                        {u"time"_s, QString()},
@@ -147,8 +147,8 @@ Row slowest(Stage &stage, int rows, double target) {
                        {u"animated"_s, false}});
     for (const QString &art : ui::Samples::arts()) {
         const double time = sceneTime(stage, sceneOf(art, rows));
-        if (time > row.nanoseconds) {
-            row.nanoseconds = time;
+        if (time > row.figure) {
+            row.figure = time;
             row.name = u"scene-frame %1 rows, %2"_s.arg(rows).arg(art);
         }
     }

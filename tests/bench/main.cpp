@@ -19,6 +19,7 @@ struct Bench {
 
 const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"classify"_s, classify},
+                           {u"dictation"_s, dictation},
                            {u"explain"_s, explain},
                            {u"long-chat"_s, longChat},
                            {u"markdown"_s, markdown},
@@ -26,8 +27,12 @@ const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"scene-frame"_s, sceneFrame},
                            {u"streaming"_s, streaming}};
 
-QString shown(double nanoseconds) {
-    return u"%1 µs"_s.arg(nanoseconds / 1000, 0, 'f', nanoseconds < 10e3 ? 2 : 1);
+QString shown(double figure, Row::Unit unit) {
+    if (unit == Row::Unit::Percent)
+        return QString::number(figure, 'f', 1) + u" %"_s;
+    if (figure >= 100e6)
+        return u"%1 ms"_s.arg(figure / 1e6, 0, 'f', 0);
+    return u"%1 µs"_s.arg(figure / 1000, 0, 'f', figure < 10e3 ? 2 : 1);
 }
 
 void print(const QStringList &cells) {
@@ -59,9 +64,9 @@ int main(int argc, char **argv) {
         if (!wanted.isEmpty() && !wanted.contains(bench.name))
             continue;
         for (const Row &row : bench.run()) {
-            print({row.name, shown(row.nanoseconds),
-                   row.peer + u": "_s + shown(row.peerNanoseconds),
-                   QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.targetNanoseconds),
+            print({row.name, shown(row.figure, row.unit),
+                   row.peer + u": "_s + shown(row.peerFigure, row.unit),
+                   QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.target, row.unit),
                    row.isShort() ? u"short"_s : u"ok"_s});
             isShort = isShort || row.isShort();
         }
