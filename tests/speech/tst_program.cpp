@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("missing");
         QTest::newRow("damaged model") << u"tiny/decoder.onnx"_s << false;
         QTest::newRow("damaged table of tokens") << u"tokens.txt"_s << false;
-        QTest::newRow("damaged library") << u"libsherpa-onnx-c-api.so"_s << false;
+        QTest::newRow("missing library") << u"libsherpa-onnx-c-api.so"_s << true;
         QTest::newRow("missing model") << u"tiny/encoder.onnx"_s << true;
     }
     void faultyFile() {
