@@ -29,7 +29,8 @@ void check(const QString &path, const QString &name, const QByteArray &expected)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw ModelError(ModelError::Missing, u"The speech file %1 is missing."_s.arg(name));
-    if (sha256(file) != expected)
+    // Libraries are the business of whoever installs them, who may have taken symbols out.
+    if (!name.endsWith(".so"_L1) && sha256(file) != expected)
         throw ModelError(ModelError::Damaged, u"The speech file %1 is damaged."_s.arg(name));
 }
 

@@ -18,11 +18,11 @@ private:
     Kind m_kind;
 };
 
-/// The files of one model in a folder, each known by its SHA-256.
+/// The files of one model in a folder, each model known by its SHA-256.
 class ModelFiles {
 public:
-    /// Looks at every file. Throws ModelError unless all of them are there and what they should be:
-    /// the recogniser ends the process when it is given a damaged one.
+    /// Throws ModelError unless all of them are there and what they should be: the recogniser ends
+    /// the process when it is given a damaged model.
     ModelFiles(const QString &folder, const QString &model);
 
     QString library() const { return place(QStringLiteral("libsherpa-onnx-c-api.so")); }

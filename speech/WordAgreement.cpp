@@ -31,6 +31,8 @@ std::optional<QString> WordAgreement::add(const QString &reading) {
     qsizetype agreed = 0;
     for (const QStringList &before : std::as_const(m_before))
         agreed = std::max(agreed, agreement(words, before));
+    if (agreed == 0 && m_shown.isEmpty() && m_before.size() == 2)
+        agreed = words.size() - 1;
     m_before.append(words);
     if (m_before.size() > 2)
         m_before.removeFirst();

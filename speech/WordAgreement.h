@@ -8,7 +8,9 @@
 namespace kiv::speech {
 
 /// Tells which words of a growing utterance can be shown: those on which the latest reading agrees
-/// with one of the two before it. The last words of a reading change with nearly every one.
+/// with one of the two before it. The last words of a reading change with nearly every one. Where
+/// no three agree on how an utterance begins, the latest counts but for its last word: somebody
+/// waits.
 class WordAgreement {
 public:
     /// Takes the next reading; the words to show when they are others than before. What is shown

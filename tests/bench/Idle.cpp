@@ -32,7 +32,7 @@ QList<Row> idle() {
              .peer = u"empty window"_s,
              .peerFigure = idleOf(QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}),
              .target = target,
-             .unit = Unit::Core}};
+             .unit = Unit::Percent}};
 }
 
 } // namespace kiv::bench

@@ -7,8 +7,8 @@
 
 namespace kiv::bench {
 
-/// What a figure counts: nanoseconds, bytes, or per cent of one core.
-enum class Unit { Time, Memory, Core };
+/// What a figure counts: nanoseconds, bytes, or parts of a hundred.
+enum class Unit { Time, Memory, Percent };
 
 /// One row of the table: a figure, what it stands beside, and what was promised of it.
 struct Row {
@@ -16,7 +16,7 @@ struct Row {
     double figure = 0;
     QString peer;
     double peerFigure = 0;
-    double target = 0;
+    double target = 0; ///< the most that the figure may be
     Unit unit = Unit::Time;
 
     double ratio() const { return figure / peerFigure; }
@@ -28,6 +28,7 @@ double measure(const QString &name, const std::function<void()> &step);
 
 QList<Row> answerToScene();
 QList<Row> classify();
+QList<Row> dictation();
 QList<Row> explain();
 QList<Row> idle();
 QList<Row> keystroke();

@@ -19,6 +19,7 @@ struct Bench {
 
 const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
                            {u"classify"_s, classify},
+                           {u"dictation"_s, dictation},
                            {u"explain"_s, explain},
                            {u"idle"_s, idle},
                            {u"keystroke"_s, keystroke},
@@ -35,11 +36,13 @@ const QList<Bench> benches{{u"answer-to-scene"_s, answerToScene},
 QString shown(double figure, Unit unit) {
     switch (unit) {
     case Unit::Time:
+        if (figure >= 100e6)
+            return u"%1 ms"_s.arg(figure / 1e6, 0, 'f', 0);
         return u"%1 µs"_s.arg(figure / 1000, 0, 'f', figure < 10e3 ? 2 : 1);
     case Unit::Memory:
         return u"%1 MiB"_s.arg(figure / (1024 * 1024), 0, 'f', 1);
-    case Unit::Core:
-        return u"%1 %"_s.arg(figure, 0, 'f', 3);
+    case Unit::Percent:
+        return u"%1 %"_s.arg(figure, 0, 'f', figure < 1 ? 3 : 1);
     }
     Q_UNREACHABLE();
 }

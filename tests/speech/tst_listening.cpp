@@ -122,6 +122,10 @@ private Q_SLOTS:
         QTest::newRow("two of three")
             << QStringList{u"Compare"_s, u"Compound the"_s, u"Compare the three"_s}
             << QStringList{u"Compare"_s};
+        QTest::newRow("never agrees")
+            << QStringList{u"Growth."_s,     u"Draw a"_s, u"Gratitude"_s,
+                           u"Brown chart"_s, u"Drawn"_s,  u"Brown chart of"_s}
+            << QStringList{u"Brown"_s, u"Brown chart"_s};
         QTest::newRow("disagrees later")
             << QStringList{u"a b c d"_s, u"a b c d"_s, u"a x"_s, u"a x y"_s}
             << QStringList{u"a b c d"_s};

@@ -20,7 +20,7 @@ private Q_SLOTS:
             QSKIP("The speech files have not been fetched.");
     }
 
-    /// Two sentences with a pause are two requests; the second ends in mid-speech.
+    /// Two sentences with a pause are two requests; the second is ended as soon as it is spoken.
     void sentences() {
         const QString first = u"Please show me the budget of the marketing team."_s;
         const QString second = u"Compare it with the plan for the next quarter."_s;
@@ -46,13 +46,20 @@ private Q_SLOTS:
             });
         };
         start();
+        // Silence is no speech; and from now on the models are loaded.
+        task->append(test::silence(500));
+        task->endAudio();
+        QTRY_COMPARE_WITH_TIMEOUT(failure, u"No speech was heard."_s, 20'000);
+        failure.clear();
+
+        start();
         test::play(sound, [&](const QByteArray &piece) { task->append(piece); });
         task->endAudio();
         QTRY_VERIFY_WITH_TIMEOUT(finals.size() == 2 || !failure.isEmpty(), 20'000);
         QCOMPARE(failure, QString());
         QVERIFY2(test::wordErrors(first, finals.first()) <= 1, qPrintable(finals.first()));
         QVERIFY2(test::wordErrors(second, finals.last()) <= 1, qPrintable(finals.last()));
-        QVERIFY2(interims.size() >= 2, qPrintable(interims.join(u'|')));
+        QVERIFY(!interims.isEmpty());
     }
 
     void faultyFile_data() {
@@ -60,7 +67,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("missing");
         QTest::newRow("damaged model") << u"tiny/decoder.onnx"_s << false;
         QTest::newRow("damaged table of tokens") << u"tokens.txt"_s << false;
-        QTest::newRow("damaged library") << u"libsherpa-onnx-c-api.so"_s << false;
+        QTest::newRow("missing library") << u"libsherpa-onnx-c-api.so"_s << true;
         QTest::newRow("missing model") << u"tiny/encoder.onnx"_s << true;
     }
     void faultyFile() {
