@@ -18,6 +18,9 @@ namespace {
 
 const QString nameKey = u"full_name"_s;
 
+/// How long a save may keep the window from closing before the person is asked.
+constexpr std::chrono::seconds patience{5};
+
 /// A document is saved by its own button: leaving it half written is no wish to keep it.
 bool isDocument(const QString &key) {
     return key.endsWith("_md"_L1) || key.startsWith("worker_"_L1);
@@ -82,6 +85,19 @@ void AccountRoom::look() {
             worst = std::max(worst, state);
     }
     m_saveState = worst;
+    if (m_leaving == Leaving::Window && !m_leaveAsked && !isSaving())
+        leaveFor(Leaving::Window);
+}
+
+bool AccountRoom::isUnsaved() const {
+    return std::any_of(m_fields.begin(), m_fields.end(),
+                       [](const AccountField *field) { return field->isUnsaved(); });
+}
+
+bool AccountRoom::isSaving() const {
+    return std::any_of(m_fields.begin(), m_fields.end(), [](const AccountField *field) {
+        return field->state() == SaveState::Saving;
+    });
 }
 
 void AccountRoom::loadProfile() {
@@ -147,7 +163,8 @@ void AccountRoom::commitTyped() {
 }
 
 void AccountRoom::leave() {
-    leaveFor(Leaving::Pages);
+    if (m_store.layout()->isAccount())
+        leaveFor(Leaving::Pages);
 }
 
 void AccountRoom::signOut() {
@@ -157,10 +174,28 @@ void AccountRoom::signOut() {
 void AccountRoom::leaveFor(Leaving leaving) {
     commitTyped();
     m_leaving = leaving;
-    m_leaveAsked = std::any_of(m_fields.begin(), m_fields.end(),
-                               [](const AccountField *field) { return field->isUnsaved(); });
+    m_leaveAsked = isUnsaved();
     if (!m_leaveAsked)
         finishLeaving();
+}
+
+bool AccountRoom::releaseWindow() {
+    const bool again = m_leaving == Leaving::Window;
+    commitTyped();
+    m_leaveAsked = isUnsaved();
+    m_leaving = Leaving::Window;
+    if (!m_leaveAsked && (again || !isSaving())) {
+        stay();
+        return true;
+    }
+    if (!m_leaveAsked)
+        m_patience = m_store.clock().after(patience, [this] { m_leaveAsked = true; });
+    return false;
+}
+
+void AccountRoom::giveWay() {
+    if (!isUnsaved())
+        m_store.layout()->closeAccount();
 }
 
 void AccountRoom::leaveAnyway() {
@@ -174,6 +209,7 @@ void AccountRoom::leaveAnyway() {
 }
 
 void AccountRoom::stay() {
+    m_patience.stop();
     m_leaveAsked = false;
     m_leaving = Leaving::No;
 }
@@ -181,6 +217,8 @@ void AccountRoom::stay() {
 void AccountRoom::finishLeaving() {
     const Leaving leaving = m_leaving;
     stay();
+    if (leaving == Leaving::Window)
+        return Q_EMIT windowReleased();
     m_store.layout()->closeAccount();
     if (leaving == Leaving::Session)
         m_store.session()->logout();

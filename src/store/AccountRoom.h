@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Clock.h"
 #include "base/Work.h"
 #include "store/AccountBudget.h"
 #include "store/AccountField.h"
@@ -66,6 +67,12 @@ public:
     Q_INVOKABLE void leave();
     /// The same, and signs out.
     Q_INVOKABLE void signOut();
+    /// The window is about to close: true when it can close now. Otherwise windowReleased()
+    /// follows, once what was typed is saved or the person has dropped it. Being asked again while
+    /// a save is under way gives in.
+    Q_INVOKABLE bool releaseWindow();
+    /// Closes the pages unless something is not saved. Asks nothing: the person did not leave.
+    void giveWay();
     Q_INVOKABLE void leaveAnyway();
     Q_INVOKABLE void stay();
 
@@ -99,14 +106,17 @@ Q_SIGNALS:
     /// The person has chosen the picture at `file`.
     void pictureChosen(const QUrl &file);
     void passwordChanged();
+    void windowReleased();
     /// Something could not be saved after the pages were left.
     void failedElsewhere(const QString &why);
 
 private:
-    enum class Leaving { No, Pages, Session };
+    enum class Leaving { No, Pages, Session, Window };
 
     void addField(const QString &key, const QVariant &empty);
     void look();
+    bool isUnsaved() const;
+    bool isSaving() const;
     void commitTyped();
     void leaveFor(Leaving leaving);
     void finishLeaving();
@@ -142,6 +152,7 @@ private:
                                &AccountRoom::passwordFaultChanged)
     Q_OBJECT_BINDABLE_PROPERTY(AccountRoom, QString, m_passwordNote,
                                &AccountRoom::passwordNoteChanged)
+    Clock::Timer m_patience; ///< with a save that holds the window open
     Work m_profileWork;
     Work m_budgetWork;
     Work m_pictureWork;

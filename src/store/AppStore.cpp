@@ -43,6 +43,12 @@ void AppStore::boot() {
     m_session.boot();
 }
 
+bool AppStore::releaseWindow() {
+    if (m_create.isOpen())
+        m_create.requestClose();
+    return !m_create.isAsking() && m_account.releaseWindow();
+}
+
 void AppStore::resetSurfaces() {
     m_layout.closeSurfaces();
     m_canvas.closePanel();

@@ -88,6 +88,9 @@ public:
 
     /// Asks the backend who is signed in; called once when the window is there.
     Q_INVOKABLE void boot();
+    /// The window is about to close: false when that has to wait for the person's answer, or for
+    /// what is being saved.
+    Q_INVOKABLE bool releaseWindow();
     /// Closes what lies over the chat before the scope changes.
     void resetSurfaces();
     /// The current local time as HH:MM.

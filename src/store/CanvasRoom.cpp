@@ -86,7 +86,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
         entrance = scene->art == m_art.value() ? Entrance::Still : Entrance::Animated;
     m_drawnSpecKey = spec.jsonKey;
     m_artSpec = spec;
-    m_store.layout()->closeAccount();
+    m_store.account()->giveWay();
     show(*scene, canvas::ArtInfoFactory::make(scene->art, spec, *scene, chips), entrance);
     if (record != Record::None)
         remember(entryOf(m_lastQuery, m_lastIntent, spec, *scene), record);

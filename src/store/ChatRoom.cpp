@@ -153,7 +153,7 @@ void ChatRoom::startTurn(const Post &post) {
     m_chatNote = QString();
     m_liveWaiting = true;
     m_canStop = isStoppable();
-    m_store.layout()->closeAccount();
+    m_store.account()->leave();
     m_store.layout()->closeProfile();
     QSet<qint64> known;
     for (const Msg &message : m_msgs.messages()) {
@@ -285,7 +285,7 @@ void ChatRoom::newChat() {
     m_chatNote = QString();
     setUnsentAside();
     m_store.canvas()->clearCanvas();
-    m_store.layout()->closeAccount();
+    m_store.account()->leave();
     m_store.layout()->closeHistory();
     m_store.layout()->closeDock();
     m_liveWaiting = false;

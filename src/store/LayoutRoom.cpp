@@ -155,6 +155,9 @@ void LayoutRoom::closePopovers() {
 }
 
 void LayoutRoom::focusAsk() {
+    // The account pages leave no ask bar beside the strip.
+    if (!m_dockOpen && !railShown())
+        m_store.account()->leave();
     m_focusAskRequests = m_focusAskRequests + 1;
 }
 
@@ -180,13 +183,13 @@ bool LayoutRoom::isCreating() const {
 }
 
 void LayoutRoom::closeSurfaces() {
-    m_account = QString();
+    m_store.account()->leave();
     m_scopeOpen = false;
     m_topScopeOpen = false;
 }
 
 void LayoutRoom::closePages() {
-    m_account = QString();
+    m_store.account()->leave();
     m_store.create()->close();
 }
 

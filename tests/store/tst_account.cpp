@@ -6,6 +6,7 @@
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::StoreFixture;
@@ -229,7 +230,6 @@ private Q_SLOTS:
         QSignalSpy failures(&f.account(), &AccountRoom::failedElsewhere);
         f.backend.answer(profilePatch, R"({"error":"Taken."})", 409);
         f.field(u"handle"_s).edit(u"grace"_s);
-        f.field(u"goals_md"_s).edit(u"Ship it"_s);
         f.store->scope()->enterProject(u"ferry"_s);
         QVERIFY(!f.store->layout()->isAccount());
         SOON_COMPARE(failures.size(), 1);
@@ -237,8 +237,57 @@ private Q_SLOTS:
         // Nothing that was entered is lost.
         f.store->layout()->openAccount();
         QCOMPARE(f.field(u"handle"_s).text(), u"grace"_s);
-        QCOMPARE(f.field(u"goals_md"_s).text(), u"Ship it"_s);
+        f.field(u"handle"_s).discard();
+
+        // A scope that is picked is entered behind the question.
+        f.field(u"goals_md"_s).edit(u"Ship it"_s);
+        f.store->scope()->pickGlobal();
+        QVERIFY(f.account().leaveAsked());
+        QVERIFY(f.store->layout()->isAccount());
+        QVERIFY(f.store->scope()->project().isEmpty());
+        f.account().leaveAnyway();
+        QVERIFY(!f.store->layout()->isAccount());
         QCOMPARE(f.patches().size(), 1);
+    }
+
+    void windowCloses() {
+        AccountFixture f;
+        QVERIFY(f.open());
+        QSignalSpy released(&f.account(), &AccountRoom::windowReleased);
+        QVERIFY(f.store->releaseWindow());
+        // A save under way is waited for.
+        f.backend.hold(profilePatch);
+        f.field(u"handle"_s).edit(u"grace"_s);
+        QVERIFY(!f.store->releaseWindow());
+        SOON_COMPARE(f.patches().size(), 1);
+        QVERIFY(!f.account().leaveAsked());
+        f.backend.release(profilePatch);
+        SOON_COMPARE(released.size(), 1);
+        // One that does not end asks; being asked to close once more gives in.
+        f.backend.hold(profilePatch);
+        f.field(u"handle"_s).edit(u"hopper"_s);
+        QVERIFY(!f.store->releaseWindow());
+        f.clock.advance(5s);
+        QVERIFY(f.account().leaveAsked());
+        f.account().stay();
+        QVERIFY(!f.store->releaseWindow());
+        QVERIFY(f.store->releaseWindow());
+        f.backend.release(profilePatch);
+        SOON_COMPARE(f.account().saveState(), SaveState::Stored);
+        // So does one that fails, and a document.
+        f.backend.answer(profilePatch, R"({"error":"Taken."})", 409);
+        f.field(u"handle"_s).edit(u"ada"_s);
+        QVERIFY(!f.store->releaseWindow());
+        QTRY_VERIFY(f.account().leaveAsked());
+        f.account().leaveAnyway();
+        QCOMPARE(released.size(), 2);
+        QVERIFY(f.store->releaseWindow());
+        f.store->create()->start(u"project"_s, {});
+        QVERIFY(f.store->releaseWindow());
+        f.store->create()->start(u"project"_s, {});
+        f.store->create()->setName(u"Quay"_s);
+        QVERIFY(!f.store->releaseWindow());
+        QVERIFY(f.store->create()->isAsking());
     }
 
     void signingOutForgets() {

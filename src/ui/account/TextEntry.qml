@@ -15,7 +15,7 @@ Item {
     implicitWidth: 240
     implicitHeight: input.height + (reason.visible ? reason.height + 4 : 0)
     Keys.onEscapePressed: event => {
-        event.accepted = value.state === Store.SaveState.Edited
+        event.accepted = value.state === Store.SaveState.Edited || value.state === Store.SaveState.Failed
         if (event.accepted)
             value.discard()
     }

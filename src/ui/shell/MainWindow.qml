@@ -16,7 +16,15 @@ Window {
     minimumHeight: 680
     visible: true
     color: Tokens.bg
+    onClosing: close => close.accepted = store.releaseWindow()
 
+    Connections {
+        target: window.store.account
+
+        function onWindowReleased() {
+            window.close()
+        }
+    }
     MainView {
         anchors.fill: parent
         store: window.store
