@@ -43,6 +43,8 @@ def main():
                     continue
                 for folder in INCLUDE.findall(path.read_text(encoding="utf-8")):
                     checked += 1
+                    if (ROOT / place / folder).is_dir():
+                        continue  # a folder of its own
                     if folder in known and folder != name.split("/")[-1] and folder not in right:
                         faults.append(f"{path.relative_to(ROOT)} includes from {folder}")
     folders = {path.name for path in (ROOT / "src").iterdir() if path.is_dir()}
