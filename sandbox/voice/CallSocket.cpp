@@ -31,9 +31,11 @@ CallSocket::CallSocket(std::unique_ptr<QWebSocket> socket, std::optional<Fault> 
         const qint64 now = QDeadlineTimer::current().deadlineNSecs();
         m_handlers.latency(static_cast<double>(now - sent) / 1e6);
     });
-    // Only the end that somebody meant is announced, and a broken one has the code of a normal one.
+    // The code alone does not tell: a connection that broke has that of a normal end. But only an
+    // end that somebody meant is announced, and so is breakOff().
     connect(m_socket.get(), &QWebSocket::aboutToClose, this, [this] {
-        m_goodbye = m_closing || m_socket->closeCode() == QWebSocketProtocol::CloseCodeNormal;
+        m_goodbye = !m_breaking &&
+                    (m_closing || m_socket->closeCode() == QWebSocketProtocol::CloseCodeNormal);
     });
     connect(m_socket.get(), &QWebSocket::disconnected, this,
             [this] { m_handlers.closed(m_goodbye); });
@@ -76,6 +78,7 @@ void CallSocket::close(QWebSocketProtocol::CloseCode code, const QString &reason
 }
 
 void CallSocket::breakOff() {
+    m_breaking = true;
     // What follows here may be in the middle of using the socket.
     QMetaObject::invokeMethod(m_socket.get(), &QWebSocket::abort, Qt::QueuedConnection);
 }

@@ -42,6 +42,7 @@ private:
     qint64 m_second = 0; ///< the second in which messages are counted
     int m_inSecond = 0;
     bool m_closing = false; ///< ended from this side
+    bool m_breaking = false;
     bool m_goodbye = false; ///< ended on purpose by either
 };
 
