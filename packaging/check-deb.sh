@@ -35,7 +35,8 @@ trap leave EXIT
 # A root of its own, not a changed one (there, programs may still shut their processes in), with no
 # processes but its own.
 # shellcheck disable=SC2016
-enter='mount --rbind "$0" "$0" && cd "$0" && mount -t proc proc proc && pivot_root . . &&
+enter='mount --rbind "$0" "$0" && cd "$0" && mount -t proc proc proc &&
+    mount -t tmpfs -o mode=1777 tmpfs dev/shm && pivot_root . . &&
     umount -l . && exec chroot . "$@"'
 inside() {
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 \
@@ -77,9 +78,10 @@ as_person 'kiv & kiv=$!
 # does, on what is installed.
 inside apt-get install -y -q --no-install-recommends libqt6test6 >>"$root/build/install.log" 2>&1
 install -m 755 "$build/bin/kiv-tour" "$clean/usr/bin/kiv-tour"
-as_person 'timeout 300 kiv-tour pictures && test -s pictures/*report*.png'
+as_person 'timeout 300 kiv-tour pictures && test -s pictures/report.png'
 as_person 'printf "| Month | Spend |\n|---|---|\n| May | 4 |\n| June | 6 |\n" |
     kiv-canvas render --question "Spend by month" -o answer.png - && test -s answer.png'
+as_person '! command -v kiv-speech || { echo "{\"end\":true}" | timeout 60 kiv-speech | grep ready; }'
 rm "$clean/usr/bin/kiv-tour"
 inside userdel --remove visitor 2>/dev/null || true
 
@@ -91,7 +93,8 @@ left=$({
     while read -r path; do
         [ ! -e "$clean$path" ] || inside dpkg -S "$path" >/dev/null 2>&1 || echo "$path"
     done <"$root/build/package-files.txt"
-    find "$clean/etc" "$clean/usr" "$clean/var/lib" "$clean/home" -xdev -iname '*kiv*'
+    find "$clean/etc" "$clean/usr" "$clean/var/lib" "$clean/home" -xdev \( -name kiv -o \
+        -name 'kiv[.-]*' -o -name 'ai.kiv*' \)
 })
 if [ -n "$left" ]; then
     say "This was left behind:" "$left"
