@@ -30,19 +30,18 @@ if [ "$(id -u)" != 0 ] || ! command -v debootstrap >/dev/null; then
 fi
 
 clean=${KIV_ROOT:-$(mktemp -d)}
-mounted=false
-leave() {
-    ! $mounted || umount "$clean/proc"
-    [ -n "${KIV_ROOT:-}" ] || rm -rf --one-file-system "$clean"
-}
+leave() { [ -n "${KIV_ROOT:-}" ] || rm -rf --one-file-system "$clean"; }
 trap leave EXIT
-# A root of its own, not a changed one: there, programs may still shut their processes in.
+# A root of its own, not a changed one (there, programs may still shut their processes in), with no
+# processes but its own.
 # shellcheck disable=SC2016
-enter='mount --rbind "$0" "$0" && cd "$0" && pivot_root . . && umount -l . && exec chroot . "$@"'
+enter='mount --rbind "$0" "$0" && cd "$0" && mount -t proc proc proc &&
+    mount -t tmpfs -o mode=1777 tmpfs dev/shm && pivot_root . . &&
+    umount -l . && exec chroot . "$@"'
 inside() {
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8 \
         DEBIAN_FRONTEND=noninteractive \
-        unshare --mount --propagation private sh -c "$enter" "$clean" "$@"
+        unshare --mount --propagation private --pid --fork --kill-child sh -c "$enter" "$clean" "$@"
 }
 
 if [ ! -e "$clean/etc/debian_version" ]; then
@@ -53,9 +52,6 @@ if [ ! -e "$clean/etc/debian_version" ]; then
         exit 1
     }
 fi
-mount -t proc proc "$clean/proc"
-mounted=true
-
 say "Installing"
 cp "$package" "$clean/tmp/kiv.deb"
 inside apt-get update -q >"$root/build/install.log" 2>&1
@@ -66,10 +62,11 @@ inside apt-get install -y -q --no-install-recommends /tmp/kiv.deb >>"$root/build
 
 say "Opening the window and asking"
 # Nothing but the program's own dependencies is there: no bus, no display, no home of anybody.
+inside userdel --remove visitor >/dev/null 2>&1 || true # of a root that was kept
 inside useradd --create-home --shell /bin/sh visitor
 # shellcheck disable=SC2016 # all of it is for the person's own shell
-person='cd; export QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software XDG_RUNTIME_DIR=$HOME
-    serves() { grep -qsx kiv-sandbox /proc/[0-9]*/comm; }'
+person='cd; export QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software XDG_RUNTIME_DIR=$HOME; chmod 700 .
+    serves() { ls -l /proc/[0-9]*/exe 2>/dev/null | grep -q kiv-sandbox; }'
 as_person() { inside su visitor -c "$person; $1"; }
 as_person 'timeout 60 kiv --version'
 as_person 'kiv & kiv=$!
@@ -77,11 +74,14 @@ as_person 'kiv & kiv=$!
     serves || { cat .local/state/kiv/kiv.log; exit 1; }
     kill $kiv; wait $kiv || true
     sleep 2; ! serves'
-# The tour is no part of the package: it uses the window as a person does, on what is installed.
+# The tour is no part of the package, nor is what it is driven by: it uses the window as a person
+# does, on what is installed.
+inside apt-get install -y -q --no-install-recommends libqt6test6 >>"$root/build/install.log" 2>&1
 install -m 755 "$build/bin/kiv-tour" "$clean/usr/bin/kiv-tour"
-as_person 'timeout 300 kiv-tour pictures && test -s pictures/*report*.png'
+as_person 'timeout 300 kiv-tour pictures && test -s pictures/report.png'
 as_person 'printf "| Month | Spend |\n|---|---|\n| May | 4 |\n| June | 6 |\n" |
     kiv-canvas render --question "Spend by month" -o answer.png - && test -s answer.png'
+as_person '! command -v kiv-speech || { echo "{\"end\":true}" | timeout 60 kiv-speech | grep ready; }'
 rm "$clean/usr/bin/kiv-tour"
 inside userdel --remove visitor 2>/dev/null || true
 
@@ -93,7 +93,8 @@ left=$({
     while read -r path; do
         [ ! -e "$clean$path" ] || inside dpkg -S "$path" >/dev/null 2>&1 || echo "$path"
     done <"$root/build/package-files.txt"
-    find "$clean/etc" "$clean/usr" "$clean/var/lib" "$clean/home" -xdev -iname '*kiv*'
+    find "$clean/etc" "$clean/usr" "$clean/var/lib" "$clean/home" -xdev \( -name kiv -o \
+        -name 'kiv[.-]*' -o -name 'ai.kiv*' \)
 })
 if [ -n "$left" ]; then
     say "This was left behind:" "$left"
