@@ -2351,7 +2351,7 @@
     </message>
     <message>
         <source>Tools and autonomy</source>
-        <translation>Инструменты и самостоятельность</translation>
+        <translation>Полномочия</translation>
     </message>
     <message>
         <source>Review</source>

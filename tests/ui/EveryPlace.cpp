@@ -187,17 +187,21 @@ void Way::accountPages() {
         m_gallery.item(QLatin1StringView(tab) + u"Page"_s);
         m_visit(u"account-"_s + QLatin1StringView(tab));
     }
-    click("country");
-    QTest::qWait(200);
+    QQuickItem *country = m_gallery.item(u"country"_s);
+    country->forceActiveFocus(Qt::TabFocusReason); // which brings it into sight
+    m_gallery.press(Qt::Key_Space);
+    m_gallery.item(u"choiceList"_s);
     visit("account-list");
     escape();
     click("memoryTab");
-    click("goals_md");
-    m_gallery.item(u"documentText"_s);
+    m_gallery.item(u"goals_md"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery.press(Qt::Key_Space);
+    m_gallery.item(u"documentText"_s)->forceActiveFocus(Qt::TabFocusReason);
     visit("account-editor");
-    click("documentText");
+    m_gallery.item(u"documentText"_s)->forceActiveFocus(Qt::TabFocusReason);
     m_gallery.type(u"x"_s);
-    click("leaveAccount");
+    m_gallery.item(u"leaveAccount"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery.press(Qt::Key_Space);
     m_gallery.item(u"leaveAnyway"_s);
     visit("leave");
     click("leaveAnyway");

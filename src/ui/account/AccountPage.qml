@@ -50,6 +50,7 @@ FocusScope {
 
                 objectName: "leaveAccount"
                 x: -8
+                anchors.verticalCenter: parent.verticalCenter
                 focus: true
                 iconName: "left"
                 text: qsTr("Back")

@@ -40,6 +40,7 @@ Column {
 
                     objectName: "day" + index
                     text: modelData
+                    width: Math.min(implicitWidth, (entry.width - 36) / 7)
                     checked: week.chosen[index] ?? false
                     onClicked: entry.value.choose(week.toggled(index))
                 }

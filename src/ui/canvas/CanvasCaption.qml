@@ -90,6 +90,7 @@ Item {
         }
         IconButton {
             objectName: "fullButton"
+            anchors.verticalCenter: parent.verticalCenter
             iconName: caption.layout.canvasFull ? "shrink" : "expand"
             text: caption.layout.canvasFull ? qsTr("Back to the window") : qsTr("Fill the window")
             keys: caption.layout.canvasFull ? qsTr("Esc") : qsTr("Ctrl Shift F")

@@ -21,6 +21,8 @@ FocusScope {
         text: qsTr("Sample")
     }
     Label {
+        id: note
+
         anchors.left: chip.right
         anchors.leftMargin: 10
         anchors.right: tabs.left
@@ -36,7 +38,7 @@ FocusScope {
         objectName: "sampleTabs"
         x: parent.width - 24 - width
         y: 16
-        width: Math.min(contentWidth, parent.width - 232)
+        width: Math.min(contentWidth, parent.width - 74 - chip.width - note.implicitWidth)
         height: 36
         orientation: ListView.Horizontal
         clip: contentWidth > width

@@ -11,7 +11,7 @@ Popover {
     required property AppStore store
     required property ConversationExport exporter
 
-    width: 260
+    width: Tokens.fit(260)
     onAboutToShow: find.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {

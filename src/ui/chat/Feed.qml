@@ -95,7 +95,7 @@ FocusScope {
         clip: true
         boundsBehavior: Flickable.StopAtBounds
         flickDeceleration: Tokens.flickDeceleration
-        bottomMargin: 20
+        bottomMargin: Tokens.fit(20)
         activeFocusOnTab: true
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Conversation")

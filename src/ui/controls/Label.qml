@@ -21,5 +21,6 @@ Text {
     textFormat: Text.PlainText
     elide: Text.ElideRight
     Accessible.role: Accessible.StaticText
+    Accessible.ignored: text === ""
     Accessible.name: text
 }

@@ -22,7 +22,7 @@ FocusScope {
         picked(Math.max(minimumValue, Math.min(maximumValue, value + steps * stepSize)))
     }
 
-    implicitWidth: Tokens.fit(124)
+    implicitWidth: Tokens.fit(112)
     implicitHeight: Tokens.fit(36)
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox

@@ -60,7 +60,7 @@ FocusScope {
             Label {
                 id: words
 
-                x: Tokens.fit(112)
+                x: Tokens.fit(144)
                 y: 12
                 width: parent.width - x - 12
                 style: Tokens.type.line

@@ -1,6 +1,5 @@
 import QtQuick
 import Kiv.Controls
-import Kiv.Icons
 import Kiv.Store
 import Kiv.Tokens
 

@@ -80,7 +80,8 @@ Dialog {
         objectName: "paletteList"
         y: Tokens.fit(50)
         width: root.availableWidth
-        height: Math.min(contentHeight, 10 * Tokens.fit(40))
+        height: Math.min(contentHeight, 10 * Tokens.fit(40),
+            (T.Overlay.overlay?.height ?? 680) - root.y - y - 48)
         model: entries
         clip: true
         currentIndex: 0

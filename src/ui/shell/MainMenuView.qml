@@ -19,7 +19,7 @@ Popover {
     }
 
     alignLeft: true
-    width: 460
+    width: Tokens.fit(460)
     onAboutToShow: {
         chosen = 0
         menus.currentIndex = 0
@@ -35,7 +35,7 @@ Popover {
         id: menus
 
         objectName: "menus"
-        width: 160
+        width: Tokens.fit(160)
         height: parent.height
         model: root.commands.menus
         focus: true
@@ -62,7 +62,7 @@ Popover {
         }
     }
     Divider {
-        x: 166
+        x: menus.width + 6
         width: 1
         height: parent.height
     }
@@ -70,7 +70,7 @@ Popover {
         id: lines
 
         objectName: "menuLines"
-        x: 173
+        x: menus.width + 13
         width: parent.width - x
         height: parent.height
         model: root.commands.menus[Math.max(0, menus.currentIndex)].lines

@@ -1,6 +1,5 @@
 import QtQuick
 import Kiv.Controls
-import Kiv.Icons
 import Kiv.Shell
 import Kiv.Store
 import Kiv.Tokens
@@ -17,8 +16,15 @@ Popover {
     height: Math.min(implicitHeight, most)
     onAboutToShow: accountRow.forceActiveFocus(Qt.PopupFocusReason)
 
-    contentItem: Flickable {
+    contentItem: Item {
         implicitHeight: rows.height
+    }
+
+    Flickable {
+        id: scroller
+
+        width: popover.availableWidth
+        height: popover.availableHeight
         contentHeight: rows.height
         clip: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
@@ -121,6 +127,6 @@ Popover {
     }
 
     FocusInSight {
-        area: popover.contentItem
+        area: scroller
     }
 }

@@ -38,7 +38,8 @@ Dialog {
         objectName: "shortcutList"
         y: Tokens.fit(44)
         width: sheet.availableWidth
-        height: Math.min(contentHeight, 12 * Tokens.fit(36))
+        height: Math.min(contentHeight, 12 * Tokens.fit(36),
+            (T.Overlay.overlay?.height ?? 680) - y - sheet.topPadding - sheet.bottomPadding - 48)
         model: sheet.commands.everyKey
         clip: true
         focus: true

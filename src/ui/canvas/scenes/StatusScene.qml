@@ -93,7 +93,7 @@ ArtScene {
             nameWidth: Math.max(status.wide ? 296 : 0,
                 Math.min(status.inner * 0.32, Math.max(names.wanted, notes.wanted)))
             // With the sign.
-            figureWidth: figures.wanted + 22
+            figureWidth: figures.wanted + Tokens.fit(22)
             measured: targets.highest >= 0 || judged.lowest < 1
             full: status.full
             verdictWidth: verdicts.wanted
