@@ -15,6 +15,18 @@
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>Copy diagnostics</source>
+        <translation>Скопировать диагностику</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Скопировано</translation>
+    </message>
+    <message>
+        <source>Third-party notices</source>
+        <translation>Сторонние компоненты</translation>
+    </message>
 </context>
 <context>
     <name>AccountBody</name>
@@ -335,6 +347,163 @@
     <message>
         <source>Delta</source>
         <translation>Разница</translation>
+    </message>
+</context>
+<context>
+    <name>CallControls</name>
+    <message>
+        <source>Call</source>
+        <translation>Звонок</translation>
+    </message>
+    <message>
+        <source>Unmute</source>
+        <translation>Включить микрофон</translation>
+    </message>
+    <message>
+        <source>Mute</source>
+        <translation>Выключить микрофон</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Продолжить</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Удержать</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Микрофон</translation>
+    </message>
+    <message>
+        <source>Type instead</source>
+        <translation>Написать</translation>
+    </message>
+    <message>
+        <source>Copy the link of the canvas</source>
+        <translation>Скопировать ссылку на холст</translation>
+    </message>
+    <message>
+        <source>Hide the transcript</source>
+        <translation>Скрыть запись</translation>
+    </message>
+    <message>
+        <source>Show the transcript</source>
+        <translation>Показать запись</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Завершить звонок</translation>
+    </message>
+</context>
+<context>
+    <name>CallHead</name>
+    <message>
+        <source>Call with %1</source>
+        <translation>Звонок: %1</translation>
+    </message>
+    <message>
+        <source>Back to the window</source>
+        <translation>Вернуться в окно</translation>
+    </message>
+</context>
+<context>
+    <name>CallNews</name>
+    <message>
+        <source>Reconnecting</source>
+        <translation>Соединяем снова</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Соединяем</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Звонок завершён</translation>
+    </message>
+    <message>
+        <source>Ending soon</source>
+        <translation>Скоро завершится</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Соединение есть</translation>
+    </message>
+</context>
+<context>
+    <name>CallPill</name>
+    <message>
+        <source>Back to the call</source>
+        <translation>Вернуться к звонку</translation>
+    </message>
+    <message>
+        <source>Back to the call with %1, on hold</source>
+        <translation>Вернуться к звонку: %1, на удержании</translation>
+    </message>
+    <message>
+        <source>Back to the call with %1, muted</source>
+        <translation>Вернуться к звонку: %1, микрофон выключен</translation>
+    </message>
+    <message>
+        <source>Back to the call with %1</source>
+        <translation>Вернуться к звонку: %1</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Соединяем</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Звонок завершён</translation>
+    </message>
+</context>
+<context>
+    <name>CallScreen</name>
+    <message>
+        <source>Call with %1</source>
+        <translation>Звонок: %1</translation>
+    </message>
+</context>
+<context>
+    <name>CallStage</name>
+    <message>
+        <source>Reconnecting</source>
+        <translation>Соединяем снова</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Соединяем</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Звонок завершён</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>На удержании</translation>
+    </message>
+    <message>
+        <source>Ending soon</source>
+        <translation>Скоро завершится</translation>
+    </message>
+    <message>
+        <source>%1 is speaking</source>
+        <translation>Говорит %1</translation>
+    </message>
+    <message>
+        <source>Muted</source>
+        <translation>Микрофон выключен</translation>
+    </message>
+    <message>
+        <source>Listening</source>
+        <translation>Слушает</translation>
+    </message>
+</context>
+<context>
+    <name>CallsPage</name>
+    <message>
+        <source>Calls</source>
+        <translation>Звонки</translation>
     </message>
 </context>
 <context>
@@ -1174,6 +1343,10 @@
         <source>with %1</source>
         <translation>вместе с %1</translation>
     </message>
+    <message>
+        <source>said in a call</source>
+        <translation>сказано в звонке</translation>
+    </message>
 </context>
 <context>
     <name>MessageMenu</name>
@@ -1227,6 +1400,55 @@
     <message>
         <source>Ask again</source>
         <translation>Спросить снова</translation>
+    </message>
+    <message>
+        <source>said in a call</source>
+        <translation>сказано в звонке</translation>
+    </message>
+</context>
+<context>
+    <name>MicButton</name>
+    <message>
+        <source>Stop dictation</source>
+        <translation>Остановить диктовку</translation>
+    </message>
+    <message>
+        <source>Dictate</source>
+        <translation>Диктовать</translation>
+    </message>
+    <message>
+        <source>Alt and Down choose the microphone</source>
+        <translation>Alt и стрелка вниз — выбор микрофона</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+</context>
+<context>
+    <name>MicMenu</name>
+    <message>
+        <source>Microphone</source>
+        <translation>Микрофон</translation>
+    </message>
+    <message>
+        <source>No microphone was found</source>
+        <translation>Микрофон не найден</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Как в системе</translation>
+    </message>
+</context>
+<context>
+    <name>MicrophoneMenu</name>
+    <message>
+        <source>Microphone</source>
+        <translation>Микрофон</translation>
+    </message>
+    <message>
+        <source>System default</source>
+        <translation>Как в системе</translation>
     </message>
 </context>
 <context>
@@ -1311,6 +1533,21 @@
     <message>
         <source>Show the agents of %1</source>
         <translation>Показать агентов: %1</translation>
+    </message>
+</context>
+<context>
+    <name>NoticesSheet</name>
+    <message>
+        <source>Third-party notices</source>
+        <translation>Сторонние компоненты</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>%1: %2. %3. %4</source>
+        <translation>%1: %2. %3. %4</translation>
     </message>
 </context>
 <context>
@@ -1429,6 +1666,51 @@
     <message>
         <source>Show the password</source>
         <translation>Показать пароль</translation>
+    </message>
+</context>
+<context>
+    <name>PastCall</name>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+</context>
+<context>
+    <name>PastCalls</name>
+    <message>
+        <source>No calls yet</source>
+        <translation>Звонков ещё не было</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Загрузка…</translation>
+    </message>
+    <message>
+        <source>The calls could not be loaded</source>
+        <translation>Не удалось загрузить звонки</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Звонки</translation>
+    </message>
+</context>
+<context>
+    <name>PastTranscript</name>
+    <message>
+        <source>Loading…</source>
+        <translation>Загрузка…</translation>
+    </message>
+    <message>
+        <source>Nothing was written down</source>
+        <translation>Ничего не записано</translation>
     </message>
 </context>
 <context>
@@ -1989,6 +2271,24 @@
     </message>
 </context>
 <context>
+    <name>SpokenEvent</name>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenLine</name>
+    <message>
+        <source>You</source>
+        <translation>Вы</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
     <name>StackedBar</name>
     <message>
         <source>%1 more</source>
@@ -2145,6 +2445,10 @@
         <source>Sign in</source>
         <translation>Войти</translation>
     </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Завершить звонок</translation>
+    </message>
 </context>
 <context>
     <name>Transcript</name>
@@ -2159,6 +2463,39 @@
     <message>
         <source>not sent</source>
         <translation>не отправлено</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptList</name>
+    <message>
+        <source>Transcript</source>
+        <translation>Запись</translation>
+    </message>
+</context>
+<context>
+    <name>TranscriptPanel</name>
+    <message>
+        <source>Transcript</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Скопировано</translation>
+    </message>
+    <message>
+        <source>Copy the transcript</source>
+        <translation>Скопировать запись</translation>
+    </message>
+    <message>
+        <source>What is said shows here</source>
+        <translation>Здесь появится сказанное</translation>
+    </message>
+</context>
+<context>
+    <name>TypeBar</name>
+    <message>
+        <source>Type instead</source>
+        <translation>Написать</translation>
     </message>
 </context>
 <context>
@@ -2306,6 +2643,24 @@
     </message>
 </context>
 <context>
+    <name>kiv::app::AnswerNotes</name>
+    <message>
+        <source>No answer came</source>
+        <translation>Ответ не пришёл</translation>
+    </message>
+    <message>
+        <source>The answer is there</source>
+        <translation>Ответ готов</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::desktop::Notifier</name>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+</context>
+<context>
     <name>kiv::store::AccountRoom</name>
     <message>
         <source>A change to your account was not saved. %1</source>
@@ -2333,6 +2688,36 @@
     <message>
         <source>“%1” was not taken.</source>
         <translation>Файл «%1» не принят.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::store::CallRoom</name>
+    <message>
+        <source>Connection lost, connecting again</source>
+        <translation>Связь прервалась, соединяем снова</translation>
+    </message>
+    <message>
+        <source>Connection was lost for a moment</source>
+        <translation>Связь ненадолго прерывалась</translation>
+    </message>
+    <message>
+        <source>The call ended because its voice engine stopped working.</source>
+        <translation>Звонок завершён: голосовой модуль перестал работать.</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>На удержании</translation>
+    </message>
+    <message>
+        <source>Was on hold</source>
+        <translation>Было на удержании</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::store::ChatDoor</name>
+    <message>
+        <source>The chat of this link is not in your workspace.</source>
+        <translation>Чата из этой ссылки нет в вашем рабочем пространстве.</translation>
     </message>
 </context>
 <context>
@@ -2489,6 +2874,33 @@
     <message>
         <source>%1 has answered: %2</source>
         <translation>%1 отвечает: %2</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::ui::CallText</name>
+    <message>
+        <source>Yesterday, %1</source>
+        <translation>Вчера, %1</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>In progress</source>
+        <translation>Идёт</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Не состоялся</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Завершён</translation>
+    </message>
+    <message>
+        <source>You: </source>
+        <translation>Вы: </translation>
     </message>
 </context>
 <context>
@@ -2777,12 +3189,42 @@
         <source>Events</source>
         <translation>События</translation>
     </message>
+    <message>
+        <source>Calls</source>
+        <translation>Звонки</translation>
+    </message>
 </context>
 <context>
     <name>kiv::ui::PictureCrop</name>
     <message>
         <source>“%1” is no picture that can be read.</source>
         <translation>«%1» — не картинка, которую можно прочитать.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::voice::LocalSpeech</name>
+    <message>
+        <source>The request has ended.</source>
+        <translation>Запрос завершён.</translation>
+    </message>
+    <message>
+        <source>No speech was heard.</source>
+        <translation>Речи не слышно.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::voice::SpeechProcess</name>
+    <message>
+        <source>Speech recognition has stopped unexpectedly. Start it again.</source>
+        <translation>Распознавание речи неожиданно остановилось. Запустите его снова.</translation>
+    </message>
+    <message>
+        <source>Speech recognition has not started in time. Start it again.</source>
+        <translation>Распознавание речи не запустилось вовремя. Запустите его снова.</translation>
+    </message>
+    <message>
+        <source>Speech recognition gave an answer that makes no sense.</source>
+        <translation>Распознавание речи дало непонятный ответ.</translation>
     </message>
 </context>
 </TS>
