@@ -1,6 +1,8 @@
 #include "speech/Listener.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numeric>
 
 namespace kiv::speech {
 
@@ -13,6 +15,13 @@ constexpr qint64 longest = samplesIn(20'000);
 constexpr qint64 before = samplesIn(300);
 constexpr qint64 after = samplesIn(100);
 constexpr qint64 beforeGrowing = samplesIn(500);
+
+constexpr qint64 pause = samplesIn(200);
+
+float loudness(const std::vector<float> &samples) {
+    const float power = std::inner_product(samples.begin(), samples.end(), samples.begin(), 0.F);
+    return std::sqrt(power / static_cast<float>(std::max<size_t>(1, samples.size())));
+}
 
 } // namespace
 
@@ -51,12 +60,12 @@ void Listener::hearWindow() {
 }
 
 void Listener::look() {
-    if (!m_spokenFrom || !m_beat.due(m_now()))
+    if (!m_spokenFrom || !m_beat.due(m_now()) || pausing())
         return;
     const auto from = m_now();
     const QString reading =
         read({std::max(m_finished, *m_spokenFrom - beforeGrowing), m_ring.end() + after});
-    m_beat.read(from, m_now());
+    m_beat.read(from, m_now(), !m_words.shown());
     if (const auto words = m_words.add(reading))
         m_say({*words, false});
 }
@@ -81,6 +90,12 @@ QString Listener::read(Stretch wanted) const {
     std::vector<float> samples = m_ring.copy(wanted);
     samples.resize(samples.size() + size_t(std::max<qint64>(0, wanted.end - m_ring.end())));
     return m_read(samples);
+}
+
+bool Listener::pausing() const {
+    constexpr float quiet = 0.1F; // of what is said
+    return loudness(m_ring.copy({m_ring.end() - pause, m_ring.end()})) <
+           quiet * loudness(m_ring.copy({*m_spokenFrom, m_ring.end()}));
 }
 
 void Listener::cut() {

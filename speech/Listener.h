@@ -28,7 +28,8 @@ public:
 
     /// Takes sound; says what ends in it.
     void hear(std::span<const float> samples);
-    /// Reads the utterance that is being spoken, when it is time to.
+    /// Reads the utterance that is being spoken, when it is time to. Not in a pause, which may be
+    /// its end: the last reading is not to wait for this one.
     void look();
     /// Finishes the utterance that is being spoken and forgets the sound.
     void end();
@@ -39,6 +40,7 @@ private:
     void hearWindow();
     void finish(Stretch speech);
     QString read(Stretch wanted) const;
+    bool pausing() const;
     void cut();
     void restartActivity();
 

@@ -16,6 +16,8 @@ public:
     /// Takes the next reading; the words to show when they are others than before. What is shown
     /// never gets shorter.
     std::optional<QString> add(const QString &reading);
+    /// Whether there have been words to show.
+    bool shown() const { return !m_shown.isEmpty(); }
     /// The latest reading that had words, whole.
     const QString &lastReading() const { return m_lastReading; }
     /// Begins another utterance.
