@@ -35,6 +35,7 @@ Application::Application(const Options &options)
     else
         m_microphones = std::make_unique<voice::FileDevices>(m_clock, options.audioFile);
     m_store->microphone()->setSource(m_microphones.get());
+    m_store->dictation()->setService(&m_speech);
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);
     QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),

@@ -96,7 +96,9 @@ void LocalSpeech::requestAuthorisation(std::function<void(SpeechAuthorisation)> 
 }
 
 std::unique_ptr<SpeechRecogniser> LocalSpeech::recogniser(const QLocale &locale) {
-    return std::make_unique<Recogniser>(*this, locale.language() == QLocale::English);
+    // A computer on which no language was set speaks the one of its texts.
+    const bool known = locale.language() == QLocale::English || locale.language() == QLocale::C;
+    return std::make_unique<Recogniser>(*this, known);
 }
 
 std::unique_ptr<SpeechRecogniser> LocalSpeech::defaultRecogniser() {
