@@ -1485,6 +1485,10 @@
         <source>Set elsewhere: %1</source>
         <translation>Задано не здесь: %1</translation>
     </message>
+    <message>
+        <source>Unless told otherwise</source>
+        <translation>Если не сказано иначе</translation>
+    </message>
 </context>
 <context>
     <name>ModelRow</name>

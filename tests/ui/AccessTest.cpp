@@ -70,39 +70,39 @@ private:
     }
 };
 
-/// Where the tab key leads, from where the focus is until it is there again.
-QList<QQuickItem *> tabStops(Gallery &gallery) {
-    constexpr int most = 150;
-    QList<QQuickItem *> stops;
-    for (int i = 0; i < most; ++i) {
-        gallery.press(Qt::Key_Tab);
-        QQuickItem *item = gallery.window().activeFocusItem();
-        if (stops.contains(item))
-            break;
-        stops.append(item);
-    }
-    return stops;
-}
-
-QStringList faultsOfStops(const QList<QQuickItem *> &stops) {
+/// What is wrong with an item that the tab key has led to.
+QStringList faultsOfStop(QQuickItem *stop) {
+    QAccessibleInterface *item = QAccessible::queryAccessibleInterface(stop);
+    if (!item)
+        return {u"a stop that nobody reads: "_s +
+                QLatin1StringView(stop->metaObject()->className()) + u' ' + stop->objectName()};
     QStringList faults;
-    for (QQuickItem *stop : stops) {
-        QAccessibleInterface *item = QAccessible::queryAccessibleInterface(stop);
-        if (!item) {
-            faults.append(u"a stop that nobody reads: "_s +
-                          QLatin1StringView(stop->metaObject()->className()) + u' ' +
-                          stop->objectName());
-            continue;
-        }
-        if (item->text(QAccessible::Name).trimmed().isEmpty())
-            faults.append(u"a stop without a name: "_s + described(item));
-        const QRectF shown =
-            shownPart(stop, stop->boundingRect()) & QRectF(QPointF(), stop->window()->size());
-        if (!stop->isVisible() || shown.isEmpty())
-            faults.append(u"a stop out of sight: "_s + described(item));
-    }
+    if (item->text(QAccessible::Name).trimmed().isEmpty())
+        faults.append(u"a stop without a name: "_s + described(item));
+    const QRectF shown =
+        shownPart(stop, stop->boundingRect()) & QRectF(QPointF(), stop->window()->size());
+    if (!stop->isVisible() || shown.isEmpty())
+        faults.append(u"a stop out of sight: "_s + described(item));
     return faults;
 }
+
+/// Follows the tab key from where the focus is until it is there again.
+struct TabWalk {
+    QList<QQuickItem *> stops;
+    QStringList faults;
+
+    explicit TabWalk(Gallery &gallery) {
+        constexpr int most = 150;
+        for (int i = 0; i < most; ++i) {
+            gallery.press(Qt::Key_Tab);
+            QQuickItem *stop = gallery.window().activeFocusItem();
+            if (stops.contains(stop))
+                return;
+            stops.append(stop);
+            faults += faultsOfStop(stop);
+        }
+    }
+};
 
 } // namespace
 
@@ -136,7 +136,7 @@ void AccessTest::everyPlace() {
         TreeWalk walk;
         walk.look(QAccessible::queryAccessibleInterface(&gallery.window()));
         QQuickItem *focused = gallery.window().activeFocusItem();
-        const QStringList all = walk.faults + faultsOfStops(tabStops(gallery));
+        const QStringList all = walk.faults + TabWalk(gallery).faults;
         for (const QString &fault : all)
             faults.append(place + u": "_s + fault);
         if (focused)
@@ -161,7 +161,7 @@ void AccessTest::everyScene() {
     view.show(sceneOf(answerNamed(name)));
     TreeWalk walk;
     walk.look(QAccessible::queryAccessibleInterface(&view.gallery.window()));
-    const QStringList faults = walk.faults + faultsOfStops(tabStops(view.gallery));
+    const QStringList faults = walk.faults + TabWalk(view.gallery).faults;
     QVERIFY2(faults.isEmpty(), qPrintable(u'\n' + faults.join(u'\n')));
 }
 
@@ -176,7 +176,8 @@ void AccessTest::areasInOrder() {
     const double railEnd = workspace.store->layout()->shownRailW();
     int area = 0;
     QStringList seen;
-    for (const QQuickItem *stop : tabStops(gallery)) {
+    const TabWalk walk(gallery);
+    for (const QQuickItem *stop : walk.stops) {
         const QPointF place = stop->mapToScene(QPointF(stop->width() / 2, stop->height() / 2));
         const int here = place.y() < 52 ? 0 : place.x() <= railEnd + 4 ? 1 : 2;
         seen.append(u"%1 %2"_s.arg(here).arg(stop->objectName()));

@@ -58,6 +58,11 @@ private:
         QTest::qWait(20);
         m_gallery.click(QLatin1StringView(item));
     }
+    /// The same by the keyboard, wherever the page has scrolled to.
+    void press(const char *item) {
+        m_gallery.item(QLatin1StringView(item))->forceActiveFocus(Qt::TabFocusReason);
+        m_gallery.press(Qt::Key_Space);
+    }
     store::AppStore &store() { return *m_workspace.store; }
 
     Workspace m_workspace;
@@ -187,21 +192,17 @@ void Way::accountPages() {
         m_gallery.item(QLatin1StringView(tab) + u"Page"_s);
         m_visit(u"account-"_s + QLatin1StringView(tab));
     }
-    QQuickItem *country = m_gallery.item(u"country"_s);
-    country->forceActiveFocus(Qt::TabFocusReason); // which brings it into sight
-    m_gallery.press(Qt::Key_Space);
+    press("country");
     m_gallery.item(u"choiceList"_s);
     visit("account-list");
     escape();
-    click("memoryTab");
-    m_gallery.item(u"goals_md"_s)->forceActiveFocus(Qt::TabFocusReason);
-    m_gallery.press(Qt::Key_Space);
+    press("memoryTab");
+    press("goals_md");
     m_gallery.item(u"documentText"_s)->forceActiveFocus(Qt::TabFocusReason);
     visit("account-editor");
     m_gallery.item(u"documentText"_s)->forceActiveFocus(Qt::TabFocusReason);
     m_gallery.type(u"x"_s);
-    m_gallery.item(u"leaveAccount"_s)->forceActiveFocus(Qt::TabFocusReason);
-    m_gallery.press(Qt::Key_Space);
+    press("leaveAccount");
     m_gallery.item(u"leaveAnyway"_s);
     visit("leave");
     click("leaveAnyway");

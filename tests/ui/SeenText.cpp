@@ -19,6 +19,14 @@ QRectF inkOf(const QQuickItem *text) {
     return {x, 0, width, text->height()};
 }
 
+bool isSqueezed(const QQuickItem *text) {
+    for (const QQuickItem *above = text->parentItem(); above; above = above->parentItem()) {
+        if (above->inherits("QQuickAbstractButton"))
+            return text->property("contentHeight").toDouble() > above->height() + 1;
+    }
+    return false;
+}
+
 void collectTexts(const QQuickItem *item, QList<SeenText> &texts) {
     if (!item->isVisible() || item->opacity() == 0)
         return;
@@ -29,7 +37,7 @@ void collectTexts(const QQuickItem *item, QList<SeenText> &texts) {
         if (!box.isEmpty()) {
             const bool out = item->property("contentWidth").toDouble() > item->width() + 0.5;
             texts.append({words, box, item->property("color").value<QColor>(),
-                          out || item->property("truncated").toBool()});
+                          out || item->property("truncated").toBool(), isSqueezed(item)});
         }
     }
     const QList<QQuickItem *> children = item->childItems();

@@ -12,7 +12,8 @@ struct SeenText {
     QString words;
     QRectF box; ///< what of it is not clipped, in the window
     QColor color;
-    bool cut = false; ///< elided, or running out of its room
+    bool cut = false;      ///< elided, or running out of its room
+    bool squeezed = false; ///< higher than the control that it stands in
 };
 
 /// What of an item's area no clipping item above it cuts off.

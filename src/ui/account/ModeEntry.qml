@@ -21,7 +21,7 @@ Column {
 
         Segments {
             width: Math.min(parent.width, Tokens.fit(372))
-            name: qsTr("Data sources")
+            name: qsTr("Unless told otherwise")
             labels: [qsTr("Automatic"), qsTr("Workspace only"), qsTr("Ask first")]
             current: entry.modes.indexOf(entry.mode)
             onPicked: index => entry.value.choose(entry.modes[index])
