@@ -48,25 +48,25 @@ sum_of() { sha256sum "$1" | cut -d ' ' -f 1; }
 
 # Each archive lands unpacked under node_modules, where the bundler looks.
 unpack() {
-    local spec sum rest name archive
-    while read -r spec sum rest; do
-        [ -n "$spec" ] || continue
-        name=${spec%@*}
+    local package sum rest name archive
+    while read -r package sum rest; do
+        [ -n "$package" ] || continue
+        name=${package%@*}
         archive=${name#@}
-        archive=${archive//\//-}-${spec##*@}.tgz
-        [ -f "$archive" ] || give_up "$spec is missing"
-        [ "$(sum_of "$archive")" = "$sum" ] || give_up "$spec is not what it was"
+        archive=${archive//\//-}-${package##*@}.tgz
+        [ -f "$archive" ] || give_up "$package is missing"
+        [ "$(sum_of "$archive")" = "$sum" ] || give_up "$package is not what it was"
         mkdir -p "node_modules/$name"
         tar -xzf "$archive" -C "node_modules/$name" --strip-components=1
     done
 }
 
 licences() {
-    local spec sum file name
-    while read -r spec sum file; do
-        [ -n "$spec" ] || continue
-        name=${spec%@*}
-        printf '%s\n\n' "== ${name} ${spec##*@} =="
+    local package sum file name
+    while read -r package sum file; do
+        [ -n "$package" ] || continue
+        name=${package%@*}
+        printf '%s\n\n' "== ${name} ${package##*@} =="
         case "$file" in
         *.js) sed -n '/^[^/]/q; s|^// \{0,1\}||p' "node_modules/$name/$file" ;;
         *) cat "node_modules/$name/$file" ;;
@@ -86,8 +86,8 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cd "$scratch"
 
-mapfile -t specs < <(printf '%s\n%s\n' "$packages" "$bundler" | awk 'NF { print $1 }')
-npm pack --silent --ignore-scripts --fetch-retries=1 --fetch-timeout=30000 "${specs[@]}" \
+mapfile -t names < <(printf '%s\n%s\n' "$packages" "$bundler" | awk 'NF { print $1 }')
+npm pack --silent --ignore-scripts --fetch-retries=1 --fetch-timeout=30000 "${names[@]}" \
     >npm.log 2>&1 || give_up "npm pack: $(tail -n 1 npm.log)"
 printf '%s\n%s\n' "$packages" "$bundler" | unpack || exit 1
 

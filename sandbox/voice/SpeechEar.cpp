@@ -80,10 +80,7 @@ void SpeechEar::readLines() {
             m_handlers.began();
         } else if (line.contains(u"final"_s)) {
             m_speaking = false;
-            const QString words = line[u"final"_s].toString().trimmed();
-            if (!words.isEmpty()) {
-                m_handlers.said(words);
-            }
+            m_handlers.said(line[u"final"_s].toString().trimmed());
         }
     }
 }

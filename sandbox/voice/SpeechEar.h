@@ -2,7 +2,6 @@
 
 #include "voice/Ear.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTimer>
 

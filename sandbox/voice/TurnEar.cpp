@@ -56,7 +56,7 @@ void TurnEar::hearFrame(const char *frame) {
     m_quiet += frameMs;
     if (m_quiet >= turnSilenceMs) {
         if (m_speaking) {
-            later([said = m_handlers.said] { said(u"…"_s); });
+            later([said = m_handlers.said] { said(wordless); });
         }
         m_speaking = false;
         m_loud = 0;

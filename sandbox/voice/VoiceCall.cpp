@@ -138,12 +138,20 @@ void VoiceCall::takeSound(const QByteArray &samples) {
 }
 
 void VoiceCall::takeQuestion(const QString &text) {
-    m_question = text;
     ++m_turn;
     m_socket->send({{u"type"_s, u"user_transcript"_s},
                     {u"user_transcription_event"_s,
                      QJsonObject{{u"user_transcript"_s, text}, {u"event_id"_s, m_turn}}}});
     m_setting.calls.addLine(m_call.id, u"user"_s, second(), text);
+    if (m_question.isEmpty() || m_question == wordless) {
+        m_question = text;
+    } else if (text != wordless) { // a sentence that was begun before belongs to it
+        m_question += u' ' + text;
+    }
+    think();
+}
+
+void VoiceCall::think() {
     m_thought.start(
         std::chrono::duration_cast<std::chrono::milliseconds>(thinking * m_setting.pace));
 }
@@ -172,7 +180,7 @@ EarHandlers VoiceCall::earHandlers() {
 }
 
 QString VoiceCall::answerTo(const QString &question) {
-    if (question == u"…"_s) {
+    if (question == wordless) {
         return unheard;
     }
     const QString recalled = m_memory.recall(question);
@@ -193,6 +201,7 @@ void VoiceCall::say(const QString &text) {
     const int turn = ++m_turn;
     m_playback.stop();
     m_speaker.speak(text, [this, text, turn](const QByteArray &samples) {
+        m_question.clear();
         m_saying = text;
         m_sayingLine = m_setting.calls.addLine(m_call.id, u"agent"_s, second(), text);
         m_socket->send({{u"type"_s, u"agent_response"_s},

@@ -45,6 +45,7 @@ private:
     void begin(const QJsonObject &data);
     void takeSound(const QByteArray &samples);
     void takeQuestion(const QString &text);
+    void think();
     void listen(std::unique_ptr<Ear> ear);
     std::unique_ptr<Ear> wordEar();
     std::unique_ptr<Ear> turnEar();
@@ -70,8 +71,8 @@ private:
     QTimer m_pings;
     QElapsedTimer m_since;
     QElapsedTimer m_pinged;
-    QString m_question;
-    QString m_saying; ///< what is being said
+    QString m_question; ///< what is still to be answered
+    QString m_saying;   ///< what is being said
     qint64 m_sayingLine = 0;
     int m_turn = 0; ///< number of the newest event of the conversation
     int m_ping = 0;

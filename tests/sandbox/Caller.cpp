@@ -1,5 +1,6 @@
 #include "Caller.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QWebSocketHandshakeOptions>
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int rate = 16'000;
 constexpr int pieceMs = 50;
+constexpr qint64 wavHeader = 44;
 
 } // namespace
 
@@ -61,8 +63,28 @@ void Caller::sound(int ms, int loudness) {
             const auto sample = static_cast<qint16>(loudness * std::sin(i * 0.2));
             samples.append(reinterpret_cast<const char *>(&sample), sizeof sample);
         }
-        send({{u"user_audio_chunk"_s, QString::fromLatin1(samples.toBase64())}});
+        sendSamples(samples);
     }
+}
+
+bool Caller::play(const QString &wav) {
+    QFile file(wav);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(wavHeader)) {
+        return false;
+    }
+    while (!file.atEnd()) {
+        sendSamples(file.read(rate * pieceMs / 1000 * 2));
+        QTest::qWait(pieceMs);
+    }
+    for (int i = 0; i < 1000 / pieceMs; ++i) {
+        sound(pieceMs, 0);
+        QTest::qWait(pieceMs);
+    }
+    return true;
+}
+
+void Caller::sendSamples(const QByteArray &samples) {
+    send({{u"user_audio_chunk"_s, QString::fromLatin1(samples.toBase64())}});
 }
 
 QJsonObject Caller::next(const QString &type, int patienceMs) {

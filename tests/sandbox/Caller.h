@@ -20,6 +20,8 @@ public:
     void send(const QJsonObject &message);
     /// A tone (or silence, for no loudness) as the microphone would send it, in pieces.
     void sound(int ms, int loudness);
+    /// A file of the microphone's format, at the speed of speech, and a second of silence after it.
+    bool play(const QString &wav);
     void answerPings() { m_answersPings = true; }
 
     /// Waits for a message of the type beyond those that were taken before; empty when none comes.
@@ -31,6 +33,8 @@ public:
     const QStringList &unreadable() const { return m_unreadable; }
 
 private:
+    void sendSamples(const QByteArray &samples);
+
     QWebSocket m_socket;
     QList<QJsonObject> m_messages;
     QHash<QString, qsizetype> m_taken; ///< where to look on, by type

@@ -1,0 +1,230 @@
+// What is said in a call, and what stays of it.
+
+#include "sandbox/VoiceFixture.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+using namespace kiv::testing;
+
+class ConversationTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() {
+        m_voice = std::make_unique<VoiceFixture>();
+        QVERIFY(!m_voice->agentId(u"Scout"_s).isEmpty());
+    }
+
+    void cleanup() {
+        m_voice->order({});
+        m_voice->endCall();
+    }
+
+    void cleanupTestCase() {
+        QVERIFY(m_voice->stop());
+        QCOMPARE(m_voice->sandbox().complaints(), QByteArray());
+    }
+
+    void conversation() {
+        const QJsonObject session = m_voice->mint();
+        QCOMPARE(session[u"max_duration_secs"_s].toInt(), 600);
+        QVERIFY(!session.contains(u"token"_s));
+        const QString digest = u"You: Who is on holiday?\nAgent: Nobody is."_s;
+        Caller caller(m_voice->sandbox().url());
+        caller.answerPings();
+        caller.begin(session[u"signed_url"_s].toString(),
+                     {{u"tamrix_call_id"_s, m_voice->call()}, {u"chat_digest"_s, digest}});
+        const QJsonObject metadata = caller.next(u"conversation_initiation_metadata"_s);
+        QCOMPARE(metadata[u"conversation_initiation_metadata_event"_s][u"conversation_id"_s],
+                 m_voice->call());
+        const QString greeting = saidIn(caller.next(u"agent_response"_s));
+        QVERIFY2(greeting.contains(u"Scout"_s), qPrintable(greeting));
+        const QByteArray sound = QByteArray::fromBase64(
+            caller.next(u"audio"_s)[u"audio_event"_s][u"audio_base_64"_s].toString().toLatin1());
+        QVERIFY(sound.size() > 1000);
+        QVERIFY(sound.count('\0') < sound.size() / 2);
+
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"What is blocked?"_s}});
+        QCOMPARE(heardIn(caller.next(u"user_transcript"_s)), u"What is blocked?"_s);
+        const QString answer = saidIn(caller.next(u"agent_response"_s));
+        QVERIFY2(answer.contains(u"task"_s) || answer.contains(u"blocked"_s), qPrintable(answer));
+
+        caller.send(
+            {{u"type"_s, u"contextual_update"_s}, {u"text"_s, u"The owner is in a hurry."_s}});
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"What did I ask earlier?"_s}});
+        const QString recalled = saidIn(caller.next(u"agent_response"_s));
+        QVERIFY2(recalled.contains(u"Who is on holiday?"_s), qPrintable(recalled));
+
+        QVERIFY(!caller.next(u"ping"_s).isEmpty());
+        QTRY_VERIFY(m_voice->seen()[u"pings_answered"_s].toInt() > 0);
+        caller.socket().close();
+        QTRY_COMPARE(m_voice->seen()[u"state"_s].toString(), u"ended"_s);
+        QCOMPARE(m_voice->seen()[u"digest"_s], digest);
+        QCOMPARE(m_voice->seen()[u"named_call_id"_s], m_voice->call());
+        QCOMPARE(m_voice->seen()[u"contextual_updates"_s],
+                 QJsonArray{u"The owner is in a hurry."_s});
+
+        const QJsonArray lines = m_voice->detail(m_voice->call())[u"transcript"_s].toArray();
+        QCOMPARE(lines.size(), 5);
+        QCOMPARE(lines[0][u"role"_s], u"agent"_s);
+        QCOMPARE(lines[1][u"role"_s], u"user"_s);
+        QVERIFY(lines[2][u"text"_s].toString().endsWith(u'…')); // the next question came into it
+        QCOMPARE(lines[4][u"text"_s], recalled);
+        const QJsonObject entry = m_voice->calls()[0].toObject();
+        QCOMPARE(entry[u"id"_s], m_voice->call());
+        QCOMPARE(entry[u"status"_s], u"done"_s);
+        QCOMPARE(entry[u"snippet"_s], u"What is blocked?"_s);
+        QCOMPARE(entry[u"has_transcript"_s], true);
+    }
+
+    void answersCanBeSaid() {
+        const QStringList questions{u"How was the week?"_s,
+                                    u"Compare the hosting options"_s,
+                                    u"Where do we stand?"_s,
+                                    u"Who does what?"_s,
+                                    u"Where does the money go?"_s,
+                                    u"Are we within budget?"_s,
+                                    u"Cash in and out"_s,
+                                    u"What is blocked?"_s,
+                                    u"The trial funnel"_s,
+                                    u"What does one invoice cost?"_s,
+                                    u"Show me a table"_s,
+                                    u"List the tasks"_s,
+                                    u"The key figures"_s,
+                                    u"Link to the dashboard"_s,
+                                    u"What next?"_s,
+                                    u"Explain how this works"_s,
+                                    u"Who is overloaded?"_s,
+                                    u"The retro"_s,
+                                    u"Как прошла неделя?"_s,
+                                    u"Куда уходят деньги?"_s,
+                                    u"Good day to you"_s};
+        const QRegularExpression unspeakable(u"[*`|#\\[\\]{}<>€%_]|://|OPTIONS|ВАРИАНТЫ|\\d-\\d"_s);
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(m_voice->mint(u"KIV"_s)[u"signed_url"_s].toString());
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        QStringList answers;
+        for (const QString &question : questions) {
+            caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, question}});
+            const QString answer = saidIn(caller.next(u"agent_response"_s));
+            QVERIFY2(!answer.isEmpty() && answer.size() < 500, qPrintable(question));
+            QVERIFY2(!answer.contains(unspeakable), qPrintable(answer));
+            answers.append(answer);
+            if (qEnvironmentVariableIsSet("KIV_SHOW_ANSWERS")) {
+                qInfo("%s\n    %s", qPrintable(question), qPrintable(answer));
+            }
+        }
+        QVERIFY2(answers[0].contains(u" euros"_s), qPrintable(answers[0]));
+        QVERIFY2(answers[19].contains(u" процентов"_s), qPrintable(answers[19]));
+        answers.removeDuplicates();
+        QVERIFY(answers.size() > 15);
+    }
+
+    void callerWhoSpeaksIsHeardAndInterrupts() {
+        m_voice->order({u"call-deaf"_s});
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(m_voice->mintAddress());
+        const QString greeting = saidIn(caller.next(u"agent_response"_s));
+        QVERIFY(!caller.next(u"audio"_s).isEmpty());
+        caller.sound(100, 0);
+        caller.sound(600, 8000);
+        QVERIFY(!caller.next(u"interruption"_s).isEmpty());
+        const QJsonObject correction =
+            caller.next(u"agent_response_correction"_s)[u"agent_response_correction_event"_s]
+                .toObject();
+        QCOMPARE(correction[u"original_agent_response"_s], greeting);
+        QVERIFY(correction[u"corrected_agent_response"_s].toString().size() < greeting.size());
+        caller.sound(900, 0);
+        QCOMPARE(heardIn(caller.next(u"user_transcript"_s)), u"…"_s);
+        QVERIFY(saidIn(caller.next(u"agent_response"_s)).contains(u"type"_s));
+        QVERIFY(m_voice->seen()[u"muted"_s].toBool());
+        QCOMPARE(qRound(m_voice->seen()[u"audio_seconds"_s].toDouble() * 10), 16);
+        caller.sound(100, 200);
+        QTRY_VERIFY(!m_voice->seen()[u"muted"_s].toBool());
+        QCOMPARE(m_voice->detail(m_voice->call())[u"transcript"_s][0][u"text"_s],
+                 correction[u"corrected_agent_response"_s]);
+    }
+
+    void droppedCallIsTakenUpAgain_data() {
+        QTest::addColumn<bool>("byServer");
+        QTest::newRow("the server's end breaks") << true;
+        QTest::newRow("the caller's end breaks") << false;
+    }
+
+    void droppedCallIsTakenUpAgain() {
+        QFETCH(bool, byServer);
+        m_voice->order({byServer ? u"call-drop=300,times=1"_s : u"call-deaf"_s});
+        const QString address = m_voice->mintAddress();
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(address);
+        QVERIFY(!caller.next(u"conversation_initiation_metadata"_s).isEmpty());
+        if (!byServer) {
+            caller.socket().abort();
+        }
+        QVERIFY(caller.waitForClose());
+        QTRY_COMPARE(m_voice->seen()[u"state"_s].toString(), u"dropped"_s);
+        QCOMPARE(m_voice->tryMint().code(), u"call_in_progress"_s);
+        Caller again(m_voice->sandbox().url());
+        again.begin(address);
+        QVERIFY(saidIn(again.next(u"agent_response"_s)).contains(u"back"_s));
+        QCOMPARE(m_voice->seen()[u"sockets"_s].toInt(), 2);
+        QCOMPARE(m_voice->calls()[0][u"status"_s], u"in_progress"_s);
+    }
+
+    void endingClosesTheSocketAndSpendsTheToken() {
+        const QString address = m_voice->mintAddress();
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(address);
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        Caller second(m_voice->sandbox().url()); // one socket at a time
+        second.begin(address);
+        QVERIFY(second.waitForClose());
+        QCOMPARE(second.socket().closeCode(), QWebSocketProtocol::CloseCodePolicyViolated);
+        m_voice->endCall();
+        QVERIFY(caller.waitForClose());
+        QCOMPARE(caller.socket().closeCode(), QWebSocketProtocol::CloseCodeNormal);
+        Caller third(m_voice->sandbox().url());
+        third.begin(address);
+        QVERIFY(third.waitForClose());
+        QVERIFY(!third.socket().closeReason().isEmpty());
+    }
+
+    void longestTimeIsKept() {
+        m_voice->order({u"call-limit=0"_s});
+        const QJsonObject session = m_voice->mint();
+        QCOMPARE(session[u"max_duration_secs"_s].toInt(), 0);
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(session[u"signed_url"_s].toString());
+        QVERIFY(caller.waitForClose(8000));
+        QCOMPARE(caller.socket().closeCode(), QWebSocketProtocol::CloseCodeNormal);
+        QVERIFY(!caller.socket().closeReason().isEmpty());
+    }
+
+    void pastCallsOutliveTheServer() {
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(m_voice->mintAddress());
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        const QString call = m_voice->call();
+        QVERIFY(m_voice->stop());
+        m_voice->restart();
+        QCOMPARE(m_voice->calls()[0][u"id"_s], call);
+        QCOMPARE(m_voice->calls()[0][u"status"_s], u"done"_s);
+        QCOMPARE(m_voice->detail(call)[u"transcript"_s].toArray().size(), 1);
+        m_voice->mint(); // nothing of it is in the way
+        QCOMPARE(m_voice->client().get(u"/api/v2/voice/calls/"_s + m_voice->call()).status,
+                 404); // never came about
+        QCOMPARE(m_voice->client()
+                     .get(u"/api/v2/voice/calls?limit=1&agent_id="_s + m_voice->agentId(u"Scout"_s))
+                     .json()[u"calls"_s]
+                     .toArray()
+                     .size(),
+                 1);
+    }
+
+private:
+    std::unique_ptr<VoiceFixture> m_voice;
+};
+
+QTEST_GUILESS_MAIN(ConversationTest)
+#include "ConversationTest.moc"
