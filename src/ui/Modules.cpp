@@ -43,6 +43,7 @@ public:
                                   &Room::reducedMotionChanged, &Room::textScaleChanged})
             connect(room, change, this, &Bindings::look);
         speak();
+        store.retranslate(); // of a store that was there before its window
         connect(room, &Room::localeChanged, this, [this] {
             speak();
             m_engine.retranslate();

@@ -185,6 +185,7 @@ FocusScope {
         anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
     AnswerNews {
+        objectName: "answerNews"
         chat: view.store.chat
         name: view.store.scope.scopeName
         Accessible.role: Accessible.AlertMessage

@@ -30,6 +30,7 @@ FocusScope {
 
     x: 8
     width: art.inner
+    focus: art.current >= first && art.current < first + count
     height: (above ? head.height + 24 : 30) + count * resultHeight + spare
 
     Divider {

@@ -28,7 +28,8 @@ ArtScene {
         y: report.headroom - topMargin
         topMargin: 6
         height: report.height - y - report.footroom
-        currentIndex: report.current - report.cards
+        // Of any other index below 0 the view would make the first row the current one.
+        currentIndex: Math.max(-1, report.current - report.cards)
         model: SceneModel {
             rows: report.scene.highlights
         }
