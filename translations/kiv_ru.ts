@@ -316,6 +316,17 @@
     </message>
 </context>
 <context>
+    <name>BudgetColumns</name>
+    <message>
+        <source>no plan</source>
+        <translation>нет плана</translation>
+    </message>
+    <message>
+        <source>Over</source>
+        <translation>Сверх</translation>
+    </message>
+</context>
+<context>
     <name>BudgetRow</name>
     <message>
         <source>no plan</source>
@@ -323,7 +334,7 @@
     </message>
     <message>
         <source>Over</source>
-        <translation>Сверх плана</translation>
+        <translation>Сверх</translation>
     </message>
     <message>
         <source>plan %1</source>

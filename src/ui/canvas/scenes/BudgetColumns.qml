@@ -1,5 +1,6 @@
 import QtQuick
 import Kiv.Canvas
+import Kiv.Controls
 import Kiv.Tokens
 
 // The columns of a budget from left to right: names, chart, plan, actual, delta. On a narrow sheet
@@ -19,8 +20,15 @@ Item {
     readonly property real actual: actuals.wanted
     readonly property real deltaX: art.inner - delta
     // The longest word before a figure, and the space after it.
-    readonly property real delta: Math.max(art.narrow ? 0 : 92, deltas.wanted + 60)
+    readonly property real delta: Math.max(art.narrow ? 0 : 92, deltas.wanted + words.implicitWidth + 10)
 
+    Label {
+        id: words
+
+        visible: false
+        style: Tokens.type.name
+        text: qsTr("no plan") + "\n" + qsTr("Over")
+    }
     ColumnWidth {
         id: names
 

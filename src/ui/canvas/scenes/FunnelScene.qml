@@ -12,7 +12,7 @@ ArtScene {
 
     readonly property bool dense: scene.fnStages.length > 7
     readonly property int nameWidth: wide ? 204 : 148
-    readonly property int convWidth: narrow ? 88 : wide ? 128 : 96
+    readonly property int convWidth: Math.max(narrow ? 88 : wide ? 128 : 96, Math.ceil(conversion.implicitWidth) + 12)
 
     marks: scene.fnStages.length
 
@@ -23,7 +23,7 @@ ArtScene {
         field: "n"
         tabular: true
         style: Tokens.type.subheading
-        least: 84
+        least: Math.max(84, Math.ceil(count.implicitWidth) + 12)
     }
     Item {
         id: head
@@ -40,12 +40,16 @@ ArtScene {
             text: qsTr("Stage")
         }
         Label {
+            id: count
+
             x: parent.width - funnel.convWidth - width
             style: Tokens.type.captionStrong
             color: Tokens.t3
             text: qsTr("Count")
         }
         Label {
+            id: conversion
+
             x: parent.width - width
             style: Tokens.type.captionStrong
             color: Tokens.t3

@@ -17,6 +17,9 @@ ArtScene {
             list.positionViewAtBeginning()
     }
 
+    // The sheet may have scrolled since the focus was here.
+    onActiveFocusChanged: if (activeFocus) reveal(list)
+
     ReportRows {
         id: list
 

@@ -55,15 +55,12 @@ ArtScene {
         field: "note"
         style: Tokens.type.small
     }
-    FontMetrics {
+    Label {
         id: verdicts
 
-        readonly property real wanted: 36 + Math.max(advanceWidth(qsTr("On track")), advanceWidth(qsTr("Behind")),
-            advanceWidth(qsTr("Blocked")))
-
-        font.family: Tokens.family
-        font.pixelSize: Tokens.type.captionMedium.size
-        font.weight: Tokens.type.captionMedium.weight
+        visible: false
+        style: Tokens.type.captionMedium
+        text: qsTr("On track") + "\n" + qsTr("Behind") + "\n" + qsTr("Blocked")
     }
     Label {
         id: summary
@@ -92,11 +89,12 @@ ArtScene {
             height: list.rowHeight
             nameWidth: Math.max(status.wide ? 296 : 0,
                 Math.min(status.inner * 0.32, Math.max(names.wanted, notes.wanted)))
-            // With the sign.
+            // With the sign of per cent.
             figureWidth: figures.wanted + Tokens.fit(22)
             measured: targets.highest >= 0 || judged.lowest < 1
             full: status.full
-            verdictWidth: verdicts.wanted
+            // With the sign.
+            verdictWidth: verdicts.implicitWidth + 36
         }
     }
 }
