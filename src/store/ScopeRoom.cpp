@@ -78,10 +78,7 @@ ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_c
         const auto project = currentProject();
         return project ? project->colorHex : QString();
     });
-    m_scopeDetail.setBinding([this] {
-        m_wording.value();
-        return describeScope();
-    });
+    m_scopeDetail.setBinding([this] { return describeScope(); });
     m_starters.setBinding([this] {
         if (m_auth.value() != AuthPhase::SignedIn)
             return QStringList();
@@ -134,7 +131,7 @@ QString ScopeRoom::describeScope() const {
 }
 
 void ScopeRoom::retranslate() {
-    m_wording = m_wording + 1;
+    m_scopeDetail.setBinding([this] { return describeScope(); });
     m_rail.retranslate();
     Q_EMIT retranslated();
 }

@@ -135,7 +135,6 @@ private:
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ScopeRoom, AuthPhase, m_auth, AuthPhase::Unknown,
                                          &ScopeRoom::authChanged)
-    QProperty<int> m_wording{0}; ///< another one with every language
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Project>, m_projects, &ScopeRoom::projectsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ScopeRoom, QList<Agent>, m_standaloneAgents,
                                &ScopeRoom::standaloneAgentsChanged)
