@@ -142,7 +142,7 @@ void MenuTest::keysWinOverTheField() {
     // Ctrl+D says why there is no call, once.
     QTRY_VERIFY(m_gallery->find(u"toast:0"_s));
     QCOMPARE(m_gallery->item(u"toast:0"_s)->property("words").toString(),
-             u"Voice call is unavailable right now."_s);
+             u"This Mac cannot make voice calls — check microphone access."_s);
     QVERIFY(!m_gallery->find(u"toast:1"_s));
     QCOMPARE(m_workspace->store->call()->callHint(), QString());
 }
