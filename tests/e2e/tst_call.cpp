@@ -2,6 +2,7 @@
 // the embedded server's socket, with a file as microphone.
 
 #include "app/Application.h"
+#include "driver/WindowDriver.h"
 #include "support/Processes.h"
 
 #include <QFile>
@@ -86,6 +87,14 @@ class CallTest : public QObject {
         return QTest::qWaitFor([this] { return !call()->call() && !call()->isTellingEnd(); },
                                patience);
     }
+    QStringList shownHints() {
+        const driver::WindowDriver window(m_program->window());
+        QStringList shown;
+        for (int place = 0; const QQuickItem *toast = window.find(u"toast:%1"_s.arg(place));
+             ++place)
+            shown.append(toast->property("words").toString());
+        return shown;
+    }
     QStringList said(bool byOwner) {
         QStringList texts;
         for (const store::CallLine &line : call()->callTranscript()->lines()) {
@@ -105,11 +114,6 @@ private Q_SLOTS:
         options.sandboxArguments = {u"--control"_s};
         options.audioFile = m_microphone;
         m_program = std::make_unique<app::Application>(options);
-        // Before the window listens, which shows a hint and takes it back at once.
-        connect(call(), &store::CallRoom::callHintChanged, this, [this] {
-            if (!call()->callHint().isEmpty())
-                m_hint = call()->callHint();
-        });
         m_program->start();
         QTRY_COMPARE_WITH_TIMEOUT(store().scope()->auth(), store::AuthPhase::Anon, patience);
         store().session()->submitAuth(u"caller@example.org"_s, u"correct horse"_s, true);
@@ -191,10 +195,12 @@ private Q_SLOTS:
 
     void refusals_data() {
         QTest::addColumn<QString>("fault");
-        QTest::addColumn<QString>("hint"); // empty: the client's own words
+        QTest::addColumn<QString>("hint"); // a part of it: the client has its own words
         QTest::newRow("neither transport") << u"call-no-transport"_s << u"no voice transport"_s;
-        QTest::newRow("media alone") << u"call-token-only"_s << QString();
-        QTest::newRow("socket refused") << u"status=503,path=/voice/socket"_s << QString();
+        QTest::newRow("media alone")
+            << u"call-token-only"_s << u"could not establish signal connection"_s;
+        QTest::newRow("socket refused")
+            << u"status=503,path=/voice/socket"_s << u"Connection closed unexpectedly"_s;
         QTest::newRow("no money") << u"call-refused,code=insufficient_balance"_s
                                   << u"Not enough tokens — top up in Billing to call."_s;
     }
@@ -202,12 +208,8 @@ private Q_SLOTS:
         QFETCH(QString, fault);
         QFETCH(QString, hint);
         order({fault});
-        m_hint.clear();
         call()->callAction();
-        QTRY_VERIFY_WITH_TIMEOUT(!m_hint.isEmpty(), 2 * patience);
-        qInfo("%s: %s", qPrintable(fault), qPrintable(m_hint));
-        if (!hint.isEmpty())
-            QCOMPARE(m_hint, hint);
+        QTRY_VERIFY_WITH_TIMEOUT(!shownHints().filter(hint).isEmpty(), 2 * patience);
         QVERIFY(!call()->call());
         order({});
         QTRY_VERIFY(!call()->isTellingEnd());
@@ -248,7 +250,6 @@ public:
 
 private:
     QString m_microphone;
-    QString m_hint; ///< the newest that was shown
     QTemporaryDir m_folder;
     QNetworkAccessManager m_network;
     std::unique_ptr<app::Application> m_program;
