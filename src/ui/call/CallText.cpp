@@ -1,8 +1,7 @@
 #include "ui/call/CallText.h"
 
+#include "base/LocalText.h"
 #include "store/CallTexts.h"
-
-#include <QLocale>
 
 namespace kiv::ui {
 
@@ -17,16 +16,13 @@ QString CallText::start(const QDateTime &at, store::Calendar *calendar) {
         return {};
     const QDate today = calendar->today();
     const QDateTime local = at.toLocalTime();
-    const QString time = local.toString(u"HH:mm"_s);
+    const QString time = timeText(local);
     const QDate day = local.date();
     if (day == today)
         return time;
     if (day == today.addDays(-1))
         return tr("Yesterday, %1").arg(time);
-    const QLocale english(QLocale::English);
-    const QString name =
-        english.toString(day, day.year() == today.year() ? u"d MMMM"_s : u"d MMMM yyyy"_s);
-    return tr("%1, %2").arg(name, time);
+    return tr("%1, %2").arg(dayText(day, today), time);
 }
 
 QString CallText::outcome(const QString &status) {
