@@ -10,6 +10,9 @@ using voice::PcmFormat;
 
 namespace {
 
+/// In microseconds. Left to itself the sound system collects most of a second before it tells.
+constexpr qint64 bufferedTime = 80'000;
+
 QAudioDevice deviceOf(const QByteArray &id) {
     for (const QAudioDevice &device : QMediaDevices::audioInputs()) {
         if (!id.isEmpty() && device.id() == id)
@@ -49,6 +52,7 @@ void MicrophoneInput::start(Samples samples, Lost lost) {
     m_channels = format.channelCount();
     m_resampler.emplace(format.sampleRate());
     auto source = std::make_unique<QAudioSource>(m_device, format);
+    source->setBufferSize(format.bytesForDuration(bufferedTime));
     m_stream = source->start();
     if (!m_stream || source->error() != QAudio::NoError)
         throw AudioError("the device does not open: " + m_device.description().toStdString());
@@ -58,15 +62,15 @@ void MicrophoneInput::start(Samples samples, Lost lost) {
     connect(m_stream, &QIODevice::readyRead, this, &MicrophoneInput::read);
     connect(
         m_source.get(), &QAudioSource::stateChanged, this,
-        [this](QAudio::State state) {
-            if (state == QAudio::StoppedState)
+        [this, opened = m_source.get()](QAudio::State state) {
+            if (state == QAudio::StoppedState && m_source.get() == opened)
                 lose(u"the sound system closed it"_s);
         },
         Qt::QueuedConnection);
 }
 
 void MicrophoneInput::read() {
-    if (!m_source)
+    if (!m_source || !m_stream)
         return;
     m_rest += m_stream->readAll();
     const qsizetype frame = qsizetype{voice::bytesPerSample(m_format)} * m_channels;
@@ -99,7 +103,8 @@ void MicrophoneInput::stop() {
     if (!m_source)
         return;
     m_source->disconnect(this);
-    m_stream->disconnect(this);
+    if (m_stream)
+        m_stream->disconnect(this);
     m_stream = nullptr;
     // Not within a signal of its own.
     m_source.release()->deleteLater();

@@ -8,6 +8,7 @@
 #include <QAudioSource>
 #include <QMediaDevices>
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 #include <optional>
@@ -36,7 +37,7 @@ private:
     QAudioDevice m_device; ///< that is open
     QMediaDevices m_devices;
     std::unique_ptr<QAudioSource> m_source;
-    QIODevice *m_stream = nullptr; ///< of the source
+    QPointer<QIODevice> m_stream; ///< of the source, which deletes it when the sound system is gone
     Samples m_samples;
     Lost m_lost;
     voice::PcmFormat m_format = voice::PcmFormat::Int16;

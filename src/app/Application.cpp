@@ -52,6 +52,7 @@ Application::Application(const Options &options)
         letPagesHear(options.audioFile);
     }
     m_store->microphone()->setSource(m_microphones.get());
+    m_store->dictation()->setService(&m_speech);
     if (options.theme)
         m_store->appearance()->presetTheme(*options.theme);
     QObject::connect(&m_systemLook, &SystemLook::darkChanged, m_store->appearance(),

@@ -13,6 +13,7 @@
 #include "store/AppStore.h"
 #include "ui/chat/DialogChooser.h"
 #include "voice/AudioDevices.h"
+#include "voice/LocalSpeech.h"
 #include "web/WebHost.h"
 
 #include <QQmlApplicationEngine>
@@ -54,6 +55,7 @@ private:
     ui::DialogChooser m_chooser;
     web::WebHost m_webHost;
     std::unique_ptr<voice::AudioDevices> m_microphones;
+    voice::LocalSpeech m_speech{m_clock};
     std::unique_ptr<store::AppStore> m_store;
     std::unique_ptr<AppDelegate> m_delegate;
     QQmlApplicationEngine m_engine;

@@ -64,6 +64,7 @@ void ChatRoom::keepFiles() {
 }
 
 void ChatRoom::forgetTyped() {
+    m_store.dictation()->stop();
     const QString user = m_store.scope()->userEmail();
     m_drafts.forget(user);
     m_store.attachments()->clear();

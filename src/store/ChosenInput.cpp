@@ -9,8 +9,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// An open microphone gives sound all the time, also when nobody speaks.
-constexpr Clock::Milliseconds longestGap = 3s;
+/// An open microphone gives sound all the time, also when nobody speaks. A wireless one takes seconds
+/// to begin.
+constexpr Clock::Milliseconds longestGap = 6s;
 
 } // namespace
 

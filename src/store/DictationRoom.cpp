@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 DictationRoom::DictationRoom(AppStore &store)
     : m_store(store), m_engine(store.microphone()->newInput()) {
     const auto show = [this] {
-        m_interimWords = spokenWords(m_dictationInterim, m_store.chat()->draft(), m_caret);
+        m_interimWords = spokenWords(m_dictationInterim, m_store.chat()->draft(), place());
     };
     connect(this, &DictationRoom::dictationInterimChanged, this, show);
     connect(this, &DictationRoom::caretChanged, this, show);
@@ -66,10 +66,14 @@ void DictationRoom::keepInterim() {
     insert(words);
 }
 
+int DictationRoom::place() const {
+    return std::clamp(m_caret.value(), 0, static_cast<int>(m_store.chat()->draft().size()));
+}
+
 void DictationRoom::insert(const QString &words) {
     ChatRoom *chat = m_store.chat();
     const QString before = chat->draft();
-    const int at = std::clamp(m_caret.value(), 0, static_cast<int>(before.size()));
+    const int at = place();
     const QString fitted = spokenWords(words, before, at);
     if (fitted.isEmpty())
         return;

@@ -57,6 +57,8 @@ Q_SIGNALS:
     void spoken(const QString &draft, int at, const QString &words);
 
 private:
+    /// The caret, which can be ahead of the draft while somebody types.
+    int place() const;
     void insert(const QString &words);
     void keepInterim();
     void end();

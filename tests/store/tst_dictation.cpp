@@ -127,9 +127,9 @@ private Q_SLOTS:
         row(
             "the microphone gives nothing",
             [](DictationFixture &f) {
-                f.clock.advance(2s);
+                f.clock.advance(5s);
                 f.microphones.hear("ab");
-                f.clock.advance(2s);
+                f.clock.advance(5s);
                 QVERIFY(f.room()->dictating());
                 QTest::ignoreMessage(QtWarningMsg,
                                      "The microphone is gone: it gives no sound any more");

@@ -1,5 +1,7 @@
 #include "ScriptedVoice.h"
 
+#include <utility>
+
 namespace kiv::test {
 
 using namespace voice;
@@ -44,18 +46,23 @@ public:
     void start(Samples samples, Lost lost) override {
         if (!m_all.opens)
             throw AudioError("busy");
+        m_isOpen = true;
         ++m_all.starts;
         m_all.openId = m_id;
         m_all.m_samples = std::move(samples);
         m_all.m_lost = std::move(lost);
     }
-    void stop() override { m_all.openId = QString(); }
-    bool running() const override { return !m_all.openId.isNull(); }
+    void stop() override {
+        if (std::exchange(m_isOpen, false))
+            m_all.openId = QString();
+    }
+    bool running() const override { return m_isOpen; }
     double level() const override { return m_all.level; }
 
 private:
     ScriptedMicrophones &m_all;
     QString m_id;
+    bool m_isOpen = false;
 };
 
 void ScriptedSpeech::requestAuthorisation(std::function<void(SpeechAuthorisation)> answer) {
@@ -89,7 +96,7 @@ std::unique_ptr<AudioInput> ScriptedMicrophones::input(const QString &id) {
 }
 
 void ScriptedMicrophones::unplug() const {
-    const AudioInput::Lost lost = m_lost;
+    const AudioInput::Lost lost = m_lost; // which may close the input
     lost(QStringLiteral("unplugged"));
 }
 

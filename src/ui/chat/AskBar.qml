@@ -156,7 +156,7 @@ FocusScope {
         document: field.textDocument
         at: field.cursorPosition
         color: Tokens.t3
-        words: at === bar.dictation.caret && !field.inputMethodComposing ? bar.dictation.interimWords : ""
+        words: field.cursorPosition === bar.dictation.caret && !field.inputMethodComposing ? bar.dictation.interimWords : ""
     }
     Connections {
         target: bar.dictation
@@ -164,7 +164,7 @@ FocusScope {
         // An edit of the field, so that it can be undone as what is typed can.
         function onSpoken(draft: string, at: int, words: string) {
             if (bar.visible && bar.draft === draft)
-                field.insert(at, words)
+                interim.insert(at, words)
         }
     }
     IconButton {
@@ -185,7 +185,7 @@ FocusScope {
     MicButton {
         id: mic
 
-        x: bar.floating ? send.x - width - 6 : attach.x + attach.width + (listening ? 6 : 2)
+        x: bar.floating ? send.x - width - 8 : attach.x + attach.width + (listening ? 6 : 2)
         anchors.verticalCenter: attach.verticalCenter
         dictation: bar.dictation
         microphone: bar.microphone

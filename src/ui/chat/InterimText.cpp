@@ -52,6 +52,17 @@ void InterimText::setColor(const QColor &color) {
     scheduleShow();
 }
 
+void InterimText::insert(int at, const QString &words) {
+    hide();
+    QTextCursor edit(m_document->textDocument());
+    edit.setPosition(at);
+    // A block of its own: the document takes it together neither with what was typed before nor
+    // with what was spoken before.
+    edit.beginEditBlock();
+    edit.insertText(words);
+    edit.endEditBlock();
+}
+
 bool InterimText::eventFilter(QObject *watched, QEvent *event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress:

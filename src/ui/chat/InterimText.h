@@ -38,6 +38,9 @@ public:
     QColor color() const { return m_color; }
     void setColor(const QColor &color);
 
+    /// Makes words part of the text, as an edit that is undone by itself.
+    Q_INVOKABLE void insert(int at, const QString &words);
+
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:

@@ -72,9 +72,10 @@ T.Button {
         size: 20
         color: button.listening ? Tokens.accentInk : button.hovered ? Tokens.t1 : Tokens.t2
     }
-    TapHandler {
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: menu.open()
+        onClicked: menu.open()
     }
     MicMenuLoader {
         id: menu
