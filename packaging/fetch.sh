@@ -50,7 +50,7 @@ take_files() {
 }
 
 make_speech() {
-    node "$root/packaging/speech-tokens.mjs" "$1/work/vocabulary.mjs" >"$1/speech/tokens.txt"
+    node "$root/packaging/speech-tokens.mjs" "$1/unpacked/vocabulary.mjs" >"$1/speech/tokens.txt"
 }
 
 # Without it the program does all but call. The script says why it is missing.
