@@ -30,6 +30,7 @@ if [ "$(id -u)" != 0 ] || ! command -v debootstrap >/dev/null; then
 fi
 
 clean=${KIV_ROOT:-$(mktemp -d)}
+chmod 755 "$clean" # an ordinary user opens the window in there
 leave() { [ -n "${KIV_ROOT:-}" ] || rm -rf --one-file-system "$clean"; }
 trap leave EXIT
 # A root of its own, not a changed one (there, programs may still shut their processes in), with no
