@@ -1,8 +1,9 @@
 #include "../FuzzText.h"
 
-#include "canvas/CanvasEngine.h"
+#include "canvas/ArtChoice.h"
 #include "canvas/ProseLifts.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SpecReader.h"
 
 #include <cmath>
 

@@ -89,8 +89,6 @@ QString summaryOf(const QList<Event> &events) {
     return parts.join(u" · ");
 }
 
-} // namespace
-
 /// Whether the answer tells the work of one lane after that of another. Then nothing says in which
 /// order the work of different lanes stands.
 bool isGrouped(const QList<Event> &events) {
@@ -116,6 +114,8 @@ QList<qsizetype> placesOf(const QList<Event> &events) {
     }
     return places;
 }
+
+} // namespace
 
 std::optional<SceneOut> buildAgents(const ViewSpec &spec) {
     const QList<Event> events = eventsOf(spec);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/SceneColor.h"
+#include "canvas/SceneEnums.h"
 
 #include <QList>
 #include <QMetaType>
@@ -87,7 +87,6 @@ struct Lane {
     Q_PROPERTY(QString role MEMBER role)
     Q_PROPERTY(QList<kiv::canvas::LaneTask> tasks MEMBER tasks)
 public:
-    using Task = LaneTask;
     QString name;
     QString role;
     QList<LaneTask> tasks;
@@ -146,7 +145,6 @@ struct OkObj {
     Q_PROPERTY(kiv::canvas::SceneColor scoreColor MEMBER scoreColor)
     Q_PROPERTY(QList<kiv::canvas::KeyResult> krs MEMBER krs)
 public:
-    using Kr = KeyResult;
     QString name;
     QString owner;
     QString score; ///< 0.0 to 1.0, one decimal

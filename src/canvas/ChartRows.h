@@ -1,6 +1,6 @@
 #pragma once
 
-#include "canvas/SceneColor.h"
+#include "canvas/SceneEnums.h"
 
 #include <QList>
 #include <QMetaType>

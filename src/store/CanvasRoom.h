@@ -3,7 +3,7 @@
 #include "base/Cancel.h"
 #include "base/Work.h"
 #include "canvas/ArtInfo.h"
-#include "canvas/CanvasEngine.h"
+#include "canvas/RestoredCanvas.h"
 #include "canvas/SceneOut.h"
 #include "canvas/SurfaceMatcher.h"
 #include "canvas/ViewSpec.h"

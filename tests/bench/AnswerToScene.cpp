@@ -3,7 +3,7 @@
 #include "Measure.h"
 
 #include "base/JVal.h"
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
 #include "canvas/SceneAdapter.h"
 
 #include <benchmark/benchmark.h>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "canvas/CanvasEngine.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SpecReader.h"
 
 #include <QByteArray>
 

@@ -1,4 +1,7 @@
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
+#include "canvas/ArtChoice.h"
+#include "canvas/RestoredCanvas.h"
+#include "canvas/SpecReader.h"
 
 #include <QTest>
 

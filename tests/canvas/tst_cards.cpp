@@ -1,4 +1,5 @@
 #include "Drawn.h"
+#include "canvas/ArtChoice.h"
 
 #include <QTest>
 

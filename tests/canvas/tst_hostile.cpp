@@ -1,7 +1,12 @@
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
+#include "canvas/ArtChoice.h"
 #include "canvas/CanvasIntents.h"
 #include "canvas/CanvasNum.h"
+#include "canvas/ReplyOptions.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SpecReader.h"
+#include "canvas/SurfaceMatcher.h"
+#include "canvas/TextCues.h"
 #include "support/HostileAnswers.h"
 
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
 #include "canvas/ProseFigure.h"
 #include "canvas/ProseLifts.h"
 

@@ -1,6 +1,6 @@
 #include "canvas/ArtInfo.h"
-#include "canvas/CanvasEngine.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SpecReader.h"
 
 #include <QMetaProperty>
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "canvas/CanvasEngine.h"
+#include "canvas/ArtChoice.h"
 #include "ui/SceneView.h"
 
 #include <QMetaProperty>

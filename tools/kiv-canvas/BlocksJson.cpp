@@ -27,27 +27,17 @@ struct KindWriter {
     }
     void operator()(const MDBlock::Ordered &ordered) const {
         json.member(u"kind", u"ordered");
-        json.key(u"items");
-        json.beginArray();
-        for (const MDBlock::OrderedItem &item : ordered.items) {
-            json.beginObject();
+        json.member(u"items", ordered.items, [this](const MDBlock::OrderedItem &item) {
             json.member(u"number", item.number);
             json.member(u"text", item.text);
-            json.endObject();
-        }
-        json.endArray();
+        });
     }
     void operator()(const MDBlock::Tasks &tasks) const {
         json.member(u"kind", u"tasks");
-        json.key(u"items");
-        json.beginArray();
-        for (const MDBlock::TaskItem &item : tasks.items) {
-            json.beginObject();
+        json.member(u"items", tasks.items, [this](const MDBlock::TaskItem &item) {
             json.member(u"done", item.done);
             json.member(u"text", item.text);
-            json.endObject();
-        }
-        json.endArray();
+        });
     }
     void operator()(const MDBlock::Quote &quote) const {
         json.member(u"kind", u"quote");
@@ -68,13 +58,8 @@ struct KindWriter {
 } // namespace
 
 void writeBlocks(JsonText &json, QStringView text) {
-    json.beginArray();
-    for (const MDBlock &block : text::MDParser::parse(text)) {
-        json.beginObject();
-        std::visit(KindWriter{json}, block.kind);
-        json.endObject();
-    }
-    json.endArray();
+    json.objects(text::MDParser::parse(text),
+                 [&](const MDBlock &block) { std::visit(KindWriter{json}, block.kind); });
 }
 
 } // namespace kiv::tools

@@ -4,9 +4,12 @@
 #include "SceneJson.h"
 #include "SpecJson.h"
 #include "base/Json.h"
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
+#include "canvas/ArtChoice.h"
 #include "canvas/CanvasIntents.h"
+#include "canvas/ReplyOptions.h"
 #include "canvas/SceneAdapter.h"
+#include "canvas/SurfaceMatcher.h"
 
 namespace kiv::tools {
 
@@ -106,15 +109,10 @@ Request readRequest(QByteArrayView line) {
 void writeReply(JsonText &json, const canvas::ReplyOptions::Parsed &parsed) {
     json.beginObject();
     json.member(u"text", parsed.text);
-    json.key(u"chips");
-    json.beginArray();
-    for (const canvas::ReplyChip &chip : parsed.chips) {
-        json.beginObject();
+    json.member(u"chips", parsed.chips, [&](const canvas::ReplyChip &chip) {
         json.member(u"label", chip.label);
         json.member(u"send", chip.send);
-        json.endObject();
-    }
-    json.endArray();
+    });
     json.endObject();
 }
 

@@ -49,10 +49,26 @@ public:
             value(element);
         endArray();
     }
+    /// A list of objects: `write` gives the members of one.
+    template <typename T, typename Write>
+    void objects(const QList<T> &records, Write write) {
+        beginArray();
+        for (const T &record : records) {
+            beginObject();
+            write(record);
+            endObject();
+        }
+        endArray();
+    }
     template <typename T>
     void member(QStringView name, const T &present) {
         key(name);
         value(present);
+    }
+    template <typename T, typename Write>
+    void member(QStringView name, const QList<T> &records, Write write) {
+        key(name);
+        objects(records, write);
     }
 
     QByteArray text() const {

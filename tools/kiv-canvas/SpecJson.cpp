@@ -27,14 +27,7 @@ void write(JsonText &json, const ViewSpec::BoardCol &column);
 
 template <typename T>
 void writeList(JsonText &json, QStringView name, const QList<T> &records) {
-    json.key(name);
-    json.beginArray();
-    for (const T &record : records) {
-        json.beginObject();
-        write(json, record);
-        json.endObject();
-    }
-    json.endArray();
+    json.member(name, records, [&](const T &record) { write(json, record); });
 }
 
 void write(JsonText &json, const ViewSpec::Series &series) {

@@ -4,7 +4,9 @@
 #include <QtQmlIntegration/qqmlintegration.h>
 #include <qobjectdefs.h>
 
+/// The closed sets of scenes, under one name for the views: Scene.SceneColor.Violet, …
 namespace kiv::canvas {
+
 Q_NAMESPACE
 QML_NAMED_ELEMENT(Scene)
 
