@@ -20,8 +20,6 @@ class AppearanceRoom : public QObject {
     Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
     Q_PROPERTY(kiv::store::Language language READ language NOTIFY languageChanged)
     Q_PROPERTY(int textSize READ textSize NOTIFY textSizeChanged)
-    Q_PROPERTY(bool smallestText READ isSmallestText NOTIFY textSizeChanged)
-    Q_PROPERTY(bool largestText READ isLargestText NOTIFY textSizeChanged)
 public:
     static constexpr int normalText = 100;
     static constexpr int leastText = 80;
@@ -38,8 +36,6 @@ public:
     QLocale locale() const { return m_locale; }
     /// Per cent of the normal size, as the person has chosen.
     int textSize() const { return m_textSize; }
-    bool isSmallestText() const { return m_textSize.value() <= leastText; }
-    bool isLargestText() const { return m_textSize.value() >= mostText; }
     /// What text is multiplied by: the person's choice on top of the desktop's.
     double textScale() const { return m_textScale; }
     bool highContrast() const { return m_highContrast; }

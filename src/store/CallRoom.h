@@ -39,7 +39,6 @@ class CallRoom : public QObject {
     Q_PROPERTY(kiv::store::ScopeKind callKind READ callKind NOTIFY callWithChanged)
     Q_PROPERTY(QString callColorHex READ callColorHex NOTIFY callWithChanged)
     Q_PROPERTY(kiv::store::CallTranscript *callTranscript READ callTranscript CONSTANT)
-    Q_PROPERTY(bool voiceUnavailable READ voiceUnavailable NOTIFY voiceAvailableChanged)
     Q_PROPERTY(QString voiceReason READ voiceReason NOTIFY voiceReasonChanged)
     Q_PROPERTY(kiv::store::CallHistory *callHistory READ callHistory CONSTANT)
     Q_PROPERTY(bool callHistoryLoaded READ callHistoryLoaded NOTIFY callHistoryLoadedChanged)
@@ -82,7 +81,6 @@ public:
     CallTranscript *callTranscript() { return &m_callTranscript; }
     /// Nothing until it was asked for.
     std::optional<bool> voiceAvailable() const { return m_voiceAvailable; }
-    bool voiceUnavailable() const { return voiceAvailable() == false; }
     QString voiceReason() const { return m_voiceReason; }
     CallHistory *callHistory() { return &m_callHistory; }
     bool callHistoryLoaded() const { return m_callHistoryLoaded; }

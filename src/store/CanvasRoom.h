@@ -136,8 +136,6 @@ Q_SIGNALS:
     void queryChanged();
     void visChanged();
     void animatedChanged();
-    void failedChanged();
-    void signedOutChanged();
     void thinkingSecondsChanged();
     void sourceTimeChanged();
     void sourceMessageIdChanged();
@@ -212,9 +210,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_lastQuery, &CanvasRoom::queryChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_vis, &CanvasRoom::visChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_animated, &CanvasRoom::animatedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed, &CanvasRoom::failedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, bool, m_signedOut, false,
-                                         &CanvasRoom::signedOutChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_signedOut)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
                                &CanvasRoom::thinkingSecondsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceTime, &CanvasRoom::sourceTimeChanged)

@@ -4,8 +4,6 @@ import Kiv.Store
 
 // The account pages, made when they are opened.
 Loader {
-    id: place
-
     required property AppStore store
 
     active: store.layout.account !== ""

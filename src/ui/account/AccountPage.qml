@@ -46,8 +46,6 @@ FocusScope {
             height: Tokens.fit(36)
 
             IconButton {
-                id: back
-
                 objectName: "leaveAccount"
                 x: -8
                 anchors.verticalCenter: parent.verticalCenter

@@ -12,8 +12,6 @@ Rectangle {
     color: Tokens.line
 
     Rectangle {
-        id: runner
-
         property real at
 
         x: track.width * at

@@ -68,8 +68,6 @@ Item {
         }
         // In one line, or one below the other.
         Grid {
-            id: chips
-
             anchors.horizontalCenter: parent.horizontalCenter
             topPadding: 12
             spacing: 8

@@ -4,8 +4,6 @@ import Kiv.Scene
 
 // How a figure changed: an arrow for a signed change, a colour for good and bad news.
 Chip {
-    id: chip
-
     required property kpiCard card
 
     text: card.delta

@@ -7,8 +7,6 @@ import Kiv.Tokens
 
 // What somebody sees who is not signed in: a scene of made-up figures, and a way to the others.
 FocusScope {
-    id: gallery
-
     Samples {
         id: samples
     }

@@ -3,8 +3,6 @@ import Kiv.Scene
 
 // The place of a scene on its sheet. The scene of an art stands in the file that has the art's name.
 Loader {
-    id: body
-
     required property sceneOut scene
     /// Padding at the sides.
     required property int side

@@ -29,8 +29,6 @@ T.Button {
     }
 
     Rectangle {
-        id: ground
-
         x: 8
         anchors.verticalCenter: parent.verticalCenter
         width: 28

@@ -42,8 +42,6 @@ FocusScope {
         height: Tokens.fit(56)
 
         Figure {
-            id: figure
-
             x: 24
             anchors.verticalCenter: parent.verticalCenter
             kind: dock.store.scope.scopeKind

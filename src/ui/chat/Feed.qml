@@ -264,8 +264,6 @@ FocusScope {
             }
         }
         Rectangle {
-            id: ring
-
             objectName: "messageRing"
             x: view.x - 10
             y: view.cursorPlace.y + 8

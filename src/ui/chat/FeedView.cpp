@@ -289,12 +289,6 @@ void FeedView::jump() {
     polish();
 }
 
-void FeedView::goToTop() {
-    setFollowing(false);
-    moveTo(-number("topMargin"));
-    Q_EMIT topReached();
-}
-
 bool FeedView::reveal(const QString &messageId) {
     const auto [first, last] = m_rows ? m_rows->rowsOf(messageId) : std::pair(0, 0);
     if (first == last)

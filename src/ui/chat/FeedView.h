@@ -55,8 +55,6 @@ public:
 
     /// Goes to the end and follows it again.
     Q_INVOKABLE void jump();
-    /// Goes to the first row.
-    Q_INVOKABLE void goToTop();
     /// Brings a message into view; false when the feed does not have it.
     Q_INVOKABLE bool reveal(const QString &messageId);
     /// Brings the words that a search is at into view, sideways too; false when no part shows them.

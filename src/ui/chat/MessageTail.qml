@@ -84,8 +84,6 @@ FocusScope {
             : tail.hovered && !tail.row.fromCall ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
     }
     Row {
-        id: actions
-
         x: tail.indent - 4
         y: tail.height - 4
         visible: !tail.compact && !tail.row.mine && !tail.row.growing && (tail.hovered || over.hovered)

@@ -5,8 +5,6 @@ import Kiv.Tokens
 
 // A sheet in the middle of the window that everything else waits for.
 T.Popup {
-    id: dialog
-
     readonly property FocusReturn focusBefore: FocusReturn {}
 
     anchors.centerIn: T.Overlay.overlay

@@ -3,8 +3,6 @@ import Kiv.Tokens
 
 // Text in one of the styles, with the style's line height. Long text elides at its end.
 Text {
-    id: label
-
     property TypeStyle style: Tokens.type.body
     /// Digits of one width: for figures that stand below each other or that count.
     property bool tabular: false

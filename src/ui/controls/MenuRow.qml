@@ -30,8 +30,6 @@ T.Button {
     }
 
     Icon {
-        id: sign
-
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         name: row.iconName

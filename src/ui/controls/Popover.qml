@@ -5,8 +5,6 @@ import Kiv.Tokens
 
 // A panel that opens below its button, right edges aligned, and closes on Escape or an outside press.
 T.Popup {
-    id: popover
-
     readonly property FocusReturn focusBefore: FocusReturn {}
     property bool alignLeft: false
 

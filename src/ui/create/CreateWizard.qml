@@ -68,8 +68,6 @@ Dialog {
                 text: page.sub
             }
             FocusScope {
-                id: body
-
                 x: 32
                 y: Tokens.fit(95)
                 width: parent.width - 64

@@ -31,8 +31,6 @@ T.AbstractButton {
     }
 
     Rectangle {
-        id: figure
-
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         width: 24

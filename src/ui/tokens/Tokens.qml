@@ -55,31 +55,31 @@ QtObject {
     readonly property color tipInk: dark ? "#141722" : "#ffffff"
 
     readonly property DataColor violet: DataColor {
-        base: "#7c5cff"; solid: "#6b4af2"; solidInk: "#ffffff"
+        base: "#7c5cff"
         text: tokens.dark ? "#b3a3ff" : "#5b3ad6"
         tint: tokens.dark ? "#2a274c" : "#f1edff"
         line: tokens.dark ? "#463e86" : "#d5ccff"
     }
     readonly property DataColor blue: DataColor {
-        base: "#1f6ff2"; solid: "#1f6ff2"; solidInk: "#ffffff"
+        base: "#1f6ff2"
         text: tokens.dark ? "#82b1ff" : "#1457c9"
         tint: tokens.dark ? "#192a4a" : "#e6effe"
         line: tokens.dark ? "#24447f" : "#bcd4fb"
     }
     readonly property DataColor green: DataColor {
-        base: "#0f9f7a"; solid: "#0b7d60"; solidInk: "#ffffff"
+        base: "#0f9f7a"
         text: tokens.dark ? "#4fd1ae" : "#08705a"
         tint: tokens.dark ? "#163334" : "#e5f4f0"
         line: tokens.dark ? "#1b5650" : "#b5e0d5"
     }
     readonly property DataColor amber: DataColor {
-        base: "#f59e0b"; solid: "#f59e0b"; solidInk: "#141722"
+        base: "#f59e0b"
         text: tokens.dark ? "#fbbf4a" : "#8a5200"
         tint: tokens.dark ? "#403320" : "#fef4e4"
         line: tokens.dark ? "#6a5023" : "#fbd9a0"
     }
     readonly property DataColor red: DataColor {
-        base: "#e0484a"; solid: "#cc3336"; solidInk: "#ffffff"
+        base: "#e0484a"
         text: tokens.dark ? "#ff9293" : "#b4262a"
         tint: tokens.dark ? "#3c232c" : "#fcebeb"
         line: tokens.dark ? "#66323a" : "#f5c3c4"

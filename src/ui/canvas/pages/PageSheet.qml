@@ -57,8 +57,6 @@ FocusScope {
         }
     }
     Rectangle {
-        id: frame
-
         x: 24
         y: 64
         width: parent.width - 48

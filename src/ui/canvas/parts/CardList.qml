@@ -6,8 +6,6 @@ import Kiv.Tokens
 
 // The cards of a column, which scrolls by itself.
 ListView {
-    id: list
-
     required property ColumnBoard board
     required property int column
 

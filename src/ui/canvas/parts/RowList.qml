@@ -7,8 +7,6 @@ import Kiv.Tokens
 // The rows of a scene. They share the height within limits, then they scroll; only those in view are
 // made. What stays above or below them is anchored to the list.
 ListView {
-    id: list
-
     required property ArtScene art
     /// For rows of one height.
     property int leastRow: 0

@@ -54,8 +54,6 @@ ArtScene {
         gutter: axis.gutter
     }
     Column {
-        id: figureNames
-
         x: cashflow.side
         y: cashflow.plotY + plot.height + plot.figuresY
         width: axis.gutter - 8

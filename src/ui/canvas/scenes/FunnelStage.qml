@@ -57,8 +57,6 @@ FocusScope {
             color: Tokens.inset
 
             Rectangle {
-                id: bar
-
                 property real part: stage.modelData.w
 
                 anchors.horizontalCenter: parent.horizontalCenter

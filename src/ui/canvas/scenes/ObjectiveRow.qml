@@ -59,8 +59,6 @@ FocusScope {
             }
 
             KeyResultLoader {
-                id: place
-
                 required property keyResult modelData
                 required property int index
 

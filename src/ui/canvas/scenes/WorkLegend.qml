@@ -9,8 +9,6 @@ import Kiv.Tokens
 
 // What the colours and signs of work stand for.
 SceneLegend {
-    id: legend
-
     Repeater {
         model: [Scene.WorkStatus.Done, Scene.WorkStatus.Doing, Scene.WorkStatus.Todo, Scene.WorkStatus.Blocked,
             Scene.WorkStatus.Unknown]

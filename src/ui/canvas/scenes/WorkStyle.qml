@@ -4,8 +4,6 @@ import Kiv.Tokens
 
 // How work of a status looks and what it is called.
 QtObject {
-    id: look
-
     required property int status
 
     readonly property DataColor colors: status === Scene.WorkStatus.Done ? Tokens.green
