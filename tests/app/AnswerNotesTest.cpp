@@ -1,7 +1,7 @@
 #include "app/AnswerNotes.h"
 
-#include "desktop/NotificationServer.h"
 #include "store/StoreFixture.h"
+#include "support/NotificationServer.h"
 #include "support/PrivateBus.h"
 
 #include <QGuiApplication>

@@ -1,9 +1,9 @@
 #include "app/SystemLook.h"
 #include "store/AppearanceRoom.h"
+#include "support/PrivateBus.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>
-#include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -45,18 +45,8 @@ class SystemLookTest : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-#ifdef KIV_DBUS_DAEMON
-        m_daemon.start(QStringLiteral(KIV_DBUS_DAEMON),
-                       {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        QVERIFY(m_daemon.waitForReadyRead());
-        m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
-#else
-        QSKIP("There is no dbus-daemon");
-#endif
-    }
-    void cleanupTestCase() {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
+        if (!m_bus.isThere())
+            QSKIP("There is no dbus-daemon");
     }
     void cleanup() {
         QDBusConnection::disconnectFromBus(u"desktop"_s);
@@ -67,7 +57,7 @@ private Q_SLOTS:
         Portal portal;
         portal.settings.insert(lookGroup + u" color-scheme"_s, 1u);
         offer(portal);
-        SystemLook look(QDBusConnection::connectToBus(m_address, u"program"_s));
+        SystemLook look(m_bus.connection(u"program"_s));
         QSignalSpy changed(&look, &SystemLook::darkChanged);
         look.watch();
         QVERIFY(changed.wait());
@@ -95,7 +85,7 @@ private Q_SLOTS:
         QTemporaryDir folder;
         QSettings settings(folder.filePath(u"kiv.conf"_s), QSettings::IniFormat);
         store::AppearanceRoom room(settings);
-        SystemLook look(QDBusConnection::connectToBus(m_address, u"program"_s));
+        SystemLook look(m_bus.connection(u"program"_s));
         look.tell(room);
         look.watch();
         QTRY_VERIFY(room.highContrast());
@@ -128,8 +118,7 @@ private Q_SLOTS:
         Portal old;
         if (portal)
             offer(old);
-        const QString address = bus ? m_address : u"unix:path=/nowhere"_s;
-        SystemLook look(QDBusConnection::connectToBus(address, u"program"_s));
+        SystemLook look(bus ? m_bus.connection(u"program"_s) : test::PrivateBus::noConnection());
         QSignalSpy changed(&look, &SystemLook::darkChanged);
         look.watch();
         QVERIFY(!changed.wait(300));
@@ -137,15 +126,14 @@ private Q_SLOTS:
 
 private:
     void offer(Portal &portal) {
-        QDBusConnection desktop = QDBusConnection::connectToBus(m_address, u"desktop"_s);
+        QDBusConnection desktop = m_bus.connection(u"desktop"_s);
         QVERIFY(desktop.registerObject(portalPath, &portal,
                                        QDBusConnection::ExportAllSlots |
                                            QDBusConnection::ExportAllSignals));
         QVERIFY(desktop.registerService(u"org.freedesktop.portal.Desktop"_s));
     }
 
-    QProcess m_daemon;
-    QString m_address;
+    test::PrivateBus m_bus;
 };
 
 } // namespace kiv::app

@@ -1,5 +1,5 @@
 #include "desktop/Notifier.h"
-#include "NotificationServer.h"
+#include "support/NotificationServer.h"
 #include "support/PrivateBus.h"
 
 #include <QSignalSpy>

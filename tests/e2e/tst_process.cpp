@@ -1,36 +1,14 @@
 // The program as a process: what it refuses, and what it leaves behind.
 
 #include "support/PrivateBus.h"
+#include "support/Processes.h"
 
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Processes whose parent is `parent`.
-QList<qint64> childrenOf(qint64 parent) {
-    QList<qint64> children;
-    QFile file(u"/proc/%1/task/%1/children"_s.arg(parent));
-    if (file.open(QIODevice::ReadOnly)) {
-        for (const QByteArray &id : file.readAll().split(' ')) {
-            if (!id.trimmed().isEmpty())
-                children.append(id.toLongLong());
-        }
-    }
-    return children;
-}
-
-bool isRunning(qint64 process) {
-    QFile status(u"/proc/%1/stat"_s.arg(process));
-    return status.open(QIODevice::ReadOnly) && !status.readAll().contains(") Z ");
-}
-
-} // namespace
 
 class ProcessTest : public QObject {
     Q_OBJECT
@@ -77,16 +55,17 @@ private Q_SLOTS:
         program.setArguments({u"--profile"_s, profile.path()});
         program.start();
         QVERIFY(program.waitForStarted());
-        QList<qint64> children;
-        QTRY_VERIFY_WITH_TIMEOUT(!(children = childrenOf(program.processId())).isEmpty(), 15000);
-        const qint64 server = children.first();
+        QList<qint64> started;
+        QTRY_VERIFY_WITH_TIMEOUT(!(started = kiv::test::children(program.processId())).isEmpty(),
+                                 15000);
+        const qint64 server = started.first();
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(profile.filePath(u"data/workspace"_s)), 15000);
         if (killed)
             program.kill();
         else
             program.terminate();
         QVERIFY(program.waitForFinished());
-        QTRY_VERIFY_WITH_TIMEOUT(!isRunning(server), 10000);
+        QTRY_VERIFY_WITH_TIMEOUT(!kiv::test::isRunning(server), 10000);
     }
 
     void aSecondStartHandsItsLinkOver() {
@@ -114,7 +93,7 @@ private Q_SLOTS:
 
         QProcess elsewhere;
         start(elsewhere, bus, {u"--profile"_s, other.path()});
-        QTRY_VERIFY_WITH_TIMEOUT(!childrenOf(elsewhere.processId()).isEmpty(), 15000);
+        QTRY_VERIFY_WITH_TIMEOUT(!kiv::test::children(elsewhere.processId()).isEmpty(), 15000);
         QCOMPARE(first.state(), QProcess::Running);
         for (QProcess *program : {&first, &elsewhere}) {
             program->terminate();

@@ -9,7 +9,15 @@ namespace kiv::test {
 
 using namespace Qt::StringLiterals;
 
-namespace {
+QByteArray processFile(qint64 process, const QString &name) {
+    QFile file(u"/proc/%1/%2"_s.arg(process).arg(name));
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool isRunning(qint64 process) {
+    const QByteArray state = processFile(process, u"stat"_s);
+    return !state.isEmpty() && !state.contains(") Z ");
+}
 
 QList<qint64> children(qint64 process) {
     QList<qint64> found;
@@ -23,13 +31,6 @@ QList<qint64> children(qint64 process) {
         }
     }
     return found;
-}
-
-} // namespace
-
-QByteArray processFile(qint64 process, const QString &name) {
-    QFile file(u"/proc/%1/%2"_s.arg(process).arg(name));
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QList<qint64> family(qint64 root) {
