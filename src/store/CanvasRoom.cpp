@@ -1,7 +1,6 @@
 #include "store/CanvasRoom.h"
 
 #include "base/LocalText.h"
-#include "canvas/CanvasIntents.h"
 #include "canvas/SceneAdapter.h"
 #include "canvas/SceneText.h"
 #include "net/KivAPI.h"
@@ -96,10 +95,7 @@ bool CanvasRoom::drawScenario(const canvas::ViewSpec &spec, const QList<canvas::
 void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info,
                       Entrance entrance) {
     setPlace({});
-    closePanel();
-    m_pageView = canvas::SurfaceLink();
-    m_canvasHint = QString();
-    m_failed = false;
+    putOthersAway();
     // Known before the scene shows.
     m_animated = entrance == Entrance::Animated;
     m_artScene = scene;
@@ -119,36 +115,17 @@ void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info
     }
 }
 
-void CanvasRoom::remember(const HistoryEntry &entry, Record record) {
-    if (record == Record::Turn && m_history.amend(m_turn.historyEntry, entry)) {
-        setPlace(m_turn.historyEntry);
-        return;
-    }
-    m_history.record(entry);
-    setPlace(entry.id);
-    if (record == Record::Turn)
-        m_turn.historyEntry = entry.id;
-    net::KivAPI::rum(&m_store.net(), u"canvas_scenario"_s,
-                     {{u"intent"_s, entry.intent.value_or(QString())}});
-}
-
-HistoryEntry CanvasRoom::entryOf(const QString &query, const std::optional<QString> &intent,
-                                 const canvas::ViewSpec &spec,
-                                 const canvas::SceneOut &scene) const {
-    return {.art = scene.art,
-            .query = query,
-            .time = m_store.stamp(),
-            .spec = spec,
-            .intent = intent,
-            .title = scene.title,
-            .page = std::nullopt,
-            .message = {}};
-}
-
 QCoro::Task<void> CanvasRoom::finishBuilding(Cancel cancel) {
     co_await m_store.clock().sleep(buildingPause, std::move(cancel));
     m_vis = m_vis + 1;
     m_phase = Phase::Done;
+}
+
+void CanvasRoom::putOthersAway() {
+    closePanel();
+    m_pageView = canvas::SurfaceLink();
+    m_canvasHint = QString();
+    m_failed = false;
 }
 
 void CanvasRoom::clearDrawnArt() {
@@ -165,10 +142,7 @@ void CanvasRoom::clearDrawnArt() {
 void CanvasRoom::clearCanvas() {
     clearDrawnArt();
     m_drawnSpecKey.reset();
-    closePanel();
-    m_pageView = canvas::SurfaceLink();
-    m_canvasHint = QString();
-    m_failed = false;
+    putOthersAway();
     setIdle();
 }
 
@@ -219,86 +193,6 @@ QUrl CanvasRoom::openLink(const QString &link) {
         return base.resolved(QUrl(link));
     openSurface(*page, Record::New);
     return {};
-}
-
-void CanvasRoom::openHistory(int row) {
-    if (row >= 0 && row < m_history.count())
-        reopen(HistoryEntry(m_history.at(row)), Record::New);
-}
-
-bool CanvasRoom::hasEarlier() const {
-    return m_history.rowOf(m_place) + 1 < m_history.count();
-}
-
-bool CanvasRoom::hasLater() const {
-    return m_history.rowOf(m_place) > 0;
-}
-
-void CanvasRoom::step(int rows) {
-    const int row = m_history.rowOf(m_place) + rows;
-    if (row < 0 || row >= m_history.count())
-        return;
-    const HistoryEntry entry = m_history.at(row);
-    reopen(entry, Record::None);
-    setPlace(entry.id);
-}
-
-void CanvasRoom::setPlace(const QUuid &entry) {
-    if (std::exchange(m_place, entry) != entry)
-        Q_EMIT stepsChanged();
-}
-
-void CanvasRoom::reopen(const HistoryEntry &entry, Record record) {
-    m_store.layout()->closeHistory();
-    m_store.layout()->closePages();
-    m_lastQuery = entry.query;
-    m_lastIntent = entry.intent;
-    if (entry.page) {
-        openSurface(*entry.page, record);
-    } else if (entry.spec) {
-        m_drawnSpecKey.reset();
-        forgetSource();
-        m_phase = Phase::Done;
-        const bool isDrawn = drawScenario(*entry.spec, {}, Entrance::Still, record);
-        const MessageModel *messages = m_store.chat()->msgs();
-        const qsizetype source = messages->rowOf(entry.message);
-        if (isDrawn && source >= 0)
-            nameSource(messages->messages().at(source));
-    }
-}
-
-void CanvasRoom::showMessageCanvas(const QString &messageId) {
-    const MessageModel *messages = m_store.chat()->msgs();
-    const qsizetype row = messages->rowOf(QUuid::fromString(messageId));
-    if (row < 0 || !messages->messages().at(row).spec)
-        return;
-    const Msg message = messages->messages().at(row);
-    m_lastQuery = QString();
-    m_lastIntent.reset();
-    for (qsizetype before = row - 1; before >= 0; --before) {
-        if (messages->messages().at(before).who == Who::You) {
-            m_lastQuery = messages->messages().at(before).text;
-            m_lastIntent = canvas::CanvasIntents::classify(m_lastQuery);
-            break;
-        }
-    }
-    m_drawnSpecKey.reset();
-    if (drawScenario(*message.spec, message.chips, Entrance::Still, Record::None))
-        nameSource(message);
-}
-
-void CanvasRoom::applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer) {
-    if (const auto *art = std::get_if<canvas::RestoredArt>(&canvas)) {
-        m_lastQuery = art->query;
-        m_lastIntent = canvas::CanvasIntents::classify(art->query);
-        if (drawScenario(art->spec, answer.chips, Entrance::Still, Record::None))
-            nameSource(answer);
-        else
-            showHint();
-    } else if (const auto *hint = std::get_if<canvas::RestoredHint>(&canvas)) {
-        m_lastQuery = hint->query;
-        showHint();
-    }
 }
 
 void CanvasRoom::refinePoint(const QString &label) {

@@ -178,6 +178,8 @@ private:
                          const canvas::ViewSpec &spec, const canvas::SceneOut &scene) const;
     void showHint();
     void clearDrawnArt();
+    /// What stands in the place of a scene goes: panel, page, hint, failure.
+    void putOthersAway();
     void openSurface(const canvas::SurfaceLink &link, Record record);
     void nameSource(const Msg &message);
     void forgetSource();

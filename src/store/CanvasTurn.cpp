@@ -27,10 +27,7 @@ void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
     m_skeletonShape = skeletonShapeFor(m_lastIntent);
     clearDrawnArt();
     m_drawnSpecKey.reset();
-    closePanel();
-    m_pageView = canvas::SurfaceLink();
-    m_canvasHint = QString();
-    m_failed = false;
+    putOthersAway();
     m_awaitingAnswer = true;
     m_knownIds = std::move(knownIds);
     m_scenarioDone.clear();

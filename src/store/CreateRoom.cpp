@@ -1,7 +1,6 @@
 #include "store/CreateRoom.h"
 
 #include "base/Text.h"
-#include "net/KivAPI.h"
 #include "store/AppStore.h"
 
 #include <algorithm>
@@ -66,7 +65,7 @@ void CreateRoom::start(const QString &kind, const QString &project) {
     m_catalogue = CreateCatalogue::read();
     for (const CreateKind each : {CreateKind::Project, CreateKind::Agent}) {
         const CreateDraft first = draftOf(m_catalogue.templates(each).first());
-        m_sides[each == CreateKind::Project ? 0 : 1] = {first, first};
+        sideOf(each) = {first, first};
     }
     m_parent = project;
     m_kind = kind == agentWord ? CreateKind::Agent : CreateKind::Project;
@@ -277,88 +276,6 @@ void CreateRoom::close() {
     m_createdId.clear();
     m_sides = {};
     m_parent.clear();
-}
-
-void CreateRoom::submit() {
-    m_asking = false;
-    m_failure = QString();
-    m_phase = CreatePhase::Sending;
-    m_work.restart([this](Cancel cancel) { return create(std::move(cancel)); });
-}
-
-QCoro::Task<void> CreateRoom::create(Cancel cancel) {
-    try {
-        if (m_kind.value() == CreateKind::Project)
-            co_await createProject(cancel);
-        else
-            co_await createAgent(cancel);
-    } catch (const std::exception &error) {
-        cancel.throwIfRequested();
-        m_failure = net::errorText(error);
-        m_phase = CreatePhase::Editing;
-        co_return;
-    }
-    m_asking = false;
-    m_phase = CreatePhase::Created;
-    co_await reloadRail(cancel);
-}
-
-QCoro::Task<void> CreateRoom::createProject(Cancel cancel) {
-    const net::ProjectSummary made = co_await net::KivAPI::createProject(
-        &m_store.net(), name().trimmed(), text().trimmed(), cancel);
-    m_createdId = made.slug;
-}
-
-QCoro::Task<void> CreateRoom::createAgent(Cancel cancel) {
-    const net::AgentCreateResult made =
-        co_await net::KivAPI::createAgent(&m_store.net(), name().trimmed(), text().trimmed(),
-                                          draft().description(m_catalogue), m_parent, cancel);
-    m_createdId = made.agentID().value_or(QString());
-    const QList<QString> warnings = made.projectWarnings.value_or(QList<QString>());
-    if (!warnings.isEmpty())
-        m_notice =
-            tr("%1 created. Could not add: %2").arg(name().trimmed(), warnings.join(u", "_s));
-}
-
-QCoro::Task<void> CreateRoom::reloadRail(Cancel cancel) {
-    m_failure = QString();
-    try {
-        co_await m_store.scope()->reloadRail(cancel);
-    } catch (const std::exception &error) {
-        cancel.throwIfRequested();
-        m_failure = tr("%1 is created, but the list could not be loaded: %2")
-                        .arg(name().trimmed(), net::errorText(error));
-        co_return;
-    }
-    m_listed = true;
-    if (m_notice.value().isEmpty())
-        enterCreated();
-}
-
-void CreateRoom::openCreated() {
-    if (m_listed)
-        enterCreated();
-    else
-        m_work.restart([this](Cancel cancel) { return reloadRail(std::move(cancel)); });
-}
-
-void CreateRoom::enterCreated() {
-    const QString id = m_createdId;
-    const CreateKind kind = m_kind;
-    close();
-    if (id.isEmpty())
-        return;
-    ScopeRoom *scope = m_store.scope();
-    if (kind == CreateKind::Project)
-        return scope->enterProject(id);
-    const QList<Project> projects = scope->projects();
-    const auto home = std::ranges::find_if(projects, [&](const Project &project) {
-        return std::ranges::find(project.agents, id, &Agent::id) != project.agents.end();
-    });
-    if (home == projects.end())
-        scope->pickStandaloneAgent(id);
-    else
-        scope->pickAgent(home->id, id);
 }
 
 } // namespace kiv::store

@@ -132,8 +132,9 @@ private:
         CreateDraft filled; ///< what the chosen template has proposed
     };
 
-    Side &side() { return m_sides[m_kind.value() == CreateKind::Project ? 0 : 1]; }
-    const Side &side() const { return m_sides[m_kind.value() == CreateKind::Project ? 0 : 1]; }
+    Side &sideOf(CreateKind kind) { return m_sides[static_cast<std::size_t>(kind)]; }
+    Side &side() { return sideOf(m_kind); }
+    const Side &side() const { return m_sides[static_cast<std::size_t>(m_kind.value())]; }
     const CreateDraft &draft() const { return side().draft; }
     QList<CreateStep> steps() const;
     qsizetype textLimit() const;
@@ -152,7 +153,7 @@ private:
 
     AppStore &m_store;
     CreateCatalogue m_catalogue;
-    std::array<Side, 2> m_sides;
+    std::array<Side, 2> m_sides; ///< by kind
     QString m_parent;
     QString m_createdId;
     bool m_complaining = false;
