@@ -10,45 +10,9 @@ namespace kiv::ui {
 
 using namespace Qt::StringLiterals;
 using store::MessageModel;
-using text::BlockPart;
 using text::MDBlock;
-using Kind = FeedDelegate::Kind;
 
 namespace {
-
-Kind kindOf(const MDBlock::Kind &content) {
-    struct KindOf {
-        Kind operator()(const MDBlock::Heading &) const { return Kind::Heading; }
-        Kind operator()(const MDBlock::Paragraph &) const { return Kind::Paragraph; }
-        Kind operator()(const MDBlock::Bullets &) const { return Kind::List; }
-        Kind operator()(const MDBlock::Ordered &) const { return Kind::List; }
-        Kind operator()(const MDBlock::Tasks &) const { return Kind::Tasks; }
-        Kind operator()(const MDBlock::Quote &) const { return Kind::Quote; }
-        Kind operator()(const MDBlock::Code &) const { return Kind::Code; }
-        Kind operator()(const MDBlock::Table &) const { return Kind::Table; }
-        Kind operator()(const MDBlock::Rule &) const { return Kind::Rule; }
-    };
-    return std::visit(KindOf(), content);
-}
-
-/// The parts of a message that rows show.
-QList<BlockPart> partsIn(const QList<FeedRow> &rows) {
-    QList<BlockPart> parts;
-    for (const FeedRow &row : rows) {
-        if (row.kind >= Kind::Own && row.kind <= Kind::Rule)
-            parts.append(row.part);
-    }
-    return parts;
-}
-
-/// The parts of a text; one that is still being written is never without any.
-QList<BlockPart> partsIn(const QString &body, bool mine, bool growing) {
-    if (mine)
-        return body.isEmpty() ? QList<BlockPart>() : text::plainParts(body);
-    const auto parts =
-        text::partsOf(growing ? text::MDParser::parse(body) : text::MDParser::blocks(body));
-    return parts.isEmpty() && growing ? text::plainParts(body) : parts;
-}
 
 QString tabbed(const MDBlock::Table &table) {
     QStringList lines{table.header.join(u'\t')};
@@ -124,7 +88,7 @@ void FeedRows::reset() {
 }
 
 void FeedRows::insertMessages(int first, int last) {
-    QList<Shown> added;
+    QList<MessageRows> added;
     int count = 0;
     for (int message = first; message <= last; ++message) {
         added.append(build(message));
@@ -148,7 +112,7 @@ void FeedRows::removeMessages(int first, int last) {
 void FeedRows::refresh(int message) {
     if (message < 0 || message >= m_shown.size())
         return;
-    const Shown now = build(message, m_shown.at(message));
+    const MessageRows now = build(message, m_shown.at(message));
     m_shown[message].body = now.body;
     exchange(message, now.rows);
 }
@@ -206,76 +170,12 @@ QVariant FeedRows::field(int message, int role) const {
     return m_messages->index(message, 0).data(role);
 }
 
-/// What shows of a message now. Parts of a text that has not changed since `before` are taken from
-/// there.
-FeedRows::Shown FeedRows::build(int message, const Shown &before) const {
-    Shown shown{field(message, MessageModel::BodyRole).toString(), {}};
-    const QString &body = shown.body;
-    QList<FeedRow> &rows = shown.rows;
-    FeedRow row;
-    row.messageId = field(message, MessageModel::MessageIdRole).toString();
-    row.mine = field(message, MessageModel::WhoRole).value<store::Who>() == store::Who::You;
-    const auto add = [&rows, &row](Kind kind) -> FeedRow & {
-        rows.append(row);
-        rows.last().kind = kind;
-        return rows.last();
-    };
-    if (message == 0 && m_olderBefore)
-        add(Kind::Older);
-    if (const QString label = dayLabel(message); !label.isEmpty())
-        add(Kind::Day).label = label;
-    if (!m_unreadFrom.isEmpty() && row.messageId == m_unreadFrom)
-        add(Kind::Unread);
-
-    row.callId = field(message, MessageModel::CallIdRole).toString();
-    if (!row.callId.isEmpty()) {
-        FeedRow &call = add(Kind::Call);
-        call.label = body;
-        call.callHasLines = field(message, MessageModel::CallHasLinesRole).toBool();
-        call.callOpen = field(message, MessageModel::CallOpenRole).toBool();
-        return shown;
-    }
-    row.fromCall = field(message, MessageModel::FromCallRole).toBool();
-    const bool growing = field(message, MessageModel::GrowingRole).toBool();
-    const auto delivery = field(message, MessageModel::DeliveryRole).value<store::Delivery>();
-    const QString time = field(message, MessageModel::TimeRole).toString();
-    if (!row.mine) {
-        FeedRow &head = add(Kind::Head);
-        head.time = time;
-        head.memberLabel = field(message, MessageModel::MemberLabelRole).toString();
-    }
-    QList<BlockPart> parts;
-    if (before.body == body)
-        parts = partsIn(before.rows);
-    if (parts.isEmpty())
-        parts = partsIn(body, row.mine, growing);
-    const auto files = field(message, MessageModel::FilesRole).value<QList<store::MsgFile>>();
-    if (!files.isEmpty()) {
-        FeedRow &above = add(Kind::Files);
-        above.files = files;
-        above.last = parts.isEmpty();
-    }
-    const qsizetype bubble = rows.size();
-    for (BlockPart &part : parts) {
-        FeedRow &words = add(row.mine ? Kind::Own : kindOf(part.content));
-        words.delivery = delivery;
-        words.part = std::move(part);
-    }
-    if (rows.size() > bubble) {
-        rows[bubble].first = true;
-        rows.last().last = true;
-        rows.last().growing = growing;
-    }
-
-    FeedRow &tail = add(Kind::Tail);
-    tail.growing = growing;
-    tail.delivery = delivery;
-    tail.time = time;
-    tail.cardTitle = field(message, MessageModel::CardTitleRole).toString();
-    tail.cardArt = field(message, MessageModel::CardArtRole).toString();
-    tail.onCanvas = field(message, MessageModel::OnCanvasRole).toBool();
-    tail.chips = field(message, MessageModel::ChipsRole).value<QList<canvas::ReplyChip>>();
-    return shown;
+MessageRows FeedRows::build(int message, const MessageRows &before) const {
+    const QString id = field(message, MessageModel::MessageIdRole).toString();
+    const MessagePlace place{.belowOlder = message == 0 && m_olderBefore,
+                             .isUnread = !m_unreadFrom.isEmpty() && m_unreadFrom == id,
+                             .day = dayLabel(message)};
+    return messageRows(m_messages->index(message, 0), place, before);
 }
 
 /// The day of a message, where it is another than that of the one before. A conversation of today
@@ -319,8 +219,9 @@ const FeedRow &FeedRows::at(int row) const {
 }
 
 int FeedRows::messageOf(const QString &messageId) const {
-    const auto found = std::ranges::find_if(
-        m_shown, [&](const Shown &shown) { return shown.rows.first().messageId == messageId; });
+    const auto found = std::ranges::find_if(m_shown, [&](const MessageRows &shown) {
+        return shown.rows.first().messageId == messageId;
+    });
     return found == m_shown.end() ? -1 : static_cast<int>(found - m_shown.begin());
 }
 

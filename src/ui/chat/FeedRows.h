@@ -2,7 +2,7 @@
 
 #include "store/Calendar.h"
 #include "store/FindRoom.h"
-#include "ui/chat/FeedRow.h"
+#include "ui/chat/MessageRows.h"
 
 #include <QAbstractListModel>
 #include <QPointer>
@@ -76,19 +76,13 @@ Q_SIGNALS:
     void marksChanged();
 
 private:
-    /// What shows of a message.
-    struct Shown {
-        QString body; ///< that the rows were made of
-        QList<FeedRow> rows;
-    };
-
     void reset();
     void insertMessages(int first, int last);
     void removeMessages(int first, int last);
     void refresh(int message);
     void refreshAll();
     void exchange(int message, const QList<FeedRow> &rows);
-    Shown build(int message, const Shown &before = {}) const;
+    MessageRows build(int message, const MessageRows &before = {}) const;
     QDate today() const { return m_calendar ? m_calendar->today() : QDate(); }
     QString dayLabel(int message) const;
     void sumUp(int from);
@@ -98,7 +92,7 @@ private:
 
     QPointer<QAbstractItemModel> m_messages;
     QPointer<store::Calendar> m_calendar;
-    QList<Shown> m_shown;
+    QList<MessageRows> m_shown;
     QList<int> m_starts{0}; ///< the first row of each message, and the count of all
     bool m_olderBefore = false;
     QString m_unreadFrom;

@@ -16,7 +16,8 @@ constexpr int mostPasses = 8;
 
 } // namespace
 
-FeedView::FeedView(QQuickItem *parent) : QQuickItem(parent) {
+FeedView::FeedView(QQuickItem *parent)
+    : QQuickItem(parent), m_items(*this, m_delegates, [this] { rowGrew(); }) {
     connect(this, &FeedView::bottomUpChanged, this, &QQuickItem::polish);
     connect(this, &FeedView::upperMarginChanged, this, &QQuickItem::polish);
 }
@@ -72,8 +73,7 @@ void FeedView::geometryChange(const QRectF &now, const QRectF &before) {
     const double place = m_origin + m_heights.top(anchor);
     estimateAll();
     m_origin = place - m_heights.top(anchor);
-    for (const auto &[row, shown] : m_shown)
-        shown.item->setWidth(width());
+    m_items.each([this](int, QQuickItem *item) { item->setWidth(width()); });
     polish();
 }
 
@@ -93,7 +93,7 @@ double FeedView::estimate(int row) const {
 void FeedView::reset() {
     if (!isComponentComplete())
         return;
-    giveBackOutside(0, 0);
+    m_items.putAll();
     m_gap.reset();
     m_origin = 0;
     estimateAll();
@@ -118,7 +118,7 @@ void FeedView::insertRows(int first, int last) {
     m_heights.insert(first, heights);
     if (isAbove)
         m_origin -= sum;
-    moveShown(first, last - first + 1);
+    m_items.move(first, last - first + 1);
     // Who writes goes on from there.
     const FeedRow &newest = m_rows->at(last);
     if (last + 1 == m_heights.count() && newest.mine && newest.delivery == store::Delivery::Pending)
@@ -137,14 +137,10 @@ void FeedView::removeRows(int first, int last) {
         m_origin += m_heights.top(last + 1) - m_heights.top(first);
     else if (first <= anchor)
         m_gap = {first, m_heights.top(last + 1) - m_heights.top(first)};
-    for (int row = first; row <= last; ++row) {
-        if (const auto shown = m_shown.find(row); shown != m_shown.end()) {
-            giveBack(shown->second);
-            m_shown.erase(shown);
-        }
-    }
+    for (int row = first; row <= last; ++row)
+        m_items.put(row);
     m_heights.remove(first, last - first + 1);
-    moveShown(last + 1, first - last - 1);
+    m_items.move(last + 1, first - last - 1);
     if (!m_following)
         countUnseen();
     polish();
@@ -161,11 +157,10 @@ void FeedView::changeRows(int first, int last) {
     if (!isComponentComplete())
         return;
     for (int row = first; row <= last; ++row) {
-        const auto shown = m_shown.find(row);
-        if (shown == m_shown.end())
-            setRowHeight(row, estimate(row));
+        if (QQuickItem *item = m_items.find(row))
+            item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
         else
-            shown->second.item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
+            setRowHeight(row, estimate(row));
     }
     polish();
 }
@@ -178,6 +173,11 @@ void FeedView::setRowHeight(int row, double height) {
     if (row < anchorRow())
         m_origin -= change;
     m_heights.set(row, height);
+}
+
+QQuickItem *FeedView::itemOf(int row) {
+    QQuickItem *item = m_items.find(row);
+    return item ? item : m_items.show(row, m_rows->shown(row));
 }
 
 void FeedView::rowGrew() {
@@ -211,11 +211,10 @@ void FeedView::updatePolish() {
             }
         }
     }
-    giveBackOutside(first, last);
+    m_items.putOutside(first, last);
     if (!m_held)
         moveOrigin();
-    for (const auto &[row, shown] : m_shown)
-        shown.item->setY(m_origin + m_heights.top(row));
+    m_items.each([this](int row, QQuickItem *item) { item->setY(m_origin + m_heights.top(row)); });
     placeCursor();
     m_layingOut = false;
     if (!isSettled)

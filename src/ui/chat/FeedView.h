@@ -2,11 +2,11 @@
 
 #include "ui/chat/FeedRows.h"
 #include "ui/chat/RowHeights.h"
+#include "ui/chat/RowItems.h"
 
 #include <QQmlListProperty>
 #include <QQuickItem>
 
-#include <map>
 #include <optional>
 
 namespace kiv::ui {
@@ -91,14 +91,8 @@ protected:
 
 private Q_SLOTS:
     void viewMoved();
-    void rowGrew();
 
 private:
-    struct Shown {
-        QQuickItem *item = nullptr;
-        FeedDelegate::Kind kind = FeedDelegate::Paragraph;
-    };
-
     /// Rows that were at the upper edge and went, as long as others may come in their place.
     struct Gap {
         int row = 0;
@@ -111,7 +105,6 @@ private:
     void changeRows(int first, int last);
     void showMarks();
     void placeCursor();
-    void moveShown(int from, int by);
     double estimate(int row) const;
     void estimateAll();
 
@@ -128,9 +121,7 @@ private:
     void moveOrigin();
 
     QQuickItem *itemOf(int row);
-    Shown take(int row);
-    void giveBack(const Shown &shown);
-    void giveBackOutside(int first, int last);
+    void rowGrew();
     void setFollowing(bool following);
     void countUnseen();
 
@@ -153,8 +144,7 @@ private:
     /// than estimated, so that nothing in sight moves.
     double m_origin = 0;
     std::optional<Gap> m_gap;
-    std::map<int, Shown> m_shown; ///< by row
-    QHash<FeedDelegate::Kind, QList<QQuickItem *>> m_spare;
+    RowItems m_items;
     bool m_layingOut = false;
 };
 

@@ -33,8 +33,9 @@ void scrollSideways(QQuickItem *words, const QQuickItem *row, const QRectF &plac
 } // namespace
 
 void FeedView::showMarks() {
-    for (const auto &[row, shown] : m_shown)
-        shown.item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
+    m_items.each([this](int row, QQuickItem *item) {
+        item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
+    });
 }
 
 bool FeedView::revealFound(const QString &messageId, int part) {
