@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace kiv::sandbox {
 
 namespace {

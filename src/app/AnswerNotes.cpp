@@ -8,8 +8,6 @@
 
 namespace kiv::app {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr qsizetype mostCharacters = 80;

@@ -12,8 +12,6 @@
 
 namespace kiv::canvas {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using Points = QList<ViewSpec::Point>;

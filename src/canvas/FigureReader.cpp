@@ -2,8 +2,6 @@
 
 namespace kiv::canvas {
 
-using namespace Qt::StringLiterals;
-
 void FigureReader::skipSpaces() {
     while (isSpace(peek()))
         ++m_at;

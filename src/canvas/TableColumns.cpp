@@ -7,8 +7,6 @@
 
 namespace kiv::canvas {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 qsizetype columnNamed(const QStringList &columns, const Regex &name, qsizetype except = -1) {

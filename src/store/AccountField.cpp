@@ -5,8 +5,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
-
 AccountField::AccountField(net::APIClient &client, QString key, QVariant empty, QObject *parent)
     : QObject(parent),
       m_client(client),

@@ -10,7 +10,6 @@ namespace kiv::store {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using voice::VoiceEngine;
-using voice::VoiceError;
 
 namespace {
 

@@ -9,8 +9,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr int historyLimit = 50;

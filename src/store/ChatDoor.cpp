@@ -6,8 +6,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 bool has(const QList<Agent> &agents, const QString &id) {

@@ -7,8 +7,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr qint64 minute = 60;

@@ -6,8 +6,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 bool isSame(const Msg &a, const Msg &b) {

@@ -6,7 +6,6 @@
 
 namespace kiv::store {
 
-using namespace Qt::StringLiterals;
 using net::KivAPI::UserProfile;
 
 namespace {

@@ -12,7 +12,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using namespace kiv;
 
 namespace {

@@ -11,7 +11,6 @@
 #include <thread>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using namespace kiv::speech;
 
 namespace {

@@ -125,6 +125,29 @@ void StoreFixture::row(qint64 id, const QString &text, const QString &role) {
     backend.sendRow(store->scope()->chatTarget()->streamPath(), rowJson(id, role, text));
 }
 
+bool StoreFixture::ask(const QString &question) {
+    if (!signIn())
+        return false;
+    backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
+    store->chat()->send(question);
+    return soon([this] { return msgs().rowOfServerID(7) >= 0; });
+}
+
+bool StoreFixture::draw(qint64 id, const QString &answer) {
+    row(id, answer);
+    const bool isDrawn =
+        soon([this] { return store->canvas()->phase() == store::Phase::Building; });
+    clock.advance(2s);
+    return isDrawn;
+}
+
+QStringList StoreFixture::usage() const {
+    QStringList names;
+    for (const auto &request : backend.requests(u"POST api/v2/rum"_s))
+        names.append(request.body.value(u"name"_s).toString());
+    return names;
+}
+
 void StoreFixture::history(const QString &chat, const QByteArray &rows) {
     backend.answer(u"GET "_s + chat, R"({"messages":)" + rows + "}");
 }

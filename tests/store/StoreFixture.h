@@ -47,6 +47,12 @@ public:
 
     /// The stream of the current chat sends this row: an answer, or what `role` says.
     void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
+    /// Signs in and asks the orchestrator; the question is stored as row 7.
+    bool ask(const QString &question);
+    /// The answer has come as row `id` and was drawn, entrance and all.
+    bool draw(qint64 id, const QString &answer);
+    /// The names of what was reported to have been used, the earliest first.
+    QStringList usage() const;
     /// Answers a history request of the chat at `chat` with these rows.
     void history(const QString &chat, const QByteArray &rows);
 

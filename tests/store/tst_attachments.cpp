@@ -5,16 +5,12 @@
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::AttachmentFixture;
-using test::kivChat;
 using test::kivPost;
 using test::kivUpload;
 using test::planReply;
-using test::rowJson;
-using test::StoreFixture;
 
 class AttachmentsTest : public QObject {
     Q_OBJECT

@@ -19,13 +19,6 @@ namespace {
 
 const QString hint = u"No data to draw in this answer — ask for the numbers as a table or a list"_s;
 
-QStringList usage(const StoreFixture &f) {
-    QStringList names;
-    for (const auto &request : f.backend.requests(u"POST api/v2/rum"_s))
-        names.append(request.body.value(u"name"_s).toString());
-    return names;
-}
-
 } // namespace
 
 class CanvasTest : public QObject {
@@ -34,7 +27,7 @@ class CanvasTest : public QObject {
 private Q_SLOTS:
     void drawnOnceItSettles() {
         StoreFixture f;
-        QVERIFY(ask(f, u"What did the agents do overnight?"_s));
+        QVERIFY(f.ask(u"What did the agents do overnight?"_s));
         CanvasRoom *canvas = f.store->canvas();
         QCOMPARE(canvas->phase(), Phase::Thinking);
         QCOMPARE(canvas->state(), CanvasState::ThinkingSkeleton);
@@ -51,12 +44,12 @@ private Q_SLOTS:
         QCOMPARE(canvas->phase(), Phase::Idle);
         QCOMPARE(canvas->state(), CanvasState::Hint);
         QCOMPARE(canvas->canvasHint(), hint);
-        SOON_COMPARE(usage(f), QStringList{u"canvas_no_data"_s});
+        SOON_COMPARE(f.usage(), QStringList{u"canvas_no_data"_s});
     }
 
     void drawnEarlyAndOnce() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
+        QVERIFY(f.ask(u"Weekly report"_s));
         CanvasRoom *canvas = f.store->canvas();
         QCOMPARE(canvas->skeletonShape(), SkeletonShape::Cards);
         f.row(9, u"Here it is:\n"_s + reportBlock.chopped(4));
@@ -85,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(canvas->vis(), vis + 1);
         QVERIFY(!canvas->awaitingAnswer());
         QCOMPARE(canvas->history()->count(), 1);
-        SOON_COMPARE(usage(f), QStringList{u"canvas_scenario"_s});
+        SOON_COMPARE(f.usage(), QStringList{u"canvas_scenario"_s});
         const auto context = f.backend.requests(u"POST api/v2/rum"_s).first().body.value(u"ctx"_s);
         QCOMPARE(context.toObject().value(u"intent"_s).toString(), u"report"_s);
         QVERIFY(f.msgs().index(f.msgs().count() - 1).data(MessageModel::OnCanvasRole).toBool());
@@ -94,7 +87,7 @@ private Q_SLOTS:
     void rowsOfBeforeAreNotTheAnswer() {
         StoreFixture f;
         f.history(kivChat, "[" + rowJson(5, u"assistant"_s, u"old"_s) + "]");
-        QVERIFY(ask(f, u"Weekly report"_s));
+        QVERIFY(f.ask(u"Weekly report"_s));
         f.row(5, u"old, "_s + reportBlock);
         SOON_VERIFY(f.msgs().messages().first().text.startsWith(u"old,"_s));
         f.clock.advance(10s);
@@ -103,7 +96,7 @@ private Q_SLOTS:
 
     void blockWithoutASceneStaysInTheText() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Which one?"_s));
+        QVERIFY(f.ask(u"Which one?"_s));
         const QString answer =
             u"Pick:\n```view\n{\"kind\":\"choice\",\"options\":[\"a\",\"b\"]}\n```"_s;
         f.row(9, answer);
@@ -113,7 +106,7 @@ private Q_SLOTS:
 
     void viewOfTheServer() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
+        QVERIFY(f.ask(u"Weekly report"_s));
         f.backend.sendRow(kivChat + u"/stream"_s,
                           R"({"id":9,"role":"assistant","content":"See the canvas.","metadata":)"
                           R"({"view":{"kind":"kpi","items":[{"label":"Tasks","value":4}]}}})");
@@ -124,10 +117,8 @@ private Q_SLOTS:
 
     void newQuestionClearsTheScene() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
-        f.row(9, reportBlock);
-        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
-        f.clock.advance(2s);
+        QVERIFY(f.ask(u"Weekly report"_s));
+        QVERIFY(f.draw(9, reportBlock));
         f.store->chat()->send(u"And now?"_s);
         QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
         QCOMPARE(f.store->canvas()->art(), QString());
@@ -141,34 +132,13 @@ private Q_SLOTS:
 
     void sceneStaysWithItsScope() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
+        QVERIFY(f.ask(u"Weekly report"_s));
         f.row(9, reportBlock);
         SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
         f.store->scope()->enterProject(u"ferry"_s);
         QVERIFY(f.store->canvas()->state() != CanvasState::BuildingScene);
         f.clock.advance(10s);
         QVERIFY(f.store->canvas()->state() != CanvasState::Scene);
-    }
-
-    void restored_data() {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<int>("state");
-        QTest::newRow("scene") << reportBlock << int(CanvasState::Scene);
-        QTest::newRow("nothing to draw") << u"All quiet."_s << int(CanvasState::Hint);
-        QTest::newRow("page") << u"[Board](/project/ferry)"_s << int(CanvasState::Empty);
-    }
-    void restored() {
-        QFETCH(QString, answer);
-        StoreFixture f;
-        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
-                               rowJson(2, u"assistant"_s, answer) + "]");
-        QVERIFY(f.signIn());
-        CanvasRoom *canvas = f.store->canvas();
-        QTEST(int(canvas->state()), "state");
-        QVERIFY(!canvas->animated());
-        QCOMPARE(canvas->history()->count(), 0);
-        if (canvas->state() == CanvasState::Scene)
-            QCOMPARE(canvas->query(), u"Weekly report"_s);
     }
 
     void followedLinks_data() {
@@ -193,80 +163,6 @@ private Q_SLOTS:
                  browser.isEmpty() ? CanvasState::Page : CanvasState::Empty);
     }
 
-    void linkedPage() {
-        StoreFixture f;
-        QVERIFY(ask(f, u"Where do I see it?"_s));
-        f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
-        SOON_COMPARE(f.msgs().count(), 3);
-        f.clock.advance(1200ms);
-        CanvasRoom *canvas = f.store->canvas();
-        QCOMPARE(canvas->state(), CanvasState::Page);
-        QCOMPARE(canvas->pageView().url, f.backend.url().resolved(u"/project/ferry?tab=tasks"_s));
-        QCOMPARE(canvas->history()->count(), 1);
-        QCOMPARE(canvas->history()->at(0).title, u"Project Work"_s);
-        SOON_COMPARE(usage(f), QStringList{u"canvas_open"_s});
-        const auto context = f.backend.requests(u"POST api/v2/rum"_s).first().body.value(u"ctx"_s);
-        QCOMPARE(context.toObject().value(u"page"_s).toString(), u"Project Work"_s);
-
-        // A question takes it away, the history brings it back.
-        f.store->chat()->send(u"Weekly report"_s);
-        QCOMPARE(canvas->state(), CanvasState::ThinkingSkeleton);
-        f.row(11, reportBlock);
-        SOON_COMPARE(canvas->phase(), Phase::Building);
-        f.clock.advance(2s);
-        canvas->openHistory(1);
-        QCOMPARE(canvas->state(), CanvasState::Page);
-        QCOMPARE(canvas->art(), QString());
-        QCOMPARE(canvas->query(), u"Where do I see it?"_s);
-        QCOMPARE(canvas->history()->count(), 3);
-        QCOMPARE(canvas->history()->at(0).page, canvas->history()->at(2).page);
-        canvas->openHistory(1);
-        QCOMPARE(canvas->state(), CanvasState::Scene);
-    }
-
-    /// Scenes and pages, back and forth, without new entries; a question is one step on.
-    void stepsThroughTheHistory() {
-        StoreFixture f;
-        QVERIFY(ask(f, u"Where do I see it?"_s));
-        f.row(9, u"On [the board](/project/ferry?tab=tasks)."_s);
-        SOON_COMPARE(f.msgs().count(), 3);
-        f.clock.advance(1200ms);
-        CanvasRoom *canvas = f.store->canvas();
-        QSignalSpy steps(canvas, &CanvasRoom::stepsChanged);
-        QVERIFY(!canvas->hasEarlier());
-        f.store->chat()->send(u"Weekly report"_s);
-        QVERIFY(canvas->hasEarlier());
-        QVERIFY(!steps.isEmpty());
-        f.row(11, reportBlock);
-        SOON_COMPARE(canvas->phase(), Phase::Building);
-        f.clock.advance(2s);
-        const QString source = canvas->sourceMessageId();
-
-        canvas->stepBack();
-        QCOMPARE(canvas->state(), CanvasState::Page);
-        QCOMPARE(canvas->query(), u"Where do I see it?"_s);
-        canvas->stepBack();
-        QCOMPARE(canvas->state(), CanvasState::Page);
-        QVERIFY(!canvas->hasEarlier());
-        canvas->stepForward();
-        QCOMPARE(canvas->state(), CanvasState::Scene);
-        QVERIFY(!canvas->animated());
-        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
-        QCOMPARE(canvas->sourceMessageId(), source);
-        canvas->stepForward();
-        QVERIFY(!canvas->hasLater());
-        QCOMPARE(canvas->history()->count(), 2);
-
-        // The skeleton of a new question stands before the newest entry.
-        f.store->chat()->send(u"And now?"_s);
-        QVERIFY(!canvas->hasLater());
-        canvas->stepBack();
-        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
-        f.row(13, QString(reportBlock).replace(u"47"_s, u"48"_s));
-        SOON_COMPARE(canvas->canvasTitle(), u"Week 48"_s);
-        QCOMPARE(canvas->history()->count(), 3);
-    }
-
     void panelIsLeft_data() {
         QTest::addColumn<std::function<void(StoreFixture &)>>("leave");
         const auto row = [](const char *name, const std::function<void(StoreFixture &)> &leave) {
@@ -285,11 +181,9 @@ private Q_SLOTS:
     void panelIsLeft() {
         QFETCH(std::function<void(StoreFixture &)>, leave);
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
+        QVERIFY(f.ask(u"Weekly report"_s));
         CanvasRoom *canvas = f.store->canvas();
-        f.row(9, reportBlock);
-        SOON_VERIFY(canvas->phase() == Phase::Building);
-        f.clock.advance(2s);
+        QVERIFY(f.draw(9, reportBlock));
         SOON_VERIFY(canvas->state() == CanvasState::Scene);
         f.store->layout()->openAccount();
         f.store->layout()->startCreate(u"agent"_s);
@@ -302,38 +196,10 @@ private Q_SLOTS:
         QVERIFY(canvas->state() != CanvasState::Panel);
     }
 
-    void historyKeepsTwenty() {
-        StoreFixture f;
-        QVERIFY(f.signIn());
-        CanvasRoom *canvas = f.store->canvas();
-        for (int turn = 1; turn <= 25; ++turn) {
-            f.store->chat()->send(u"Question %1"_s.arg(turn));
-            f.row(100 + turn, QString(reportBlock).replace(u"Week 47"_s, u"Week %1"_s.arg(turn)));
-            SOON_COMPARE(canvas->phase(), Phase::Building);
-            f.clock.advance(2s);
-        }
-        QCOMPARE(canvas->history()->count(), HistoryModel::limit);
-        QCOMPARE(canvas->history()->at(0).query, u"Question 25"_s);
-        QCOMPARE(canvas->history()->at(19).query, u"Question 6"_s);
-
-        canvas->openHistory(19);
-        QCOMPARE(canvas->phase(), Phase::Done);
-        QVERIFY(!canvas->animated());
-        QCOMPARE(canvas->query(), u"Question 6"_s);
-        QCOMPARE(canvas->canvasTitle(), u"Week 6"_s);
-        QCOMPARE(canvas->history()->count(), HistoryModel::limit);
-        QCOMPARE(canvas->history()->at(0).query, u"Question 6"_s);
-        canvas->openHistory(20);
-        canvas->openHistory(-1);
-        QCOMPARE(canvas->query(), u"Question 6"_s);
-    }
-
     void signOutTakesEverything() {
         StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
-        f.row(9, reportBlock);
-        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
-        f.clock.advance(2s);
+        QVERIFY(f.ask(u"Weekly report"_s));
+        QVERIFY(f.draw(9, reportBlock));
         QCOMPARE(f.store->canvas()->history()->count(), 1);
         f.store->session()->resetToAnon();
         CanvasRoom *canvas = f.store->canvas();
@@ -342,74 +208,6 @@ private Q_SLOTS:
         QCOMPARE(canvas->query(), QString());
         QCOMPARE(canvas->history()->count(), 0);
         QVERIFY(!canvas->hasEarlier());
-    }
-
-    void messageLeadsToItsScene() {
-        StoreFixture f;
-        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
-                               rowJson(2, u"assistant"_s, reportBlock) + "," +
-                               rowJson(3, u"user"_s, u"Thanks"_s) + "," +
-                               rowJson(4, u"assistant"_s, u"Any time."_s) + "]");
-        QVERIFY(f.signIn());
-        QCOMPARE(f.store->canvas()->state(), CanvasState::Hint);
-        const QModelIndex answer = f.msgs().index(1);
-        QCOMPARE(answer.data(MessageModel::CardTitleRole).toString(), u"Week 47"_s);
-        QCOMPARE(answer.data(MessageModel::CardArtRole).toString(), u"report"_s);
-        f.store->canvas()->showMessageCanvas(answer.data(MessageModel::MessageIdRole).toString());
-        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
-        QCOMPARE(f.store->canvas()->query(), u"Weekly report"_s);
-        QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
-
-        // A stream that comes back without news leaves it there.
-        QVERIFY(f.reconnect(kivChat));
-        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
-        QVERIFY(answer.data(MessageModel::OnCanvasRole).toBool());
-
-        // Neither does one that brings a link to a page: nobody asked for it here.
-        f.history(kivChat, "[" + rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
-                               rowJson(2, u"assistant"_s, reportBlock) + "," +
-                               rowJson(5, u"assistant"_s, u"[Board](/project/ferry)"_s) + "]");
-        QVERIFY(f.reconnect(kivChat));
-        QCOMPARE(f.texts().last(), u"[Board](/project/ferry)"_s);
-        QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
-    }
-
-    void reopenedInTheMiddleOfATurn() {
-        StoreFixture f;
-        QVERIFY(ask(f, u"Weekly report"_s));
-        f.row(9, reportBlock);
-        SOON_COMPARE(f.store->canvas()->phase(), Phase::Building);
-        f.clock.advance(2s);
-        CanvasRoom *canvas = f.store->canvas();
-        f.store->chat()->send(u"And now?"_s);
-        canvas->openHistory(0);
-        QCOMPARE(canvas->query(), u"Weekly report"_s);
-
-        // The answer belongs to its own question …
-        f.row(11, QString(reportBlock).replace(u"47"_s, u"48"_s));
-        SOON_COMPARE(canvas->canvasTitle(), u"Week 48"_s);
-        QCOMPARE(canvas->query(), u"And now?"_s);
-        QCOMPARE(canvas->history()->at(0).query, u"And now?"_s);
-
-        // … and once it is drawn, settling does not take the canvas back.
-        canvas->openHistory(2);
-        const int entries = canvas->history()->count();
-        f.clock.advance(5s);
-        QVERIFY(!canvas->awaitingAnswer());
-        QCOMPARE(canvas->canvasTitle(), u"Week 47"_s);
-        QCOMPARE(canvas->history()->count(), entries);
-        QCOMPARE(canvas->history()->at(0).title, u"Week 47"_s);
-    }
-
-private:
-    /// Signs in and asks; the question is stored as row 7.
-    bool ask(StoreFixture &f, const QString &question) {
-        if (!f.signIn())
-            return false;
-        const QString post = u"POST "_s + kivChat;
-        f.backend.answer(post, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
-        f.store->chat()->send(question);
-        return test::soon([&] { return f.msgs().rowOfServerID(7) >= 0; });
     }
 };
 

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
-using test::kivChat;
 using test::kivPost;
 using test::StoreFixture;
 

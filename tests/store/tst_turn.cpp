@@ -16,16 +16,8 @@ using test::StoreFixture;
 
 namespace {
 
+const QString question = u"What is planned?"_s;
 const QString table = u"| Task | Hours |\n|---|---|\n| Sails | 12 |\n| Hull | 30 |"_s;
-
-/// Signs in and asks; the question is stored as row 7.
-bool ask(StoreFixture &f, const QString &question = u"What is planned?"_s) {
-    if (!f.signIn())
-        return false;
-    f.backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, question) + "}");
-    f.store->chat()->send(question);
-    return test::soon([&] { return f.msgs().rowOfServerID(7) >= 0; });
-}
 
 /// The stream brings a row whose text has become `text`.
 bool arrives(StoreFixture &f, qint64 id, const QString &text) {
@@ -36,11 +28,8 @@ bool arrives(StoreFixture &f, qint64 id, const QString &text) {
     });
 }
 
-int drawings(const StoreFixture &f) {
-    int count = 0;
-    for (const auto &request : f.backend.requests(u"POST api/v2/rum"_s))
-        count += request.body.value(u"name"_s).toString() == u"canvas_scenario"_s;
-    return count;
+qsizetype drawings(const StoreFixture &f) {
+    return f.usage().count(u"canvas_scenario"_s);
 }
 
 } // namespace
@@ -125,7 +114,7 @@ private Q_SLOTS:
     void answered() {
         QFETCH(QString, answer);
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         CanvasRoom *canvas = f.store->canvas();
         QVERIFY(arrives(f, 9, answer));
         QTEST(canvas->phase(), "early");
@@ -145,7 +134,7 @@ private Q_SLOTS:
 
     void earlyTableIsDrawnOnce() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         CanvasRoom *canvas = f.store->canvas();
         QSignalSpy drawn(canvas, &CanvasRoom::artSceneChanged);
         QVERIFY(arrives(f, 9, table + u"\n\nThe hull"_s));
@@ -162,7 +151,7 @@ private Q_SLOTS:
 
     void earlyTableThatGrewIsDrawnAnew() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         CanvasRoom *canvas = f.store->canvas();
         QVERIFY(arrives(f, 9, table + u"\n\n"_s));
         QCOMPARE(canvas->artScene().coRows.size(), 2);
@@ -184,7 +173,7 @@ private Q_SLOTS:
     /// The canvas that the person turned to meanwhile stays; the history has the whole table.
     void earlyTableThatGrewOutOfSight() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         CanvasRoom *canvas = f.store->canvas();
         QVERIFY(arrives(f, 9, table + u"\n\n"_s));
         canvas->openLink(u"/team/ferry"_s);
@@ -200,7 +189,7 @@ private Q_SLOTS:
 
     void growsOnAfterASilence() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         CanvasRoom *canvas = f.store->canvas();
         QVERIFY(arrives(f, 9, table));
         f.clock.advance(2s);
@@ -230,7 +219,7 @@ private Q_SLOTS:
 
     void figuresAfterASilence() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         QVERIFY(arrives(f, 9, u"Let me look that up."_s));
         f.clock.advance(2s);
         QCOMPARE(f.store->canvas()->state(), CanvasState::Hint);
@@ -252,7 +241,7 @@ private Q_SLOTS:
 
     void rowWithoutAnId() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         f.backend.sendRow(kivChat + u"/stream"_s, R"({"role":"agent","content":"All quiet."})");
         SOON_COMPARE(f.store->canvas()->state(), CanvasState::Hint);
         QCOMPARE(f.texts().last(), u"All quiet."_s);
@@ -265,7 +254,7 @@ private Q_SLOTS:
     /// The patience of three minutes is for an answer to come; one that is being written has come.
     void longAnswer() {
         StoreFixture f;
-        QVERIFY(ask(f));
+        QVERIFY(f.ask(question));
         QString text = u"It began so:"_s;
         for (int second = 0; second < 200; ++second) {
             text += u" and then"_s;

@@ -11,7 +11,6 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace kiv::ui {
 

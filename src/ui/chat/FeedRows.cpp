@@ -8,7 +8,6 @@
 
 namespace kiv::ui {
 
-using namespace Qt::StringLiterals;
 using store::MessageModel;
 using text::MDBlock;
 
