@@ -1,7 +1,6 @@
 // The account's own data, and what a person makes in the workspace.
 
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
+#include "sandbox/ServerTest.h"
 
 #include <QtTest>
 
@@ -16,22 +15,12 @@ const QByteArray tinyPng = QByteArray::fromBase64(
 
 } // namespace
 
-class AccountTest : public QObject {
+class AccountTest : public ServerTest {
     Q_OBJECT
+public:
+    AccountTest() : ServerTest({u"--newest-release"_s, u"9.8.7"_s}) {}
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_sandbox = std::make_unique<SandboxProcess>(
-            m_folder.path(), QStringList{u"--newest-release"_s, u"9.8.7"_s});
-        m_client = std::make_unique<Client>(m_sandbox->port());
-        QVERIFY(!m_client->signUp(u"account@example.com"_s).isEmpty());
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_sandbox->closeInput());
-        QCOMPARE(m_sandbox->complaints(), QByteArray());
-    }
-
     void profileKeepsEveryField() {
         QJsonObject changes{{u"preferred_sectors"_s, QJsonArray{u"Energy"_s, u"Право"_s}},
                             {u"time_zone"_s, u"Europe/Riga"_s},
@@ -82,7 +71,7 @@ private Q_SLOTS:
         for (auto change = changes.begin(); change != changes.end(); ++change) {
             QCOMPARE(profile.value(change.key()), change.value());
         }
-        QCOMPARE(profile.value(u"email"_s).toString(), u"account@example.com"_s);
+        QCOMPARE(profile.value(u"email"_s).toString(), m_email);
         QCOMPARE(m_client->get(u"/api/v2/auth/me"_s).json().value(u"name"_s),
                  changes.value(u"full_name"_s));
     }
@@ -307,11 +296,6 @@ private Q_SLOTS:
                                                 "multipart/form-data; boundary=b");
         QVERIFY(huge.status == 413 || huge.status == 0); // refused, or cut off while sending
     }
-
-private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    std::unique_ptr<Client> m_client;
 };
 
 QTEST_GUILESS_MAIN(AccountTest)

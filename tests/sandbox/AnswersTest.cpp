@@ -1,7 +1,6 @@
 // What the agents answer: the form of each answer, and figures that agree with each other.
 
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
+#include "sandbox/ServerTest.h"
 
 #include <QRegularExpression>
 #include <QtTest>
@@ -43,22 +42,10 @@ double euroFigure(QString text) {
 
 } // namespace
 
-class AnswersTest : public QObject {
+class AnswersTest : public ServerTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_sandbox = std::make_unique<SandboxProcess>(m_folder.path());
-        m_client = std::make_unique<Client>(m_sandbox->port());
-        QVERIFY(!m_client->signUp(u"answers@example.com"_s).isEmpty());
-        m_kiv = chatOf(*m_client);
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_sandbox->closeInput());
-        QCOMPARE(m_sandbox->complaints(), QByteArray());
-    }
-
     void blocks_data() {
         QTest::addColumn<QString>("question");
         QTest::addColumn<QString>("word");
@@ -199,10 +186,11 @@ private Q_SLOTS:
         }
         QCOMPARE(sum, sumOf(ask(u"Where does the money go?"_s).points()));
 
-        const QString ledger = ask(u"What is blocked?"_s, agentChat(u"Ledger"_s)).content;
+        const QString ledger = ask(u"What is blocked?"_s, m_client->agentChat(u"Ledger"_s)).content;
         QVERIFY(ledger.contains(u"Send the invoices"_s));
         QVERIFY(!ledger.contains(u"Confirm the new tax code"_s));
-        QVERIFY(ask(u"What is blocked?"_s, agentChat(u"Scout"_s)).content.startsWith(u"Nothing"_s));
+        QVERIFY(ask(u"What is blocked?"_s, m_client->agentChat(u"Scout"_s))
+                    .content.startsWith(u"Nothing"_s));
     }
 
     void newProjectHasNothingRecorded() {
@@ -235,7 +223,7 @@ private Q_SLOTS:
             Client client(sandbox.port());
             client.signUp(u"seed@example.com"_s);
             const QString content =
-                ask(client, u"Where does the money go?"_s, chatOf(client)).content;
+                ask(client, u"Where does the money go?"_s, client.kivChat()).content;
             if (first.isEmpty()) {
                 first = content;
                 QVERIFY(content != ask(u"Where does the money go?"_s).content);
@@ -245,11 +233,6 @@ private Q_SLOTS:
     }
 
 private:
-    static QString chatOf(Client &client) {
-        return u"/api/v2/custom-agents/%1/chat"_s.arg(
-            client.get(u"/api/v2/orchestrator"_s).json().value(u"agent_id"_s).toString());
-    }
-
     /// Asks twice: when the second question has an answer, that of the first stands whole.
     static Answer ask(Client &client, const QString &question, const QString &chat) {
         const qint64 asked =
@@ -273,24 +256,8 @@ private:
     }
 
     Answer ask(const QString &question, const QString &chat = {}) {
-        return ask(*m_client, question, chat.isEmpty() ? m_kiv : chat);
+        return ask(*m_client, question, chat.isEmpty() ? kivChat() : chat);
     }
-
-    QString agentChat(const QString &name) {
-        for (const QJsonValue &agent :
-             m_client->get(u"/api/v2/custom-agents"_s).json().value(u"agents"_s).toArray()) {
-            if (agent.toObject().value(u"name"_s).toString() == name) {
-                return u"/api/v2/custom-agents/%1/chat"_s.arg(
-                    agent.toObject().value(u"id"_s).toString());
-            }
-        }
-        return {};
-    }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    std::unique_ptr<Client> m_client;
-    QString m_kiv;
 };
 
 QTEST_GUILESS_MAIN(AnswersTest)

@@ -1,7 +1,6 @@
 // Conversations: what is stored, what the stream says, and how an answer grows.
 
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
+#include "sandbox/ServerTest.h"
 #include "sandbox/Stream.h"
 
 #include <QtTest>
@@ -23,31 +22,15 @@ qint64 idOf(const QJsonObject &row) {
 
 } // namespace
 
-class ChatTest : public QObject {
+class ChatTest : public ServerTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_sandbox = std::make_unique<SandboxProcess>(m_folder.path());
-        QVERIFY(m_sandbox->ready());
-        m_client = std::make_unique<Client>(m_sandbox->port());
-        QVERIFY(!m_client->signUp(u"chat@example.com"_s).isEmpty());
-        const QString kiv =
-            m_client->get(u"/api/v2/orchestrator"_s).json().value(u"agent_id"_s).toString();
-        QVERIFY(!kiv.isEmpty());
-        m_kiv = u"/api/v2/custom-agents/%1/chat"_s.arg(kiv);
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_sandbox->closeInput());
-        QCOMPARE(m_sandbox->complaints(), QByteArray());
-    }
-
     void answerGrowsUnderOneId() {
-        Stream stream(*m_client, m_kiv + u"/stream"_s);
+        Stream stream(*m_client, kivChat() + u"/stream"_s);
         QVERIFY(stream.waitFor("event: ready\n"));
         const QJsonObject sent =
-            m_client->post(m_kiv, {{u"text"_s, u"How was the week?"_s}, {u"mode"_s, u"live"_s}})
+            m_client->post(kivChat(), {{u"text"_s, u"How was the week?"_s}, {u"mode"_s, u"live"_s}})
                 .json()
                 .value(u"message"_s)
                 .toObject();
@@ -92,7 +75,7 @@ private Q_SLOTS:
 
     void requestIdSendsOnce() {
         const QJsonObject body{{u"text"_s, u"Only once"_s}, {u"client_request_id"_s, u"r-1"_s}};
-        const QString chat = agentChat(u"Scout"_s);
+        const QString chat = m_client->agentChat(u"Scout"_s);
         const QJsonObject first = m_client->post(chat, body).json();
         QTRY_COMPARE(history(chat, 10).size(), 2);
         QCOMPARE(m_client->post(chat, body).json(), first);
@@ -128,7 +111,7 @@ private Q_SLOTS:
         QTest::newRow("no such agent")
             << u"/api/v2/custom-agents/nobody/chat"_s << hello << 404 << u"not_found"_s;
         QTest::newRow("stopped agent")
-            << agentChat(u"Anchor"_s) << hello << 409 << u"work_halted"_s;
+            << m_client->agentChat(u"Anchor"_s) << hello << 409 << u"work_halted"_s;
     }
 
     void refusals() {
@@ -182,10 +165,10 @@ private Q_SLOTS:
     void accountsDoNotMeet() {
         Client other(m_sandbox->port());
         other.signUp(u"other@example.com"_s);
-        QCOMPARE(other.get(m_kiv).status, 404);
-        QCOMPARE(other.get(m_kiv + u"/stream"_s).status, 404);
-        QCOMPARE(other.post(m_kiv, {{u"text"_s, u"Hi"_s}}).status, 404);
-        QCOMPARE(other.post(m_kiv + u"/stop"_s).status, 404);
+        QCOMPARE(other.get(kivChat()).status, 404);
+        QCOMPARE(other.get(kivChat() + u"/stream"_s).status, 404);
+        QCOMPARE(other.post(kivChat(), {{u"text"_s, u"Hi"_s}}).status, 404);
+        QCOMPARE(other.post(kivChat() + u"/stop"_s).status, 404);
         // The same path, but another conversation.
         Stream stream(other, room + u"/stream"_s);
         QVERIFY(stream.waitFor("event: ready\n"));
@@ -199,7 +182,7 @@ private Q_SLOTS:
     }
 
     void attachedFilesComeBack() {
-        const QString chat = agentChat(u"Loom"_s);
+        const QString chat = m_client->agentChat(u"Loom"_s);
         const Response uploaded = m_client->upload(
             chat + u"/files"_s, {{u"план.txt"_s, u"text/plain"_s, "one, two"},
                                  {u"empty.txt"_s, u"text/plain"_s, ""},
@@ -243,22 +226,6 @@ private:
         return content(client.get(chat).json().value(u"messages"_s).toArray().last().toObject());
     }
     QString lastOf(const QString &chat) { return lastOf(*m_client, chat); }
-
-    QString agentChat(const QString &name) {
-        for (const QJsonValue &agent :
-             m_client->get(u"/api/v2/custom-agents"_s).json().value(u"agents"_s).toArray()) {
-            if (agent.toObject().value(u"name"_s).toString() == name) {
-                return u"/api/v2/custom-agents/%1/chat"_s.arg(
-                    agent.toObject().value(u"id"_s).toString());
-            }
-        }
-        return {};
-    }
-
-    QTemporaryDir m_folder;
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    std::unique_ptr<Client> m_client;
-    QString m_kiv;
 };
 
 QTEST_GUILESS_MAIN(ChatTest)

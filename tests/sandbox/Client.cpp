@@ -62,6 +62,20 @@ QJsonObject Client::signUp(const QString &email) {
     return response.json().value(u"user"_s).toObject();
 }
 
+QString Client::kivChat() {
+    const QString kiv = get(u"/api/v2/orchestrator"_s).json().value(u"agent_id"_s).toString();
+    return kiv.isEmpty() ? QString() : u"/api/v2/custom-agents/%1/chat"_s.arg(kiv);
+}
+
+QString Client::agentChat(const QString &name) {
+    const QJsonArray agents = get(u"/api/v2/custom-agents"_s).json().value(u"agents"_s).toArray();
+    for (const QJsonValue &agent : agents) {
+        if (agent[u"name"_s] == name)
+            return u"/api/v2/custom-agents/%1/chat"_s.arg(agent[u"id"_s].toString());
+    }
+    return {};
+}
+
 void Client::keepSession(const Response &response) {
     headers.erase("Cookie");
     headers.emplace("Cookie", response.cookie.split(';').constFirst().toStdString());

@@ -38,6 +38,10 @@ public:
     /// Takes the session of a reply.
     void keepSession(const Response &response);
 
+    /// The path of the chat with the orchestrator, and of that with an agent; empty for none.
+    QString kivChat();
+    QString agentChat(const QString &name);
+
     /// The headers of every request; a test bends them.
     httplib::Headers headers;
     int port() const { return m_port; }

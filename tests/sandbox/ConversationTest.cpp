@@ -1,31 +1,16 @@
 // What is said in a call, and what stays of it.
 
-#include "sandbox/VoiceFixture.h"
+#include "sandbox/CallTest.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 using namespace kiv::testing;
 
-class ConversationTest : public QObject {
+class ConversationTest : public CallTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_voice = std::make_unique<VoiceFixture>();
-        QVERIFY(!m_voice->agentId(u"Scout"_s).isEmpty());
-    }
-
-    void cleanup() {
-        m_voice->order({});
-        m_voice->endCall();
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_voice->stop());
-        QCOMPARE(m_voice->sandbox().complaints(), QByteArray());
-    }
-
     void conversation() {
         const QJsonObject session = m_voice->mint();
         QCOMPARE(session[u"max_duration_secs"_s].toInt(), 600);
@@ -221,9 +206,6 @@ private Q_SLOTS:
                      .size(),
                  1);
     }
-
-private:
-    std::unique_ptr<VoiceFixture> m_voice;
 };
 
 QTEST_GUILESS_MAIN(ConversationTest)

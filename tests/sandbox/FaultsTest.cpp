@@ -1,7 +1,6 @@
 // Every way to fail on demand, seen from the other end of the wire.
 
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
+#include "sandbox/ServerTest.h"
 #include "sandbox/Stream.h"
 
 #include <QStringDecoder>
@@ -10,23 +9,13 @@
 using namespace Qt::StringLiterals;
 using namespace kiv::testing;
 
-class FaultsTest : public QObject {
+class FaultsTest : public ServerTest {
     Q_OBJECT
+public:
+    FaultsTest() : ServerTest({u"--fault"_s, u"status=503,path=/orchestrator,times=1"_s}) {}
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_sandbox = std::make_unique<SandboxProcess>(
-            m_folder.path(), QStringList{u"--fault"_s, u"status=503,path=/orchestrator,times=1"_s});
-        m_client = std::make_unique<Client>(m_sandbox->port());
-        QVERIFY(!m_client->signUp(u"faults@example.com"_s).isEmpty());
-    }
-
     void cleanup() { order({}); }
-
-    void cleanupTestCase() {
-        QVERIFY(m_sandbox->closeInput());
-        QCOMPARE(m_sandbox->complaints(), QByteArray());
-    }
 
     void commandLineFaultStrikesOnce() {
         QCOMPARE(m_client->get(u"/api/v2/orchestrator"_s).status, 503);
@@ -171,9 +160,6 @@ private:
         QCOMPARE(response.json().value(u"faults"_s).toArray().size(), list.size());
     }
 
-    QTemporaryDir m_folder;
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    std::unique_ptr<Client> m_client;
     const QString m_room = u"/api/v2/projects/orchard/chat"_s;
 };
 

@@ -1,7 +1,6 @@
 // The pages of the platform: what stands on them, and for whom.
 
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
+#include "sandbox/ServerTest.h"
 
 #include <QtTest>
 
@@ -21,22 +20,10 @@ QString wordsOf(const Response &page) {
 
 } // namespace
 
-class PagesTest : public QObject {
+class PagesTest : public ServerTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_sandbox = std::make_unique<SandboxProcess>(m_folder.path());
-        QVERIFY(m_sandbox->ready());
-        m_client = std::make_unique<Client>(m_sandbox->port());
-        QVERIFY(!m_client->signUp(u"reader@example.com"_s).isEmpty());
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_sandbox->closeInput());
-        QCOMPARE(m_sandbox->complaints(), QByteArray());
-    }
-
     void pages_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("words"); // a pattern
@@ -98,11 +85,6 @@ private Q_SLOTS:
         other.signUp(u"other@example.com"_s);
         QCOMPARE(other.get(u"/project/"_s + slug).status, 404);
     }
-
-private:
-    QTemporaryDir m_folder;
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    std::unique_ptr<Client> m_client;
 };
 
 QTEST_GUILESS_MAIN(PagesTest)

@@ -1,31 +1,16 @@
 // Whether a call comes about: who may call whom, whose socket is let in, and every way to fail.
 
-#include "sandbox/VoiceFixture.h"
+#include "sandbox/CallTest.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 using namespace kiv::testing;
 
-class VoiceTest : public QObject {
+class VoiceTest : public CallTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() {
-        m_voice = std::make_unique<VoiceFixture>();
-        QVERIFY(!m_voice->agentId(u"Scout"_s).isEmpty());
-    }
-
-    void cleanup() {
-        m_voice->order({});
-        m_voice->endCall();
-    }
-
-    void cleanupTestCase() {
-        QVERIFY(m_voice->stop());
-        QCOMPARE(m_voice->sandbox().complaints(), QByteArray());
-    }
-
     void scriptIsServedForGood() {
         const auto reply = httplib::Client("127.0.0.1", m_voice->sandbox().port())
                                .Get("/vendor/elevenlabs-client.1.21.0.js");
@@ -216,9 +201,6 @@ private Q_SLOTS:
             404);
         QCOMPARE(Client(m_voice->sandbox().port()).post(u"/api/v2/voice/session"_s).status, 401);
     }
-
-private:
-    std::unique_ptr<VoiceFixture> m_voice;
 };
 
 QTEST_GUILESS_MAIN(VoiceTest)
