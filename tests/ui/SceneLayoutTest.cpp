@@ -71,7 +71,7 @@ void SceneLayoutTest::lanes() {
     using Tasks = QList<QPair<double, double>>;
     QFETCH(Tasks, tasks);
     LaneLayout layout;
-    layout.setTrackWidth(400);
+    layout.setWidth(400);
     layout.setScene(laneOf(tasks));
     QStringList blocks;
     for (const LaneBlock &block : layout.lanes().first().blocks)
@@ -82,7 +82,7 @@ void SceneLayoutTest::lanes() {
 void SceneLayoutTest::titles() {
     const QString title = u"Guided sign-up"_s;
     LaneLayout layout;
-    layout.setTrackWidth(800);
+    layout.setWidth(800);
     const double words = QFontMetricsF(layout.font()).horizontalAdvance(title);
 
     // A block takes what its title needs of the free track, and no more.
@@ -117,7 +117,7 @@ void SceneLayoutTest::lanesShareTheHeight() {
     scene.lanes.append(laneOf({{0, 1}}).lanes);
     scene.lanes.append(canvas::Lane{.name = u"Idle"_s});
     LaneLayout layout;
-    layout.setTrackWidth(400);
+    layout.setWidth(400);
     layout.setScene(scene);
     const auto heights = [&layout](double height) {
         layout.setHeight(height);

@@ -31,54 +31,26 @@ bool overlap(const PlotLabel &a, const PlotLabel &b, double height) {
 
 } // namespace
 
-void CashflowPlot::setScene(const canvas::SceneOut &scene) {
-    if (m_scene == scene)
-        return;
-    m_scene = scene;
+void CashflowPlot::measure() {
     const auto any = [this](QString canvas::CfMonth::*figure) {
-        return std::any_of(
-            m_scene.cfMonths.cbegin(), m_scene.cfMonths.cend(),
-            [figure](const canvas::CfMonth &month) { return !(month.*figure).isEmpty(); });
+        return std::ranges::any_of(scene().cfMonths, [figure](const canvas::CfMonth &month) {
+            return !(month.*figure).isEmpty();
+        });
     };
     m_hasIn = any(&canvas::CfMonth::in);
     m_hasOut = any(&canvas::CfMonth::out);
     m_hasBalance = any(&canvas::CfMonth::balance);
-    Q_EMIT sceneChanged();
     Q_EMIT seriesChanged();
     Q_EMIT belowChanged();
-    layOut();
-}
-
-void CashflowPlot::setWidth(double width) {
-    if (std::exchange(m_width, width) == width)
-        return;
-    Q_EMIT widthChanged();
-    layOut();
-}
-
-void CashflowPlot::setHeight(double height) {
-    if (std::exchange(m_height, height) == height)
-        return;
-    Q_EMIT heightChanged();
-    layOut();
-}
-
-void CashflowPlot::setFont(const QFont &font) {
-    if (m_font == font)
-        return;
-    m_font = font;
-    Q_EMIT fontChanged();
-    Q_EMIT belowChanged();
-    layOut();
 }
 
 double CashflowPlot::fit(double length) const {
-    return std::round(length * std::max(1.0, m_font.pixelSize() / double(normalText)));
+    return std::round(length * std::max(1.0, font().pixelSize() / double(normalText)));
 }
 
 double CashflowPlot::zeroY() const {
-    const double range = m_scene.cfHigh - m_scene.cfLow;
-    return range > 0 ? std::round(m_scene.cfHigh / range * m_height) : m_height;
+    const double range = scene().cfHigh - scene().cfLow;
+    return range > 0 ? std::round(scene().cfHigh / range * height()) : height();
 }
 
 double CashflowPlot::belowHeight() const {
@@ -95,12 +67,12 @@ void CashflowPlot::layOut() {
     m_periods.clear();
     m_line.clear();
     m_figures.clear();
-    for (const canvas::CfMonth &month : std::as_const(m_scene.cfMonths)) {
+    for (const canvas::CfMonth &month : scene().cfMonths) {
         m_periods.append({.month = month});
         if (month.balance.isEmpty())
             continue;
         m_line.append({(static_cast<double>(m_periods.size()) - 0.5) * m_slot,
-                       (100 - month.balY) / 100 * m_height});
+                       (100 - month.balY) / 100 * height()});
         m_figures.append(month.balance);
     }
     placeNames();
@@ -110,17 +82,17 @@ void CashflowPlot::layOut() {
 
 /// How wide the periods and their bars are.
 void CashflowPlot::divide() {
-    const auto &months = m_scene.cfMonths;
+    const auto &months = scene().cfMonths;
     const double bars = m_hasIn && m_hasOut ? 2 : 1;
     const double taken = (bars - 1) * barGap() + slotPadding;
     const auto count = static_cast<double>(std::max<qsizetype>(1, months.size()));
-    m_slot = std::max(std::floor(m_width / count), bars * barLeast + taken);
-    const QFontMetricsF words(m_font);
+    m_slot = std::max(std::floor(width() / count), bars * barLeast + taken);
+    const QFontMetricsF words(font());
     const bool fits = std::all_of(months.begin(), months.end(), [&](const canvas::CfMonth &month) {
         return words.horizontalAdvance(month.in) + figureGap <= m_slot &&
                words.horizontalAdvance(month.out) + figureGap <= m_slot;
     });
-    const bool wider = m_slot * count > m_width;
+    const bool wider = m_slot * count > width();
     if (std::exchange(m_showsFigures, fits) != fits || m_scrolls != wider) {
         m_scrolls = wider;
         Q_EMIT belowChanged();
@@ -132,7 +104,7 @@ void CashflowPlot::divide() {
 void CashflowPlot::placeNames() {
     if (m_periods.isEmpty())
         return;
-    const QFontMetricsF words(m_font);
+    const QFontMetricsF words(font());
     double widest = 0;
     for (const PlotPeriod &period : std::as_const(m_periods))
         widest = std::max(widest, words.horizontalAdvance(period.month.name));
@@ -168,13 +140,13 @@ std::optional<PlotLabel> CashflowPlot::freeLabel(qsizetype point) const {
     const QPointF at = m_line.at(point);
     const double right = static_cast<double>(m_periods.size()) * m_slot;
     PlotLabel label{.text = text};
-    label.width = std::max(labelLeast, std::ceil(QFontMetricsF(m_font).horizontalAdvance(text)) +
+    label.width = std::max(labelLeast, std::ceil(QFontMetricsF(font()).horizontalAdvance(text)) +
                                            2 * labelPadding);
     label.x =
         std::round(std::clamp(at.x() - label.width / 2, 0.0, std::max(0.0, right - label.width)));
     for (const double y : {at.y() - labelDistance - labelHeight(), at.y() + labelDistance}) {
         label.y = std::round(y);
-        if (label.y >= -headroom() && label.y + labelHeight() <= m_height &&
+        if (label.y >= -headroom() && label.y + labelHeight() <= height() &&
             std::none_of(m_labels.cbegin(), m_labels.cend(), [&](const PlotLabel &other) {
                 return overlap(label, other, labelHeight());
             }))

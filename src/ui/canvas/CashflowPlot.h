@@ -1,11 +1,8 @@
 #pragma once
 
-#include "canvas/SceneOut.h"
+#include "ui/canvas/SceneLayout.h"
 
-#include <QFont>
-#include <QObject>
 #include <QPointF>
-#include <QtQmlIntegration>
 
 #include <optional>
 
@@ -43,13 +40,10 @@ public:
 
 /// Where the bars, the line and the words of a cash flow lie in a plot. Periods share the width;
 /// where that would leave too little for their bars, the plot is wider than its view and scrolls.
-class CashflowPlot : public QObject {
+/// The width is that of the view, the height that of the plot, the font that of its labels.
+class CashflowPlot : public SceneLayout {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(kiv::canvas::SceneOut scene READ scene WRITE setScene NOTIFY sceneChanged REQUIRED)
-    Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
-    Q_PROPERTY(double height READ height WRITE setHeight NOTIFY heightChanged REQUIRED)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
     Q_PROPERTY(double headroom READ headroom NOTIFY fontChanged)
     Q_PROPERTY(double labelHeight READ labelHeight NOTIFY fontChanged)
     Q_PROPERTY(double barGap READ barGap CONSTANT)
@@ -69,18 +63,7 @@ class CashflowPlot : public QObject {
     Q_PROPERTY(QList<QPointF> line READ line NOTIFY changed)
     Q_PROPERTY(QList<kiv::ui::PlotLabel> labels READ labels NOTIFY changed)
 public:
-    using QObject::QObject;
-
-    canvas::SceneOut scene() const { return m_scene; }
-    void setScene(const canvas::SceneOut &scene);
-    /// Of the view.
-    double width() const { return m_width; }
-    void setWidth(double width);
-    double height() const { return m_height; }
-    void setHeight(double height);
-    /// Of the labels of the line.
-    QFont font() const { return m_font; }
-    void setFont(const QFont &font);
+    using SceneLayout::SceneLayout;
 
     /// Above the plot, for labels.
     double headroom() const { return fit(24); }
@@ -109,27 +92,21 @@ public:
     QList<PlotLabel> labels() const { return m_labels; }
 
 Q_SIGNALS:
-    void sceneChanged();
-    void widthChanged();
-    void heightChanged();
-    void fontChanged();
     void seriesChanged();
     void belowChanged();
-    void changed();
+
+protected:
+    void measure() override;
+    void layOut() override;
 
 private:
     /// A length for text of the normal size, for larger text as it is.
     double fit(double length) const;
-    void layOut();
     void divide();
     void placeNames();
     void placeLabels();
     std::optional<PlotLabel> freeLabel(qsizetype point) const;
 
-    canvas::SceneOut m_scene;
-    double m_width = 0;
-    double m_height = 0;
-    QFont m_font;
     bool m_hasIn = false;
     bool m_hasOut = false;
     bool m_hasBalance = false;

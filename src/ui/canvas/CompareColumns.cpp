@@ -31,29 +31,6 @@ bool startsText(const QList<CompareColumn> &columns, qsizetype i) {
 
 } // namespace
 
-void CompareColumns::setScene(const canvas::SceneOut &scene) {
-    if (m_scene == scene)
-        return;
-    m_scene = scene;
-    Q_EMIT sceneChanged();
-    measure();
-}
-
-void CompareColumns::setWidth(double width) {
-    if (std::exchange(m_width, width) == width)
-        return;
-    Q_EMIT widthChanged();
-    layOut();
-}
-
-void CompareColumns::setFont(const QFont &font) {
-    if (m_font == font)
-        return;
-    m_font = font;
-    Q_EMIT fontChanged();
-    measure();
-}
-
 QString CompareColumns::spoken(const canvas::CpRow &row) const {
     QStringList words{row.name};
     for (const CompareColumn &column : m_columns) {
@@ -67,21 +44,21 @@ QString CompareColumns::spoken(const canvas::CpRow &row) const {
 void CompareColumns::measure() {
     m_columns.clear();
     m_natural.clear();
-    const QFontMetricsF words(m_font);
+    const QFontMetricsF words(font());
     m_naturalName = words.horizontalAdvance(nameTitle());
-    for (const canvas::CpRow &row : std::as_const(m_scene.cpRows))
+    for (const canvas::CpRow &row : scene().cpRows)
         m_naturalName = std::max(m_naturalName, words.horizontalAdvance(row.name));
-    qsizetype cells = std::max<qsizetype>(0, m_scene.cpCols.size() - 1);
-    for (const canvas::CpRow &row : std::as_const(m_scene.cpRows))
+    qsizetype cells = std::max<qsizetype>(0, scene().cpCols.size() - 1);
+    for (const canvas::CpRow &row : scene().cpRows)
         cells = std::max(cells, row.cells.size());
     for (qsizetype cell = 0; cell < cells; ++cell) {
         CompareColumn column;
         column.cell = static_cast<int>(cell);
-        column.title = m_scene.cpCols.value(cell + 1);
+        column.title = scene().cpCols.value(cell + 1);
         column.numeric = true;
         bool filled = false;
         double widest = words.horizontalAdvance(column.title);
-        for (const canvas::CpRow &row : std::as_const(m_scene.cpRows)) {
+        for (const canvas::CpRow &row : scene().cpRows) {
             const QString text = row.cells.value(cell);
             if (text.isEmpty())
                 continue;
@@ -97,11 +74,10 @@ void CompareColumns::measure() {
         m_natural.append(std::ceil(widest));
         m_columns.append(column);
     }
-    layOut();
 }
 
 void CompareColumns::layOut() {
-    const double gap = m_width < narrow ? narrowGap : wideGap;
+    const double gap = width() < narrow ? narrowGap : wideGap;
     const qsizetype count = m_columns.size();
     double wanted = 0;
     double least = 0;
@@ -112,11 +88,11 @@ void CompareColumns::layOut() {
         indents += startsText(m_columns, i) ? indent : 0;
     }
 
-    m_nameWidth = std::max(nameLeast, std::floor(m_width * nameShare) - gap);
+    m_nameWidth = std::max(nameLeast, std::floor(width() * nameShare) - gap);
     // Names that are shorter than their share leave the rest to cells that need it.
-    if (m_nameWidth + wanted > m_width)
+    if (m_nameWidth + wanted > width())
         m_nameWidth = std::clamp(std::ceil(m_naturalName), nameLeast, m_nameWidth);
-    const double room = m_width - m_nameWidth;
+    const double room = width() - m_nameWidth;
     // Between the least and the wanted widths all text columns give way by the same share.
     const double give =
         wanted > room && wanted > least ? std::min(1.0, (wanted - room) / (wanted - least)) : 0;

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "canvas/SceneOut.h"
-
-#include <QFont>
-#include <QObject>
-#include <QtQmlIntegration>
+#include "ui/canvas/SceneLayout.h"
 
 namespace kiv::ui {
 
@@ -29,27 +25,17 @@ public:
 /// How the columns of a comparison share a width: figures always get the room that they need, text
 /// columns give way, and what still does not fit scrolls sideways beside the name column.
 /// Columns that are only padding are left out.
-class CompareColumns : public QObject {
+class CompareColumns : public SceneLayout {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(kiv::canvas::SceneOut scene READ scene WRITE setScene NOTIFY sceneChanged REQUIRED)
-    Q_PROPERTY(double width READ width WRITE setWidth NOTIFY widthChanged REQUIRED)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged REQUIRED)
     Q_PROPERTY(QString nameTitle READ nameTitle NOTIFY changed)
     Q_PROPERTY(double nameWidth READ nameWidth NOTIFY changed)
     Q_PROPERTY(double cellsWidth READ cellsWidth NOTIFY changed)
     Q_PROPERTY(QList<kiv::ui::CompareColumn> columns READ columns NOTIFY changed)
 public:
-    using QObject::QObject;
+    using SceneLayout::SceneLayout;
 
-    canvas::SceneOut scene() const { return m_scene; }
-    void setScene(const canvas::SceneOut &scene);
-    double width() const { return m_width; }
-    void setWidth(double width);
-    QFont font() const { return m_font; }
-    void setFont(const QFont &font);
-
-    QString nameTitle() const { return m_scene.cpCols.value(0); }
+    QString nameTitle() const { return scene().cpCols.value(0); }
     /// Of the words of the names; the cells begin behind it.
     double nameWidth() const { return m_nameWidth; }
     /// All columns together; more than what is left beside the name column when they scroll.
@@ -59,19 +45,11 @@ public:
     /// A row as a screen reader says it: the name, then each filled cell after its column.
     Q_INVOKABLE QString spoken(const kiv::canvas::CpRow &row) const;
 
-Q_SIGNALS:
-    void sceneChanged();
-    void widthChanged();
-    void fontChanged();
-    void changed();
+protected:
+    void measure() override;
+    void layOut() override;
 
 private:
-    void measure();
-    void layOut();
-
-    canvas::SceneOut m_scene;
-    double m_width = 0;
-    QFont m_font;
     QList<CompareColumn> m_columns;
     QList<double> m_natural; ///< the width that the words of each column would like to have
     double m_naturalName = 0;

@@ -130,42 +130,12 @@ double sharedHeight(QList<double> least, double room) {
 
 } // namespace
 
-void LaneLayout::setScene(const canvas::SceneOut &scene) {
-    if (m_scene == scene)
-        return;
-    m_scene = scene;
-    Q_EMIT sceneChanged();
-    layOut();
-}
-
-void LaneLayout::setTrackWidth(double width) {
-    if (std::exchange(m_trackWidth, width) == width)
-        return;
-    Q_EMIT trackWidthChanged();
-    layOut();
-}
-
-void LaneLayout::setHeight(double height) {
-    if (std::exchange(m_height, height) == height)
-        return;
-    Q_EMIT heightChanged();
-    layOut();
-}
-
-void LaneLayout::setFont(const QFont &font) {
-    if (m_font == font)
-        return;
-    m_font = font;
-    Q_EMIT fontChanged();
-    layOut();
-}
-
 void LaneLayout::layOut() {
     m_lanes.clear();
     const int spareRows = rowsToSpare();
     QList<double> needed;
     QList<double> least;
-    for (const canvas::Lane &lane : std::as_const(m_scene.lanes)) {
+    for (const canvas::Lane &lane : scene().lanes) {
         LaneRow row{.name = lane.name, .role = lane.role};
         const int rows = pack(lane, spareRows, row.blocks);
         needed.append(heightOfRows(rows));
@@ -173,7 +143,7 @@ void LaneLayout::layOut() {
         m_lanes.append(row);
     }
     m_contentHeight = 0;
-    const double shared = sharedHeight(least, m_height);
+    const double shared = sharedHeight(least, height());
     for (qsizetype i = 0; i < m_lanes.size(); ++i) {
         LaneRow &lane = m_lanes[i];
         lane.height = std::floor(std::max(shared, least.at(i)));
@@ -187,15 +157,15 @@ void LaneLayout::layOut() {
 
 /// How many rows each lane can have without taking more than its part of the height.
 int LaneLayout::rowsToSpare() const {
-    const auto lanes = static_cast<double>(std::max<qsizetype>(1, m_scene.lanes.size()));
-    const double room = m_height / lanes - 2 * lanePadding + rowStep - blockHeight;
+    const auto lanes = static_cast<double>(std::max<qsizetype>(1, scene().lanes.size()));
+    const double room = height() / lanes - 2 * lanePadding + rowStep - blockHeight;
     return std::clamp(static_cast<int>(room / rowStep), 1, mostRows);
 }
 
 /// What a block needs to show its title in one line.
 double LaneLayout::wantedWidth(const LaneBlock &block) const {
     return 2 * padding + signRoom(block.status) + 1 +
-           std::ceil(QFontMetricsF(m_font).horizontalAdvance(block.title));
+           std::ceil(QFontMetricsF(font()).horizontalAdvance(block.title));
 }
 
 /// Gives each block its place and returns how many rows they take.
@@ -206,12 +176,12 @@ int LaneLayout::pack(const canvas::Lane &lane, int spareRows, QList<LaneBlock> &
     LanePacker packer(spareRows);
     for (const canvas::LaneTask &task : std::as_const(tasks)) {
         LaneBlock block{.title = task.title, .status = statusOf(task.status)};
-        const double left = std::round(task.left * m_trackWidth);
-        const double right = std::round((task.left + task.width) * m_trackWidth);
+        const double left = std::round(task.left * width());
+        const double right = std::round((task.left + task.width) * width());
         const double share = std::max(leastBlock, right - left - blockGap);
-        block.x = std::clamp(left, 0.0, std::max(0.0, m_trackWidth - share));
-        block.width = std::clamp(wantedWidth(block), share,
-                                 std::max(share, m_trackWidth - block.x - blockGap));
+        block.x = std::clamp(left, 0.0, std::max(0.0, width() - share));
+        block.width =
+            std::clamp(wantedWidth(block), share, std::max(share, width() - block.x - blockGap));
         packer.add(block, share);
     }
     blocks = packer.blocks();

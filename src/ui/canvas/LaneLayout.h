@@ -1,10 +1,6 @@
 #pragma once
 
-#include "canvas/SceneOut.h"
-
-#include <QFont>
-#include <QObject>
-#include <QtQmlIntegration>
+#include "ui/canvas/SceneLayout.h"
 
 namespace kiv::ui {
 
@@ -51,14 +47,11 @@ public:
 /// Where the work of each agent lies. A block is as long as its share of the track, and longer for
 /// its title where the track behind it is free: positions are order, not time. Blocks that would
 /// overlap go to a further row of their lane, and so do blocks that would cut a title short while
-/// there is height to spare. The lanes share the height as far as they have use for it.
-class LaneLayout : public QObject {
+/// there is height to spare. The lanes share the height as far as they have use for it. The width
+/// is that of the track, the font that of the titles.
+class LaneLayout : public SceneLayout {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(kiv::canvas::SceneOut scene READ scene WRITE setScene NOTIFY sceneChanged REQUIRED)
-    Q_PROPERTY(double trackWidth READ trackWidth WRITE setTrackWidth NOTIFY trackWidthChanged)
-    Q_PROPERTY(double height READ height WRITE setHeight NOTIFY heightChanged)
-    Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY fontChanged)
     Q_PROPERTY(QList<kiv::ui::LaneRow> lanes READ lanes NOTIFY changed)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
 public:
@@ -66,39 +59,19 @@ public:
     static constexpr double leastBlock = 32;
     static constexpr double signSize = 14;
 
-    using QObject::QObject;
-
-    canvas::SceneOut scene() const { return m_scene; }
-    void setScene(const canvas::SceneOut &scene);
-    double trackWidth() const { return m_trackWidth; }
-    void setTrackWidth(double width);
-    /// What there is for all lanes together.
-    double height() const { return m_height; }
-    void setHeight(double height);
-    /// Of the titles.
-    QFont font() const { return m_font; }
-    void setFont(const QFont &font);
+    using SceneLayout::SceneLayout;
 
     QList<LaneRow> lanes() const { return m_lanes; }
     double contentHeight() const { return m_contentHeight; }
 
-Q_SIGNALS:
-    void sceneChanged();
-    void trackWidthChanged();
-    void heightChanged();
-    void fontChanged();
-    void changed();
+protected:
+    void layOut() override;
 
 private:
-    void layOut();
     int rowsToSpare() const;
     int pack(const canvas::Lane &lane, int spareRows, QList<LaneBlock> &blocks) const;
     double wantedWidth(const LaneBlock &block) const;
 
-    canvas::SceneOut m_scene;
-    double m_trackWidth = 0;
-    double m_height = 0;
-    QFont m_font;
     QList<LaneRow> m_lanes;
     double m_contentHeight = 0;
 };

@@ -18,7 +18,7 @@ ArtScene {
         id: layout
 
         scene: agents.scene
-        trackWidth: agents.inner - agents.nameWidth
+        width: agents.inner - agents.nameWidth
         height: lanes.height
         font: measured.font
     }
