@@ -1,6 +1,4 @@
-#include "store/FileTypes.h"
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 #include "ui/chat/DialogChooser.h"
 
 #include <QClipboard>
@@ -35,12 +33,10 @@ QByteArray uploaded(const QByteArrayList &names) {
 } // namespace
 
 /// Files in the ask bar by real drops, keys and presses.
-class AttachTest : public QObject {
+class AttachTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void droppedFileIsSent();
     void dragOverTheBar_data();
     void dragOverTheBar();
@@ -54,6 +50,7 @@ private Q_SLOTS:
     void pictures();
 
 private:
+    void prepare() override;
     QUrl file(const QString &name) const;
     void drag(const QMimeData &data, const QString &item);
     void drop(const QList<QUrl> &files);
@@ -62,23 +59,12 @@ private:
     QString note() { return m_gallery->item(u"chatNote"_s)->property("text").toString(); }
 
     CountingChooser m_chooser;
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void AttachTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
+void AttachTest::prepare() {
     m_chooser.opened = 0;
     m_workspace->store->attachments()->setChooser(&m_chooser);
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
-
-void AttachTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
+    open();
 }
 
 QUrl AttachTest::file(const QString &name) const {

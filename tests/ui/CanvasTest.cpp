@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 #include "ui/canvas/Samples.h"
 
 #include <QtTest>
@@ -10,12 +9,10 @@ namespace kiv::ui {
 
 /// The canvas in the window: alone in it, stepping through its history, and with samples for
 /// somebody who is not signed in.
-class CanvasTest : public QObject {
+class CanvasTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void fillsTheWindow_data();
     void fillsTheWindow();
     void windowComesBack_data();
@@ -31,25 +28,10 @@ private:
     store::CanvasRoom *canvas() const { return m_workspace->store->canvas(); }
     /// Where the sheet stands in the window.
     QRectF sheet() const;
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void CanvasTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void CanvasTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
 void CanvasTest::open() {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
+    GalleryTest::open();
     QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(), u"compare"_s));
     QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
 }

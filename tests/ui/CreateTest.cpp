@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QtTest>
 
@@ -8,12 +7,10 @@ using namespace Qt::StringLiterals;
 namespace kiv::ui {
 
 /// The create wizard, used by mouse and by keyboard.
-class CreateTest : public QObject {
+class CreateTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void icons();
     void ways_data();
     void ways();
@@ -28,7 +25,7 @@ private Q_SLOTS:
     void pictures();
 
 private:
-    void open(const QSize &size = {1440, 900});
+    void prepare() override;
     void startAgent();
     store::CreateRoom &room() { return *m_workspace->store->create(); }
     QString words(const QString &item) const {
@@ -36,30 +33,14 @@ private:
     }
     void type(const QString &field, const QString &text);
     void listHeron();
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void CreateTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
+void CreateTest::prepare() {
     m_workspace->history(u"api/v2/custom-agents/heron/chat"_s, "[]");
     m_workspace->history(u"api/v2/projects/quay/chat"_s, "[]");
     m_workspace->backend.answer(u"POST api/v2/custom-agents"_s, R"({"id":"heron"})", 201);
     m_workspace->backend.answer(u"POST api/v2/projects"_s,
                                 R"({"project":{"slug":"quay","label":"Quay"}})", 201);
-}
-
-void CreateTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void CreateTest::open(const QSize &size) {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, size);
 }
 
 /// Opens the wizard for an agent, at its templates.

@@ -1,6 +1,5 @@
 #include "ScriptedVoice.h"
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QQuickTextDocument>
 #include <QTextBlock>
@@ -16,12 +15,10 @@ namespace kiv::ui {
 using Keys = QList<std::pair<Qt::Key, Qt::KeyboardModifiers>>;
 
 /// Speaking into the ask bar, by real keys and presses.
-class DictationTest : public QObject {
+class DictationTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void spokenAndTyped();
     void keysPassOverTheInterimWords_data();
     void keysPassOverTheInterimWords();
@@ -38,6 +35,7 @@ private Q_SLOTS:
     void pictures();
 
 private:
+    void prepare() override;
     void dictate();
     store::DictationRoom &room() { return *m_workspace->store->dictation(); }
     QString text() { return m_gallery->item(u"askField"_s)->property("text").toString(); }
@@ -46,23 +44,12 @@ private:
 
     test::ScriptedSpeech m_speech;
     test::ScriptedMicrophones m_microphones;
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void DictationTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
+void DictationTest::prepare() {
     m_workspace->store->dictation()->setService(&m_speech);
     m_workspace->store->microphone()->setSource(&m_microphones);
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
-
-void DictationTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
+    open();
 }
 
 void DictationTest::dictate() {

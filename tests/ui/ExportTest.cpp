@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 #include "ui/canvas/CanvasExport.h"
 #include "ui/files/FileName.h"
 
@@ -42,12 +41,10 @@ int pixelsOf(const QImage &picture, const QColor &color) {
 } // namespace
 
 /// What leaves the canvas: pictures and tables, in files and on the clipboard.
-class ExportTest : public QObject {
+class ExportTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void picture_data();
     void picture();
     void pictureWithoutFocus();
@@ -62,32 +59,22 @@ private Q_SLOTS:
     void fileNames();
 
 private:
+    void prepare() override;
     void open(const QSize &size = {1440, 900});
     QString savedFile(const QString &name) const { return m_folder->filePath(name); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
     CanvasExport *m_export = nullptr;
 };
 
-void ExportTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
+void ExportTest::prepare() {
     m_folder = std::make_unique<QTemporaryDir>();
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
     QGuiApplication::clipboard()->clear();
-}
-
-void ExportTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
 }
 
 /// The window with a comparison on the canvas. Files go where the dialog would offer.
 void ExportTest::open(const QSize &size) {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, size);
+    GalleryTest::open(size);
     QVERIFY(m_workspace->ask(u"Compare"_s, Workspace::compareAnswer(), u"compare"_s));
     QTRY_VERIFY(m_gallery->find(u"compareRows"_s));
     m_export = m_gallery->window().findChild<CanvasExport *>(u"canvasExport"_s);

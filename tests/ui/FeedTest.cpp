@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -38,12 +37,10 @@ QQuickItem *findText(QQuickItem *item, const QString &text) {
 } // namespace
 
 /// The compact conversation of the rail while answers come in.
-class FeedTest : public QObject {
+class FeedTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void followsItsEnd();
     void staysWhereItIsRead();
     void jumpsToTheNewest();
@@ -54,25 +51,14 @@ private Q_SLOTS:
     void sceneLeadsToMessage();
 
 private:
+    void prepare() override;
     void fill(int count);
     void wheelUp();
     void savePictures(const QString &name);
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void FeedTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
-
-void FeedTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
+void FeedTest::prepare() {
+    open();
 }
 
 /// Answers that fill the feed, which follows them.

@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 #include "ui/markdown/BlockText.h"
 
 #include <QtTest>
@@ -28,12 +27,10 @@ QRectF currentMark(const QQuickItem &item) {
 } // namespace
 
 /// Looking for words in the dock.
-class FindTest : public QObject {
+class FindTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void byKeys();
     void everyBlockShowsItsWords_data();
     void everyBlockShowsItsWords();
@@ -41,24 +38,14 @@ private Q_SLOTS:
     void pictures();
 
 private:
+    void prepare() override;
     QString count() const { return m_gallery->item(u"findCount"_s)->property("text").toString(); }
     /// Whether the current words are all in the feed's sight.
     bool isMarkSeen() const;
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void FindTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
+void FindTest::prepare() {
     QVERIFY(m_workspace->signIn());
-}
-
-void FindTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
 }
 
 bool FindTest::isMarkSeen() const {

@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include "app/MainMenu.h"
 #include "app/WindowFrame.h"
@@ -15,12 +14,10 @@ using namespace Qt::StringLiterals;
 namespace kiv::ui {
 
 /// The main menu by its keys and by the mouse, and the frame of the window.
-class MenuTest : public QObject {
+class MenuTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void everyKeyOnce();
     void accountFollowsTheSession();
     void panelsByKeys();
@@ -40,29 +37,9 @@ private Q_SLOTS:
     void frameIsRestored();
 
 private:
-    void open();
     store::LayoutRoom &layout() { return *m_workspace->store->layout(); }
     QString fieldText() { return m_gallery->item(u"askField"_s)->property("text").toString(); }
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
-
-void MenuTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML|ambiguous"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void MenuTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void MenuTest::open() {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
 
 /// Keys that stand for two commands would do neither.
 void MenuTest::everyKeyOnce() {

@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 #include "ui/chat/ConversationExport.h"
 
 #include <QClipboard>
@@ -14,12 +13,10 @@ using namespace Qt::StringLiterals;
 namespace kiv::ui {
 
 /// What a person sees of messages and does with them.
-class MessagesTest : public QObject {
+class MessagesTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void pictures_data();
     void pictures();
     void messagesByKeys();
@@ -29,27 +26,17 @@ private Q_SLOTS:
     void conversationIsSaved();
 
 private:
+    void prepare() override;
     /// The window with a question and two answers in the dock, whose feed has the keys.
     void openDock();
     QString focused() const { return m_gallery->window().activeFocusItem()->objectName(); }
     QString stateOf(const QString &name) const {
         return m_gallery->item(name)->property("text").toString();
     }
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void MessagesTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
+void MessagesTest::prepare() {
     QVERIFY(m_workspace->signIn());
-}
-
-void MessagesTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
 }
 
 void MessagesTest::pictures_data() {

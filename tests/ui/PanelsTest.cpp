@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QAbstractItemModel>
 #include <QtTest>
@@ -11,12 +10,10 @@ namespace kiv::ui {
 
 /// What opens over the window or in the place of the canvas: command palette, shortcuts sheet,
 /// scope and profile popovers, and the pages of events and agents.
-class PanelsTest : public QObject {
+class PanelsTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void paletteFinds_data();
     void paletteFinds();
     void paletteCommands();
@@ -33,30 +30,10 @@ private Q_SLOTS:
     void theme();
 
 private:
-    void open();
     void openPalette(const QString &typed);
     store::ScopeRoom &scope() { return *m_workspace->store->scope(); }
     QStringList found() const;
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
-
-void PanelsTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void PanelsTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void PanelsTest::open() {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
 
 void PanelsTest::openPalette(const QString &typed) {
     m_gallery->press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);

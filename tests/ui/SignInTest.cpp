@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QtTest>
 
@@ -17,12 +16,10 @@ const QByteArray ada = R"({"user":{"id":"u1","email":"ada@example.org","name":"A
 } // namespace
 
 /// The sign-in sheet, and signing out, by real keys.
-class SignInTest : public QObject {
+class SignInTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void signUp();
     void errorGoesToItsField_data();
     void errorGoesToItsField();
@@ -37,21 +34,7 @@ private:
         return m_gallery->item(field)->property("text").toString();
     }
     store::SessionRoom &session() { return *m_workspace->store->session(); }
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
-
-void SignInTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void SignInTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
 
 void SignInTest::openSheet(Qt::KeyboardModifiers modifiers) {
     QVERIFY(m_workspace->bootSignedOut());

@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QAccessible>
 #include <QtTest>
@@ -10,12 +9,10 @@ using namespace std::chrono_literals;
 namespace kiv::ui {
 
 /// The edges that size rail, dock and the list in the rail, and what a narrow window does to them.
-class SizesTest : public QObject {
+class SizesTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void edgesByKeys_data();
     void edgesByKeys();
     void edgesAreSliders();
@@ -25,29 +22,9 @@ private Q_SLOTS:
     void narrowWindow();
 
 private:
-    void open(const QSize &size = {1440, 900});
     void drag(const QString &edge, const QPoint &by);
     store::LayoutRoom &layout() { return *m_workspace->store->layout(); }
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
-
-void SizesTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void SizesTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void SizesTest::open(const QSize &size) {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, size);
-}
 
 void SizesTest::drag(const QString &edge, const QPoint &by) {
     const QPoint from = m_gallery->middleOf(edge);

@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QtTest>
 
@@ -8,12 +7,10 @@ using namespace Qt::StringLiterals;
 namespace kiv::ui {
 
 /// A turn on the screen by real keys and presses: replies, stop, the questions of the canvas.
-class TurnTest : public QObject {
+class TurnTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void chipByMouse();
     void chipByKeys();
     void chipsInTwoLines();
@@ -27,25 +24,14 @@ private Q_SLOTS:
     void offlineBanner();
 
 private:
+    void prepare() override;
     /// An answer that offers replies, settled.
     void answered(const QString &options);
     QStringList sent() const;
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
-void TurnTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, {1440, 900});
-}
-
-void TurnTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
+void TurnTest::prepare() {
+    open();
 }
 
 void TurnTest::answered(const QString &options) {

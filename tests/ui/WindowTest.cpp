@@ -1,5 +1,4 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 #include <QtTest>
 
@@ -28,12 +27,10 @@ QList<QQuickItem *> visibleTexts(QQuickItem *item) {
 } // namespace
 
 /// The window by real keys and presses, on a store whose backend answers from a script.
-class WindowTest : public QObject {
+class WindowTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
     void typing();
     void draftIsOne();
     void fieldGrows();
@@ -52,28 +49,8 @@ private Q_SLOTS:
     void longNames();
 
 private:
-    void open(const QSize &size = {1440, 900});
     QStringList sent() const;
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
-
-void WindowTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void WindowTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void WindowTest::open(const QSize &size) {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, size);
-}
 
 /// The texts that the backend was sent, in order.
 QStringList WindowTest::sent() const {
