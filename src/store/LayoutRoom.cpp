@@ -85,7 +85,7 @@ void LayoutRoom::toggleRail() {
     if (!leaveCanvasFull() && !foldedByItself)
         m_railCollapsed = !m_railCollapsed;
     m_dockOpen = false;
-    m_topScopeOpen = false;
+    close(Popover::TopScope);
     m_store.chat()->markSeen();
 }
 
@@ -110,48 +110,46 @@ void LayoutRoom::dockToRail() {
     m_store.chat()->markSeen();
 }
 
-void LayoutRoom::toggleScope() {
-    const bool open = !m_scopeOpen;
+void LayoutRoom::toggle(Popover popover) {
+    const bool wasOpen = m_popover == popover;
     closePopovers();
-    m_scopeOpen = open;
+    if (!wasOpen)
+        m_popover = popover;
+}
+
+void LayoutRoom::toggleScope() {
+    toggle(Popover::Scope);
 }
 
 void LayoutRoom::toggleTopScope() {
     leaveCanvasFull();
-    const bool open = !m_topScopeOpen;
-    closePopovers();
-    m_topScopeOpen = open;
+    toggle(Popover::TopScope);
 }
 
 void LayoutRoom::toggleHist() {
     leaveCanvasFull();
-    const bool open = !m_histOpen;
-    closePopovers();
-    m_histOpen = open;
+    toggle(Popover::History);
 }
 
 void LayoutRoom::toggleEvents() {
     leaveCanvasFull();
-    const bool open = !m_eventsOpen;
-    closePopovers();
-    m_eventsOpen = open;
-    if (open)
+    toggle(Popover::Events);
+    if (eventsOpen())
         m_store.events()->loadEvents();
 }
 
 void LayoutRoom::toggleProfile() {
     leaveCanvasFull();
-    const bool open = !m_profileOpen;
-    closePopovers();
-    m_profileOpen = open;
+    toggle(Popover::Profile);
 }
 
 void LayoutRoom::closePopovers() {
-    m_profileOpen = false;
-    m_histOpen = false;
-    m_eventsOpen = false;
-    m_scopeOpen = false;
-    m_topScopeOpen = false;
+    m_popover = Popover::None;
+}
+
+void LayoutRoom::close(Popover popover) {
+    if (m_popover == popover)
+        closePopovers();
 }
 
 void LayoutRoom::focusAsk() {
@@ -184,8 +182,8 @@ bool LayoutRoom::isCreating() const {
 
 void LayoutRoom::closeSurfaces() {
     m_store.account()->leave();
-    m_scopeOpen = false;
-    m_topScopeOpen = false;
+    close(Popover::Scope);
+    close(Popover::TopScope);
 }
 
 void LayoutRoom::closePages() {
@@ -198,11 +196,11 @@ void LayoutRoom::closeAccount() {
 }
 
 void LayoutRoom::closeProfile() {
-    m_profileOpen = false;
+    close(Popover::Profile);
 }
 
 void LayoutRoom::closeHistory() {
-    m_histOpen = false;
+    close(Popover::History);
 }
 
 void LayoutRoom::closeDock() {

@@ -25,11 +25,11 @@ class LayoutRoom : public QObject {
     Q_PROPERTY(double navigatorShare READ navigatorShare NOTIFY navigatorShareChanged)
     Q_PROPERTY(bool railCollapsed READ railCollapsed NOTIFY railCollapsedChanged)
     Q_PROPERTY(bool dockOpen READ dockOpen NOTIFY dockOpenChanged)
-    Q_PROPERTY(bool scopeOpen READ scopeOpen NOTIFY scopeOpenChanged)
-    Q_PROPERTY(bool topScopeOpen READ topScopeOpen NOTIFY topScopeOpenChanged)
-    Q_PROPERTY(bool histOpen READ histOpen NOTIFY histOpenChanged)
-    Q_PROPERTY(bool eventsOpen READ eventsOpen NOTIFY eventsOpenChanged)
-    Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY profileOpenChanged)
+    Q_PROPERTY(bool scopeOpen READ scopeOpen NOTIFY popoverChanged)
+    Q_PROPERTY(bool topScopeOpen READ topScopeOpen NOTIFY popoverChanged)
+    Q_PROPERTY(bool histOpen READ histOpen NOTIFY popoverChanged)
+    Q_PROPERTY(bool eventsOpen READ eventsOpen NOTIFY popoverChanged)
+    Q_PROPERTY(bool profileOpen READ profileOpen NOTIFY popoverChanged)
     Q_PROPERTY(QString account READ account NOTIFY accountChanged)
     Q_PROPERTY(int focusAskRequests READ focusAskRequests NOTIFY focusAskRequestsChanged)
     Q_PROPERTY(double leastRailW READ leastRailW CONSTANT)
@@ -58,11 +58,11 @@ public:
     double navigatorShare() const { return m_navigatorShare; }
     bool railCollapsed() const { return m_railCollapsed; }
     bool dockOpen() const { return m_dockOpen; }
-    bool scopeOpen() const { return m_scopeOpen; }
-    bool topScopeOpen() const { return m_topScopeOpen; }
-    bool histOpen() const { return m_histOpen; }
-    bool eventsOpen() const { return m_eventsOpen; }
-    bool profileOpen() const { return m_profileOpen; }
+    bool scopeOpen() const { return m_popover == Popover::Scope; }
+    bool topScopeOpen() const { return m_popover == Popover::TopScope; }
+    bool histOpen() const { return m_popover == Popover::History; }
+    bool eventsOpen() const { return m_popover == Popover::Events; }
+    bool profileOpen() const { return m_popover == Popover::Profile; }
     QString account() const { return m_account; }
     bool isAccount() const { return !m_account.value().isEmpty(); }
     bool isCreating() const;
@@ -130,20 +130,20 @@ Q_SIGNALS:
     void navigatorShareChanged();
     void railCollapsedChanged();
     void dockOpenChanged();
-    void scopeOpenChanged();
-    void topScopeOpenChanged();
-    void histOpenChanged();
-    void eventsOpenChanged();
-    void profileOpenChanged();
+    void popoverChanged();
     void accountChanged();
     void focusAskRequestsChanged();
-    void windowWidthChanged();
     void shownRailWChanged();
     void shownDockWChanged();
     void railShownChanged();
     void canvasFullChanged();
 
 private:
+    /// One at a time is open.
+    enum class Popover { None, Scope, TopScope, History, Events, Profile };
+
+    void toggle(Popover popover);
+    void close(Popover popover);
     void saveSoon(const QString &key, double size);
     void saveNow();
 
@@ -161,16 +161,12 @@ private:
                                          &LayoutRoom::navigatorShareChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railCollapsed, &LayoutRoom::railCollapsedChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_dockOpen, &LayoutRoom::dockOpenChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_scopeOpen, &LayoutRoom::scopeOpenChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_topScopeOpen, &LayoutRoom::topScopeOpenChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_histOpen, &LayoutRoom::histOpenChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_eventsOpen, &LayoutRoom::eventsOpenChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_profileOpen, &LayoutRoom::profileOpenChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, Popover, m_popover, Popover::None,
+                                         &LayoutRoom::popoverChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, QString, m_account, &LayoutRoom::accountChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, int, m_focusAskRequests,
                                &LayoutRoom::focusAskRequestsChanged)
-    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_windowWidth, 1440,
-                                         &LayoutRoom::windowWidthChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(LayoutRoom, double, m_windowWidth, 1440)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownRailW, &LayoutRoom::shownRailWChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, double, m_shownDockW, &LayoutRoom::shownDockWChanged)
     Q_OBJECT_BINDABLE_PROPERTY(LayoutRoom, bool, m_railShown, &LayoutRoom::railShownChanged)
