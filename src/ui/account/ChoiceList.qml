@@ -12,10 +12,9 @@ Popover {
 
     required property ChoiceModel choices
     required property string current
+    readonly property int searchHeight: choices.searchable ? search.height + 6 : 0
 
     signal picked(value: string)
-
-    readonly property int searchHeight: choices.searchable ? search.height + 6 : 0
 
     function pick(row: int) {
         const value = choices.valueAt(row)

@@ -21,9 +21,7 @@ FocusScope {
     /// While a picture of the sheet is taken, which does not show where the keyboard stands.
     property bool pictured: false
 
-    /// Padding at the sides, by the width of the sheet.
-    readonly property int side: width - 64 > Tokens.widestBody ? (width - Tokens.widestBody) / 2
-        : width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
+    readonly property int side: Tokens.sheetSide(width)
 
     signal messageRequested()
     signal pointChosen(label: string)

@@ -11,8 +11,7 @@ Item {
 
     required property int shape
 
-    readonly property int side: width - 64 > Tokens.widestBody ? (width - Tokens.widestBody) / 2
-        : width - 64 >= Tokens.wideBody ? 32 : width - 48 >= Tokens.mediumBody ? 24 : 20
+    readonly property int side: Tokens.sheetSide(width)
     readonly property real inner: width - 2 * side
 
     Rectangle {

@@ -21,6 +21,12 @@ FocusScope {
     property string unreadFrom: ""
     /// Marks what it finds in this feed.
     property FindRoom finder: null
+    property string flashed: ""
+    readonly property int side: compact ? 16 : 24
+    readonly property real column: Math.min(width - 2 * side, 720)
+    /// The message whose actions show.
+    readonly property string activeMessage: hoveredMessage !== "" ? hoveredMessage : activeFocus ? view.cursor : ""
+    readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
     signal retryRequested(messageId: string)
     signal sceneRequested(messageId: string)
@@ -32,8 +38,6 @@ FocusScope {
     signal askAgainRequested(messageId: string)
     /// What was said in a call shall show, or show no longer.
     signal callToggled(callId: string)
-
-    property string flashed: ""
 
     /// Brings a message into view and flashes its edge once.
     function reveal(messageId: string): bool {
@@ -63,12 +67,6 @@ FocusScope {
         else
             callToggled(menu.row.callId)
     }
-
-    readonly property int side: compact ? 16 : 24
-    readonly property real column: Math.min(width - 2 * side, 720)
-    /// The message whose actions show.
-    readonly property string activeMessage: hoveredMessage !== "" ? hoveredMessage : activeFocus ? view.cursor : ""
-    readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
     FeedRows {
         id: feedRows

@@ -18,11 +18,10 @@ T.Button {
     property bool removable: false
     property alias closeFocused: close.activeFocus
     property int maximumWidth: 220
-
-    signal removeRequested()
-
     readonly property int tail: removable ? 38 : 12
     readonly property real words: Math.max(title.implicitWidth, below.implicitWidth)
+
+    signal removeRequested()
 
     implicitWidth: Math.min(36 + Math.ceil(words) + tail, maximumWidth)
     implicitHeight: Tokens.fit(40)

@@ -9,14 +9,13 @@ Popover {
 
     /// The last row of the message.
     property feedRow row
+    readonly property bool failed: row.delivery === Store.Delivery.Failed
 
     signal copyRequested()
     signal editRequested()
     signal retryRequested()
     signal askAgainRequested()
     signal sceneRequested()
-
-    readonly property bool failed: row.delivery === Store.Delivery.Failed
 
     width: 240
     onAboutToShow: copy.forceActiveFocus(Qt.ShortcutFocusReason)

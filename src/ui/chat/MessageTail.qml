@@ -13,16 +13,15 @@ FocusScope {
     required property feedRow row
     required property bool compact
     property bool hovered: false
+    readonly property int indent: compact || row.mine ? 0 : 40
+    readonly property bool hasCard: row.cardArt !== ""
+    readonly property bool failed: row.delivery === Store.Delivery.Failed
 
     signal retryRequested()
     signal sceneRequested()
     signal copyRequested()
     signal askAgainRequested()
     signal chipPicked(chip: replyChip)
-
-    readonly property int indent: compact || row.mine ? 0 : 40
-    readonly property bool hasCard: row.cardArt !== ""
-    readonly property bool failed: row.delivery === Store.Delivery.Failed
 
     implicitHeight: (hasCard ? 6 + card.height : 0) + (replies.visible ? 6 + replies.height : 0)
         + (failed ? 6 + again.height : 0)

@@ -13,13 +13,12 @@ Item {
     required property bool compact
     property bool flashing: false
     property bool hovered: false
-
-    signal editRequested()
-
     readonly property int gap: row.first ? (compact ? 16 : 20) : 0
     readonly property int sidePadding: compact ? 12 : 14
     readonly property int margin: compact ? 8 : 10
     readonly property real most: width * 0.84
+
+    signal editRequested()
 
     implicitHeight: words.y + words.height + (row.last ? margin : 0)
     opacity: row.delivery === Store.Delivery.Pending ? 0.75 : 1

@@ -13,11 +13,6 @@ QtObject {
     readonly property bool highContrast: Appearance.highContrast
     readonly property real textScale: Appearance.textScale
 
-    /// A length that text of the normal size needs, for text as it is now. Smaller text leaves it.
-    function fit(length: real): int {
-        return Math.round(length * Math.max(1, textScale))
-    }
-
     readonly property color bg: dark ? "#0e1016" : "#f3f4f8"
     readonly property color rail: dark ? "#12141c" : "#fafbfd"
     readonly property color surface: dark ? "#181b25" : "#ffffff"
@@ -127,4 +122,14 @@ QtObject {
     readonly property int toast: 5000
     /// How long a line about a failure stays, or news with something to do.
     readonly property int notice: 8000
+
+    /// A length that text of the normal size needs, for text as it is now. Smaller text leaves it.
+    function fit(length: real): int {
+        return Math.round(length * Math.max(1, textScale))
+    }
+    /// The padding at the sides of a sheet of this width.
+    function sheetSide(width: real): int {
+        return width - 64 > widestBody ? (width - widestBody) / 2
+            : width - 64 >= wideBody ? 32 : width - 48 >= mediumBody ? 24 : 20
+    }
 }

@@ -17,6 +17,10 @@ MarkArea {
     readonly property real barsWidth: plot.hasIn && plot.hasOut ? 2 * plot.barWidth + plot.barGap : plot.barWidth
     readonly property real barsX: Math.round((width - barsWidth) / 2)
 
+    function shown(figure: string): string {
+        return figure === "" ? "—" : figure
+    }
+
     place: index
     width: plot.slot
     height: plot.headroom + plot.height + plot.wordsHeight
@@ -24,10 +28,6 @@ MarkArea {
     value: Figures.joined([plot.hasIn ? qsTr("In %1").arg(shown(modelData.month.in)) : "",
         plot.hasOut ? qsTr("Out %1").arg(shown(modelData.month.out)) : "",
         plot.hasBalance ? qsTr("Balance %1").arg(shown(modelData.month.balance)) : ""], " · ")
-
-    function shown(figure: string): string {
-        return figure === "" ? "—" : figure
-    }
 
     PeriodBar {
         visible: period.plot.hasIn
