@@ -128,7 +128,7 @@ QtObject {
         return Math.round(length * Math.max(1, textScale))
     }
     /// The padding at the sides of a sheet of this width.
-    function sheetSide(width: real): int {
+    function sheetSide(width: real): real {
         return width - 64 > widestBody ? (width - widestBody) / 2
             : width - 64 >= wideBody ? 32 : width - 48 >= mediumBody ? 24 : 20
     }
