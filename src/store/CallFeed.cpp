@@ -1,5 +1,6 @@
 #include "store/CallFeed.h"
 
+#include "base/IsoTime.h"
 #include "store/CallTexts.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ void CallFeed::add(const QString &chat, const QString &callID, const QDateTime &
 void CallFeed::addPast(const QString &chat, const QList<net::KivAPI::VoiceCallEntry> &calls) {
     QList<Call> &known = m_calls[chat];
     for (const net::KivAPI::VoiceCallEntry &entry : calls) {
-        const auto at = entry.startedAt ? parseDate(*entry.startedAt) : std::nullopt;
+        const auto at = parseDate(entry.startedAt);
         if (!at || find(chat, entry.id))
             continue;
         std::optional<int> seconds;

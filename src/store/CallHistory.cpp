@@ -1,6 +1,6 @@
 #include "store/CallHistory.h"
 
-#include "store/Msg.h"
+#include "base/IsoTime.h"
 
 #include <algorithm>
 
@@ -52,7 +52,7 @@ QVariant CallHistory::data(const QModelIndex &index, int role) const {
     case DurationSecsRole:
         return static_cast<int>(call.durationSecs.value_or(0));
     case StartedAtRole: {
-        const auto at = call.startedAt ? parseDate(*call.startedAt) : std::nullopt;
+        const auto at = parseDate(call.startedAt);
         return at ? at->toLocalTime() : QDateTime();
     }
     case Qt::DisplayRole:

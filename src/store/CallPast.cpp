@@ -1,5 +1,6 @@
 // Calls of before: their list, their transcripts and their lines in the conversations.
 
+#include "base/IsoTime.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/CallRoom.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int historyLimit = 50;
 
 QDateTime startOf(const net::KivAPI::VoiceCallEntry &call) {
-    return (call.startedAt ? parseDate(*call.startedAt) : std::nullopt).value_or(QDateTime());
+    return parseDate(call.startedAt).value_or(QDateTime());
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "store/EventModel.h"
 
+#include "base/IsoTime.h"
 #include "base/Regex.h"
-#include "store/Msg.h"
 
 #include <QCoreApplication>
 
@@ -74,7 +74,7 @@ QVariant EventModel::data(const QModelIndex &index, int role) const {
     case DetailRole:
         return event.detail.value_or(QString());
     case AgeRole: {
-        const auto at = event.createdAt ? parseDate(*event.createdAt) : std::nullopt;
+        const auto at = parseDate(event.createdAt);
         return at ? ageText(at->secsTo(m_clock.now())) : QString();
     }
     default:

@@ -1,9 +1,8 @@
 #include "store/Msg.h"
 
+#include "base/IsoTime.h"
 #include "canvas/AnswerReading.h"
 #include "canvas/SceneAdapter.h"
-
-#include <QRegularExpression>
 
 namespace kiv::store {
 
@@ -102,8 +101,7 @@ std::optional<Msg> rowToMsg(const net::ChatRow &row) {
     message.shownMeanwhile = row.content;
     message.serverID = row.id;
     message.files = msgFiles(row);
-    if (row.createdAt)
-        message.at = parseDate(*row.createdAt);
+    message.at = parseDate(row.createdAt);
     if (row.metadata) {
         message.view = row.metadata->view;
         message.memberLabel = row.metadata->memberLabel.value_or(QString());
@@ -111,17 +109,6 @@ std::optional<Msg> rowToMsg(const net::ChatRow &row) {
     if (message.who == Who::Agent)
         readAnswer(message, row);
     return message;
-}
-
-std::optional<QDateTime> parseDate(const QString &text) {
-    static const QRegularExpression zone(u"(?:[zZ]|[+-]\\d{2}:?\\d{2})$"_s);
-    QString zoned = text.trimmed();
-    if (!zoned.contains(zone))
-        zoned += u"+00:00"_s;
-    const QDateTime time = QDateTime::fromString(zoned, Qt::ISODateWithMs);
-    if (!time.isValid())
-        return std::nullopt;
-    return time.toUTC();
 }
 
 } // namespace kiv::store

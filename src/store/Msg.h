@@ -83,7 +83,4 @@ QList<MsgFile> msgFiles(const QList<ChatAttachment> &attachments);
 /// A server row as a message; nothing for a role that is neither side of the conversation.
 std::optional<Msg> rowToMsg(const net::ChatRow &row);
 
-/// Reads an ISO 8601 time with or without fractional seconds; one without a zone is UTC.
-std::optional<QDateTime> parseDate(const QString &text);
-
 } // namespace kiv::store
