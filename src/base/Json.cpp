@@ -47,10 +47,18 @@ QByteArray withWholePairs(QByteArrayView utf8) {
     return whole;
 }
 
+/// The parser of this thread's last document. Its buffers are many times the text: giving them back
+/// to the system and asking for them again takes longer than to parse.
+thread_local std::unique_ptr<simdjson::dom::parser> spareParser;
+constexpr std::size_t mostSpared = 256 * 1024; ///< bytes of text that a kept parser has room for
+
+std::unique_ptr<simdjson::dom::parser> takeParser() {
+    return spareParser ? std::move(spareParser) : std::make_unique<simdjson::dom::parser>();
+}
+
 } // namespace
 
-JsonDocument::JsonDocument(QByteArrayView utf8)
-    : m_parser(std::make_unique<simdjson::dom::parser>()) {
+JsonDocument::JsonDocument(QByteArrayView utf8) : m_parser(takeParser()) {
     auto parse = [this](QByteArrayView text) {
         const char *data = text.isEmpty() ? "" : text.data(); // simdjson copies even nothing
         return m_parser->parse(data, static_cast<size_t>(text.size())).get(m_root);
@@ -66,6 +74,11 @@ JsonDocument::JsonDocument(QByteArrayView utf8)
     if (error != simdjson::SUCCESS)
         throw DecodingError(std::string("The reply is not valid JSON: ") +
                             simdjson::error_message(error));
+}
+
+JsonDocument::~JsonDocument() {
+    if (m_parser->capacity() <= mostSpared)
+        spareParser = std::move(m_parser);
 }
 
 std::optional<QString> JsonValue::string() const {

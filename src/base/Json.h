@@ -87,6 +87,9 @@ class JsonDocument {
 public:
     /// Throws DecodingError when `utf8` is not one whole valid document.
     explicit JsonDocument(QByteArrayView utf8);
+    ~JsonDocument();
+    Q_DISABLE_COPY_MOVE(JsonDocument)
+
     JsonValue root() const { return JsonValue(m_root); }
 
 private:

@@ -7,8 +7,6 @@
 #include <QQuickWindow>
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
     if (QGuiApplication::arguments().contains(QStringLiteral("--stay"))) {
         QQmlApplicationEngine engine;

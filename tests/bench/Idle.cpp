@@ -16,8 +16,8 @@ constexpr int settling = 4000;  ///< milliseconds until a program is at rest
 constexpr int watching = 10000; ///< milliseconds
 constexpr double target = 0.3;  ///< per cent of one core
 
-double idleOf(const QString &program, const QStringList &arguments) {
-    const ShownProgram shown(program, arguments);
+double idleOf(const Display &display, const QString &program, const QStringList &arguments) {
+    const ShownProgram shown(display, program, arguments);
     QTest::qWait(settling);
     const double before = shown.worked();
     QTest::qWait(watching);
@@ -27,10 +27,12 @@ double idleOf(const QString &program, const QStringList &arguments) {
 } // namespace
 
 QList<Row> idle() {
+    const Display display;
     return {{.name = u"idle"_s,
-             .figure = idleOf(QStringLiteral(KIV_PROGRAM), {u"--profile"_s, signedInProfile()}),
+             .figure =
+                 idleOf(display, QStringLiteral(KIV_PROGRAM), {u"--profile"_s, signedInProfile()}),
              .peer = u"empty window"_s,
-             .peerFigure = idleOf(QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}),
+             .peerFigure = idleOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}),
              .target = target,
              .unit = Unit::Percent}};
 }

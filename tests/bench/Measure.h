@@ -18,6 +18,7 @@ struct Row {
     double peerFigure = 0;
     double target = 0; ///< the most that the figure may be
     Unit unit = Unit::Time;
+    QString how = {}; ///< under which circumstances both were measured
 
     double ratio() const { return figure / peerFigure; }
     bool isShort() const { return figure > target; }

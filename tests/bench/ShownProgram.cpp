@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,22 +38,29 @@ void signUpAndAsk(store::AppStore &store) {
     });
 }
 
+/// Every loop says when a frame is shown, and the renderer that there was something to draw in it.
+bool showsFrame(const QByteArray &said) {
+    const qsizetype drawn = said.indexOf("time in renderer");
+    return drawn >= 0 && said.indexOf("rame rendered", drawn) >= 0;
+}
+
 } // namespace
 
-ShownProgram::ShownProgram(const QString &program, const QStringList &arguments) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // The one loop that draws without a graphics card says when it has drawn a frame.
-    environment.insert(u"QT_LOGGING_RULES"_s, u"qt.scenegraph.time.renderloop=true"_s);
+ShownProgram::ShownProgram(const Display &display, const QString &program,
+                           const QStringList &arguments) {
+    QProcessEnvironment environment = display.environment();
+    environment.insert(u"QT_LOGGING_RULES"_s, u"qt.scenegraph.time.renderloop=true;"
+                                              "qt.scenegraph.time.renderer=true;"
+                                              "qt.rhi.general=true"_s);
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     QElapsedTimer timer;
     timer.start();
     m_process.start(program, arguments);
-    QByteArray said;
-    while (!said.contains("Frame rendered")) {
+    while (!showsFrame(m_said)) {
         if (!m_process.waitForReadyRead(20'000))
-            qFatal("%s shows no frame: %s", qPrintable(program), said.constData());
-        said += m_process.readAll();
+            qFatal("%s shows no frame: %s", qPrintable(program), m_said.constData());
+        m_said += m_process.readAll();
     }
     m_firstFrame = static_cast<double>(timer.nsecsElapsed());
 }
@@ -62,6 +70,12 @@ ShownProgram::~ShownProgram() {
     if (!m_process.waitForFinished(5000))
         m_process.kill();
     m_process.waitForFinished();
+}
+
+QString ShownProgram::renderer() const {
+    static const QRegularExpression name(u"OpenGL .*RENDERER: (.*) VERSION:"_s);
+    const QRegularExpressionMatch found = name.match(QString::fromUtf8(m_said));
+    return found.hasMatch() ? u"OpenGL, "_s + found.captured(1) : u"Qt's software renderer"_s;
 }
 
 double ShownProgram::memory() const {

@@ -1,18 +1,20 @@
 #pragma once
 
-#include <QProcess>
+#include "Display.h"
 
 namespace kiv::bench {
 
-/// A program with a window, off screen, in a process of its own that goes with this object.
+/// A program with a window, in a process of its own that goes with this object.
 class ShownProgram {
 public:
-    /// Returns once the first frame is drawn.
-    ShownProgram(const QString &program, const QStringList &arguments);
+    /// Returns once the first frame is on the display.
+    ShownProgram(const Display &display, const QString &program, const QStringList &arguments);
     ~ShownProgram();
 
     /// Nanoseconds from the start of the process to its first frame.
     double firstFrame() const { return m_firstFrame; }
+    /// What draws its window.
+    QString renderer() const;
     /// Its part of the memory in bytes: pages that processes share are divided among them.
     double memory() const;
     /// Nanoseconds that all of its threads have worked so far.
@@ -20,6 +22,7 @@ public:
 
 private:
     QProcess m_process;
+    QByteArray m_said;
     double m_firstFrame = 0;
 };
 

@@ -28,12 +28,19 @@ double median(QList<double> figures) {
     return figures.at(figures.size() / 2);
 }
 
-double firstFrameOf(const QString &program, const QStringList &arguments) {
-    return ShownProgram(program, arguments).firstFrame();
+struct Start {
+    double firstFrame = 0;
+    QString renderer;
+};
+
+/// The program has gone before another one is measured.
+Start startOf(const Display &display, const QString &program, const QStringList &arguments) {
+    const ShownProgram shown(display, program, arguments);
+    return {shown.firstFrame(), shown.renderer()};
 }
 
-double memoryOf(const QString &program, const QStringList &arguments) {
-    const ShownProgram shown(program, arguments);
+double memoryOf(const Display &display, const QString &program, const QStringList &arguments) {
+    const ShownProgram shown(display, program, arguments);
     QTest::qWait(settling);
     return shown.memory();
 }
@@ -41,24 +48,32 @@ double memoryOf(const QString &program, const QStringList &arguments) {
 } // namespace
 
 QList<Row> start() {
+    const Display display;
     QList<double> program;
     QList<double> window;
-    firstFrameOf(QStringLiteral(KIV_PROGRAM), programArguments()); // warms the disk's cache
-    for (int run = 0; run < runs; ++run) {
-        program.append(firstFrameOf(QStringLiteral(KIV_PROGRAM), programArguments()));
-        window.append(firstFrameOf(QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}));
+    QString renderer;
+    for (int run = 0; run <= runs; ++run) {
+        const Start shown = startOf(display, QStringLiteral(KIV_PROGRAM), programArguments());
+        const Start empty = startOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
+        if (run == 0) // warms the disk's cache
+            continue;
+        program.append(shown.firstFrame);
+        window.append(empty.firstFrame);
+        renderer = empty.renderer;
     }
     return {{.name = u"start"_s,
              .figure = median(program),
              .peer = u"empty window"_s,
              .peerFigure = median(window),
-             .target = startTarget * median(window)}};
+             .target = startTarget * median(window),
+             .how = renderer}};
 }
 
 QList<Row> memory() {
-    const double window = memoryOf(QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
+    const Display display;
+    const double window = memoryOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
     return {{.name = u"memory"_s,
-             .figure = memoryOf(QStringLiteral(KIV_PROGRAM), programArguments()),
+             .figure = memoryOf(display, QStringLiteral(KIV_PROGRAM), programArguments()),
              .peer = u"empty window"_s,
              .peerFigure = window,
              .target = memoryTarget * window,

@@ -80,6 +80,8 @@ int main(int argc, char **argv) {
                    row.peer + u": "_s + shown(row.peerFigure, row.unit),
                    QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.target, row.unit),
                    row.isShort() ? u"short"_s : u"ok"_s});
+            if (!row.how.isEmpty())
+                print({u"  "_s + row.how});
             isShort = isShort || row.isShort();
         }
     }
