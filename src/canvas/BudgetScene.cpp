@@ -1,8 +1,8 @@
 #include "base/Regex.h"
+#include "canvas/PlanColumns.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
 #include "canvas/SceneText.h"
-#include "canvas/TableColumns.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,7 +37,7 @@ void addLine(QList<Line> &lines, const ViewSpec::Point &point, const QString &pl
 }
 
 QList<Line> linesOfRows(const ViewSpec &spec) {
-    const TableColumns columns(spec, TableColumns::Order::PlanFirst);
+    const PlanColumns columns(spec, PlanColumns::Order::PlanFirst);
     QList<Line> lines;
     for (const QStringList &row : spec.rows)
         addLine(lines, columns.measured(row), columns.planText(row), columns.actualText(row));
@@ -70,7 +70,7 @@ QList<ViewSpec::Point> pointsOfSeries(const QList<ViewSpec::Series> &series) {
 
 QList<Line> linesOf(const ViewSpec &spec) {
     const bool twoSeries = isPlanAndActual(spec);
-    if (!twoSeries && !spec.rows.isEmpty() && TableColumns(spec).hasActual())
+    if (!twoSeries && !spec.rows.isEmpty() && PlanColumns(spec).hasActual())
         return linesOfRows(spec);
     const auto points = twoSeries ? pointsOfSeries(spec.series) : pointsOf(spec);
     const QString unit = unitOf(spec, points);

@@ -1,7 +1,7 @@
+#include "canvas/PlanColumns.h"
 #include "canvas/Progress.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
-#include "canvas/TableColumns.h"
 
 #include <QHash>
 
@@ -41,7 +41,7 @@ private:
 /// Rows of objective, key result, value and target; a table without a column of key results has
 /// one result per objective.
 QList<Objective> objectivesOfRows(const ViewSpec &spec) {
-    const TableColumns columns(spec);
+    const PlanColumns columns(spec);
     Objectives objectives;
     for (const QStringList &row : spec.rows) {
         const QString name = row.value(0).trimmed();

@@ -1,5 +1,5 @@
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "driver/FindItem.h"
+#include "ui/GalleryTest.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -13,26 +13,23 @@ namespace kiv::ui {
 namespace {
 
 /// The selectable text that holds `words`.
-QQuickItem *textWith(QQuickItem *item, const QString &words) {
-    if (item->inherits("QQuickTextEdit") && item->property("text").toString().contains(words))
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = textWith(child, words))
-            return found;
-    }
-    return nullptr;
+QQuickItem *textWith(QQuickItem *below, const QString &words) {
+    return driver::findItem(below, [&](const QQuickItem &item) {
+        return item.inherits("QQuickTextEdit") && item.property("text").toString().contains(words);
+    });
 }
+
+const QStringList schemes{u"http"_s, u"https"_s, u"mailto"_s, u"file"_s, u"ftp"_s};
 
 } // namespace
 
 /// What a person does with the blocks of an answer, by real events.
-class BlocksTest : public QObject {
+class BlocksTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void initTestCase();
+    void cleanupTestCase();
     void selectsAndCopies();
     void copiesCode();
     void copiesTable();
@@ -43,35 +40,31 @@ public Q_SLOTS:
     void open(const QUrl &link) { m_opened.append(link.toString()); }
 
 private:
+    void prepare() override;
     void answer(const QString &text);
     /// The middle of words in the dock, in the window.
     QPoint placeOf(const QString &words);
     QString copied() const { return QGuiApplication::clipboard()->text(); }
 
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
     QStringList m_opened;
 };
 
-void BlocksTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<Workspace>();
-    m_gallery = std::make_unique<Gallery>();
-    QVERIFY(m_workspace->signIn());
-    m_gallery->setReducedMotion(true);
-    m_gallery->open(*m_workspace->store, {1440, 900});
-    m_workspace->store->layout()->toggleDock();
-    QGuiApplication::clipboard()->clear();
-    m_opened.clear();
-    for (const QString &scheme : {u"http"_s, u"https"_s, u"mailto"_s, u"file"_s, u"ftp"_s})
+void BlocksTest::initTestCase() {
+    for (const QString &scheme : schemes)
         QDesktopServices::setUrlHandler(scheme, this, "open");
 }
 
-void BlocksTest::cleanup() {
-    for (const QString &scheme : {u"http"_s, u"https"_s, u"mailto"_s, u"file"_s, u"ftp"_s})
+void BlocksTest::cleanupTestCase() {
+    for (const QString &scheme : schemes)
         QDesktopServices::unsetUrlHandler(scheme);
-    m_gallery.reset();
-    m_workspace.reset();
+}
+
+void BlocksTest::prepare() {
+    m_gallery->setReducedMotion(true);
+    GalleryTest::open();
+    m_workspace->store->layout()->toggleDock();
+    QGuiApplication::clipboard()->clear();
+    m_opened.clear();
 }
 
 void BlocksTest::answer(const QString &text) {

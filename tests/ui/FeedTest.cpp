@@ -1,3 +1,4 @@
+#include "driver/FindItem.h"
 #include "ui/GalleryTest.h"
 
 #include <QClipboard>
@@ -23,15 +24,10 @@ double distanceToEnd(QQuickItem *list) {
 }
 
 /// The selectable text that reads `text`.
-QQuickItem *findText(QQuickItem *item, const QString &text) {
-    if (item->inherits("QQuickTextEdit") && item->property("text") == text)
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findText(child, text))
-            return found;
-    }
-    return nullptr;
+QQuickItem *findText(QQuickItem *below, const QString &text) {
+    return driver::findItem(below, [&](const QQuickItem &item) {
+        return item.inherits("QQuickTextEdit") && item.property("text") == text;
+    });
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ui/Gallery.h"
 
+#include "driver/FindItem.h"
 #include "store/AppStore.h"
 
 #include <QDir>
@@ -14,19 +15,6 @@ namespace {
 
 /// Longer than the longest entrance.
 constexpr int entrance = 500;
-
-QQuickItem *findBelow(QQuickItem *item, const QString &name) {
-    if (!item->isVisible())
-        return nullptr;
-    if (item->objectName() == name)
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findBelow(child, name))
-            return found;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -125,7 +113,7 @@ QImage Gallery::grab(const QString &name) {
 }
 
 QQuickItem *Gallery::find(const QString &name) const {
-    return findBelow(m_window->contentItem(), name);
+    return driver::findItem(m_window->contentItem(), name);
 }
 
 QQuickItem *Gallery::item(const QString &name) const {

@@ -1,25 +1,10 @@
 #include "driver/WindowDriver.h"
 
+#include "driver/FindItem.h"
+
 #include <QTest>
 
 namespace kiv::driver {
-
-namespace {
-
-QQuickItem *findBelow(QQuickItem *item, const QString &objectName) {
-    if (!item->isVisible())
-        return nullptr;
-    if (item->objectName() == objectName)
-        return item;
-    const QList<QQuickItem *> children = item->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findBelow(child, objectName))
-            return found;
-    }
-    return nullptr;
-}
-
-} // namespace
 
 bool WindowDriver::waitFor(const std::function<bool()> &holds,
                            std::chrono::milliseconds limit) const {
@@ -27,7 +12,7 @@ bool WindowDriver::waitFor(const std::function<bool()> &holds,
 }
 
 QQuickItem *WindowDriver::find(const QString &objectName) const {
-    return findBelow(m_window->contentItem(), objectName);
+    return findItem(m_window->contentItem(), objectName);
 }
 
 QQuickItem *WindowDriver::waitForItem(const QString &objectName) const {

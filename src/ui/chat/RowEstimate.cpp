@@ -10,9 +10,26 @@ using Kind = FeedDelegate::Kind;
 
 namespace {
 
+// Lengths at the normal size of text, about.
 constexpr double lineHeight = 21;
 constexpr double letterWidth = 7;
 constexpr double blockGap = 10;
+constexpr double bubblePadding = 16;
+constexpr double itemGap = 4;
+constexpr double itemIndent = 20;
+constexpr double quoteIndent = 17;
+constexpr double codeFrame = 58;
+constexpr double codeLine = 20;
+constexpr double tableHead = 34;
+constexpr double tableRow = 36;
+constexpr double ruleHeight = 5;
+
+constexpr double labelHeight = 36;
+constexpr double callHeight = 44;
+constexpr double headHeight = 54;
+constexpr double filesHeight = 46;
+constexpr double cardHeight = 50;
+constexpr double chipsHeight = 42;
 
 double wrapped(qsizetype letters, double width) {
     const double fitting = std::max(1.0, std::floor(width / letterWidth));
@@ -51,19 +68,21 @@ struct ContentHeight {
     double operator()(const MDBlock::Quote &quote) const {
         double sum = 0;
         for (const QString &line : quote.lines)
-            sum += wrapped(line.size(), width - 17);
+            sum += wrapped(line.size(), width - quoteIndent);
         return sum;
     }
     double operator()(const MDBlock::Code &code) const {
-        return 58 + unwrapped(code.text.count(u'\n') + 1, 20);
+        return codeFrame + unwrapped(code.text.count(u'\n') + 1, codeLine);
     }
     double operator()(const MDBlock::Table &table) const {
-        return 34 + unwrapped(table.rows.size(), 36);
+        return tableHead + unwrapped(table.rows.size(), tableRow);
     }
-    double operator()(const MDBlock::Rule &) const { return 5; }
+    double operator()(const MDBlock::Rule &) const { return ruleHeight; }
 
 private:
-    double ofItem(const QString &item) const { return 4 + wrapped(item.size(), width - 20); }
+    double ofItem(const QString &item) const {
+        return itemGap + wrapped(item.size(), width - itemIndent);
+    }
     double ofText(const QString &text) const {
         double sum = 0;
         for (const QStringView line : QStringView(text).tokenize(u'\n'))
@@ -79,19 +98,19 @@ double estimatedHeight(const FeedRow &row, double width) {
     case Kind::Older:
     case Kind::Day:
     case Kind::Unread:
-        return 36;
+        return labelHeight;
     case Kind::Call:
-        return 44;
+        return callHeight;
     case Kind::Head:
-        return 54;
+        return headHeight;
     case Kind::Files:
-        return 46;
+        return filesHeight;
     case Kind::Tail:
-        return (row.cardArt.isEmpty() ? 0 : 50) + (row.chips.isEmpty() ? 0 : 42);
+        return (row.cardArt.isEmpty() ? 0 : cardHeight) + (row.chips.isEmpty() ? 0 : chipsHeight);
     default:
         break;
     }
-    const double padding = row.first || row.last ? 16 : 0;
+    const double padding = row.first || row.last ? bubblePadding : 0;
     return blockGap + padding + std::visit(ContentHeight{width - 2 * padding}, row.part.content);
 }
 

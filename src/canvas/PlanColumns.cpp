@@ -1,4 +1,4 @@
-#include "canvas/TableColumns.h"
+#include "canvas/PlanColumns.h"
 
 #include "base/Regex.h"
 #include "canvas/ProseFigure.h"
@@ -37,7 +37,7 @@ bool isNumeric(const QList<QStringList> &rows, qsizetype column) {
 
 } // namespace
 
-TableColumns::TableColumns(const ViewSpec &spec, Order order) {
+PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
     static const Regex plan(u"plan|budget|target|goal|limit|план|бюджет|цель|лимит",
                             Regex::CaseInsensitive);
     static const Regex actual(u"actual|fact|spen[dt]|used|current|value|now|result so far|progress|"
@@ -72,7 +72,7 @@ TableColumns::TableColumns(const ViewSpec &spec, Order order) {
         m_title = named;
 }
 
-ViewSpec::Point TableColumns::measured(const QStringList &row) const {
+ViewSpec::Point PlanColumns::measured(const QStringList &row) const {
     ViewSpec::Point point{.label = row.value(m_title).trimmed()};
     const QString actual = actualText(row);
     point.value = valueOf(actual);

@@ -8,10 +8,10 @@ namespace kiv::canvas {
 
 /// Which columns of a table hold what was planned and what came of it. They are told by their
 /// names; where neither is named they are the first two columns of figures, as `order` says.
-class TableColumns {
+class PlanColumns {
 public:
     enum class Order { PlanFirst, ActualFirst };
-    explicit TableColumns(const ViewSpec &spec, Order order = Order::ActualFirst);
+    explicit PlanColumns(const ViewSpec &spec, Order order = Order::ActualFirst);
 
     bool hasActual() const { return m_actual > 0; }
     /// The row as a point: value is what came of it, target what was planned.
