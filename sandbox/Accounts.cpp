@@ -122,6 +122,14 @@ bool Accounts::exists(const QString &email) {
     });
 }
 
+void Accounts::setPassword(const QString &email, const QString &password) {
+    const QString hash = QString::fromLatin1(hashPassword(password));
+    m_database.run([&](Sql &sql) {
+        sql.exec(u"UPDATE accounts SET password = ? WHERE email = ?"_s,
+                 {hash, normalizedEmail(email)});
+    });
+}
+
 void Accounts::changePassword(const QString &account, const QString &current, const QString &next) {
     checkNewPassword(next);
     const QString stored = m_database.run([&](Sql &sql) { return storedHash(sql, account); });

@@ -20,6 +20,8 @@ public:
     /// The account's id; throws Refusal when address and password do not belong together.
     QString authenticate(const QString &email, const QString &password);
     bool exists(const QString &email);
+    /// Gives the account with this address another password.
+    void setPassword(const QString &email, const QString &password);
 
     /// Throws Refusal when `current` is given and wrong, or `next` is too short.
     void changePassword(const QString &account, const QString &current, const QString &next);

@@ -1,6 +1,7 @@
 #include "Answerer.h"
 
 #include "ChatHub.h"
+#include "Database.h"
 #include "Http.h"
 
 #include <algorithm>
@@ -115,10 +116,31 @@ bool Answerer::grow(const ChatKey &key, Growth &growth) {
         }
         growth.due = std::max(growth.due, Clock::now());
     }
-    show(key, growth, growth.cuts.at(growth.shown));
+    try {
+        show(key, growth, growth.cuts.at(growth.shown));
+    } catch (const std::exception &error) {
+        qCritical("An answer cannot be stored: %s", error.what());
+        showUnstored(key, growth, error);
+        return false;
+    }
     ++growth.shown;
     growth.due += paced(writing) / growth.cuts.size();
     return growth.shown < growth.cuts.size();
+}
+
+/// Who listens has the whole answer, and what has become of it; a reload shows what was stored.
+void Answerer::showUnstored(const ChatKey &key, Growth &growth, const std::exception &error) {
+    const auto *stored = dynamic_cast<const DatabaseError *>(&error);
+    const bool isFull = stored && stored->kind() == DatabaseError::Kind::Full;
+    growth.message.role = u"assistant"_s;
+    growth.message.content = growth.answer.content + u"\n\n⚠ This answer could not be stored"_s +
+                             (isFull ? u": the disk is full."_s : u"."_s);
+    growth.message.metadata = growth.answer.metadata;
+    QJsonObject row = growth.message.rowObject(growth.origin);
+    if (growth.message.id == 0) {
+        row.insert(u"id"_s, QJsonValue());
+    }
+    m_hub.publish(key, rowEvent(row));
 }
 
 void Answerer::show(const ChatKey &key, Growth &growth, qsizetype length) {

@@ -50,6 +50,7 @@ private:
     void work();
     /// One more piece; false when the answer is whole.
     bool grow(const ChatKey &key, Growth &growth);
+    void showUnstored(const ChatKey &key, Growth &growth, const std::exception &error);
     void show(const ChatKey &key, Growth &growth, qsizetype length);
     Clock::duration paced(std::chrono::milliseconds time) const;
 

@@ -1,7 +1,10 @@
 #include "Database.h"
 
 #include "Schema.h"
+#include "base/PrivateFile.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -13,29 +16,102 @@ namespace kiv::sandbox {
 
 namespace {
 
+const QString connectionName = u"workspace"_s;
+/// Of the tables; a file with a higher one was written by a later server.
+constexpr int schemaVersion = 1;
+
+/// SQLite's primary result codes that are told apart here.
+enum Code { Unfitting = 1, Corrupt = 11, Full = 13, Format = 24, NotADatabase = 26 };
+
+DatabaseError::Kind kindOf(const QSqlError &error) {
+    constexpr int primary = 0xff;
+    switch (error.nativeErrorCode().toInt() & primary) {
+    case Unfitting: // no statement of ours is wrong: the tables are not ours
+    case Corrupt:
+    case Format:
+    case NotADatabase:
+        return DatabaseError::Kind::Damaged;
+    case Full:
+        return DatabaseError::Kind::Full;
+    default:
+        return DatabaseError::Kind::Other;
+    }
+}
+
 [[noreturn]] void fail(const QSqlError &error, const QString &statement) {
-    throw DatabaseError((error.text() + u" in: "_s + statement).toStdString());
+    throw DatabaseError((error.text() + u" in: "_s + statement).toStdString(), kindOf(error));
+}
+
+[[noreturn]] void failAsDamaged(const QString &why) {
+    throw DatabaseError(why.toStdString(), DatabaseError::Kind::Damaged);
+}
+
+/// What can be told of the file without opening it. An empty one is no damage to SQLite, which
+/// would throw away what the log beside it still holds.
+void checkFile(const QString &path) {
+    const QFileInfo file(path);
+    if (file.exists() && !file.isFile()) {
+        failAsDamaged(u"it is no file"_s);
+    }
+    if (file.exists() && file.size() == 0) {
+        failAsDamaged(u"it is empty"_s);
+    }
+    if (file.exists() && !(file.isReadable() && file.isWritable())) {
+        throw DatabaseError("This user may not read and write " + path.toStdString());
+    }
+}
+
+/// The log and its index belong to their file: beside a fresh one they would spoil it.
+QString setAsideWithLog(const QString &path) {
+    const QString moved = PrivateFile::setAside(path);
+    for (const QString &beside : {u"-wal"_s, u"-shm"_s}) {
+        if (!moved.isEmpty() && QFileInfo::exists(path + beside)) {
+            QFile::rename(path + beside, moved + beside);
+        }
+    }
+    return moved;
 }
 
 } // namespace
 
-Sql::Sql(const QString &path)
-    : m_database(new QSqlDatabase(QSqlDatabase::addDatabase(u"QSQLITE"_s, u"workspace"_s))) {
+Sql::Connection::Connection(const QString &path)
+    : m_database(new QSqlDatabase(QSqlDatabase::addDatabase(u"QSQLITE"_s, connectionName))) {
     m_database->setDatabaseName(path);
-    if (!m_database->open()) {
-        fail(m_database->lastError(), path);
+}
+
+Sql::Connection::~Connection() {
+    m_database->close();
+    m_database.reset();
+    QSqlDatabase::removeDatabase(connectionName);
+}
+
+Sql::Sql(const QString &path) : m_database(path) {
+    checkFile(path);
+    if (!(*m_database).open()) {
+        fail((*m_database).lastError(), path);
     }
+    // Looked at before anything is written: what is refused or set aside stays as it was.
+    checkContent();
+    createSchema(*this);
     exec(u"PRAGMA journal_mode = WAL"_s);
     exec(u"PRAGMA synchronous = NORMAL"_s);
     exec(u"PRAGMA foreign_keys = ON"_s);
-    createSchema(*this);
+    if (row(u"PRAGMA user_version"_s)->whole(0) != schemaVersion) {
+        exec(u"PRAGMA user_version = %1"_s.arg(schemaVersion));
+    }
 }
 
-Sql::~Sql() {
-    m_prepared.clear();
-    m_database->close();
-    m_database.reset();
-    QSqlDatabase::removeDatabase(u"workspace"_s);
+Sql::~Sql() = default; // the statements before their connection
+
+void Sql::checkContent() {
+    const QString found = row(u"PRAGMA quick_check(1)"_s)->text(0);
+    if (found != u"ok"_s) {
+        failAsDamaged(found);
+    }
+    if (row(u"PRAGMA user_version"_s)->whole(0) > schemaVersion) {
+        throw DatabaseError("The database was written by a later version.",
+                            DatabaseError::Kind::Later);
+    }
 }
 
 QSqlQuery &Sql::run(const QString &statement, const QVariantList &values) {
@@ -56,7 +132,9 @@ QSqlQuery &Sql::run(const QString &statement, const QVariantList &values) {
         query.bindValue(static_cast<int>(i), emptyText ? QVariant(u""_s) : value);
     }
     if (!query.exec()) {
-        fail(query.lastError(), statement);
+        const QSqlError error = query.lastError();
+        query.finish();
+        fail(error, statement);
     }
     return query;
 }
@@ -106,35 +184,70 @@ Database::~Database() {
     m_thread.join();
 }
 
+QString Database::open() {
+    std::packaged_task<void(Sql *)> task([](Sql *) {});
+    std::future<void> done = task.get_future();
+    enqueue(std::move(task));
+    done.get();
+    if (!m_failure.empty()) {
+        throw DatabaseError(m_failure);
+    }
+    return m_setAside;
+}
+
 void Database::transact(std::function<void(Sql &)> job) {
-    std::packaged_task<void(Sql *)> task([job = std::move(job)](Sql *sql) {
+    std::packaged_task<void(Sql *)> task([this, job = std::move(job)](Sql *sql) {
         if (!sql) {
-            throw DatabaseError("The database cannot be opened.");
+            throw DatabaseError(m_failure);
         }
         sql->exec(u"BEGIN"_s);
         try {
             job(*sql);
             sql->exec(u"COMMIT"_s);
         } catch (...) {
-            sql->exec(u"ROLLBACK"_s);
+            try {
+                sql->exec(u"ROLLBACK"_s);
+            } catch (const DatabaseError &) {
+                // A full disk has already undone it.
+            }
             throw;
         }
     });
     std::future<void> done = task.get_future();
+    enqueue(std::move(task));
+    done.get();
+}
+
+void Database::enqueue(std::packaged_task<void(Sql *)> task) {
     {
         const std::lock_guard lock(m_mutex);
         m_jobs.push_back(std::move(task));
     }
     m_wake.notify_one();
-    done.get();
+}
+
+std::unique_ptr<Sql> Database::opened(const QString &path) {
+    try {
+        return std::make_unique<Sql>(path);
+    } catch (const DatabaseError &error) {
+        if (error.kind() != DatabaseError::Kind::Damaged) {
+            throw;
+        }
+        qCritical("The database is damaged and set aside: %s", error.what());
+        m_setAside = setAsideWithLog(path);
+        if (m_setAside.isEmpty()) {
+            throw;
+        }
+    }
+    return std::make_unique<Sql>(path);
 }
 
 void Database::work(const QString &path) {
     std::unique_ptr<Sql> sql;
     try {
-        sql = std::make_unique<Sql>(path);
+        sql = opened(path);
     } catch (const DatabaseError &error) {
-        qCritical("%s", error.what());
+        m_failure = error.what();
     }
     std::unique_lock lock(m_mutex);
     while (true) {

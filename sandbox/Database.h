@@ -16,6 +16,7 @@
 
 QT_BEGIN_NAMESPACE
 class QSqlDatabase;
+class QSqlError;
 class QSqlQuery;
 QT_END_NAMESPACE
 
@@ -24,7 +25,16 @@ namespace kiv::sandbox {
 /// A statement that failed or a database that cannot be opened.
 class DatabaseError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    /// What is the matter: what the file holds is no database of this server, it was written by a
+    /// later one, the disk is full, or something else.
+    enum class Kind { Damaged, Later, Full, Other };
+
+    explicit DatabaseError(const std::string &what, Kind kind = Kind::Other)
+        : std::runtime_error(what), m_kind(kind) {}
+    Kind kind() const { return m_kind; }
+
+private:
+    Kind m_kind;
 };
 
 /// One row of a result; columns by position.
@@ -44,6 +54,7 @@ private:
 /// database's own thread only.
 class Sql {
 public:
+    /// Opens the file, making it where there is none. Throws DatabaseError.
     explicit Sql(const QString &path);
     ~Sql();
     Sql(const Sql &) = delete;
@@ -57,14 +68,27 @@ public:
     std::optional<Row> row(const QString &statement, const QVariantList &values = {});
 
 private:
+    /// Qt's connection to the file, which has a name there.
+    class Connection {
+    public:
+        explicit Connection(const QString &path);
+        ~Connection();
+        QSqlDatabase &operator*() { return *m_database; }
+
+    private:
+        std::unique_ptr<QSqlDatabase> m_database;
+    };
+
+    void checkContent();
     QSqlQuery &run(const QString &statement, const QVariantList &values);
 
-    std::unique_ptr<QSqlDatabase> m_database;
+    Connection m_database;
     std::unordered_map<QString, QSqlQuery> m_prepared;
 };
 
 /// The one SQLite file, driven by one thread: SQLite has one writer anyway, and a connection may
-/// not leave its thread. Safe to call from every other thread.
+/// not leave its thread. Safe to call from every other thread. A file that is damaged is set aside
+/// for a fresh one.
 class Database {
 public:
     /// The file is opened on the thread, not inside this call.
@@ -72,6 +96,10 @@ public:
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
+
+    /// Waits until the file is open; throws DatabaseError when it cannot be. The result is where a
+    /// damaged one has gone, empty when there was none.
+    QString open();
 
     /// Runs `job(Sql &)` as one transaction and waits for its result. What it throws undoes the
     /// transaction and is thrown here.
@@ -89,12 +117,16 @@ public:
 
 private:
     void transact(std::function<void(Sql &)> job);
+    void enqueue(std::packaged_task<void(Sql *)> task);
     void work(const QString &path);
+    std::unique_ptr<Sql> opened(const QString &path);
 
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::deque<std::packaged_task<void(Sql *)>> m_jobs;
     bool m_ended = false;
+    QString m_setAside;    ///< of the thread, like the next
+    std::string m_failure; ///< why the file cannot be opened
     std::thread m_thread;
 };
 

@@ -2,10 +2,13 @@
 
 #include "Database.h"
 #include "Secrets.h"
+#include "base/PrivateFile.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -13,16 +16,25 @@ namespace kiv::sandbox {
 
 Files::Files(Database &database, const QString &dataDir)
     : m_database(database), m_folder(dataDir + u"/files"_s) {
-    QDir().mkpath(m_folder);
+    if (QFileInfo::exists(m_folder) && !QFileInfo(m_folder).isDir()) {
+        qCritical("Something else stands where uploads go; it is set aside.");
+        PrivateFile::setAside(m_folder);
+    }
 }
 
 StoredFile Files::store(const QString &account, const QString &name, const QString &mime,
                         const QByteArray &content) {
     const StoredFile stored{QString::fromLatin1(randomToken()), name, mime, content.size()};
-    QFile file(m_folder + u'/' + stored.key);
-    if (!file.open(QIODevice::WriteOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
-        file.write(content) != content.size()) {
-        throw DatabaseError("An upload cannot be written.");
+    QDir().mkpath(m_folder);
+    // There whole or not at all.
+    QSaveFile file(m_folder + u'/' + stored.key);
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
+                           file.write(content) == content.size() && file.commit();
+    if (!isWritten) {
+        const bool isFull = QStorageInfo(m_folder).bytesAvailable() < content.size();
+        throw DatabaseError("An upload cannot be written: " + file.errorString().toStdString(),
+                            isFull ? DatabaseError::Kind::Full : DatabaseError::Kind::Other);
     }
     m_database.run([&](Sql &sql) {
         sql.exec(u"INSERT INTO files (key, account, name, mime, size, created_at)"
@@ -43,9 +55,8 @@ std::optional<StoredFile> Files::find(const QString &key) {
     return StoredFile{key, row->text(0), row->text(1), row->whole(2)};
 }
 
-QByteArray Files::content(const StoredFile &file) const {
-    QFile stored(m_folder + u'/' + file.key);
-    return stored.open(QIODevice::ReadOnly) ? stored.readAll() : QByteArray();
+std::optional<QByteArray> Files::content(const StoredFile &file) const {
+    return PrivateFile::read(m_folder + u'/' + file.key, file.size);
 }
 
 } // namespace kiv::sandbox

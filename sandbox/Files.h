@@ -25,7 +25,8 @@ public:
     StoredFile store(const QString &account, const QString &name, const QString &mime,
                      const QByteArray &content);
     std::optional<StoredFile> find(const QString &key);
-    QByteArray content(const StoredFile &file) const;
+    /// Nothing when the file has gone from the folder.
+    std::optional<QByteArray> content(const StoredFile &file) const;
 
 private:
     Database &m_database;

@@ -1,6 +1,7 @@
 #include "Router.h"
 
 #include "Connection.h"
+#include "Database.h"
 #include "Faults.h"
 #include "LoopbackServer.h"
 #include "Sessions.h"
@@ -104,6 +105,10 @@ Reply Router::answer(const httplib::Request &request, Access access, const Handl
         return refused(refusal);
     } catch (const std::exception &error) {
         qCritical("%s %s: %s", request.method.c_str(), request.path.c_str(), error.what());
+        const auto *stored = dynamic_cast<const DatabaseError *>(&error);
+        if (stored && stored->kind() == DatabaseError::Kind::Full) {
+            return refused(Refusal(507, u"The disk of the workspace is full."_s, u"disk_full"_s));
+        }
         return refused(Refusal(500, u"Something went wrong on the server."_s, u"internal"_s));
     }
 }

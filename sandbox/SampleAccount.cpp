@@ -2,8 +2,9 @@
 
 #include "Accounts.h"
 #include "Secrets.h"
+#include "base/PrivateFile.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonObject>
 #include <QTimeZone>
 
@@ -13,27 +14,37 @@ namespace kiv::sandbox {
 
 namespace {
 
-QString readOrMake(const QString &path) {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
-        const QByteArray stored = file.readAll().trimmed();
-        if (!stored.isEmpty()) {
-            return QString::fromLatin1(stored);
-        }
-        file.close();
+constexpr qint64 longestKept = 256;
+
+/// What an earlier start has made; empty when there is nothing of ours.
+QString readPassword(const QString &path) {
+    const QByteArray kept = PrivateFile::read(path, longestKept).value_or(QByteArray()).trimmed();
+    return isToken(kept) ? QString::fromLatin1(kept) : QString();
+}
+
+QString makePassword(const QString &path) {
+    if (QFileInfo::exists(path)) {
+        qWarning("The sample account's password cannot be read; it gets a new one.");
+        PrivateFile::setAside(path);
     }
     const QByteArray made = randomToken();
-    if (!file.open(QIODevice::WriteOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner) ||
-        file.write(made + '\n') < 0) {
-        qWarning("The sample account's password cannot be kept: %s", qPrintable(path));
+    const QString failure = PrivateFile::write(path, made + '\n');
+    if (!failure.isEmpty()) {
+        qWarning("The sample account's password cannot be kept: %s", qUtf8Printable(failure));
     }
     return QString::fromLatin1(made);
 }
 
 } // namespace
 
-SampleAccount::SampleAccount(const QString &dataDir, Accounts &accounts)
-    : m_accounts(accounts), m_password(readOrMake(dataDir + u"/sample-password"_s)) {}
+SampleAccount::SampleAccount(const QString &dataDir, Accounts &accounts) : m_accounts(accounts) {
+    const QString path = dataDir + u"/sample-password"_s;
+    m_password = readPassword(path);
+    m_isNew = m_password.isEmpty();
+    if (m_isNew) {
+        m_password = makePassword(path);
+    }
+}
 
 QString SampleAccount::email() const {
     return u"olive@sample.example"_s;
@@ -44,7 +55,11 @@ void SampleAccount::ensure(const QString &address) {
         return;
     }
     const std::lock_guard lock(m_mutex);
-    if (!m_made && !m_accounts.exists(email())) {
+    const bool isThere = m_made || m_accounts.exists(email());
+    if (!m_made && isThere && m_isNew) {
+        m_accounts.setPassword(email(), m_password);
+    }
+    if (!isThere) {
         const QString zone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
         m_accounts.create(email(), m_password,
                           {{u"full_name"_s, u"Olive Lindqvist"_s},

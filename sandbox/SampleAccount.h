@@ -22,6 +22,7 @@ public:
 private:
     Accounts &m_accounts;
     QString m_password;
+    bool m_isNew = false; ///< the account, if it is there, has another one
     std::mutex m_mutex;
     bool m_made = false;
 };

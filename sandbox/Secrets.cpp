@@ -9,6 +9,9 @@ namespace kiv::sandbox {
 
 namespace {
 
+constexpr qsizetype tokenBytes = 32;
+constexpr auto tokenForm = QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals;
+
 /// One at a time: each run takes 64 MiB.
 std::mutex hashing;
 
@@ -45,9 +48,15 @@ void verifyNobody(const QString &password) {
 }
 
 QByteArray randomToken() {
-    QByteArray bytes(32, Qt::Uninitialized);
+    QByteArray bytes(tokenBytes, Qt::Uninitialized);
     randombytes_buf(bytes.data(), static_cast<size_t>(bytes.size()));
-    return bytes.toBase64(QByteArray::Base64UrlEncoding | QByteArray::OmitTrailingEquals);
+    return bytes.toBase64(tokenForm);
+}
+
+bool isToken(const QByteArray &text) {
+    const auto bytes = QByteArray::fromBase64Encoding(
+        text, QByteArray::Base64UrlEncoding | QByteArray::AbortOnBase64DecodingErrors);
+    return bytes && bytes.decoded.size() == tokenBytes;
 }
 
 QByteArray tokenHash(const QByteArray &token) {

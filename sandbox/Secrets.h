@@ -16,6 +16,8 @@ void verifyNobody(const QString &password);
 
 /// 256 random bits, safe in a cookie, a path and a file name.
 QByteArray randomToken();
+/// Whether a text has the form of one.
+bool isToken(const QByteArray &text);
 /// What is stored of a token.
 QByteArray tokenHash(const QByteArray &token);
 

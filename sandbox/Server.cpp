@@ -39,7 +39,7 @@ Server::Server(const Options &options)
     if (options.control) {
         addControlRoutes(*m_router, *m_services);
     }
-    m_services->database.run([](Sql &) {}); // throws when it cannot be opened
+    m_setAside = m_services->database.open();
     m_thread = std::thread([this] { m_http->listen_after_bind(); });
 }
 

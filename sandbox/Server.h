@@ -26,12 +26,16 @@ public:
     QString url() const;
     QString sampleEmail() const;
     QString samplePassword() const;
+    /// Where a damaged database has gone, which a fresh one stands in for; empty when there is
+    /// none.
+    const QString &setAside() const { return m_setAside; }
 
 private:
     std::unique_ptr<Services> m_services;
     std::unique_ptr<LoopbackServer> m_http;
     std::unique_ptr<Router> m_router;
     std::unique_ptr<VoiceServer> m_voice;
+    QString m_setAside;
     int m_port = 0;
     std::thread m_thread;
 };

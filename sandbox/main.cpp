@@ -56,7 +56,11 @@ void quitWithStandardInput(QCoreApplication &application) {
 void announce(const Server &server) {
     const QJsonObject sample{{u"email"_s, server.sampleEmail()},
                              {u"password"_s, server.samplePassword()}};
-    const QByteArray line = compact({{u"url"_s, server.url()}, {u"sample"_s, sample}});
+    QJsonObject greeting{{u"url"_s, server.url()}, {u"sample"_s, sample}};
+    if (!server.setAside().isEmpty()) {
+        greeting.insert(u"setAside"_s, server.setAside());
+    }
+    const QByteArray line = compact(greeting);
     std::printf("%s\n", line.constData());
     std::fflush(stdout);
 }
@@ -73,7 +77,9 @@ int run(QCoreApplication &application) {
     }
     QLockFile lock(options.dataDir + u"/lock"_s);
     if (!lock.tryLock(2000)) {
-        return fail("another server works in this data folder");
+        return fail(lock.error() == QLockFile::LockFailedError
+                        ? "another server works in this data folder"
+                        : "the data folder cannot be written to");
     }
     startSecrets();
     Server server(options);

@@ -1333,6 +1333,14 @@
         <source>Width of the rail</source>
         <translation>Ширина боковой панели</translation>
     </message>
+    <message>
+        <source>The workspace cannot start: %1</source>
+        <translation>Рабочее пространство не запускается: %1</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
 </context>
 <context>
     <name>MenuButton</name>
@@ -2371,6 +2379,17 @@
     </message>
 </context>
 <context>
+    <name>StorageBanners</name>
+    <message>
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+</context>
+<context>
     <name>Strip</name>
     <message>
         <source>Rail</source>
@@ -2871,6 +2890,41 @@
             <numerusform>%Ln агента</numerusform>
             <numerusform>%Ln агентов</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>kiv::store::StorageRoom</name>
+    <message>
+        <source>What you type is kept only while KIV runs, since it cannot be saved: %1.</source>
+        <translation>Набранный текст хранится, только пока KIV работает: сохранить его не удаётся (%1).</translation>
+    </message>
+    <message>
+        <source>You will have to sign in again after a restart, since the session cannot be saved: %1.</source>
+        <translation>После перезапуска придётся войти снова: сеанс не удаётся сохранить (%1).</translation>
+    </message>
+    <message>
+        <source>Settings cannot be saved: %1.</source>
+        <translation>Настройки не удаётся сохранить: %1.</translation>
+    </message>
+    <message>
+        <source>what was being typed</source>
+        <translation>набранный текст</translation>
+    </message>
+    <message>
+        <source>the workspace of this computer</source>
+        <translation>рабочее пространство этого компьютера</translation>
+    </message>
+    <message>
+        <source>the session</source>
+        <translation>сеанс</translation>
+    </message>
+    <message>
+        <source>the settings</source>
+        <translation>настройки</translation>
+    </message>
+    <message>
+        <source>Could not be read and was set aside: %1.</source>
+        <translation>Не удалось прочитать и отложено в сторону: %1.</translation>
     </message>
 </context>
 <context>

@@ -67,11 +67,12 @@ Reply upload(Services &services, const Call &call) {
 
 Reply download(Services &services, const Call &call) {
     const auto file = services.files.find(call.segment(1));
-    if (!file) {
+    auto content = file ? services.files.content(*file) : std::nullopt;
+    if (!content) {
         throw Refusal(404, u"There is no such file."_s, u"not_found"_s);
     }
     // An uploaded page must not run as one of this server's own.
-    return {.body = services.files.content(*file),
+    return {.body = *std::move(content),
             .type = file->mime.toUtf8(),
             .headers = {{"X-Content-Type-Options", "nosniff"},
                         {"Content-Security-Policy", "sandbox; default-src 'none'"}}};

@@ -59,17 +59,19 @@ void Application::prepareProcess() {
 Application::Application(const Options &options)
     : m_options(options),
       m_ground(options),
-      m_settings(options.places.settingsFile, QSettings::IniFormat),
-      m_state(options.places.stateFile, QSettings::IniFormat),
+      m_settings(options.places.settingsFile),
+      m_state(options.places.stateFile),
       m_frame(m_state, m_clock),
       // A profile of its own is whole in its folder.
       m_net(std::make_unique<net::APIClient>(m_clock, m_connectivity, options.places.cookieFile,
                                              options.places.profile.isEmpty() ? &m_keyChain
                                                                               : nullptr)),
       m_webHost(options.places.webPlugin) {
+    WindowFrame::moveFrame(m_settings, m_state);
     m_store = std::make_unique<store::AppStore>(
         m_clock, *m_net, m_settings, options.places.draftsFile,
         options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
+    watchStorage();
     m_store->attachments()->setChooser(&m_chooser);
     m_store->account()->setChooser(&m_chooser);
     m_delegate = std::make_unique<AppDelegate>(*m_store);
@@ -106,9 +108,32 @@ Application::~Application() {
     m_settings.sync();
 }
 
+/// What the disk gives and takes is told in one place.
+void Application::watchStorage() {
+    using Kept = store::StorageRoom::Kept;
+    store::StorageRoom *storage = m_store->storage();
+    storage->reportDamage(Kept::Settings, m_settings.setAside());
+    storage->reportDamage(Kept::Session, m_net->cookies().setAside());
+    QObject::connect(&m_settings, &SettingsFile::failureChanged, storage, [this, storage] {
+        storage->reportTrouble(Kept::Settings, m_settings.failure());
+    });
+    QObject::connect(&m_net->cookies(), &net::PersistentCookieJar::written, storage,
+                     [storage](const QString &why) { storage->reportTrouble(Kept::Session, why); });
+    QObject::connect(storage, &store::StorageRoom::retryRequested, &m_settings, [this] {
+        m_settings.save();
+        m_net->cookies().save();
+    });
+    QObject::connect(m_store->connection(), &store::ConnectionRoom::startRequested, m_store.get(),
+                     [this] { connectAgain(); });
+}
+
+void Application::connectAgain() {
+    m_start.restart([this](Cancel cancel) { return connectToBackend(std::move(cancel)); });
+}
+
 void Application::start() {
     // The server comes up while the window is being made.
-    m_start.start([this](Cancel cancel) { return connectToBackend(std::move(cancel)); });
+    connectAgain();
     ui::WindowLook look;
     if (!m_options.snapshot) {
         look.frame = m_frame.restored();
@@ -135,6 +160,8 @@ QCoro::Task<void> Application::connectToBackend(Cancel cancel) {
             const EmbeddedServer::Greeting greeting = co_await m_server->start(cancel);
             m_net->setBaseUrl(greeting.url);
             m_store->session()->offerSample(greeting.sample);
+            m_store->storage()->reportDamage(store::StorageRoom::Kept::Workspace,
+                                             greeting.setAside);
         }
         boot();
     } catch (const std::exception &error) {

@@ -6,6 +6,7 @@
 #include "app/Options.h"
 #include "app/SystemLook.h"
 #include "app/WindowFrame.h"
+#include "base/SettingsFile.h"
 #include "base/SystemClock.h"
 #include "base/Work.h"
 #include "desktop/KeychainStore.h"
@@ -21,7 +22,6 @@
 #include "web/WebHost.h"
 
 #include <QQmlApplicationEngine>
-#include <QSettings>
 
 #include <memory>
 
@@ -61,6 +61,8 @@ private:
         desktop::LogFile log;
     };
 
+    void watchStorage();
+    void connectAgain();
     QCoro::Task<void> connectToBackend(Cancel cancel);
     void boot();
     void bootAgain();
@@ -70,8 +72,8 @@ private:
     Options m_options;
     Ground m_ground;
     SystemClock m_clock;
-    QSettings m_settings;
-    QSettings m_state;
+    SettingsFile m_settings;
+    SettingsFile m_state;
     WindowFrame m_frame;
     SystemLook m_systemLook{QDBusConnection::sessionBus()};
     net::SystemConnectivity m_connectivity;

@@ -15,6 +15,8 @@ namespace {
 
 constexpr auto startPatience = 20s;
 constexpr int farewellMs = 2000;
+/// What the server's own lines begin with.
+constexpr auto serverPrefix = "kiv-sandbox: "_L1;
 
 } // namespace
 
@@ -22,7 +24,7 @@ EmbeddedServer::EmbeddedServer(Clock &clock, const QString &program, const QStri
     : m_clock(clock) {
     m_process.setProgram(program);
     m_process.setArguments(arguments);
-    m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QObject::connect(&m_process, &QProcess::readyReadStandardError, &m_process, [this] { hear(); });
 }
 
 EmbeddedServer::~EmbeddedServer() {
@@ -33,13 +35,31 @@ EmbeddedServer::~EmbeddedServer() {
         m_process.kill();
         m_process.waitForFinished(farewellMs);
     }
+    hear();
+}
+
+void EmbeddedServer::hear() {
+    m_process.setReadChannel(QProcess::StandardError);
+    while (m_process.canReadLine()) {
+        QString line = QString::fromUtf8(m_process.readLine()).trimmed();
+        qWarning("kiv-sandbox: %s", qUtf8Printable(line.remove(serverPrefix)));
+        m_complaint = line;
+    }
+    m_process.setReadChannel(QProcess::StandardOutput);
 }
 
 QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     if (m_process.program().isEmpty())
         throw ProcessError("The embedded workspace is not installed.");
-    const QByteArray line =
-        co_await startAndReadLine(&m_process, &m_clock, startPatience, std::move(cancel));
+    QByteArray line;
+    try {
+        line = co_await startAndReadLine(&m_process, &m_clock, startPatience, std::move(cancel));
+    } catch (const ProcessError &) {
+        hear();
+        if (m_complaint.isEmpty())
+            throw;
+        throw ProcessError(m_complaint.toStdString());
+    }
     const QJsonObject greeting = QJsonDocument::fromJson(line).object();
     const QString url = greeting.value(u"url"_s).toString();
     if (url.isEmpty())
@@ -48,6 +68,7 @@ QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     Greeting result;
     result.url = parseBaseUrl(url);
     result.sample = {sample.value(u"email"_s).toString(), sample.value(u"password"_s).toString()};
+    result.setAside = greeting.value(u"setAside"_s).toString();
     co_return result;
 }
 

@@ -1,12 +1,10 @@
 #include "app/Places.h"
 
-#include "app/WindowFrame.h"
 #include "base/PrivateFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 #include <QStandardPaths>
 
 namespace kiv::app {
@@ -37,6 +35,7 @@ Places in(const QString &config, const QString &data, const QString &state) {
             .workspaceDir = data + u"/workspace"_s,
             .stateFile = state + u"/window.conf"_s,
             .logFile = state + u"/kiv.log"_s,
+            .lockFile = state + u"/lock"_s,
             .sandboxProgram = findSandbox(),
             .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
             .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
@@ -78,14 +77,11 @@ Places Places::below(const QString &folder) {
 }
 
 void Places::adoptEarlier() const {
-    if (!profile.isEmpty()) {
-        const QDir dir(profile);
-        for (const QString &now : {settingsFile, cookieFile, draftsFile, workspaceDir})
-            move(dir.filePath(QFileInfo(now).fileName()), now);
-    }
-    QSettings settings(settingsFile, QSettings::IniFormat);
-    QSettings state(stateFile, QSettings::IniFormat);
-    WindowFrame::moveFrame(settings, state);
+    if (profile.isEmpty())
+        return;
+    const QDir dir(profile);
+    for (const QString &now : {settingsFile, cookieFile, draftsFile, workspaceDir})
+        move(dir.filePath(QFileInfo(now).fileName()), now);
 }
 
 } // namespace kiv::app

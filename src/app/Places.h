@@ -14,6 +14,7 @@ struct Places {
     QString workspaceDir;   ///< data of the embedded workspace
     QString stateFile;      ///< where the window was
     QString logFile;        ///< what went wrong
+    QString lockFile;       ///< tells that a program runs, where nothing else does
     QString sandboxProgram; ///< the embedded workspace server
     QString webPlugin;      ///< what shows pages, its file's ending left out
     QString micPlugin;      ///< what knows the microphones, likewise
@@ -23,8 +24,8 @@ struct Places {
     /// Everything below `folder`: a profile of its own, which shares nothing with the desktop.
     static Places below(const QString &folder);
 
-    /// Moves what earlier versions kept elsewhere to where it is kept now, once. What cannot be
-    /// moved stays, and nothing that is there already is replaced.
+    /// Moves files that earlier versions kept elsewhere to where they are kept now, once. What
+    /// cannot be moved stays, and nothing that is there already is replaced.
     void adoptEarlier() const;
 };
 

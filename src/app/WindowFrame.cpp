@@ -18,6 +18,8 @@ const QString frameKey = u"NSWindow Frame ZandorMain"_s;
 const QString maximizedKey = u"zandor.windowMaximized"_s;
 constexpr auto saveDelay = 200ms;
 constexpr QSize leastSize(1024, 680);
+/// No desktop is larger, in either direction.
+constexpr int farthest = 1'000'000;
 
 QString toText(const QRect &rect) {
     return u"%1 %2 %3 %4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
@@ -47,7 +49,7 @@ std::optional<QRect> WindowFrame::restored() const {
     for (const QString &number : numbers) {
         bool isNumber = false;
         read.append(number.toInt(&isNumber));
-        if (!isNumber)
+        if (!isNumber || read.last() < -farthest || read.last() > farthest)
             return std::nullopt;
     }
     if (read.size() < 4 || read[2] <= 0 || read[3] <= 0)

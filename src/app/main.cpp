@@ -25,7 +25,8 @@ QString startToken() {
 /// Runs the program, or leaves what it was asked to the one that runs.
 int run(const kiv::app::Options &options, const QString &token) {
     using kiv::desktop::Instance;
-    Instance instance(QDBusConnection::sessionBus(), options.places.profile);
+    Instance instance(QDBusConnection::sessionBus(), options.places.profile,
+                      options.places.lockFile);
     // What keeps nothing may run beside others.
     const Instance::Place place = options.snapshot
                                       ? Instance::Place::First

@@ -6,10 +6,13 @@
 
 namespace kiv {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto ownerFile = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 constexpr auto ownerFolder = ownerFile | QFileDevice::ExeOwner;
+constexpr auto asideSuffix = ".damaged"_L1;
 
 } // namespace
 
@@ -25,6 +28,33 @@ QString PrivateFile::write(const QString &path, const QByteArray &bytes) {
     const bool written = file.open(QIODevice::WriteOnly) && file.setPermissions(ownerFile) &&
                          file.write(bytes) == bytes.size() && file.commit();
     return written ? QString() : file.errorString();
+}
+
+std::optional<QByteArray> PrivateFile::read(const QString &path, qint64 most) {
+    QFile file(path);
+    // A pipe would be waited for.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.read(most + 1);
+    if (bytes.size() > most || file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return bytes;
+}
+
+QString PrivateFile::setAside(const QString &path) {
+    const QString name = path + asideSuffix;
+    QString free = name;
+    for (int number = 2; QFileInfo::exists(free); ++number)
+        free = name + u'-' + QString::number(number);
+    return QDir().rename(path, free) ? free : QString();
+}
+
+void PrivateFile::removeSetAside(const QString &path) {
+    const QFileInfo info(path);
+    const QString name = info.fileName() + asideSuffix;
+    QDir folder = info.dir();
+    for (const QString &file : folder.entryList({name, name + u"-*"_s}, QDir::Files))
+        folder.remove(file);
 }
 
 } // namespace kiv

@@ -1,5 +1,6 @@
 #include "desktop/Instance.h"
 
+#include "base/PrivateFile.h"
 #include "desktop/DesktopId.h"
 
 #include <QCryptographicHash>
@@ -56,8 +57,8 @@ QString Instance::nameFor(const QString &profile) {
     return desktopId + u".Profile"_s + QString::fromLatin1(digest);
 }
 
-Instance::Instance(const QDBusConnection &bus, const QString &profile)
-    : m_bus(bus), m_name(nameFor(profile)) {}
+Instance::Instance(const QDBusConnection &bus, const QString &profile, const QString &lockFile)
+    : m_bus(bus), m_name(nameFor(profile)), m_lockFile(lockFile) {}
 
 Instance::~Instance() {
     if (!m_isOnBus)
@@ -79,10 +80,21 @@ bool Instance::take() {
     return m_isOnBus;
 }
 
+/// A place where no file can be made is no reason not to start.
+Instance::Place Instance::lock() {
+    if (m_lockFile.isEmpty())
+        return Place::First;
+    PrivateFile::makeFolderOf(m_lockFile);
+    m_lock = std::make_unique<QLockFile>(m_lockFile);
+    m_lock->setStaleLockTime(0); // a program may run for days
+    const bool isTaken = !m_lock->tryLock() && m_lock->error() == QLockFile::LockFailedError;
+    return isTaken ? Place::NoAnswer : Place::First;
+}
+
 Instance::Place Instance::claim(const QStringList &links, const QString &token,
                                 std::chrono::milliseconds patience) {
     if (!m_bus.isConnected())
-        return Place::First;
+        return lock();
     for (const bool isLastTry : {false, true}) {
         if (take())
             return Place::First;

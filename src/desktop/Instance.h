@@ -1,17 +1,19 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QLockFile>
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
 
 #include <chrono>
+#include <memory>
 
 namespace kiv::desktop {
 
 /// The program's place on the session bus (`org.freedesktop.Application`). A profile is used by
-/// one running program; a second start hands what it was asked to the first and ends. A session
-/// without a bus has no second start to know of: everyone is the first.
+/// one running program; a second start hands what it was asked to the first and ends. Where there
+/// is no bus, a file tells of the first, which cannot be asked for anything then.
 class Instance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -20,8 +22,9 @@ public:
     /// answer.
     enum class Place { First, HandedOver, NoAnswer };
 
-    /// `profile` is the folder of a profile of its own; empty for the user's.
-    Instance(const QDBusConnection &bus, const QString &profile);
+    /// `profile` is the folder of a profile of its own; empty for the user's. `lockFile` is what
+    /// tells of a running program without a bus; empty for nothing.
+    Instance(const QDBusConnection &bus, const QString &profile, const QString &lockFile = {});
     ~Instance() override;
 
     /// Takes the place, or hands `links` (to raise the window: none) over with the token that the
@@ -46,9 +49,12 @@ Q_SIGNALS:
 
 private:
     bool take();
+    Place lock();
 
     QDBusConnection m_bus;
     QString m_name;
+    QString m_lockFile;
+    std::unique_ptr<QLockFile> m_lock;
     bool m_isOnBus = false;
 };
 

@@ -1,10 +1,12 @@
 #include "desktop/LogFile.h"
 
+#include "base/PrivateFile.h"
 #include "desktop/LogText.h"
 
 #include <QDateTime>
-#include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace kiv::desktop {
 
@@ -51,9 +53,19 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &te
 } // namespace
 
 LogFile::LogFile(const QString &path, qint64 limit) : m_path(path), m_file(path), m_limit(limit) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+    PrivateFile::makeFolderOf(path);
+    // What cannot be written to is in the way of what can.
+    if (open() || (!PrivateFile::setAside(path).isEmpty() && open()))
+        return;
+    qWarning("The log cannot be written: %s", qUtf8Printable(m_file.errorString()));
+}
+
+bool LogFile::open() {
+    const bool isOpen =
+        m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
+    if (isOpen)
         m_file.setPermissions(ownerFile);
+    return isOpen;
 }
 
 LogFile::~LogFile() {
@@ -83,13 +95,14 @@ void LogFile::write(QtMsgType type, const QString &line) {
     m_file.write(bytes);
 }
 
+/// What cannot be moved away is begun anew: the log stays small whatever happens.
 void LogFile::rotate() {
     const QString old = m_path + u".1"_s;
     m_file.close();
     QFile::remove(old);
-    QFile::rename(m_path, old);
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        m_file.setPermissions(ownerFile);
+    if (!QFile::rename(m_path, old))
+        QFile::resize(m_path, 0);
+    open();
 }
 
 QStringList LogFile::lastLines(qsizetype count) const {
@@ -97,9 +110,11 @@ QStringList LogFile::lastLines(qsizetype count) const {
     QStringList lines;
     for (const QString &path : {m_path + u".1"_s, m_path}) {
         QFile file(path);
-        if (!file.open(QIODevice::ReadOnly))
+        if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
             continue;
-        lines += QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+        // One of another origin may be of any size.
+        file.seek(std::max(file.size() - m_limit, qint64{0}));
+        lines += QString::fromUtf8(file.read(m_limit)).split(u'\n', Qt::SkipEmptyParts);
     }
     return lines.last(std::min(count, lines.size()));
 }

@@ -11,7 +11,8 @@ namespace kiv::desktop {
 /// written and the one before.
 class LogFile {
 public:
-    /// A file holds no more than about `limit` bytes. Nothing is written when it cannot be.
+    /// A file holds no more than about `limit` bytes. One that cannot be written to is set aside;
+    /// nothing is written where there can be no other.
     explicit LogFile(const QString &path, qint64 limit = 1'000'000);
     LogFile(const LogFile &) = delete;
     LogFile &operator=(const LogFile &) = delete;
@@ -26,6 +27,7 @@ public:
     QStringList lastLines(qsizetype count) const;
 
 private:
+    bool open();
     void rotate();
 
     mutable QMutex m_mutex;

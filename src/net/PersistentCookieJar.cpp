@@ -51,6 +51,7 @@ PersistentCookieJar::PersistentCookieJar(QString file, Clock *clock, SecretStore
     : QNetworkCookieJar(parent), m_vault(std::move(file), clock, secrets) {
     connect(&m_vault, &SessionVault::found, this, &PersistentCookieJar::join);
     connect(&m_vault, &SessionVault::settled, this, &PersistentCookieJar::settled);
+    connect(&m_vault, &SessionVault::written, this, &PersistentCookieJar::written);
     setAllCookies(fromJson(m_vault.open()));
 }
 

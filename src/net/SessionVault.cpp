@@ -2,7 +2,7 @@
 
 #include "base/PrivateFile.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -16,21 +16,18 @@ namespace {
 
 constexpr auto chainKey = "inKeyChain"_L1;
 constexpr auto cookiesKey = "cookies"_L1;
-
-struct Content {
-    bool inChain = false;
-    QJsonArray cookies;
-};
+/// What is larger was not written here.
+constexpr qint64 largestFile = 1024 * 1024;
 
 /// Nothing for what was not written by this program. A bare list has no key chain beside it.
-std::optional<Content> parse(const QByteArray &bytes) {
+std::optional<SessionVault::Content> parse(const QByteArray &bytes) {
     const QJsonDocument document = QJsonDocument::fromJson(bytes);
     if (document.isArray())
-        return Content{false, document.array()};
+        return SessionVault::Content{false, document.array()};
     if (!document.object().value(chainKey).isBool())
         return std::nullopt;
-    return Content{document.object().value(chainKey).toBool(),
-                   document.object().value(cookiesKey).toArray()};
+    return SessionVault::Content{document.object().value(chainKey).toBool(),
+                                 document.object().value(cookiesKey).toArray()};
 }
 
 QByteArray bytesOf(const QJsonArray &cookies) {
@@ -48,13 +45,13 @@ SessionVault::~SessionVault() {
 }
 
 QJsonArray SessionVault::open() {
-    QFile file(m_file);
     Content content;
-    if (file.open(QIODevice::ReadOnly)) {
-        if (auto read = parse(file.readAll()))
+    if (QFileInfo::exists(m_file)) {
+        const auto bytes = PrivateFile::read(m_file, largestFile);
+        if (auto read = bytes ? parse(*bytes) : std::nullopt)
             content = std::move(*read);
         else
-            qWarning("The saved session cannot be read; sign in again.");
+            setAside(content);
     }
     m_cookies = content.cookies;
     m_inChain = content.inChain;
@@ -77,6 +74,13 @@ QJsonArray SessionVault::open() {
         stopWaiting();
     });
     return m_cookies;
+}
+
+/// Nobody knows any more what stood there: the key chain may still have the session.
+void SessionVault::setAside(Content &content) {
+    qWarning("The saved session cannot be read; its file is set aside");
+    m_setAside = PrivateFile::setAside(m_file);
+    content.inChain = m_secrets != nullptr;
 }
 
 void SessionVault::take(SecretStore::Outcome outcome, const QByteArray &secret) {
@@ -125,6 +129,7 @@ void SessionVault::forget() {
     m_readTimer.stop();
     m_handTimer.stop();
     QFile::remove(m_file);
+    PrivateFile::removeSetAside(m_file);
     if (m_secrets && mayBeInChain)
         m_secrets->remove();
     m_inChain = false;
@@ -179,6 +184,7 @@ void SessionVault::writeFile(bool inChain, const QJsonArray &cookies) {
     const QString failure = PrivateFile::write(m_file, QJsonDocument(content).toJson());
     if (!failure.isEmpty())
         qWarning("The session cannot be saved: %s", qUtf8Printable(failure));
+    Q_EMIT written(failure);
 }
 
 } // namespace kiv::net

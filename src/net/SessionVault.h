@@ -18,6 +18,12 @@ namespace kiv::net {
 class SessionVault : public QObject {
     Q_OBJECT
 public:
+    /// What the file says.
+    struct Content {
+        bool inChain = false;
+        QJsonArray cookies;
+    };
+
     /// How long anybody waits for an answer of the key chain.
     static constexpr Clock::Milliseconds patience{4000};
 
@@ -25,8 +31,11 @@ public:
     explicit SessionVault(QString file, Clock *clock = nullptr, SecretStore *secrets = nullptr);
     ~SessionVault() override;
 
-    /// What the file holds. When it says that the rest is in the key chain, that is asked too.
+    /// What the file holds. When it says that the rest is in the key chain, that is asked too. A
+    /// file that cannot be read is set aside.
     QJsonArray open();
+    /// Where a damaged file has gone; empty when there was none.
+    const QString &setAside() const { return m_setAside; }
     /// The key chain may still have cookies where the file has none: to know who is signed in one
     /// must wait for settled(), which comes within `patience`.
     bool isWaiting() const { return m_waiting; }
@@ -39,8 +48,11 @@ Q_SIGNALS:
     /// What the key chain held; at most once, perhaps long after settled().
     void found(const QJsonArray &cookies);
     void settled();
+    /// The file has been written, or why it has not.
+    void written(const QString &failure);
 
 private:
+    void setAside(Content &content);
     void take(SecretStore::Outcome outcome, const QByteArray &secret);
     void stopWaiting();
     void hand();
@@ -48,6 +60,7 @@ private:
     void writeFile(bool inChain, const QJsonArray &cookies);
 
     QString m_file;
+    QString m_setAside;
     Clock *m_clock;
     SecretStore *m_secrets;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true); ///< answers outlive the vault

@@ -67,6 +67,7 @@ void AppStore::retranslate() {
     m_canvas.retranslate();
     m_events.events()->refreshAges();
     m_create.retranslate();
+    m_storage.retranslate();
     Q_EMIT retranslated();
 }
 

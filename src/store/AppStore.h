@@ -20,6 +20,7 @@
 #include "store/MicrophoneRoom.h"
 #include "store/ScopeRoom.h"
 #include "store/SessionRoom.h"
+#include "store/StorageRoom.h"
 #include "store/UpdateRoom.h"
 
 #include <QObject>
@@ -48,6 +49,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::SessionRoom *session READ session CONSTANT)
     Q_PROPERTY(kiv::store::EventsRoom *events READ events CONSTANT)
     Q_PROPERTY(kiv::store::ConnectionRoom *connection READ connection CONSTANT)
+    Q_PROPERTY(kiv::store::StorageRoom *storage READ storage CONSTANT)
     Q_PROPERTY(kiv::store::Calendar *calendar READ calendar CONSTANT)
     Q_PROPERTY(kiv::store::MicrophoneRoom *microphone READ microphone CONSTANT)
     Q_PROPERTY(kiv::store::DictationRoom *dictation READ dictation CONSTANT)
@@ -74,6 +76,7 @@ public:
     SessionRoom *session() { return &m_session; }
     EventsRoom *events() { return &m_events; }
     ConnectionRoom *connection() { return &m_connection; }
+    StorageRoom *storage() { return &m_storage; }
     Calendar *calendar() { return &m_calendar; }
     MicrophoneRoom *microphone() { return &m_microphone; }
     DictationRoom *dictation() { return &m_dictation; }
@@ -116,6 +119,7 @@ private:
     Mode m_mode;
     web::WebHost *m_webHost = nullptr;
     net::ChatStreamClient m_chatStream;
+    StorageRoom m_storage;
     ScopeRoom m_scope;
     LayoutRoom m_layout;
     ChatRoom m_chat;

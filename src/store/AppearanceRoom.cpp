@@ -53,8 +53,8 @@ QLocale localeFor(Language choice) {
 /// The step of the scale that a percentage is nearest to.
 int textStepNear(int percent) {
     constexpr int step = AppearanceRoom::textStep;
-    return std::clamp((percent + step / 2) / step * step, AppearanceRoom::leastText,
-                      AppearanceRoom::mostText);
+    const int near = std::clamp(percent, AppearanceRoom::leastText, AppearanceRoom::mostText);
+    return (near + step / 2) / step * step;
 }
 
 } // namespace

@@ -40,6 +40,11 @@ ChatRoom::ChatRoom(AppStore &store, const QString &draftsFile)
     setFeedWindow(feedStep);
     m_msgs.append(localMsg(Who::Agent, signedOutGreeting));
     connect(&m_msgs, &MessageModel::countChanged, this, &ChatRoom::countUnseen);
+    StorageRoom *storage = store.storage();
+    storage->reportDamage(StorageRoom::Kept::Typed, m_drafts.setAside());
+    m_drafts.setReport(
+        [storage](const QString &why) { storage->reportTrouble(StorageRoom::Kept::Typed, why); });
+    connect(storage, &StorageRoom::retryRequested, this, [this] { m_drafts.retry(); });
 }
 
 bool ChatRoom::isShown() const {

@@ -21,4 +21,9 @@ void ConnectionRoom::retryNow() {
     m_store.net().environment().connectivity->probe(m_store.net().baseUrl());
 }
 
+void ConnectionRoom::startAgain() {
+    m_failure = QString();
+    Q_EMIT startRequested();
+}
+
 } // namespace kiv::store

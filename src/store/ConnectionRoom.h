@@ -14,24 +14,34 @@ class ConnectionRoom : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(bool offline READ offline NOTIFY offlineChanged)
+    Q_PROPERTY(QString failure READ failure NOTIFY failureChanged)
 public:
     explicit ConnectionRoom(AppStore &store);
 
     /// Requests wait for the connection.
     bool offline() const { return m_offline; }
 
+    /// Why there is no backend to talk to; empty when there is one.
+    QString failure() const { return m_failure; }
+
     /// Asks the server itself, whatever the system says.
     Q_INVOKABLE void retryNow();
+    /// Starts the backend that could not be started.
+    Q_INVOKABLE void startAgain();
 
     /// Takes up what is known of the connection.
     void look();
+    void setFailure(const QString &why) { m_failure = why; }
 
 Q_SIGNALS:
     void offlineChanged();
+    void failureChanged();
+    void startRequested();
 
 private:
     AppStore &m_store;
     Q_OBJECT_BINDABLE_PROPERTY(ConnectionRoom, bool, m_offline, &ConnectionRoom::offlineChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ConnectionRoom, QString, m_failure, &ConnectionRoom::failureChanged)
 };
 
 } // namespace kiv::store

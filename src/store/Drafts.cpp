@@ -2,13 +2,14 @@
 
 #include "base/PrivateFile.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QtConcurrentRun>
 
 #include <algorithm>
+#include <utility>
 
 namespace kiv::store {
 
@@ -20,6 +21,8 @@ namespace {
 /// What is typed is saved in its pauses, and now and then when there are none.
 constexpr auto pause = 150ms;
 constexpr auto longestUnsaved = 500ms;
+/// How long a disk that took nothing is left alone.
+constexpr auto nextAttempt = 5s;
 constexpr qsizetype mostSaved = 50;
 /// In UTF-16 units, of one draft and of all.
 constexpr qsizetype longestSaved = 64 * 1024;
@@ -39,22 +42,23 @@ QString beginning(const QString &text) {
                                                                   : longestSaved);
 }
 
-void write(const QString &file, const QByteArray &content) {
-    const QString failure = PrivateFile::write(file, content);
-    if (!failure.isEmpty())
-        qWarning("What is being typed cannot be saved: %s", qUtf8Printable(failure));
-}
-
 } // namespace
 
 Drafts::Drafts(Clock &clock, QString file) : m_clock(clock), m_file(std::move(file)) {
+    QObject::connect(&m_writing, &QFutureWatcherBase::finished, &m_writing,
+                     [this] { settle(m_writing.result()); });
     load();
 }
 
 Drafts::~Drafts() {
+    m_report = nullptr;
+    m_writing.disconnect();
     m_writing.waitForFinished();
-    if (m_unsavedSince)
-        write(m_file, content());
+    if (m_writing.future().resultCount() > 0)
+        settle(m_writing.result());
+    const QString failure = m_unsavedSince ? PrivateFile::write(m_file, content()) : QString();
+    if (!failure.isEmpty())
+        qWarning("What was being typed is lost: %s", qUtf8Printable(failure));
 }
 
 QString Drafts::text(const QString &user, const QString &chat) const {
@@ -80,16 +84,31 @@ void Drafts::forget(const QString &user) {
 }
 
 void Drafts::load() {
-    QFile file(m_file);
-    if (m_file.isEmpty() || file.size() > largestFile || !file.open(QIODevice::ReadOnly))
+    if (m_file.isEmpty() || !QFileInfo::exists(m_file))
         return;
-    const QJsonArray entries = QJsonDocument::fromJson(file.readAll()).array();
+    const auto content = PrivateFile::read(m_file, largestFile);
+    if (content && take(*content))
+        return;
+    m_setAside = PrivateFile::setAside(m_file);
+    qWarning("What was being typed cannot be read, or not all of it; the file is set aside");
+    if (!m_drafts.isEmpty())
+        scheduleSave();
+}
+
+/// Takes what can be understood; false when that is not everything.
+bool Drafts::take(const QByteArray &content) {
+    const QJsonDocument document = QJsonDocument::fromJson(content);
+    bool isWhole = document.isArray();
+    const QJsonArray entries = document.array();
     for (const QJsonValue entry : entries) {
         const Draft draft{entry[userKey].toString(), entry[chatKey].toString(),
                           entry[textKey].toString()};
-        if (!draft.chat.isEmpty() && !draft.text.isEmpty())
+        if (draft.chat.isEmpty() || draft.text.isEmpty())
+            isWhole = false;
+        else
             m_drafts.append(draft);
     }
+    return isWhole;
 }
 
 void Drafts::scheduleSave() {
@@ -98,6 +117,8 @@ void Drafts::scheduleSave() {
     const auto now = m_clock.elapsed();
     if (!m_unsavedSince)
         m_unsavedSince = now;
+    if (!m_failure.isEmpty())
+        return; // the next attempt takes it along
     const auto latest = *m_unsavedSince + longestUnsaved;
     m_saveTimer = m_clock.after(std::clamp(latest - now, 0ms, Clock::Milliseconds(pause)),
                                 [this] { save(); });
@@ -110,7 +131,27 @@ void Drafts::save() {
         return;
     }
     m_unsavedSince.reset();
-    m_writing = QtConcurrent::run(write, m_file, content());
+    m_writing.setFuture(QtConcurrent::run(PrivateFile::write, m_file, content()));
+}
+
+void Drafts::retry() {
+    if (!m_failure.isEmpty())
+        save();
+}
+
+/// What the disk does not take stays here, and is tried again.
+void Drafts::settle(const QString &failure) {
+    if (!failure.isEmpty()) {
+        if (!m_unsavedSince)
+            m_unsavedSince = m_clock.elapsed();
+        m_saveTimer = m_clock.after(nextAttempt, [this] { save(); });
+    }
+    if (std::exchange(m_failure, failure) == failure)
+        return;
+    if (!failure.isEmpty())
+        qWarning("What is being typed cannot be saved: %s", qUtf8Printable(failure));
+    if (m_report)
+        m_report(failure);
 }
 
 /// As many of the newest as fit.

@@ -2,18 +2,22 @@
 
 #include "base/Clock.h"
 
-#include <QFuture>
+#include <QFutureWatcher>
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace kiv::store {
 
 /// What each person has begun to type in each chat. It survives a restart in a file that only this
-/// user can read; what of such a file cannot be understood is left out.
+/// user can read. A file that is not understood whole is set aside; what of it is, is taken.
 class Drafts {
 public:
+    /// Told why drafts cannot be saved, and nothing when they are again.
+    using Report = std::function<void(const QString &why)>;
+
     /// An empty `file` keeps nothing beyond this object. The clock outlives it.
     Drafts(Clock &clock, QString file);
     Drafts(const Drafts &) = delete;
@@ -25,6 +29,12 @@ public:
     /// Drops everything of this person.
     void forget(const QString &user);
 
+    void setReport(Report report) { m_report = std::move(report); }
+    /// Where a damaged file has gone; empty when there was none.
+    const QString &setAside() const { return m_setAside; }
+    /// Tries again at once what could not be saved.
+    void retry();
+
 private:
     struct Draft {
         QString user;
@@ -33,8 +43,10 @@ private:
     };
 
     void load();
+    bool take(const QByteArray &content);
     void scheduleSave();
     void save();
+    void settle(const QString &failure);
     QByteArray content() const;
 
     Clock &m_clock;
@@ -43,7 +55,10 @@ private:
     Clock::Timer m_saveTimer;
     /// Since when something is not saved, on the clock's scale.
     std::optional<Clock::Milliseconds> m_unsavedSince;
-    QFuture<void> m_writing;
+    QString m_failure; ///< of the last writing
+    QString m_setAside;
+    Report m_report;
+    QFutureWatcher<QString> m_writing;
 };
 
 } // namespace kiv::store

@@ -149,7 +149,7 @@ void SessionRoom::closeAuthSheet() {
 
 void SessionRoom::reportUnavailable(const QString &why) {
     m_store.scope()->setSignedOut();
-    m_store.chat()->msgs()->append(localMsg(Who::Agent, why));
+    m_store.connection()->setFailure(why);
 }
 
 void SessionRoom::logout() {

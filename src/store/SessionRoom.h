@@ -55,7 +55,7 @@ public:
     void enterLive(const net::MeUser &user);
     void resetToAnon();
     void offerSample(const SampleAccount &account);
-    /// There is no backend to talk to; says why in the conversation.
+    /// There is no backend to talk to, and why.
     void reportUnavailable(const QString &why);
 
 Q_SIGNALS:

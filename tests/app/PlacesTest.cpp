@@ -1,6 +1,7 @@
 #include "app/Places.h"
 #include "app/WindowFrame.h"
 
+#include "base/SettingsFile.h"
 #include "support/ManualClock.h"
 
 #include <QDir>
@@ -71,7 +72,7 @@ private Q_SLOTS:
         const Places places = Places::below(folder.path());
         // Twice: the second time there is nothing left to do.
         for (int start = 0; start < 2; ++start) {
-            places.adoptEarlier();
+            adopt(places);
             QCOMPARE(contentOf(places.cookieFile), "[1]"_ba);
             QCOMPARE(contentOf(places.draftsFile), "[2]"_ba);
             QCOMPARE(contentOf(places.workspaceDir + u"/kiv.db"_s), "3"_ba);
@@ -91,7 +92,7 @@ private Q_SLOTS:
         const Places places = Places::standard();
         put(places.settingsFile, earlierSettings);
         put(places.cookieFile, "[1]");
-        places.adoptEarlier();
+        adopt(places);
         checkFrame(places);
         QCOMPARE(contentOf(places.cookieFile), "[1]"_ba);
     }
@@ -103,7 +104,7 @@ private Q_SLOTS:
         put(places.draftsFile, "new");
         put(folder.filePath(u"kiv.conf"_s), earlierSettings);
         put(places.stateFile, "[General]\nzandor.windowMaximized=false\n");
-        places.adoptEarlier();
+        adopt(places);
         QCOMPARE(contentOf(places.draftsFile), "new"_ba);
         QCOMPARE(contentOf(folder.filePath(u"drafts"_s)), "old"_ba);
         QSettings state(places.stateFile, QSettings::IniFormat);
@@ -112,11 +113,18 @@ private Q_SLOTS:
 
     void nothingIsMadeWhereThereWasNothing() {
         const QTemporaryDir folder;
-        Places::below(folder.path()).adoptEarlier();
+        adopt(Places::below(folder.path()));
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
 private:
+    /// As a start does.
+    static void adopt(const Places &places) {
+        places.adoptEarlier();
+        SettingsFile settings(places.settingsFile);
+        SettingsFile state(places.stateFile);
+        WindowFrame::moveFrame(settings, state);
+    }
     static void checkFrame(const Places &places) {
         test::ManualClock clock;
         QSettings state(places.stateFile, QSettings::IniFormat);

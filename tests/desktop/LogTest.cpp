@@ -1,6 +1,7 @@
 #include "desktop/Diagnostics.h"
 #include "desktop/LogFile.h"
 #include "desktop/LogText.h"
+#include "support/Damage.h"
 
 #include <QDir>
 #include <QLoggingCategory>
@@ -109,7 +110,39 @@ private Q_SLOTS:
             QVERIFY2(text.split(u'\n').contains(line), qPrintable(text));
     }
 
+    void damaged_data() {
+        QTest::addColumn<int>("damage");
+        for (int i = 0; i < test::damages().size(); ++i)
+            QTest::newRow(test::damages().at(i).name) << i;
+    }
+    /// Whatever stands there: the next line is written, and found again without reading it all.
+    void damaged() {
+        QFETCH(int, damage);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"kiv.log"_s);
+        test::putContent(path, "2026-01-01T00:00:00.000Z info before\n");
+        test::damages().at(damage).strike(path);
+        LogFile log(path, 2000);
+        log.write(QtInfoMsg, u"after"_s);
+        const QStringList lines = log.lastLines(5);
+        QVERIFY(!lines.isEmpty() && lines.last().endsWith(u"info after"_s));
+        QVERIFY(lines.join(QString()).size() <= 4000);
+    }
+
+    /// What stands in the way of the older file is no reason to grow for ever.
+    void staysSmallWithoutTheOlderFile() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"kiv.log"_s);
+        test::putContent(path + u".1/inside"_s, "x");
+        LogFile log(path, 2000);
+        for (int line = 0; line < 500; ++line)
+            log.write(QtInfoMsg, u"line %1"_s.arg(line));
+        QCOMPARE_LE(QFileInfo(path).size(), 2000);
+        QVERIFY(log.lastLines(1).value(0).endsWith(u"line 499"_s));
+    }
+
     void aPlaceThatCannotBeWrittenIsNoReasonToEnd() {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^The log cannot be written: ."_s));
         LogFile log(u"/proc/none/kiv.log"_s);
         log.write(QtInfoMsg, u"nowhere"_s);
         QCOMPARE(log.lastLines(5), QStringList());
@@ -118,5 +151,11 @@ private Q_SLOTS:
 
 } // namespace kiv::desktop
 
-QTEST_GUILESS_MAIN(kiv::desktop::LogTest)
+int main(int argc, char **argv) {
+    kiv::test::becomeOrdinaryUser();
+    QCoreApplication application(argc, argv);
+    kiv::desktop::LogTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "LogTest.moc"

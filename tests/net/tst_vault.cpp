@@ -1,8 +1,10 @@
 // Where the session is kept: the key chain in all its moods, the file, and the way between them.
 
 #include "net/PersistentCookieJar.h"
+#include "support/Damage.h"
 #include "support/ManualClock.h"
 
+#include <QDir>
 #include <QFile>
 #include <QNetworkCookie>
 #include <QSignalSpy>
@@ -295,6 +297,59 @@ private Q_SLOTS:
         QVERIFY(!at.jar->isWaiting());
     }
 
+    /// Whatever stands in the file's place, it is set aside, the next session is kept, and signing
+    /// out leaves no copy of a credential.
+    void aDamagedFileIsSetAside_data() {
+        QTest::addColumn<int>("damage");
+        for (int i = 0; i < test::damages().size(); ++i)
+            QTest::newRow(test::damages().at(i).name) << i;
+    }
+    void aDamagedFileIsSetAside() {
+        QFETCH(int, damage);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"cookies"_s);
+        {
+            PersistentCookieJar jar(path);
+            jar.setCookiesFromUrl({QNetworkCookie("sid", "first")}, server);
+        }
+        test::damages().at(damage).strike(path);
+        {
+            PersistentCookieJar jar(path);
+            QCOMPARE(jar.setAside(), path + u".damaged"_s);
+            QVERIFY(jar.cookiesForUrl(server).isEmpty());
+            jar.setCookiesFromUrl({QNetworkCookie("sid", "second")}, server);
+        }
+        PersistentCookieJar jar(path);
+        QCOMPARE(jar.setAside(), QString());
+        QCOMPARE(jar.cookiesForUrl(server).value(0).value(), "second"_ba);
+        jar.clear();
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList());
+    }
+
+    /// The file said whether the chain has the session: without it, the chain is asked.
+    void theChainIsAskedWhenTheFileIsDamaged() {
+        Runs at;
+        at.keepInChain("first");
+        test::putContent(at.path(), "{\"inKeyCh");
+        at.start();
+        QVERIFY(at.jar->isWaiting());
+        at.secrets.answer();
+        QCOMPARE(at.session(), "first"_ba);
+    }
+
+    void aSessionThatCannotBeSavedIsTold() {
+        const QTemporaryDir folder;
+        test::putContent(folder.filePath(u"file"_s), {});
+        PersistentCookieJar jar(folder.filePath(u"file/cookies"_s));
+        QSignalSpy written(&jar, &PersistentCookieJar::written);
+        jar.setCookiesFromUrl({QNetworkCookie("sid", "first")}, server);
+        QTRY_COMPARE(written.size(), 1);
+        QVERIFY(!written.first().first().toString().isEmpty());
+        QFile::remove(folder.filePath(u"file"_s));
+        jar.save();
+        QCOMPARE(written.last().first().toString(), QString());
+    }
+
     void answersMayOutliveTheProgram() {
         Runs at;
         at.keepInChain("first");
@@ -305,5 +360,11 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(Vault)
+int main(int argc, char **argv) {
+    kiv::test::becomeOrdinaryUser();
+    QCoreApplication application(argc, argv);
+    Vault test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_vault.moc"

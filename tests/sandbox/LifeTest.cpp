@@ -124,19 +124,6 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
-    void refusesABrokenDatabase() {
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"workspace.sqlite"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(8192, 'x'));
-        file.close();
-        SandboxProcess sandbox(folder.path());
-        QVERIFY(!sandbox.ready());
-        QTRY_COMPARE(sandbox.process().state(), QProcess::NotRunning);
-        QCOMPARE(sandbox.process().exitCode(), 2);
-        QVERIFY(sandbox.complaints().contains("database"));
-    }
-
     void oneServerToAFolder() {
         QTemporaryDir folder;
         SandboxProcess first(folder.path());

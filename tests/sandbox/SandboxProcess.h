@@ -18,6 +18,7 @@ public:
     int port() const;
     QString url() const { return m_first.value(QStringLiteral("url")).toString(); }
     QJsonObject sample() const { return m_first.value(QStringLiteral("sample")).toObject(); }
+    QString setAside() const { return m_first.value(QStringLiteral("setAside")).toString(); }
 
     QProcess &process() { return m_process; }
     /// Ends it by closing its standard input; false when it does not end in time or fails.

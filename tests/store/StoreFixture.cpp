@@ -65,14 +65,15 @@ StoreFixture::StoreFixture() {
     restart();
 }
 
-void StoreFixture::restart(store::AppStore::Mode mode) {
+void StoreFixture::restart(store::AppStore::Mode mode, const QString &draftsFile) {
     store.reset();
     client.reset();
     settings = std::make_unique<QSettings>(folder.filePath(u"kiv.conf"_s), QSettings::IniFormat);
     client = std::make_unique<net::APIClient>(clock, connectivity, folder.filePath(u"cookies"_s));
     client->setBaseUrl(backend.url());
-    store = std::make_unique<store::AppStore>(clock, *client, *settings,
-                                              folder.filePath(u"drafts"_s), mode);
+    store = std::make_unique<store::AppStore>(
+        clock, *client, *settings, draftsFile.isEmpty() ? folder.filePath(u"drafts"_s) : draftsFile,
+        mode);
 }
 
 bool StoreFixture::signIn() {

@@ -34,7 +34,8 @@ public:
     StoreFixture();
 
     /// A store as a fresh start of the program makes it.
-    void restart(store::AppStore::Mode mode = store::AppStore::Mode::Normal);
+    void restart(store::AppStore::Mode mode = store::AppStore::Mode::Normal,
+                 const QString &draftsFile = {});
     /// Boots into the signed-in state; true when the chat of the scope is connected.
     bool signIn();
     /// Makes the session check find nobody and boots.

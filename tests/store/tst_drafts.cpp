@@ -3,8 +3,10 @@
 #include "StoreFixture.h"
 
 #include "store/Drafts.h"
+#include "support/Damage.h"
 
 #include <QFile>
+#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -123,16 +125,51 @@ private Q_SLOTS:
             << "[null,7,{\"user\":1,\"chat\":\"c\",\"text\":[]}," + good + "]" << u"good"_s;
         QTest::newRow("huge") << "[" + good + "]" + QByteArray(5 * 1024 * 1024, ' ') << QString();
     }
+    /// What can be understood is there; all of it is kept beside what is typed from now on.
     void damagedFile() {
         QFETCH(QByteArray, content);
+        QFETCH(QString, draft);
         QTemporaryDir folder;
-        QFile file(folder.filePath(u"drafts"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
+        const QString path = folder.filePath(u"drafts"_s);
+        test::putContent(path, content);
         test::ManualClock clock;
-        const Drafts drafts(clock, file.fileName());
-        QTEST(drafts.text(u"u"_s, u"c"_s), "draft");
+        {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the file is set aside$"_s));
+            Drafts drafts(clock, path);
+            QCOMPARE(drafts.text(u"u"_s, u"c"_s), draft);
+            QCOMPARE(drafts.setAside(), path + u".damaged"_s);
+            drafts.setText(u"u"_s, u"d"_s, u"new"_s);
+        }
+        QCOMPARE(test::contentOf(path + u".damaged"_s), content);
+        const Drafts drafts(clock, path);
+        QCOMPARE(drafts.setAside(), QString());
+        QCOMPARE(drafts.text(u"u"_s, u"d"_s), u"new"_s);
+        QCOMPARE(drafts.text(u"u"_s, u"c"_s), draft);
+    }
+
+    void whatStandsInThePlace_data() {
+        QTest::addColumn<int>("damage");
+        for (int i = 0; i < test::damages().size(); ++i)
+            QTest::newRow(test::damages().at(i).name) << i;
+    }
+    void whatStandsInThePlace() {
+        QFETCH(int, damage);
+        StoreFixture f;
+        const QString path = f.folder.filePath(u"drafts"_s);
+        test::putContent(path, R"([{"user":"ada@example.org","chat":"c","text":"t"}])");
+        test::damages().at(damage).strike(path);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"the file is set aside$"_s));
+        f.restart();
+        QVERIFY2(f.store->storage()->damage().contains(u"what was being typed"_s),
+                 qPrintable(f.store->storage()->damage()));
+        QVERIFY(QFileInfo::exists(f.store->storage()->damageFolder().toLocalFile() +
+                                  u"/drafts.damaged"_s));
+        QVERIFY(f.signIn());
+        f.store->chat()->setDraft(u"new"_s);
+        f.restart();
+        QCOMPARE(f.store->storage()->damage(), QString());
+        QVERIFY(f.signIn());
+        QCOMPARE(f.store->chat()->draft(), u"new"_s);
     }
 
     void fileIsBounded() {
@@ -162,11 +199,49 @@ private Q_SLOTS:
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
         test::ManualClock clock;
         Drafts drafts(clock, inTheWay.fileName() + u"/drafts"_s);
-        drafts.setText(u"u"_s, u"c"_s, u"text"_s);
+        QStringList reports;
+        drafts.setReport([&](const QString &why) { reports.append(why); });
         QTest::ignoreMessage(QtWarningMsg,
                              QRegularExpression(u"^What is being typed cannot be saved: ."_s));
+        drafts.setText(u"u"_s, u"c"_s, u"text"_s);
         clock.advance(1s);
+        QTRY_COMPARE(reports.size(), 1);
+        QVERIFY(!reports.last().isEmpty());
         QCOMPARE(drafts.text(u"u"_s, u"c"_s), u"text"_s);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(u"^What was being typed is lost: ."_s));
+    }
+
+    /// The person is told once, and the text is saved as soon as there is room.
+    void fullDisk() {
+        if (test::smallDisk().isEmpty())
+            QSKIP("This system lets nobody make a disk of their own");
+        const QString path = test::smallDisk() + u"/drafts"_s;
+        StoreFixture f;
+        f.restart(AppStore::Mode::Normal, path);
+        QVERIFY(f.signIn());
+        f.store->chat()->setDraft(u"before"_s);
+        f.clock.advance(1s);
+        QTRY_VERIFY(QFile::exists(path));
+        const QByteArray before = test::contentOf(path);
+        test::fillDisk();
+        QSignalSpy told(f.store->storage(), &StorageRoom::troubleChanged);
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression(u"^What is being typed cannot be saved: ."_s));
+        for (int attempt = 0; attempt < 4; ++attempt) {
+            f.store->chat()->setDraft(u"text "_s.repeated(2000) + QString::number(attempt));
+            f.clock.advance(6s);
+            QTest::qWait(20); // for the thread that writes
+        }
+        QTRY_COMPARE(told.size(), 1);
+        QVERIFY(f.store->storage()->trouble().startsWith(u"What you type is kept only while"_s));
+        QVERIFY(f.store->chat()->draft().endsWith(u" 3"_s));
+        QCOMPARE(test::contentOf(path), before); // nothing half written
+        test::clearDisk();
+        f.store->storage()->retry();
+        QTRY_COMPARE(told.size(), 2);
+        QCOMPARE(f.store->storage()->trouble(), QString());
+        QVERIFY(test::contentOf(path).contains("text 3"));
     }
 
     void editedAgain() {
@@ -201,5 +276,11 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(DraftsTest)
+int main(int argc, char **argv) {
+    kiv::test::becomeOrdinaryUser(256);
+    QCoreApplication application(argc, argv);
+    DraftsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_drafts.moc"

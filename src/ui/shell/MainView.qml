@@ -71,9 +71,29 @@ FocusScope {
         onActed: view.store.connection.retryNow()
     }
     Banner {
+        id: failureBanner
+
+        objectName: "failureBanner"
+        anchors.top: offlineBanner.bottom
+        width: parent.width
+        height: visible ? implicitHeight : 0
+        visible: view.store.connection.failure !== ""
+        iconName: "alert"
+        text: qsTr("The workspace cannot start: %1").arg(view.store.connection.failure)
+        action: qsTr("Try again")
+        onActed: view.store.connection.startAgain()
+    }
+    StorageBanners {
+        id: storageBanners
+
+        anchors.top: failureBanner.bottom
+        width: parent.width
+        storage: view.store.storage
+    }
+    Banner {
         id: updateBanner
 
-        anchors.top: offlineBanner.bottom
+        anchors.top: storageBanners.bottom
         width: parent.width
         height: visible ? implicitHeight : 0
         visible: view.store.update.offered
