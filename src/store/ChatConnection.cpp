@@ -9,9 +9,22 @@
 
 namespace kiv::store {
 
+using namespace std::chrono_literals;
+
 namespace {
 
 constexpr int historyLimit = 80;
+/// How soon a page that did not come is asked for again, and how seldom at last.
+constexpr Clock::Milliseconds firstPause = 2s;
+constexpr Clock::Milliseconds longestPause = 30s;
+
+/// The page of history that shows when a chat is opened.
+QCoro::Task<net::ChatPage> newestPage(net::APIClient *client, net::ChatTarget target,
+                                      Cancel cancel) {
+    if (target.isAgent())
+        return net::KivAPI::agentChatHistory(client, target.id(), historyLimit, std::move(cancel));
+    return net::KivAPI::projectChatHistory(client, target.id(), historyLimit, std::move(cancel));
+}
 
 QList<Msg> unsentOf(const QList<Msg> &messages) {
     QList<Msg> unsent;
@@ -88,28 +101,30 @@ void ChatRoom::setUnsentAside() {
         m_unsent[m_connected->streamPath()] += unsent;
 }
 
+/// A page that does not come is asked for again: the stream alone does not bring what was missed.
 QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Opening opening,
                                         Cancel cancel) {
-    m_historyLoading = true;
-    try {
-        net::ChatPage page;
-        if (target.isAgent())
-            page = co_await net::KivAPI::agentChatHistory(&m_store.net(), target.id(), historyLimit,
-                                                          cancel);
-        else
-            page = co_await net::KivAPI::projectChatHistory(&m_store.net(), target.id(),
-                                                            historyLimit, cancel);
-        if (gen == m_chatGen) {
-            showHistory(page.messages, opening);
-            m_store.call()->attachSharedVoiceHistory(target);
+    for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
+        m_historyLoading = true;
+        bool hasCome = false;
+        try {
+            const net::ChatPage page = co_await newestPage(&m_store.net(), target, cancel);
+            hasCome = true;
+            if (gen == m_chatGen) {
+                showHistory(page.messages, opening);
+                m_store.call()->attachSharedVoiceHistory(target);
+            }
+        } catch (const std::exception &) {
+            // What is shown stays; a chat that shows nothing yet greets.
+            cancel.throwIfRequested();
+            if (m_msgs.count() == 0)
+                m_msgs.append(liveGreeting());
         }
-    } catch (const std::exception &) {
-        // What is shown stays; a chat that shows nothing yet greets.
-        cancel.throwIfRequested();
-        if (m_msgs.count() == 0)
-            m_msgs.append(liveGreeting());
+        m_historyLoading = false;
+        if (hasCome)
+            co_return;
+        co_await m_store.clock().sleep(pause, cancel);
     }
-    m_historyLoading = false;
 }
 
 void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {

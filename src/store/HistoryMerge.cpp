@@ -65,12 +65,13 @@ qsizetype HistoryMerge::placeOf(const Msg &message) const {
     return above == m_merged.end() ? 0 : above - m_merged.begin() + 1;
 }
 
-/// A row with the same text that the screen did not show yet. Clocks differ: it counts unless it
-/// is clearly older.
+/// A row with the same text that the screen did not show yet. Where the row above it is not known,
+/// only the time tells whether it may be this one, and clocks differ: it counts unless it is clearly
+/// older.
 bool HistoryMerge::isStoredFormOf(const Msg &message, const Msg &stored) const {
     constexpr qint64 clockSkewSeconds = 120;
-    const bool mayBeLater =
-        !message.at || !stored.at || message.at->secsTo(*stored.at) > -clockSkewSeconds;
+    const bool mayBeLater = message.follows || !message.at || !stored.at ||
+                            message.at->secsTo(*stored.at) > -clockSkewSeconds;
     return mayBeLater && stored.who == Who::You && stored.serverID && stored.text == message.text &&
            !m_shownRows.contains(*stored.serverID) && !m_claimed.contains(*stored.serverID);
 }

@@ -10,10 +10,41 @@
 namespace kiv::store {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
 constexpr qsizetype leastPassword = 8;
+/// How soon what did not come at the start is asked for again, and how seldom at last.
+constexpr Clock::Milliseconds firstPause = 2s;
+constexpr Clock::Milliseconds longestPause = 30s;
+
+/// What of the workspace has not been loaded.
+struct Missing {
+    bool rail = true;
+    bool kiv = true;
+};
+
+/// Asks for what is missing; the result is what still is.
+QCoro::Task<Missing> loadWorkspace(ScopeRoom *scope, Missing missing, Cancel cancel) {
+    try {
+        if (missing.rail)
+            co_await scope->reloadRail(cancel);
+        missing.rail = false;
+    } catch (const std::exception &) {
+        // The rail of before stays.
+        cancel.throwIfRequested();
+    }
+    try {
+        if (missing.kiv)
+            co_await scope->resolveKiv(cancel);
+        missing.kiv = false;
+    } catch (const std::exception &) {
+        // Without it the global scope has nobody to talk to; everything else works.
+        cancel.throwIfRequested();
+    }
+    co_return missing;
+}
 
 /// What the person can change so that a refused attempt succeeds.
 AuthField fieldOf(const std::exception &error, bool signup) {
@@ -62,18 +93,7 @@ void SessionRoom::enterLive(const net::MeUser &user) {
 
 QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     ScopeRoom *scope = m_store.scope();
-    try {
-        co_await scope->reloadRail(cancel);
-    } catch (const std::exception &) {
-        // The rail of before stays.
-        cancel.throwIfRequested();
-    }
-    try {
-        co_await scope->resolveKiv(cancel);
-    } catch (const std::exception &) {
-        // Without it the global scope has nobody to talk to; everything else works.
-        cancel.throwIfRequested();
-    }
+    Missing missing = co_await loadWorkspace(scope, {}, cancel);
     scope->restoreScope();
     m_entering = false;
     m_store.door()->enter();
@@ -82,6 +102,16 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     if (!target || target != m_store.chat()->connected())
         m_store.chat()->connectChat();
     co_await scope->refreshUserAvatarIfNeeded(cancel);
+    for (auto pause = firstPause; missing.rail || missing.kiv;
+         pause = std::min(2 * pause, longestPause)) {
+        co_await m_store.clock().sleep(pause, cancel);
+        missing = co_await loadWorkspace(scope, missing, cancel);
+        // Where the person has gone meanwhile they stay.
+        if (scope->chatTarget() && !m_store.chat()->connected()) {
+            scope->restoreScope();
+            m_store.chat()->connectChat();
+        }
+    }
 }
 
 void SessionRoom::submitAuth(const QString &email, const QString &password, bool signup) {

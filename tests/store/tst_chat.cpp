@@ -236,6 +236,12 @@ private Q_SLOTS:
         f.backend.answer(u"GET "_s + test::ferryChat, "{}", 500);
         f.store->scope()->enterProject(u"ferry"_s);
         SOON_COMPARE(f.msgs().count(), 1);
+        // The line is up and brings nothing back: the page is asked for again.
+        SOON_VERIFY(!f.store->chat()->historyLoading());
+        f.history(test::ferryChat, "[" + rowJson(3, u"assistant"_s, u"missed"_s) + "]");
+        f.clock.advance(2s);
+        SOON_COMPARE(f.texts(), QStringList{u"missed"_s});
+        QCOMPARE(f.backend.count(u"GET "_s + test::ferryChat), 2);
     }
 
     void reconnectBringsWhatWasMissed() {

@@ -3,6 +3,7 @@
 #include "StoreFixture.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::kivGreeting;
@@ -76,6 +77,35 @@ private Q_SLOTS:
         QCOMPARE(f.texts().last(), u"This one exists only in the prototype so far — pick a real "
                                    "project or agent to chat."_s);
         QCOMPARE(f.store->canvas()->phase(), Phase::Idle);
+    }
+
+    /// What does not come at the start is asked for again, and only that.
+    void workspaceComesLate_data() {
+        QTest::addColumn<QString>("route");
+        QTest::addColumn<QByteArray>("answer");
+        QTest::newRow("orchestrator") << u"GET api/v2/orchestrator"_s << R"({"agent_id":"kiv"})"_ba;
+        QTest::newRow("projects") << u"GET api/v2/projects"_s
+                                  << R"({"projects":[{"slug":"ferry","label":"Night Ferry"}]})"_ba;
+    }
+    void workspaceComesLate() {
+        QFETCH(QString, route);
+        QFETCH(QByteArray, answer);
+        StoreFixture f;
+        f.backend.answer(route, "{}", 503);
+        f.store->boot();
+        SOON_COMPARE(f.msgs().messages().last().text, kivGreeting);
+        f.backend.answer(route, answer);
+        const auto isWhole = [&] {
+            return f.store->chat()->connected() && !f.store->scope()->projects().isEmpty();
+        };
+        QVERIFY(QTest::qWaitFor([&] {
+            f.clock.advance(50ms);
+            return isWhole();
+        }));
+        QCOMPARE(f.backend.count(route), 2);
+        QCOMPARE(f.backend.count(u"GET api/v2/projects"_s) +
+                     f.backend.count(u"GET api/v2/orchestrator"_s),
+                 3);
     }
 
     void savedScope_data() {

@@ -179,6 +179,22 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->phase(), Phase::Thinking);
     }
 
+    /// The reply is lost, the row comes with the page, and one of the clocks is wrong.
+    void storedFormIsFoundByItsPlace() {
+        StoreFixture f;
+        f.history(kivChat, "[" + rowJson(1, u"assistant"_s, u"hello"_s) + "]");
+        QVERIFY(f.signIn());
+        f.clock.advance(9h);
+        f.backend.answer(kivPost, "{}", 500);
+        f.store->chat()->send(u"hello"_s);
+        SOON_COMPARE(f.deliveryOf(1), Delivery::Failed);
+        f.history(kivChat, "[" + rowJson(1, u"assistant"_s, u"hello"_s) + "," +
+                               rowJson(2, u"user"_s, u"hello"_s) + "]");
+        f.store->chat()->refresh();
+        SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
+        QCOMPARE(f.msgs().count(), 2);
+    }
+
     void sentWhileLeaving() {
         StoreFixture f;
         QVERIFY(f.signIn());
