@@ -41,7 +41,7 @@ public:
 /// Where the bars, the line and the words of a cash flow lie in a plot. Periods share the width;
 /// where that would leave too little for their bars, the plot is wider than its view and scrolls.
 /// The width is that of the view, the height that of the plot, the font that of its labels.
-class CashflowPlot : public SceneLayout {
+class CashflowPlot : public kiv::ui::SceneLayout {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double headroom READ headroom NOTIFY fontChanged)

@@ -25,7 +25,7 @@ public:
 /// How the columns of a comparison share a width: figures always get the room that they need, text
 /// columns give way, and what still does not fit scrolls sideways beside the name column.
 /// Columns that are only padding are left out.
-class CompareColumns : public SceneLayout {
+class CompareColumns : public kiv::ui::SceneLayout {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString nameTitle READ nameTitle NOTIFY changed)

@@ -49,7 +49,7 @@ public:
 /// overlap go to a further row of their lane, and so do blocks that would cut a title short while
 /// there is height to spare. The lanes share the height as far as they have use for it. The width
 /// is that of the track, the font that of the titles.
-class LaneLayout : public SceneLayout {
+class LaneLayout : public kiv::ui::SceneLayout {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QList<kiv::ui::LaneRow> lanes READ lanes NOTIFY changed)

@@ -9,7 +9,8 @@
 namespace kiv::ui {
 
 /// Where the parts of a scene lie: made anew for another scene, another room or another font.
-/// Lengths are device-independent pixels.
+/// Lengths are device-independent pixels. Who derives from it names it in full: what tells QML of
+/// the types looks a base up as it is written.
 class SceneLayout : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
