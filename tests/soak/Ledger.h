@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+#include <QUuid>
+
+#include <map>
+#include <set>
+#include <tuple>
+
+namespace kiv::soak {
+
+/// A conversation of one person.
+struct Chat {
+    QString user;
+    QString path; ///< on the server
+
+    friend bool operator==(const Chat &, const Chat &) = default;
+    friend bool operator<(const Chat &a, const Chat &b) {
+        return std::tie(a.user, a.path) < std::tie(b.user, b.path);
+    }
+};
+
+/// A message that the person has sent.
+struct Sent {
+    Chat chat;
+    int most = 1; ///< rows that may come of it: one for each time it was sent
+    qsizetype files = 0;
+    QSet<qint64> rows; ///< that the screen has shown of it
+    bool isStored = false;
+    bool isGone = false; ///< the person has dropped it, or its text went into another message
+};
+
+/// What the person did and what they were shown: the screen and the server have to agree with it.
+/// Every message carries a number in its text, such as "#k17"; the last one counts.
+class Ledger {
+public:
+    static int numberIn(const QString &text);
+    static QString tag(int number);
+
+    /// The text of a new message, with its number.
+    QString numbered(const QString &text) { return text + u' ' + tag(++m_last); }
+    void send(const Chat &chat, const QString &text, qsizetype files);
+    /// The person does without what this text carries.
+    void drop(const QString &text);
+    void dropAll(const QString &user);
+
+    std::map<int, Sent> sent;
+    std::map<Chat, QString> drafts;   ///< as they were left
+    QHash<qint64, Chat> rows;         ///< where a stored row has been seen
+    QHash<QUuid, Chat> messages;      ///< where a message has been shown
+    QHash<qint64, qsizetype> lengths; ///< how long a stored row has been
+
+private:
+    int m_last = 0;
+};
+
+} // namespace kiv::soak

@@ -1,0 +1,157 @@
+#include "soak/Screen.h"
+
+#include "soak/Stage.h"
+
+namespace kiv::soak {
+
+using namespace Qt::StringLiterals;
+using store::Msg;
+
+namespace {
+
+/// What is wrong; empty when nothing is.
+using Check = QString (*)(Stage &);
+
+const QList<Msg> &shown(Stage &stage) {
+    return stage.store().chat()->msgs()->messages();
+}
+
+QString nothingTwice(Stage &stage) {
+    QSet<qint64> rows;
+    std::map<int, int> times;
+    for (const Msg &message : shown(stage)) {
+        if (message.serverID && rows.contains(*message.serverID))
+            return u"row %1 is shown twice"_s.arg(*message.serverID);
+        if (message.serverID)
+            rows.insert(*message.serverID);
+        if (message.who == store::Who::You)
+            ++times[Ledger::numberIn(message.text)];
+    }
+    for (const auto &[number, count] : times) {
+        const auto sent = stage.ledger.sent.find(number);
+        if (sent != stage.ledger.sent.end() && count > sent->second.most)
+            return u"message #k%1 is shown %2 times and was sent %3 times"_s.arg(number)
+                .arg(count)
+                .arg(sent->second.most);
+    }
+    return {};
+}
+
+/// Rows and messages of ours belong to the conversation that they stand in, and nothing stands
+/// where there is no conversation.
+QString nothingOfAnotherChat(Stage &stage) {
+    const auto chat = stage.chat();
+    for (const Msg &message : shown(stage)) {
+        if (!chat) {
+            if (message.serverID || message.isUnsent())
+                return u"\"%1\" is shown to nobody"_s.arg(message.text.left(60));
+            continue;
+        }
+        stage.ledger.messages.insert(message.id, *chat);
+        if (message.serverID && stage.ledger.rows.value(*message.serverID, *chat) != *chat)
+            return u"row %1 of another chat is shown"_s.arg(*message.serverID);
+        if (message.serverID)
+            stage.ledger.rows.insert(*message.serverID, *chat);
+        const auto sent = message.who == store::Who::You
+                              ? stage.ledger.sent.find(Ledger::numberIn(message.text))
+                              : stage.ledger.sent.end();
+        if (sent != stage.ledger.sent.end() && sent->second.chat != *chat)
+            return u"message #k%1 of another chat is shown"_s.arg(sent->first);
+        if (sent != stage.ledger.sent.end() && message.serverID)
+            sent->second.rows.insert(*message.serverID);
+    }
+    return {};
+}
+
+QString answersGrow(Stage &stage) {
+    for (const Msg &message : shown(stage)) {
+        if (!message.serverID)
+            continue;
+        qsizetype &length = stage.ledger.lengths[*message.serverID];
+        if (message.text.size() < length)
+            return u"row %1 has shrunk from %2 to %3 characters"_s.arg(*message.serverID)
+                .arg(length)
+                .arg(message.text.size());
+        length = message.text.size();
+    }
+    return {};
+}
+
+/// The draft is what was typed last in this chat. What an expired session or the end of the program
+/// kept from being sent may have come in front of it, when the chat is entered.
+QString draftIsKept(Stage &stage) {
+    const auto chat = stage.chat();
+    const bool isEntered = chat != std::exchange(stage.entered, chat);
+    if (!chat)
+        return {};
+    const QString draft = stage.store().chat()->draft();
+    QString &left = stage.ledger.drafts[*chat];
+    const bool isKept = isEntered ? draft.contains(left) : draft == left;
+    if (!isKept)
+        return u"the draft \"%1\" has become \"%2\""_s.arg(left.left(200), draft.left(200));
+    left = draft;
+    return {};
+}
+
+/// What is on the canvas comes from the conversation beside it.
+QString canvasBelongs(Stage &stage) {
+    const QUuid source = QUuid::fromString(stage.store().canvas()->sourceMessageId());
+    const bool isScene = stage.store().canvas()->state() == store::CanvasState::Scene;
+    const auto chat = stage.chat();
+    if (!isScene || !chat || stage.ledger.messages.value(source, *chat) == *chat)
+        return {};
+    return u"the canvas shows a scene of another chat"_s;
+}
+
+constexpr std::pair<const char *, Check> checks[] = {
+    {"nothing is shown twice", nothingTwice},
+    {"nothing of another chat is shown", nothingOfAnotherChat},
+    {"an answer only grows", answersGrow},
+    {"a draft is kept", draftIsKept},
+    {"the canvas belongs to the chat", canvasBelongs},
+};
+
+} // namespace
+
+Screen::Screen(Stage &stage) : m_stage(stage) {
+    store::AppStore &store = stage.store();
+    const store::MessageModel *messages = store.chat()->msgs();
+    const auto scheduled = [this] { schedule(); };
+    connect(messages, &QAbstractItemModel::rowsInserted, this, scheduled);
+    connect(messages, &QAbstractItemModel::rowsRemoved, this, scheduled);
+    connect(messages, &QAbstractItemModel::dataChanged, this, scheduled);
+    connect(store.chat(), &store::ChatRoom::draftChanged, this, scheduled);
+    connect(store.canvas(), &store::CanvasRoom::stateChanged, this, scheduled);
+    connect(store.scope(), &store::ScopeRoom::authChanged, this, [this] {
+        // Signing out by oneself drops what was typed; a session that expires opens the sheet.
+        Stage &on = m_stage;
+        QMetaObject::invokeMethod(
+            this,
+            [&on] {
+                const bool isOut = on.store().scope()->auth() == store::AuthPhase::Anon;
+                const QString user = std::exchange(on.leaving, QString());
+                if (isOut && !user.isEmpty() &&
+                    on.store().session()->authSheet() == store::AuthSheetMode::Closed)
+                    on.ledger.dropAll(user);
+                on.note(isOut ? u"  signed out"_s : u"  signed in"_s);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void Screen::schedule() {
+    if (!std::exchange(m_isScheduled, true))
+        QMetaObject::invokeMethod(this, &Screen::look, Qt::QueuedConnection);
+}
+
+void Screen::look() {
+    const MainThread::OwnDoing looking(m_stage.thread);
+    m_isScheduled = false;
+    for (const auto &[name, check] : checks) {
+        const QString fault = check(m_stage);
+        if (!fault.isEmpty())
+            m_stage.fail(QString::fromLatin1(name) + u": "_s + fault);
+    }
+}
+
+} // namespace kiv::soak

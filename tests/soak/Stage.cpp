@@ -1,0 +1,56 @@
+#include "soak/Stage.h"
+
+#include "soak/Screen.h"
+
+namespace kiv::soak {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype keptSteps = 50;
+
+} // namespace
+
+Stage::Stage(quint64 seed) : random(seed) {}
+
+Stage::~Stage() {
+    close();
+}
+
+std::optional<Chat> Stage::chat() {
+    const auto &connected = store().chat()->connected();
+    if (!connected)
+        return std::nullopt;
+    return Chat{store().scope()->userEmail(), connected->chatPath()};
+}
+
+void Stage::open() {
+    const MainThread::OwnDoing starting(thread);
+    program = std::make_unique<Program>(clock, cable, folder.path(), server.url());
+    screen = std::make_unique<Screen>(*this);
+}
+
+void Stage::close() {
+    const MainThread::OwnDoing ending(thread);
+    screen.reset();
+    program.reset();
+    entered.reset();
+    leaving.clear();
+    isCleared = false;
+}
+
+void Stage::note(const QString &step) {
+    lastSteps.append(u"%1  %2 s  %3"_s.arg(steps, 6)
+                         .arg(static_cast<double>(clock.elapsed().count()) / 1000, 9, 'f', 2)
+                         .arg(step));
+    if (lastSteps.size() > keptSteps)
+        lastSteps.removeFirst();
+}
+
+void Stage::fail(const QString &what) {
+    if (failure.isEmpty())
+        failure = what;
+}
+
+} // namespace kiv::soak
