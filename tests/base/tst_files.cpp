@@ -22,7 +22,7 @@ private Q_SLOTS:
     void nothingThatWasSetAsideIsReplaced() {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"drafts"_s);
-        for (const QByteArray &content : {"one", "two", "three"}) {
+        for (const QByteArray &content : {"one"_ba, "two"_ba, "three"_ba}) {
             putContent(path, content);
             const QString moved = PrivateFile::setAside(path);
             QCOMPARE(contentOf(moved), content);
