@@ -30,7 +30,6 @@ void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
     closePanel();
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
-    m_failed = false;
     m_awaitingAnswer = true;
     m_knownIds = std::move(knownIds);
     m_scenarioDone.clear();
@@ -59,7 +58,8 @@ void CanvasRoom::abandonTurn() {
 void CanvasRoom::failTurn() {
     const bool unanswered = m_phase.value() == Phase::Thinking;
     abandonTurn();
-    m_failed = unanswered;
+    if (unanswered)
+        m_idleView = IdleView::Failure;
 }
 
 void CanvasRoom::resetTurn() {
@@ -69,7 +69,8 @@ void CanvasRoom::resetTurn() {
     m_scenarioDone.clear();
     m_earlyDrawnFor.clear();
     m_scenarioTask.cancel();
-    m_failed = false;
+    if (m_idleView.value() == IdleView::Failure)
+        m_idleView = IdleView::Nothing;
     m_artSkeleton = false;
     setIdle();
 }
