@@ -826,7 +826,7 @@
     </message>
     <message>
         <source>What is it about?</source>
-        <translation>О чём он?</translation>
+        <translation>О чём проект?</translation>
     </message>
     <message>
         <source>The name is what you call it, the role is what it does.</source>
@@ -966,7 +966,7 @@
     </message>
     <message>
         <source>Learned about you</source>
-        <translation>Узнали о вас</translation>
+        <translation>Наблюдения о вас</translation>
     </message>
     <message>
         <source>What agents noticed about how you work</source>
@@ -1460,17 +1460,6 @@
     </message>
 </context>
 <context>
-    <name>MicrophoneMenu</name>
-    <message>
-        <source>Microphone</source>
-        <translation>Микрофон</translation>
-    </message>
-    <message>
-        <source>System default</source>
-        <translation>Как в системе</translation>
-    </message>
-</context>
-<context>
     <name>ModeEntry</name>
     <message>
         <source>Data sources</source>
@@ -1697,10 +1686,6 @@
         <source>%1 · %2</source>
         <translation>%1 · %2</translation>
     </message>
-    <message>
-        <source>%1, %2, %3</source>
-        <translation>%1, %2, %3</translation>
-    </message>
 </context>
 <context>
     <name>PastCalls</name>
@@ -1920,6 +1905,10 @@
         <source>Sign out</source>
         <translation>Выйти</translation>
     </message>
+    <message>
+        <source>Desktop notifications</source>
+        <translation>Уведомления на экране</translation>
+    </message>
 </context>
 <context>
     <name>Rail</name>
@@ -1942,6 +1931,25 @@
     <message>
         <source>Enter to send, Shift+Enter for a new line</source>
         <translation>Enter — отправить, Shift+Enter — новая строка</translation>
+    </message>
+</context>
+<context>
+    <name>RailSamples</name>
+    <message>
+        <source>Sample projects</source>
+        <translation>Примеры проектов</translation>
+    </message>
+    <message>
+        <source>Projects</source>
+        <translation>Проекты</translation>
+    </message>
+    <message>
+        <source>Sample</source>
+        <translation>Пример</translation>
+    </message>
+    <message>
+        <source>Sign in to see yours</source>
+        <translation>Войдите, чтобы увидеть свои</translation>
     </message>
 </context>
 <context>

@@ -39,6 +39,10 @@ AnswerNotes::AnswerNotes(store::AppStore &store, desktop::Notifier &notifier)
     connect(store.chat(), &store::ChatRoom::answerEnded, this, &AnswerNotes::tell);
     connect(store.chat(), &store::ChatRoom::answerFailed, this,
             [this] { show(tr("No answer came")); });
+    connect(store.notices(), &store::NoticeRoom::wantedChanged, this, [this] {
+        if (!m_store.notices()->wanted())
+            m_notifier.withdraw();
+    });
 }
 
 void AnswerNotes::setWindow(QWindow *window) {
@@ -71,7 +75,7 @@ void AnswerNotes::tell(const QUuid &answer) {
 }
 
 void AnswerNotes::show(const QString &text) {
-    if (!m_window || isLookedAt())
+    if (!m_store.notices()->wanted() || !m_window || isLookedAt())
         return;
     m_notifier.show({.topic = m_store.door()->current().toString(),
                      .title = m_store.scope()->scopeName(),

@@ -15,7 +15,7 @@ class AppStore;
 namespace kiv::app {
 
 /// Tells the person that an answer has come, or will not come, while they do not look at the
-/// window.
+/// window, if they want to be told.
 class AnswerNotes : public QObject {
     Q_OBJECT
 public:

@@ -26,6 +26,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
       m_dictation(*this),
       m_call(*this),
       m_appearance(settings),
+      m_notices(settings),
       m_create(*this),
       m_update(*this),
       m_account(*this),
@@ -35,6 +36,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
     m_layout.restoreChrome();
     m_layout.startPersisting();
     m_appearance.startPersisting();
+    m_notices.startPersisting();
     m_microphone.startPersisting();
     m_scope.startPersisting();
 }

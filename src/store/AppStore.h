@@ -18,6 +18,7 @@
 #include "store/FindRoom.h"
 #include "store/LayoutRoom.h"
 #include "store/MicrophoneRoom.h"
+#include "store/NoticeRoom.h"
 #include "store/ScopeRoom.h"
 #include "store/SessionRoom.h"
 #include "store/StorageRoom.h"
@@ -55,6 +56,7 @@ class AppStore : public QObject {
     Q_PROPERTY(kiv::store::DictationRoom *dictation READ dictation CONSTANT)
     Q_PROPERTY(kiv::store::CallRoom *call READ call CONSTANT)
     Q_PROPERTY(kiv::store::AppearanceRoom *appearance READ appearance CONSTANT)
+    Q_PROPERTY(kiv::store::NoticeRoom *notices READ notices CONSTANT)
     Q_PROPERTY(kiv::store::CreateRoom *create READ create CONSTANT)
     Q_PROPERTY(kiv::store::UpdateRoom *update READ update CONSTANT)
     Q_PROPERTY(kiv::store::AccountRoom *account READ account CONSTANT)
@@ -82,6 +84,7 @@ public:
     DictationRoom *dictation() { return &m_dictation; }
     CallRoom *call() { return &m_call; }
     AppearanceRoom *appearance() { return &m_appearance; }
+    NoticeRoom *notices() { return &m_notices; }
     CreateRoom *create() { return &m_create; }
     UpdateRoom *update() { return &m_update; }
     AccountRoom *account() { return &m_account; }
@@ -134,6 +137,7 @@ private:
     DictationRoom m_dictation;
     CallRoom m_call;
     AppearanceRoom m_appearance;
+    NoticeRoom m_notices;
     CreateRoom m_create;
     UpdateRoom m_update;
     AccountRoom m_account;

@@ -71,6 +71,10 @@ AppearanceRoom::AppearanceRoom(QSettings &settings) : m_settings(settings) {
     });
 }
 
+Language AppearanceRoom::otherLanguage() const {
+    return locale().language() == QLocale::Russian ? Language::English : Language::Russian;
+}
+
 void AppearanceRoom::chooseTheme(Theme theme) {
     m_theme = theme;
     keep(themeKey, nameOf(theme));

@@ -19,6 +19,7 @@ class AppearanceRoom : public QObject {
     Q_PROPERTY(kiv::store::Theme theme READ theme NOTIFY themeChanged)
     Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
     Q_PROPERTY(kiv::store::Language language READ language NOTIFY languageChanged)
+    Q_PROPERTY(kiv::store::Language otherLanguage READ otherLanguage NOTIFY localeChanged)
     Q_PROPERTY(int textSize READ textSize NOTIFY textSizeChanged)
 public:
     static constexpr int normalText = 100;
@@ -34,6 +35,8 @@ public:
     Language language() const { return m_language; }
     /// What the screens are written in, and how they write dates and figures.
     QLocale locale() const { return m_locale; }
+    /// The language of the screens that they are not in now.
+    Language otherLanguage() const;
     /// Per cent of the normal size, as the person has chosen.
     int textSize() const { return m_textSize; }
     /// What text is multiplied by: the person's choice on top of the desktop's.

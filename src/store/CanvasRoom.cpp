@@ -40,8 +40,10 @@ CanvasRoom::CanvasRoom(AppStore &store) : m_store(store) {
             return CanvasState::Panel;
         if (!m_pageView.value().url.isEmpty())
             return CanvasState::Page;
-        if (m_failed)
+        if (m_idleView.value() == IdleView::Failure)
             return CanvasState::Failed;
+        if (m_idleView.value() == IdleView::KeptScene)
+            return CanvasState::Scene;
         return m_canvasHint.value().isEmpty() ? CanvasState::Empty : CanvasState::Hint;
     });
     connect(store.scope(), &ScopeRoom::authChanged, this,
@@ -63,6 +65,11 @@ void CanvasRoom::setIdle() {
     m_buildTask.cancel();
     m_seconds.cancel();
     m_phase = Phase::Idle;
+}
+
+void CanvasRoom::keepScene() {
+    if (m_phase.value() == Phase::Done && m_state.value() == CanvasState::Scene)
+        m_idleView = IdleView::KeptScene;
 }
 
 void CanvasRoom::showHint() {
@@ -113,6 +120,8 @@ void CanvasRoom::show(const canvas::SceneOut &scene, const canvas::ArtInfo &info
         m_vis = m_vis + 1;
         m_phase = Phase::Done;
     }
+    // Last: a scene that was kept goes over into the new one.
+    m_idleView = IdleView::Nothing;
 }
 
 QCoro::Task<void> CanvasRoom::finishBuilding(Cancel cancel) {
@@ -125,10 +134,10 @@ void CanvasRoom::putOthersAway() {
     closePanel();
     m_pageView = canvas::SurfaceLink();
     m_canvasHint = QString();
-    m_failed = false;
 }
 
 void CanvasRoom::clearDrawnArt() {
+    m_idleView = IdleView::Nothing;
     m_art = QString();
     m_artSpec = canvas::ViewSpec();
     m_artScene = canvas::SceneOut();
@@ -170,7 +179,6 @@ void CanvasRoom::openSurface(const canvas::SurfaceLink &link, Record record) {
     m_drawnSpecKey.reset();
     closePanel();
     m_canvasHint = QString();
-    m_failed = false;
     m_pageView = link;
     setIdle();
     if (record != Record::None) {

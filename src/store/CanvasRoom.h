@@ -51,7 +51,7 @@ public:
     explicit CanvasRoom(AppStore &store);
 
     Phase phase() const { return m_phase; }
-    /// What the view shows: a scene only in the phases building and done.
+    /// What the view shows: a scene in the phases building and done, and one that is kept.
     CanvasState state() const { return m_state; }
     /// Whether there is a scene, or a scene is on its way.
     bool framed() const;
@@ -116,6 +116,8 @@ public:
     void resetTurn();
     /// Ends the phase without touching what was drawn.
     void setIdle();
+    /// The scene that is drawn stays in sight while its chat is read anew.
+    void keepScene();
     void scheduleScenario(int gen, const Msg &message);
     /// `answer` is the newest answer, which it was restored from.
     void applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer);
@@ -149,6 +151,8 @@ private:
     /// What of the history a drawn canvas becomes: the entry of the current turn, a new one, none.
     enum class Record { Turn, New, None };
     enum class LinkOpening { Open, Leave };
+    /// What the canvas shows in the phase idle when nothing else wants it.
+    enum class IdleView { Nothing, Failure, KeptScene };
     /// The question whose answer is awaited, whatever the canvas shows meanwhile.
     struct Turn {
         QString query;
@@ -212,7 +216,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_lastQuery, &CanvasRoom::queryChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_vis, &CanvasRoom::visChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_animated, &CanvasRoom::animatedChanged)
-    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_failed)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, IdleView, m_idleView, IdleView::Nothing)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_signedOut)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
                                &CanvasRoom::thinkingSecondsChanged)

@@ -56,7 +56,8 @@ void CanvasRoom::abandonTurn() {
 void CanvasRoom::failTurn() {
     const bool unanswered = m_phase.value() == Phase::Thinking;
     abandonTurn();
-    m_failed = unanswered;
+    if (unanswered)
+        m_idleView = IdleView::Failure;
 }
 
 void CanvasRoom::resetTurn() {
@@ -66,7 +67,8 @@ void CanvasRoom::resetTurn() {
     m_scenarioDone.clear();
     m_earlyDrawnFor.clear();
     m_scenarioTask.cancel();
-    m_failed = false;
+    if (m_idleView.value() == IdleView::Failure)
+        m_idleView = IdleView::Nothing;
     m_artSkeleton = false;
     setIdle();
 }

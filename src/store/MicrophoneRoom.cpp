@@ -4,6 +4,8 @@
 
 #include <QSettings>
 
+#include <algorithm>
+
 namespace kiv::store {
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,12 @@ void MicrophoneRoom::look() {
     }
     m_available = !list.isEmpty();
     m_list = list;
+}
+
+int MicrophoneRoom::chosenRow() const {
+    const QList<MicrophoneDevice> &list = m_list.value();
+    const auto found = std::ranges::find(list, m_chosen.value(), &MicrophoneDevice::id);
+    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
 }
 
 void MicrophoneRoom::choose(const QString &id) {

@@ -45,6 +45,8 @@ public:
     QList<MicrophoneDevice> devices() const { return m_list; }
     QString chosen() const { return m_chosen; }
     double level() const { return m_level; }
+    /// Where the choice stands among the devices; -1 for the system's own, or when it is gone.
+    Q_INVOKABLE int chosenRow() const;
     bool available() const { return m_available; }
 
     /// Asks the system which microphones there are.

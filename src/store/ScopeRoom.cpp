@@ -170,6 +170,8 @@ void ScopeRoom::pickStandaloneAgent(const QString &id) {
 }
 
 void ScopeRoom::select(const QString &project, const QString &agent) {
+    if (project == m_project.value() && agent == m_agent.value())
+        m_store.canvas()->keepScene();
     m_store.resetSurfaces();
     Qt::beginPropertyUpdateGroup();
     m_project = project;

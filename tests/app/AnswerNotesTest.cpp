@@ -104,6 +104,20 @@ private Q_SLOTS:
         QCOMPARE(m_server->shown.size(), 0);
     }
 
+    /// Nor who does not want to be told; what is shown goes.
+    void notWanted() {
+        ask();
+        answer(2, u"Five"_s);
+        QTRY_COMPARE(m_server->shown.size(), 1);
+        m_f->store->notices()->choose(false);
+        QTRY_COMPARE(m_server->closed, QList<uint>{1});
+        ask();
+        answer(4, u"Six"_s);
+        QCOMPARE(m_server->shown.size(), 1);
+        m_f->restart();
+        QVERIFY(!m_f->store->notices()->wanted());
+    }
+
     void aClickNamesTheChat() {
         m_f->store->scope()->pickAgent(u"ferry"_s, u"scout"_s);
         const QString chat = u"api/v2/custom-agents/scout/chat"_s;

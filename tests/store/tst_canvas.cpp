@@ -163,6 +163,27 @@ private Q_SLOTS:
                  browser.isEmpty() ? CanvasState::Page : CanvasState::Empty);
     }
 
+    /// Who picks the scope that is open sees its scene until the history is there again.
+    void pickedAgain() {
+        StoreFixture f;
+        QVERIFY(f.ask(u"Weekly report"_s));
+        f.row(9, reportBlock);
+        CanvasRoom *canvas = f.store->canvas();
+        SOON_COMPARE(canvas->phase(), Phase::Building);
+        f.clock.advance(2s);
+        QCOMPARE(canvas->state(), CanvasState::Scene);
+        f.history(kivChat, '[' + rowJson(8, u"user"_s, u"Weekly report"_s) + ',' +
+                               rowJson(9, u"assistant"_s, reportBlock) + ']');
+        QSignalSpy states(canvas, &CanvasRoom::stateChanged);
+        f.store->scope()->pickGlobal();
+        QCOMPARE(canvas->phase(), Phase::Idle);
+        SOON_COMPARE(canvas->phase(), Phase::Done);
+        QCOMPARE(states.size(), 0);
+        f.store->scope()->pickGlobal();
+        f.store->scope()->enterProject(u"ferry"_s);
+        QCOMPARE(canvas->state(), CanvasState::Empty);
+    }
+
     void panelIsLeft_data() {
         QTest::addColumn<std::function<void(StoreFixture &)>>("leave");
         const auto row = [](const char *name, const std::function<void(StoreFixture &)> &leave) {

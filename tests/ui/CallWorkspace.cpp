@@ -102,7 +102,7 @@ QByteArray pastCalls() {
     {"id":"c2","status":"failed","duration_secs":0,"started_at":"2026-03-01T17:40:00Z",
      "snippet":"","has_transcript":false},
     {"id":"c1","status":"done","duration_secs":3792,"started_at":"2025-11-20T08:05:00Z",
-     "snippet":"Покажи, кто перегружен, и сколько часов это займёт у каждого из них до конца месяца, если никто не заболеет",
+     "snippet":"How many hours will it take each of them until the end of the month if nobody falls ill, and who could help?",
      "has_transcript":true}]})";
 }
 

@@ -1,5 +1,7 @@
 #include "ui/EveryPlace.h"
 
+#include "ui/CallWorkspace.h"
+
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,7 @@ public:
     Way(Gallery &gallery, const Look &look, const std::function<void(const QString &)> &visit)
         : m_gallery(gallery), m_look(look), m_visit(visit) {
         answerAccount();
+        store().dictation()->setService(&m_speech);
     }
 
     void go() {
@@ -27,9 +30,12 @@ public:
         conversation();
         popovers();
         dialogs();
+        dictation();
+        call();
         panels();
         accountPages();
         wizard();
+        toast();
     }
 
 private:
@@ -37,9 +43,14 @@ private:
     void conversation();
     void popovers();
     void dialogs();
+    void dictation();
+    void call();
+    void endOfCall();
     void panels();
+    void pastCalls();
     void accountPages();
     void wizard();
+    void toast();
     void answerAccount();
 
     void visit(const char *place) { m_visit(QLatin1StringView(place)); }
@@ -65,7 +76,8 @@ private:
     }
     store::AppStore &store() { return *m_workspace.store; }
 
-    Workspace m_workspace;
+    test::ScriptedSpeech m_speech;
+    CallWorkspace m_workspace;
     Gallery &m_gallery;
     const Look &m_look;
     const std::function<void(const QString &)> &m_visit;
@@ -161,9 +173,85 @@ void Way::dialogs() {
     m_gallery.commands().perform(Command::About);
     m_gallery.item(u"aboutVersion"_s);
     visit("about");
+    click("showNotices");
+    m_gallery.item(u"noticeList"_s);
+    visit("notices");
     escape();
+}
+
+void Way::dictation() {
+    m_gallery.item(u"micButton"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery.press(Qt::Key_Down, Qt::AltModifier);
+    m_gallery.item(u"microphone:desk"_s);
+    QTest::qWait(200);
+    visit("microphones");
+    escape();
+    press("micButton");
+    m_speech.authorise();
+    m_speech.interim(u"Which of them is behind"_s);
+    m_workspace.microphones.hear(QByteArray(64, '\0'));
+    visit("dictation");
+    store().dictation()->stop();
+    store().chat()->setDraft(QString());
+}
+
+void Way::call() {
+    m_workspace.backend.answer(
+        u"POST api/v2/voice/session"_s,
+        R"({"call_id":"now","signed_url":"wss://voice.example","max_duration_secs":60})");
+    require(m_workspace.call(), "a call");
+    visit("call-connecting");
+    m_workspace.connectCall();
+    m_gallery.item(u"callTimer"_s);
+    m_workspace.microphones.hear(QByteArray(640, '\0'));
+    visit("call-listening");
+    m_workspace.hear(u"user"_s, u"How do the projects look this week?"_s);
+    m_workspace.hear(u"ai"_s, u"Three of five are on track. Orchard waits for a tax field."_s);
+    m_workspace.speaking(true);
+    visit("call-speaking");
+    m_workspace.speaking(false);
+    press("muteButton");
+    // Where there is room for the transcript it shows from the start.
+    press("transcriptButton");
+    visit("call-muted");
+    press("typeButton");
+    m_gallery.type(u"And Glasshouse?"_s);
+    visit("call-typing");
+    escape();
+    press("transcriptButton");
+    press("holdButton");
+    visit("call-held");
+    press("holdButton");
+    press("microphoneButton");
+    m_gallery.item(u"microphone:desk"_s);
+    QTest::qWait(200);
+    visit("call-microphones");
+    escape();
+    press("leaveCallScreen");
+    visit("call-pill");
+    endOfCall();
+}
+
+void Way::endOfCall() {
+    press("callPill");
+    m_workspace.pass(31s);
+    visit("call-warning");
+    m_workspace.drop();
+    visit("call-reconnecting");
+    m_workspace.connectCall();
+    require(QTest::qWaitFor([&] { return !store().call()->callReconnecting(); }), "its call again");
+    m_workspace.drop();
+    require(QTest::qWaitFor([&] { return !store().call()->callError().isEmpty(); }), "a failure");
+    visit("call-failed");
+    m_workspace.pass(5s);
+    click("callLine:now");
+    visit("call-line");
+    store().call()->toggleCallLines(u"now"_s); // it may be out of sight
+    require(m_workspace.talk(), "another call");
     m_gallery.press(Qt::Key_D, Qt::ControlModifier);
-    visit("toast");
+    visit("call-ended");
+    m_workspace.pass(5s);
+    require(QTest::qWaitFor([&] { return !store().call()->call(); }), "the end of it");
 }
 
 void Way::panels() {
@@ -176,7 +264,22 @@ void Way::panels() {
         require(QTest::qWaitFor([&] { return !store().events()->eventsLoading(); }), panel);
         m_visit(QLatin1StringView(panel) + u"-page"_s);
     }
+    pastCalls();
     store().canvas()->closePanel();
+}
+
+void Way::pastCalls() {
+    const QString route = u"GET api/v2/voice/calls"_s;
+    m_workspace.backend.answer(route, R"({"error":"down"})", 500);
+    store().canvas()->openPanel(u"calls"_s);
+    m_gallery.item(u"callsRetry"_s);
+    visit("calls-failed");
+    m_workspace.backend.answer(route, ui::pastCalls());
+    m_workspace.backend.answer(u"GET api/v2/voice/calls/c3"_s, pastTranscript());
+    press("callsRetry");
+    click("pastCall:c3");
+    m_gallery.item(u"pastLine:2"_s);
+    visit("calls");
 }
 
 void Way::accountPages() {
@@ -228,6 +331,15 @@ void Way::wizard() {
     m_gallery.item(u"keepEditing"_s);
     visit("create-asked");
     click("discardDraft");
+}
+
+/// Last: it stays for a while.
+void Way::toast() {
+    m_workspace.backend.answer(u"GET api/v2/voice/capability"_s,
+                               R"({"available":false,"reason":"insufficient_balance"})");
+    m_gallery.press(Qt::Key_D, Qt::ControlModifier);
+    m_gallery.item(u"toast:0"_s);
+    visit("toast");
 }
 
 } // namespace

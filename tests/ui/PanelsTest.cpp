@@ -301,6 +301,13 @@ void PanelsTest::theme() {
     QTRY_VERIFY(m_gallery->hasFocus(u"accountRow"_s));
     m_gallery->press(Qt::Key_Down);
     m_gallery->press(Qt::Key_Down);
+    QTRY_VERIFY(m_gallery->hasFocus(u"noticesSwitch"_s));
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return}) {
+        const bool wanted = m_workspace->store->notices()->wanted();
+        m_gallery->press(key);
+        QCOMPARE(m_workspace->store->notices()->wanted(), !wanted);
+    }
+    m_gallery->press(Qt::Key_Down);
     QTRY_VERIFY(m_gallery->item(u"themeChoice"_s)->hasActiveFocus());
     m_gallery->press(Qt::Key_Right);
     QTRY_VERIFY(corner() > 200);

@@ -1,5 +1,4 @@
-#include "ui/CallWorkspace.h"
-#include "ui/Gallery.h"
+#include "ui/CallWindow.h"
 
 #include <QtTest>
 
@@ -9,12 +8,11 @@ using namespace std::chrono_literals;
 namespace kiv::ui {
 
 /// Calls of before: their page in the place of the canvas, and their lines in the conversation.
-class PastCallsTest : public QObject {
+class PastCallsTest : public CallWindow {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void pictures_data() { addLooks(); }
     void pictures();
     void states();
@@ -23,31 +21,14 @@ private Q_SLOTS:
     void callInTheConversation();
 
 private:
-    void open(const QSize &size = {1440, 900});
     void openPage();
     int count() { return m_gallery->item(u"callList"_s)->property("count").toInt(); }
-    store::CallRoom &room() { return *m_workspace->store->call(); }
-
-    std::unique_ptr<CallWorkspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
 void PastCallsTest::init() {
-    QTest::failOnWarning(QRegularExpression(u"qrc:|QML"_s));
-    m_workspace = std::make_unique<CallWorkspace>();
+    CallWindow::init();
     m_workspace->backend.answer(u"GET api/v2/voice/calls"_s, pastCalls());
     m_workspace->backend.answer(u"GET api/v2/voice/calls/c3"_s, pastTranscript());
-    m_gallery = std::make_unique<Gallery>();
-}
-
-void PastCallsTest::cleanup() {
-    m_gallery.reset();
-    m_workspace.reset();
-}
-
-void PastCallsTest::open(const QSize &size) {
-    QVERIFY(m_workspace->signIn());
-    m_gallery->open(*m_workspace->store, size);
 }
 
 /// By the palette, as a person finds it.

@@ -1,4 +1,5 @@
 #include "ui/SceneView.h"
+#include "ui/canvas/PlotLine.h"
 
 #include <QtTest>
 
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void entranceTakenBack();
     void redrawn();
     void stackRedrawn();
+    void lineRedrawn();
 
 private:
     SceneView m_view;
@@ -114,6 +116,26 @@ void SceneMotionTest::stackRedrawn() {
     scene.coSegs.removeLast();
     page->setProperty("scene", QVariant::fromValue(scene));
     QTRY_COMPARE(pieces(), before.first(5));
+}
+
+/// The balance glides along with its bars; in a plot of another size it is there at once.
+void SceneMotionTest::lineRedrawn() {
+    canvas::SceneOut scene = sceneOf(answerNamed(u"cashflow-plain"_s));
+    QQuickItem *page = m_view.show(scene);
+    const auto *line = m_view.itemsOf("BalanceLine").first()->findChild<PlotLine *>();
+    QVERIFY(line);
+    const auto heightOf = [line](qsizetype point) { return line->shownPoints().at(point).y(); };
+    const double before = heightOf(1);
+    scene.cfMonths[1].balY /= 2;
+    page->setProperty("scene", QVariant::fromValue(scene));
+    QCOMPARE(heightOf(1), before);
+    QTRY_COMPARE_GT(heightOf(1), before + 10);
+    QTest::qWait(500);
+    const double after = heightOf(1);
+    const double place = line->shownPoints().at(1).x();
+    page->setWidth(page->width() - 120);
+    QVERIFY(line->shownPoints().at(1).x() < place);
+    QCOMPARE(heightOf(1), after);
 }
 
 } // namespace kiv::ui

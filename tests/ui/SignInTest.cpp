@@ -26,6 +26,7 @@ private Q_SLOTS:
     void busy();
     void typedValuesStay();
     void passwordCanBeRead();
+    void languageBesideTheForm();
     void signOutDuringAnAnswer();
 
 private:
@@ -152,6 +153,16 @@ void SignInTest::passwordCanBeRead() {
     QTRY_VERIFY(m_gallery->find(u"passwordField"_s));
     QCOMPARE(m_gallery->item(u"passwordField"_s)->property("displayText").toString(),
              QString(10, u'•'));
+}
+
+void SignInTest::languageBesideTheForm() {
+    openSheet();
+    m_gallery->type(u"ada@example.org"_s);
+    for (const QString &word : {u"Войти"_s, u"Sign in"_s}) {
+        m_gallery->click(u"switchLanguage"_s);
+        QTRY_COMPARE(text(u"submitAuth"_s), word);
+        QCOMPARE(text(u"emailField"_s), u"ada@example.org"_s);
+    }
 }
 
 /// What still arrives for the session of before reaches nobody.

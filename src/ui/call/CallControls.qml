@@ -1,5 +1,6 @@
 import QtQuick
 import Kiv.Call
+import Kiv.Chat
 import Kiv.Controls
 import Kiv.Store
 import Kiv.Tokens
@@ -63,10 +64,12 @@ FocusScope {
             on: microphones.visible
             onClicked: microphones.visible = !microphones.visible
 
-            MicrophoneMenu {
+            MicMenu {
                 id: microphones
 
-                room: controls.store.microphone
+                x: Math.round((parent.width - width) / 2)
+                y: -height - 16
+                microphone: controls.store.microphone
             }
         }
         RoundButton {
@@ -74,6 +77,8 @@ FocusScope {
             iconName: "keyboard"
             text: qsTr("Type instead")
             on: controls.call.callTyping
+            Accessible.checkable: true
+            Accessible.checked: on
             enabled: controls.active
             onClicked: controls.call.callTyping ? controls.call.closeTyping() : controls.call.openTyping()
         }

@@ -1,17 +1,17 @@
 import QtQuick
+import Kiv.Controls
 import Kiv.Store
 
 // Says once what has become of a call, to those who do not see it.
-Item {
+Announcement {
     id: news
 
     required property CallRoom call
 
     objectName: "callNews"
-    width: 1
-    height: 1
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: !call.call ? ""
+    Accessible.name: words
+    words: !call.call ? ""
         : call.callError !== "" ? call.callError
         : call.callReconnecting ? qsTr("Reconnecting")
         : call.callPhase === Store.CallPhase.Connecting ? qsTr("Connecting")

@@ -14,7 +14,7 @@ T.Button {
     readonly property string time: CallText.length(call.callSec)
 
     implicitWidth: row.implicitWidth + 28
-    implicitHeight: 36
+    implicitHeight: Tokens.fit(36)
     text: qsTr("Back to the call")
     Accessible.name: call.callHeld ? qsTr("Back to the call with %1, on hold").arg(call.callName)
         : call.callMuted ? qsTr("Back to the call with %1, muted").arg(call.callName)
@@ -24,14 +24,14 @@ T.Button {
     onClicked: call.showCall()
 
     background: Rectangle {
-        radius: 18
+        radius: height / 2
         color: pill.hovered || pill.down ? Tokens.hover : Tokens.green.tint
         border.width: 1
         border.color: Tokens.green.line
 
         FocusRing {
             visible: pill.visualFocus
-            targetRadius: 18
+            targetRadius: pill.height / 2
         }
     }
 
@@ -49,7 +49,7 @@ T.Button {
         }
         Label {
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, 112)
+            width: Math.min(implicitWidth, Tokens.fit(112))
             style: Tokens.type.smallMedium
             text: pill.call.callName
             Accessible.ignored: true

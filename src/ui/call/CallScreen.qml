@@ -13,7 +13,7 @@ FocusScope {
     enum Wish { Unset, Open, Closed }
 
     property int wish: CallScreen.Unset
-    readonly property bool transcriptOpen: wish === CallScreen.Unset ? width >= 1200 : wish === CallScreen.Open
+    readonly property bool transcriptOpen: wish === CallScreen.Unset ? width >= panel.width + 800 : wish === CallScreen.Open
 
     Accessible.role: Accessible.Dialog
     Accessible.name: qsTr("Call with %1").arg(store.call.callName)
@@ -43,7 +43,8 @@ FocusScope {
         id: panel
 
         anchors.right: parent.right
-        width: 400
+        // The controls keep their room beside it.
+        width: Math.max(400, Math.min(Tokens.fit(400), screen.width - 560))
         height: parent.height
         visible: screen.transcriptOpen
         store: screen.store

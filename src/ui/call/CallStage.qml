@@ -75,7 +75,7 @@ FocusScope {
         Label {
             objectName: "callState"
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(implicitWidth, 560, parent.width - 48)
+            width: Math.min(implicitWidth, Tokens.fit(560), parent.width - 48)
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
             maximumLineCount: 3
@@ -105,7 +105,7 @@ FocusScope {
         }
         CaptionText {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: Math.min(560, parent.width - 48)
+            width: Math.min(Tokens.fit(560), parent.width - 48)
             text: latest.text
         }
     }
@@ -120,7 +120,7 @@ FocusScope {
         anchors.bottom: controls.top
         anchors.bottomMargin: 20
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(480, parent.width - 48)
+        width: Math.min(Tokens.fit(480), parent.width - 48)
         visible: stage.call.callTyping && !stage.transcriptOpen
         call: stage.call
     }

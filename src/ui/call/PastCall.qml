@@ -29,6 +29,8 @@ T.ItemDelegate {
     readonly property string title: durationSecs === 0 ? CallText.outcome(status)
         : qsTr("%1 · %2").arg(CallText.outcome(status)).arg(CallText.length(durationSecs))
 
+    readonly property int headHeight: Tokens.fit(60)
+
     signal toggled()
 
     function toggle() {
@@ -38,11 +40,11 @@ T.ItemDelegate {
     }
 
     objectName: "pastCall:" + callId
-    implicitHeight: 60 + (transcript.active ? transcript.height : 0)
+    implicitHeight: headHeight + (transcript.active ? transcript.height : 0)
     focusPolicy: Qt.NoFocus
     text: title
     Accessible.role: Accessible.ListItem
-    Accessible.name: qsTr("%1, %2, %3").arg(title).arg(start).arg(snippet)
+    Accessible.name: title + ", " + start + (snippet === "" ? "" : ", " + snippet)
     Accessible.checkable: hasTranscript
     Accessible.checked: open
     onClicked: toggle()
@@ -50,15 +52,21 @@ T.ItemDelegate {
     background: Item {
         Rectangle {
             width: parent.width
-            height: 60
+            height: row.headHeight
             radius: Tokens.radiusControl
             color: row.highlighted || row.hovered && row.hasTranscript ? Tokens.hover : "transparent"
+
+            FocusRing {
+                anchors.margins: 0
+                targetRadius: 4
+                visible: row.highlighted
+            }
         }
     }
 
     Rectangle {
         x: 12
-        y: 14
+        y: (row.headHeight - height) / 2
         width: 32
         height: 32
         radius: 16
@@ -73,7 +81,7 @@ T.ItemDelegate {
     }
     Column {
         x: 56
-        y: (60 - height) / 2
+        y: (row.headHeight - height) / 2
         width: stamp.x - x - 12
 
         Label {
@@ -96,7 +104,7 @@ T.ItemDelegate {
         id: stamp
 
         x: arrow.x - width - 12
-        y: 22
+        y: (row.headHeight - height) / 2
         style: Tokens.type.caption
         tabular: true
         color: Tokens.t3
@@ -107,7 +115,7 @@ T.ItemDelegate {
         id: arrow
 
         x: parent.width - width - 16
-        y: 22
+        y: (row.headHeight - height) / 2
         visible: row.hasTranscript
         name: row.open ? "up" : "down"
         size: 16
@@ -117,7 +125,7 @@ T.ItemDelegate {
         id: transcript
 
         x: 56
-        y: 68
+        y: row.headHeight + 8
         width: row.width - x - 16
         active: row.open
         lines: row.lines

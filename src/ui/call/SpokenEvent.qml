@@ -17,6 +17,7 @@ Item {
 
     Icon {
         x: 6
+        y: Math.round((Tokens.type.caption.line - height) / 2)
         name: "phone"
         size: 16
         color: Tokens.t3

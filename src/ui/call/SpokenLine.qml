@@ -61,7 +61,7 @@ Item {
         id: text
 
         x: 40
-        y: 15
+        y: Tokens.type.caption.line - 1
         // Room for the dot behind the last word.
         width: line.width - x - (line.growing ? 16 : 0)
         wrapMode: Text.Wrap
@@ -71,7 +71,7 @@ Item {
             if (!line.isLast)
                 return
             dot.x = text.x + line.implicitWidth + 6
-            dot.y = text.y + line.y + 7
+            dot.y = text.y + line.y + Math.round((Tokens.type.body.line - dot.height) / 2)
         }
     }
     GrowingDot {

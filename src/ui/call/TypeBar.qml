@@ -16,7 +16,7 @@ FocusScope {
             call.callSay(field.text)
     }
 
-    implicitHeight: 44
+    implicitHeight: Tokens.fit(44)
     onVisibleChanged: if (visible && call.callTyping) field.forceActiveFocus(Qt.ShortcutFocusReason)
 
     Connections {

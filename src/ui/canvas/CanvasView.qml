@@ -80,7 +80,8 @@ FocusScope {
     CanvasMessage {
         anchors.fill: parent
         anchors.bottomMargin: view.reserved
-        visible: view.canvas.state === Store.CanvasState.Empty
+        // Not before it is known who asks.
+        visible: view.canvas.state === Store.CanvasState.Empty && view.store.scope.auth === Store.AuthPhase.SignedIn
         heading: qsTr("Ask for something with numbers")
         body: qsTr("The answer is drawn here, and the text stays in the conversation.")
         questions: view.store.scope.starters

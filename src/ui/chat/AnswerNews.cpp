@@ -3,7 +3,6 @@
 #include "text/HtmlText.h"
 #include "text/MDParser.h"
 
-#include <QAccessible>
 #include <QTextDocumentFragment>
 
 namespace kiv::ui {
@@ -17,11 +16,6 @@ QString spoken(const QString &message) {
 }
 
 } // namespace
-
-AnswerNews::AnswerNews(QQuickItem *parent) : QQuickItem(parent) {
-    setSize({1, 1});
-    setVisible(false);
-}
 
 void AnswerNews::setChat(store::ChatRoom *chat) {
     if (m_chat == chat)
@@ -39,13 +33,8 @@ void AnswerNews::tell(const QUuid &answer) {
     if (row < 0 || m_told == answer)
         return;
     m_told = answer;
-    setVisible(false);
-    m_words =
-        tr("%1 has answered: %2").arg(m_name, spoken(m_chat->msgs()->messages().at(row).shown));
-    Q_EMIT wordsChanged();
-    setVisible(true);
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    Q_EMIT told(
+        tr("%1 has answered: %2").arg(m_name, spoken(m_chat->msgs()->messages().at(row).shown)));
 }
 
 } // namespace kiv::ui

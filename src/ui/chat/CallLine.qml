@@ -23,7 +23,7 @@ Item {
         anchors.horizontalCenter: parent.horizontalCenter
         y: line.compact ? 12 : 16
         implicitWidth: content.width + 20
-        implicitHeight: 28
+        implicitHeight: Tokens.fit(28)
         focusPolicy: Qt.NoFocus
         hoverEnabled: line.row.callHasLines
         text: line.row.label
@@ -35,7 +35,7 @@ Item {
         readonly property color ink: hovered ? Tokens.t1 : Tokens.t3
 
         background: Rectangle {
-            radius: 14
+            radius: height / 2
             color: button.down ? Tokens.press : button.hovered ? Tokens.hover : "transparent"
         }
 

@@ -35,6 +35,11 @@ FocusScope {
         onSubmitted: composer.store.chat.sendDraft()
         onStopRequested: composer.store.chat.stopLive()
     }
+    Announcement {
+        words: composer.trouble
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: words
+    }
     Label {
         objectName: "chatNote"
         anchors.top: bar.bottom
@@ -43,7 +48,6 @@ FocusScope {
         horizontalAlignment: Text.AlignHCenter
         style: Tokens.type.micro
         color: composer.trouble === "" ? Tokens.t3 : Tokens.dangerText
-        Accessible.role: composer.trouble === "" ? Accessible.StaticText : Accessible.AlertMessage
         text: composer.trouble !== "" ? composer.trouble
             : composer.store.connection.offline ? qsTr("Offline: sent once the connection is back")
             : composer.store.attachments.chatUploading ? qsTr("Uploading…")

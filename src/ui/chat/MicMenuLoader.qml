@@ -9,7 +9,6 @@ Loader {
     required property MicrophoneRoom microphone
 
     function open() {
-        microphone.look()
         if (status === Loader.Null)
             setSource("MicMenu.qml", { "microphone": microphone, "parent": place.parent })
         const menu = item as MicMenu

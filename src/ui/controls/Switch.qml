@@ -11,7 +11,10 @@ T.Switch {
     implicitHeight: 20
     Accessible.name: text
 
+    // At the right end, where a switch is longer than that.
     indicator: Rectangle {
+        x: control.width - width - control.rightPadding
+        y: (control.height - height) / 2
         width: 36
         height: 20
         radius: 10

@@ -16,8 +16,6 @@ Rectangle {
     radius: Tokens.radiusBlock
     color: Tokens.tip
     opacity: 0
-    Accessible.role: Accessible.AlertMessage
-    Accessible.name: words
     Component.onCompleted: opacity = 1
 
     Behavior on opacity {
@@ -26,6 +24,11 @@ Rectangle {
     Shadow {
         z: -1
         targetRadius: toast.radius
+    }
+    Announcement {
+        words: toast.words
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: words
     }
     HoverHandler {
         id: pointer

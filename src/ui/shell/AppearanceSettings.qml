@@ -51,6 +51,7 @@ Column {
             objectName: "textSizeChoice"
             anchors.verticalCenter: parent.verticalCenter
             x: parent.width - width - 6
+            height: Tokens.fit(32)
             name: qsTr("Text size")
             value: settings.appearance.textSize
             minimumValue: 80

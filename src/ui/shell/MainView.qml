@@ -204,12 +204,17 @@ FocusScope {
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
-    AnswerNews {
+    Announcement {
+        id: answerAlert
+
         objectName: "answerNews"
-        chat: view.store.chat
-        name: view.store.scope.scopeName
         Accessible.role: Accessible.AlertMessage
         Accessible.name: words
+    }
+    AnswerNews {
+        chat: view.store.chat
+        name: view.store.scope.scopeName
+        onTold: words => answerAlert.say(words)
     }
     SignInSheet {
         store: view.store

@@ -10,12 +10,12 @@ import Kiv.Tokens
 Dialog {
     id: sheet
 
-    width: 560
+    width: Tokens.fit(560)
     objectName: "noticesSheet"
     onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
-        implicitHeight: 44 + list.height
+        implicitHeight: Tokens.fit(44) + list.height
     }
 
     Label {
@@ -34,9 +34,10 @@ Dialog {
         id: list
 
         objectName: "noticeList"
-        y: 44
+        y: Tokens.fit(44)
         width: sheet.availableWidth
-        height: Math.min(contentHeight, 7 * 64)
+        height: Math.min(contentHeight, 7 * Tokens.fit(64),
+            (T.Overlay.overlay?.height ?? 680) - y - sheet.topPadding - sheet.bottomPadding - 48)
         model: Notices.all
         clip: true
         focus: true
@@ -55,7 +56,7 @@ Dialog {
             required property notice modelData
 
             width: list.width
-            height: 64
+            height: Tokens.fit(64)
             focusPolicy: Qt.NoFocus
             text: modelData.name
             Accessible.name: qsTr("%1: %2. %3. %4").arg(modelData.name).arg(modelData.part).arg(modelData.licence).arg(modelData.holder)

@@ -90,8 +90,22 @@ Popover {
                 width: parent.width
                 iconName: "bell"
                 text: qsTr("Notifications")
-                KeyNavigation.down: appearance.first
+                KeyNavigation.down: notices
                 onClicked: popover.store.layout.openAccount("notifications")
+            }
+            MenuSwitch {
+                id: notices
+
+                objectName: "noticesSwitch"
+                width: parent.width
+                iconName: "system"
+                text: qsTr("Desktop notifications")
+                KeyNavigation.down: appearance.first
+                onToggled: popover.store.notices.choose(checked)
+
+                Binding on checked {
+                    value: popover.store.notices.wanted
+                }
             }
             MenuGap {
                 width: parent.width

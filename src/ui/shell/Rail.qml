@@ -60,7 +60,14 @@ FocusScope {
         }
     }
     RailSkeleton {
-        visible: !rail.signedIn
+        visible: rail.store.scope.auth === Store.AuthPhase.Unknown
+    }
+    RailSamples {
+        id: samples
+
+        visible: rail.store.scope.auth === Store.AuthPhase.Anon
+        width: parent.width - 1
+        onSignInRequested: rail.store.session.openAuthSheet(Store.AuthSheetMode.Login)
     }
     EdgeHandle {
         id: split
@@ -115,8 +122,7 @@ FocusScope {
     Feed {
         id: feed
 
-        anchors.top: rail.signedIn ? head.bottom : parent.top
-        anchors.topMargin: rail.signedIn ? 0 : 220
+        anchors.top: rail.signedIn ? head.bottom : samples.bottom
         anchors.bottom: composer.top
         width: parent.width - 1
         messages: rail.store.chat.feedMsgs

@@ -4,7 +4,7 @@ import QtQuick
 import Kiv.Controls
 import Kiv.Tokens
 
-// The rail while nobody is signed in: places of projects.
+// The rail until it is known who is signed in: places of projects.
 Column {
     padding: 12
     spacing: 2

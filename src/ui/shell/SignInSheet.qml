@@ -12,6 +12,7 @@ Dialog {
     required property AppStore store
 
     readonly property SessionRoom session: store.session
+    readonly property AppearanceRoom appearance: store.appearance
     readonly property bool signup: session.authSheet === Store.AuthSheetMode.Signup
 
     function submit() {
@@ -158,7 +159,19 @@ Dialog {
             }
         }
     }
+    TextLink {
+        objectName: "switchLanguage"
+        x: close.x - width - 8
+        anchors.verticalCenter: close.verticalCenter
+        style: Tokens.type.small
+        color: Tokens.t2
+        // A language goes by its own name everywhere.
+        text: sheet.appearance.otherLanguage === Store.Language.Russian ? "Русский" : "English"
+        onClicked: sheet.appearance.chooseLanguage(sheet.appearance.otherLanguage)
+    }
     IconButton {
+        id: close
+
         x: sheet.availableWidth + sheet.rightPadding - width - 14
         y: 14 - sheet.topPadding
         iconName: "close"

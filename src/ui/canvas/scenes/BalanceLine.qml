@@ -15,6 +15,7 @@ Item {
 
     PlotLine {
         anchors.fill: parent
+        duration: Tokens.draw
         plotTop: balance.plot.headroom
         offset: balance.offset
         points: balance.plot.line
