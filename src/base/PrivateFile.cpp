@@ -15,7 +15,7 @@ constexpr auto ownerFolder = ownerFile | QFileDevice::ExeOwner;
 
 void PrivateFile::makeFolderOf(const QString &path) {
     const QString folder = QFileInfo(path).absolutePath();
-    if (!QFileInfo::exists(folder) && QDir().mkpath(folder))
+    if (QFileInfo::exists(folder) || QDir().mkpath(folder))
         QFile::setPermissions(folder, ownerFolder);
 }
 

@@ -1,10 +1,9 @@
 #include "desktop/LogFile.h"
 
+#include "base/PrivateFile.h"
 #include "desktop/LogText.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
 
 namespace kiv::desktop {
 
@@ -34,6 +33,12 @@ QString wordOf(QtMsgType type) {
     return {};
 }
 
+void openToWrite(QFile &file) {
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
+    if (file.open(mode, ownerFile))
+        file.setPermissions(ownerFile); // it may have been there
+}
+
 void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
     // What writing a line itself complains of would be written, and complained of, for ever.
     thread_local bool isInside = false;
@@ -51,9 +56,8 @@ void handle(QtMsgType type, const QMessageLogContext &context, const QString &te
 } // namespace
 
 LogFile::LogFile(const QString &path, qint64 limit) : m_path(path), m_file(path), m_limit(limit) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        m_file.setPermissions(ownerFile);
+    PrivateFile::makeFolderOf(path);
+    openToWrite(m_file);
 }
 
 LogFile::~LogFile() {
@@ -88,8 +92,7 @@ void LogFile::rotate() {
     m_file.close();
     QFile::remove(old);
     QFile::rename(m_path, old);
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-        m_file.setPermissions(ownerFile);
+    openToWrite(m_file);
 }
 
 QStringList LogFile::lastLines(qsizetype count) const {
