@@ -1237,6 +1237,10 @@
         <source>There is no network connection.</source>
         <translation>Нет подключения к сети.</translation>
     </message>
+    <message>
+        <source>The server&apos;s answer is too large.</source>
+        <translation>Ответ сервера слишком велик.</translation>
+    </message>
 </context>
 <context>
     <name>JumpButton</name>

@@ -8,14 +8,31 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// What is said of an address goes to the terminal: not the name and the password that may stand
+/// before its host.
+QString quoted(const QString &text) {
+    const qsizetype at = text.lastIndexOf(u'@');
+    return at < 0 ? text : u'…' + text.sliced(at);
+}
+
 [[noreturn]] void refuse(const QString &text, const char *why) {
-    throw BaseUrlError("Cannot use the address \"" + text.toStdString() + "\": " + why);
+    throw BaseUrlError("Cannot use the address \"" + quoted(text).toStdString() + "\": " + why);
 }
 
 } // namespace
 
 bool isLoopback(const QString &host) {
     return host == u"localhost"_s || QHostAddress(host).isLoopback();
+}
+
+bool isWebAddress(const QUrl &address) {
+    const QString scheme = address.scheme();
+    return (scheme == "https"_L1 || scheme == "http"_L1) && !address.host().isEmpty();
+}
+
+QString pictureAddress(const QString &named) {
+    const QUrl url(named);
+    return url.isRelative() || isWebAddress(url) ? named : QString();
 }
 
 QUrl parseBaseUrl(const QString &text) {

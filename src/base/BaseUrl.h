@@ -21,6 +21,13 @@ QUrl parseBaseUrl(const QString &text);
 /// Whether a URL's host is this computer, which needs no network and no encryption.
 bool isLoopback(const QString &host);
 
+/// Whether an address that a server names is one of the web, not of a file or another program.
+bool isWebAddress(const QUrl &address);
+
+/// A picture's address as a server names it; empty when that is none of the web and none on the
+/// server itself, but a file or something else of this computer.
+QString pictureAddress(const QString &named);
+
 /// `base` with the relative `path` appended as further path components.
 /// `path` is taken as written: a caller percent-encodes what it inserts (see pathSegment).
 QUrl appendPath(const QUrl &base, const QString &path);

@@ -18,7 +18,7 @@ constexpr auto asideSuffix = ".damaged"_L1;
 
 void PrivateFile::makeFolderOf(const QString &path) {
     const QString folder = QFileInfo(path).absolutePath();
-    if (!QFileInfo::exists(folder) && QDir().mkpath(folder))
+    if (QFileInfo::exists(folder) || QDir().mkpath(folder))
         QFile::setPermissions(folder, ownerFolder);
 }
 

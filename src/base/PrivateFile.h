@@ -8,7 +8,8 @@
 /// Files that nobody but this user may read.
 namespace kiv::PrivateFile {
 
-/// Makes the folder that `path` stands in, for this user alone, where there is none.
+/// Sees to it that there is the folder that `path` stands in, a folder of the program's own, and
+/// that it is for this user alone.
 void makeFolderOf(const QString &path);
 
 /// Exchanges the whole file, making its folder where there is none; a file that cannot be written

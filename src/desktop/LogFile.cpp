@@ -61,10 +61,10 @@ LogFile::LogFile(const QString &path, qint64 limit) : m_path(path), m_file(path)
 }
 
 bool LogFile::open() {
-    const bool isOpen =
-        m_file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered);
+    constexpr auto mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
+    const bool isOpen = m_file.open(mode, ownerFile);
     if (isOpen)
-        m_file.setPermissions(ownerFile);
+        m_file.setPermissions(ownerFile); // it may have been there
     return isOpen;
 }
 

@@ -13,6 +13,9 @@ namespace kiv::net {
 
 namespace {
 
+/// Of an answer that is fetched whole: no list of the backend is near it.
+constexpr qsizetype largestAnswer = 64 * 1024 * 1024;
+
 /// A request body that can be read once only. When a kept-alive connection turns out to be dead,
 /// the network layer rewinds the body and sends the request again behind our back, though the
 /// server may have acted on the first one; a body that was begun refuses, which fails the request
@@ -83,6 +86,8 @@ QCoro::Task<HttpResponse> HttpSession::fetch(HttpRequest request, Cancel cancel)
         const QByteArray piece = co_await exchange.read();
         if (piece.isEmpty())
             break;
+        if (piece.size() > largestAnswer - response.body.size())
+            throw APIError::transport(HttpExchange::tr("The server's answer is too large."));
         response.body += piece;
     }
     co_return response;

@@ -14,10 +14,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto patience = 8s;
+constexpr qsizetype largestFeed = 1024 * 1024;
 
 /// The newest version that a feed names; among equal ones the first.
 QString newestIn(const QString &feed) {
-    static const Regex pattern(uR"(shortVersionString>\s*([0-9][0-9.]*)\s*<)");
+    static const Regex pattern(uR"(shortVersionString>\s*([0-9][0-9.]{0,31})\s*<)");
     QString newest;
     for (const Regex::Match &match : pattern.findAll(feed)) {
         const QStringView version = match.captured(1);
@@ -50,6 +51,8 @@ QCoro::Task<std::optional<UpdateInfo>> latest(APIClient *client, AppVersion runn
         cancel.throwIfRequested();
         co_return std::nullopt;
     }
+    if (response.body.size() > largestFeed)
+        co_return std::nullopt;
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString feed = decoder(response.body);
     if (response.status != 200 || decoder.hasError())

@@ -1,6 +1,7 @@
 #include "store/AccountRoom.h"
 
 #include "base/Background.h"
+#include "base/BaseUrl.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/ProfileValues.h"
@@ -117,7 +118,7 @@ QCoro::Task<void> AccountRoom::readProfile(Cancel cancel) {
             if (*value)
                 m_fields.value(value.key())->load(**value);
         }
-        m_store.scope()->setUserAvatar(profile.avatarUrl.value_or(QString()));
+        m_store.scope()->setUserAvatar(pictureAddress(profile.avatarUrl.value_or(QString())));
         m_profileLoad = LoadState::Ready;
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
@@ -269,7 +270,7 @@ QCoro::Task<void> AccountRoom::sendPicture(PickedFile::Content content, Cancel c
                 co_await net::KivAPI::uploadAvatar(&m_store.net(), read.part, cancel);
             m_picture = {};
             if (address && !address->isEmpty())
-                scope->setUserAvatar(*address);
+                scope->setUserAvatar(pictureAddress(*address));
             else
                 loadProfile(); // it may know the picture that the reply does not name
         }

@@ -6,6 +6,7 @@
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/SkeletonShapes.h"
+#include "text/WebLink.h"
 
 namespace kiv::store {
 
@@ -197,8 +198,10 @@ void CanvasRoom::openSurface(const canvas::SurfaceLink &link, Record record) {
 QUrl CanvasRoom::openLink(const QString &link) {
     const QUrl &base = m_store.net().baseUrl();
     const auto page = canvas::SurfaceMatcher::page(link, base);
-    if (!page)
-        return base.resolved(QUrl(link));
+    if (!page) {
+        const QString target = text::linkTarget(link);
+        return target.isEmpty() ? QUrl() : base.resolved(QUrl(target));
+    }
     openSurface(*page, Record::New);
     return {};
 }

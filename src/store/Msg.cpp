@@ -1,5 +1,6 @@
 #include "store/Msg.h"
 
+#include "base/BaseUrl.h"
 #include "base/IsoTime.h"
 #include "canvas/AnswerReading.h"
 #include "canvas/SceneAdapter.h"
@@ -10,19 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isWebAddress(const QString &url) {
-    return url.startsWith(u"http://"_s) || url.startsWith(u"https://"_s);
-}
-
 QList<MsgFile> msgFiles(const net::ChatRow &row) {
     QList<MsgFile> files;
     if (!row.metadata || !row.metadata->attachments)
         return files;
     for (const auto &attachment : *row.metadata->attachments) {
         QString url = attachment.url.value_or(QString());
-        if (!isWebAddress(url))
+        if (!isWebAddress(QUrl(url)))
             url = attachment.publicUrl.value_or(QString());
-        if (!isWebAddress(url))
+        if (!isWebAddress(QUrl(url)))
             continue;
         MsgFile file;
         file.name = attachment.name.value_or(attachment.filename.value_or(url));
@@ -82,7 +79,7 @@ QList<MsgFile> msgFiles(const QList<ChatAttachment> &attachments) {
         MsgFile file;
         file.name = attachment.name;
         file.url = attachment.url.value_or(QString());
-        if (isWebAddress(file.url))
+        if (isWebAddress(QUrl(file.url)))
             files.append(file);
     }
     return files;

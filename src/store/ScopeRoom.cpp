@@ -1,5 +1,6 @@
 #include "store/ScopeRoom.h"
 
+#include "base/BaseUrl.h"
 #include "canvas/Suggestions.h"
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
@@ -202,7 +203,7 @@ void ScopeRoom::toggleExpanded(const QString &projectID) {
 void ScopeRoom::adopt(const net::MeUser &user) {
     m_userName = user.displayName().value_or(QString());
     m_userEmail = user.email.value_or(QString());
-    m_userAvatarURL = user.avatarUrl.value_or(QString());
+    setUserAvatar(pictureAddress(user.avatarUrl.value_or(QString())));
     m_projects = QList<Project>();
     m_standaloneAgents = QList<Agent>();
     m_rail.setEntries({}, {});
@@ -254,7 +255,7 @@ QCoro::Task<void> ScopeRoom::refreshUserAvatarIfNeeded(Cancel cancel) {
         co_return;
     try {
         const auto profile = co_await net::KivAPI::profile(&m_store.net(), cancel);
-        m_userAvatarURL = profile.avatarUrl.value_or(QString());
+        setUserAvatar(pictureAddress(profile.avatarUrl.value_or(QString())));
     } catch (const std::exception &) {
         // The initials stay in its place.
         cancel.throwIfRequested();

@@ -1,4 +1,5 @@
 #include "text/MDParser.h"
+#include "text/WebLink.h"
 
 #include <algorithm>
 #include <array>
@@ -149,16 +150,8 @@ private:
         QString outerLink;
     };
 
-    /// Where a link may lead: the web, a letter, or a path on the platform's own host.
     static QString target(const MD_ATTRIBUTE &href) {
-        const QString link = QString::fromUtf8(href.text, href.size);
-        if (link.startsWith(u'/') && !link.startsWith(u"//"))
-            return link;
-        for (const auto scheme : {"http:"_L1, "https:"_L1, "mailto:"_L1}) {
-            if (link.startsWith(scheme, Qt::CaseInsensitive))
-                return link;
-        }
-        return {};
+        return linkTarget(QString::fromUtf8(href.text, href.size));
     }
 
     QList<InlineSpan> m_spans;

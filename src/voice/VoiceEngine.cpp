@@ -14,11 +14,13 @@ using VoicePageText::jsString;
 namespace {
 
 const QString channelName = u"vcall"_s;
+/// What a page posts is kept for the length of a call.
+constexpr qsizetype longestText = 20'000;
 const QString endCall = u"window.__nativeEnd()"_s;
 
 QString text(const QVariantMap &message, const QString &key) {
     const QVariant value = message.value(key);
-    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+    return value.typeId() == QMetaType::QString ? value.toString().left(longestText) : QString();
 }
 
 /// Nothing for what is no number; true and false are none.

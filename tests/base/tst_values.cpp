@@ -2,10 +2,16 @@
 
 #include "base/BaseUrl.h"
 #include "base/Json.h"
+#include "base/PrivateFile.h"
 #include "base/Regex.h"
 #include "base/Text.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 using namespace kiv;
@@ -31,6 +37,7 @@ private Q_SLOTS:
         QTest::newRow("no host") << u"https://"_s << QString();
         QTest::newRow("not an address") << u"kiv"_s << QString();
         QTest::newRow("credentials") << u"https://a:b@kiv.example"_s << QString();
+        QTest::newRow("credentials elsewhere") << u"http://a:b@kiv.example"_s << QString();
     }
     void baseUrl() {
         QFETCH(QString, text);
@@ -39,8 +46,33 @@ private Q_SLOTS:
             QCOMPARE(parseBaseUrl(text).toString(), url);
         } catch (const BaseUrlError &error) {
             QVERIFY2(url.isEmpty(), error.what());
-            QVERIFY(QByteArray(error.what()).contains(text.toUtf8()));
+            QVERIFY(QString::fromUtf8(error.what()).contains(text.section(u'@', -1)));
+            QVERIFY(!QByteArray(error.what()).contains("a:b"));
         }
+    }
+
+    /// A file that cannot be written whole is left as it was, and nobody else reads either.
+    void privateFiles() {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"own/file"_s);
+        QVERIFY(QDir().mkpath(folder.filePath(u"own"_s)));
+        QVERIFY(QFile::setPermissions(folder.filePath(u"own"_s), QFile::Permissions(0x7755)));
+        QCOMPARE(PrivateFile::write(path, "before"), QString());
+        rlimit limit{};
+        QVERIFY(getrlimit(RLIMIT_FSIZE, &limit) == 0);
+        const rlimit small{10'000, limit.rlim_max};
+        const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
+        QVERIFY(setrlimit(RLIMIT_FSIZE, &small) == 0);
+        const QString failure = PrivateFile::write(path, QByteArray(100'000, 'x'));
+        QVERIFY(setrlimit(RLIMIT_FSIZE, &limit) == 0);
+        std::signal(SIGXFSZ, ignored);
+        QVERIFY(!failure.isEmpty());
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), "before"_ba);
+        QCOMPARE(QDir(folder.filePath(u"own"_s)).entryList(QDir::Files), QStringList{u"file"_s});
+        for (const QString &own : {path, folder.filePath(u"own"_s)})
+            QCOMPARE(QFile::permissions(own) & QFile::Permissions(0x0077), QFile::Permissions());
     }
 
     void pathSegment_data() {

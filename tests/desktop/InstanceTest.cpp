@@ -36,6 +36,8 @@ private Q_SLOTS:
         QTest::newRow("with a link") << QStringList{u"kiv://chat/kiv"_s} << u"t"_s;
         QTest::newRow("with whatever it was given")
             << QStringList{u"file:///etc/passwd"_s, u"kiv://chat/agent/scout"_s} << QString();
+        QTest::newRow("with more links than anybody opens")
+            << QStringList(1000, u"kiv://chat/kiv"_s) << QString();
     }
     void aSecondStartHandsOver() {
         QFETCH(QStringList, links);
@@ -50,7 +52,7 @@ private Q_SLOTS:
         QStringList got;
         for (const QList<QVariant> &call : opened)
             got.append(call.first().toString());
-        QCOMPARE(got, links);
+        QCOMPARE(got, links.first(std::min<qsizetype>(links.size(), 16)));
     }
 
     void aProfileIsAPlaceOfItsOwn() {

@@ -73,13 +73,16 @@ private Q_SLOTS:
     void anotherServerGetsABareQuestion_data() {
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("host");
-        QTest::newRow("another port") << 307 << u"127.0.0.1"_s;
-        QTest::newRow("another name") << 308 << u"localhost"_s;
-        QTest::newRow("not repeated") << 302 << u"localhost"_s;
+        QTest::addColumn<bool>("withoutScheme");
+        QTest::newRow("another port") << 307 << u"127.0.0.1"_s << false;
+        QTest::newRow("another name") << 308 << u"localhost"_s << false;
+        QTest::newRow("without a scheme") << 308 << u"localhost"_s << true;
+        QTest::newRow("not repeated") << 302 << u"localhost"_s << false;
     }
     void anotherServerGetsABareQuestion() {
         QFETCH(int, status);
         QFETCH(QString, host);
+        QFETCH(bool, withoutScheme);
         ClientFixture at;
         QVERIFY(setCookie(at));
         RawServer other;
@@ -87,7 +90,10 @@ private Q_SLOTS:
             const QByteArray back = "Location: " + at.server.url().toEncoded() + "/back";
             request.peer->reply(307, "", {back, "Set-Cookie: foreign=1"});
         });
-        redirectTo(at.server, status, other.url(host).toEncoded() + "/there");
+        QByteArray there = other.url(host).toEncoded() + "/there";
+        if (withoutScheme)
+            there.remove(0, qstrlen("http:"));
+        redirectTo(at.server, status, there);
         auto call = post(*at.client);
         QVERIFY(call.finish());
         QVERIFY2(call.succeeded(), qPrintable(call.errorText()));

@@ -161,6 +161,27 @@ private Q_SLOTS:
         }
     }
 
+    void answersThatAreTooLargeAreGivenUp_data() {
+        QTest::addColumn<QByteArray>("encoding");
+        QTest::addColumn<QByteArray>("body");
+        const QByteArray large(70 * 1024 * 1024, ' ');
+        QTest::newRow("as it is") << ""_ba << large;
+        // Seventy kilobytes that unpack to the same.
+        QTest::newRow("packed") << "Content-Encoding: deflate"_ba << qCompress(large).mid(4);
+    }
+    void answersThatAreTooLargeAreGivenUp() {
+        QFETCH(QByteArray, encoding);
+        QFETCH(QByteArray, body);
+        ClientFixture at;
+        at.server.answer(200, body,
+                         encoding.isEmpty() ? QByteArrayList() : QByteArrayList{encoding});
+        Call<HttpResponse> call([&](Cancel cancel) {
+            return at.client->fetch(at.client->request("GET", u"x"_s), cancel);
+        });
+        QVERIFY(call.finish());
+        QVERIFY(call.failedWith(APIError::Kind::Transport));
+    }
+
     void aRefusedConnectionFailsAtOnce() {
         ClientFixture at;
         at.server.close();

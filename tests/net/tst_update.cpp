@@ -71,6 +71,20 @@ private Q_SLOTS:
         QTest::newRow("empty") << 200 << QByteArray() << u"1"_s << QString();
         QTest::newRow("not modified") << 304 << item("9") << u"1"_s << QString();
         QTest::newRow("another success") << 206 << item("9") << u"1"_s << QString();
+        QTest::newRow("links that lead elsewhere")
+            << 200
+            << "<link>javascript:alert(1)</link><enclosure url='http://evil.example/kiv.deb'/>" +
+                   item("2.0")
+            << u"1"_s << u"2.0"_s;
+        QTest::newRow("entities that grow") << 200
+                                            << "<!DOCTYPE r [<!ENTITY a '9'><!ENTITY b '&a;&a;'>"
+                                               "<!ENTITY x SYSTEM 'file:///etc/passwd'>]>" +
+                                                   item("&b;") + item("&x;")
+                                            << u"1"_s << QString();
+        QTest::newRow("a figure without end")
+            << 200 << item("9" + QByteArray(100, '9')) << u"1"_s << QString();
+        QTest::newRow("larger than any feed")
+            << 200 << item("9") + QByteArray(1024 * 1024, ' ') << u"1"_s << QString();
         QTest::newRow("server error") << 500 << item("9") << u"1"_s << QString();
     }
     void feeds() {

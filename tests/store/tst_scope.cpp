@@ -37,6 +37,27 @@ private Q_SLOTS:
         QCOMPARE(f.store->scope()->userInitials(), u"AB"_s);
     }
 
+    /// A picture may be of the web or on the server, and is no file of this computer.
+    void picture_data() {
+        QTest::addColumn<QString>("address");
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("of the backend") << u"/pictures/a.png"_s << true;
+        QTest::newRow("elsewhere") << u"https://a.example/a.png"_s << true;
+        for (const QString &bad : {u"file:///etc/passwd"_s, u"qrc:/x.png"_s, u"image://icon/x"_s,
+                                   u"data:image/png;base64,AA"_s, u"https:x"_s})
+            QTest::newRow(qPrintable(bad)) << bad << false;
+    }
+    void picture() {
+        QFETCH(QString, address);
+        QFETCH(bool, shown);
+        StoreFixture f;
+        f.backend.answer(u"GET api/v2/auth/me"_s,
+                         R"({"id":"u","email":"a@b.example","avatar_url":")" + address.toUtf8() +
+                             R"("})");
+        QVERIFY(f.signIn());
+        QCOMPARE(f.store->scope()->userAvatarURL(), shown ? address : QString());
+    }
+
     void failedRailKeepsTheOld() {
         StoreFixture f;
         QVERIFY(f.signIn());

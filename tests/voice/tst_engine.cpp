@@ -199,6 +199,9 @@ private Q_SLOTS:
             u"message ai|hi|"_s);
         row("partly", {{u"t"_s, u"message"_s}, {u"message"_s, u"hi"_s}, {u"type"_s, u"partial"_s}},
             u"message |hi|partial"_s);
+        row("more than anybody says",
+            {{u"t"_s, u"message"_s}, {u"message"_s, u"x"_s.repeated(1'000'000)}},
+            u"message |"_s + u"x"_s.repeated(20'000) + u'|');
         row("nothing said", {{u"t"_s, u"message"_s}, {u"message"_s, u" \n\t"_s}}, {});
         row("ping", {{u"t"_s, u"ping"_s}, {u"ms"_s, 41.5}}, u"ping 41.5"_s);
         row("ping of no number", {{u"t"_s, u"ping"_s}, {u"ms"_s, u"41"_s}}, u"ping 0"_s);

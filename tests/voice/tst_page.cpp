@@ -79,6 +79,26 @@ private Q_SLOTS:
                               u"connectFail [\"SDK loaded without a global\"]"_s, u"ready []"_s}));
     }
 
+    /// What the backend, the chat and the devices are called is a text to the page, nothing else.
+    void textsStayTexts_data() {
+        QTest::addColumn<QString>("text");
+        for (const QString &text :
+             {u"\"); posts.push('broken out'); (\""_s, u"'; x; '"_s, u"\\\"); x; (\\\""_s,
+              u"</script><script>x</script>"_s, u"<!-- <script>"_s, u"a\nb\r\u2028\u2029c"_s,
+              u"${x} `x`"_s, u"]]>"_s, QString(QChar(0)) + QChar(0xd800), u"🚀 Ünï"_s})
+            QTest::newRow(qPrintable(text.left(20))) << text;
+    }
+    void textsStayTexts() {
+        QFETCH(QString, text);
+        Page page;
+        const QString literal = VoicePageText::jsString(text);
+        QVERIFY(!literal.contains(u"</"_s));
+        QCOMPARE(page.run(u"("_s + literal + u").length"_s).toInt(), text.size());
+        if (!text.contains(QChar(0xd800)))
+            QCOMPARE(page.run(literal).toString(), text);
+        QCOMPARE(page.list(u"posts"_s), QStringList());
+    }
+
     void transports_data() {
         QTest::addColumn<QString>("session");
         QTest::addColumn<QString>("answers");
