@@ -10,7 +10,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -53,9 +52,6 @@ MainThread::Reading MainThread::read() const {
         std::strtoull(text, &second, 10);
         reading.queued = Nanoseconds(std::strtoull(second, nullptr, 10));
     }
-    rusage usage{};
-    ::getrusage(RUSAGE_THREAD, &usage);
-    reading.waits = usage.ru_nvcsw;
     reading.time = Nanoseconds(m_clock.nsecsElapsed());
     return reading;
 }
@@ -104,11 +100,7 @@ void MainThread::endPass() {
     const auto span = [&](Nanoseconds Reading::*part) {
         return end.*part - m_begin.*part - m_own.*part;
     };
-    // Without a wait of its own all that is not work is time that others had the processor, also
-    // where the kernel does not know of them.
-    const bool hasWaited = end.waits > m_begin.waits;
-    const Nanoseconds held =
-        hasWaited ? span(&Reading::time) - span(&Reading::queued) : span(&Reading::worked);
+    const Nanoseconds held = span(&Reading::time) - span(&Reading::queued);
     const auto isOver = [&](int milliseconds) {
         return held > std::chrono::milliseconds(milliseconds) ? 1 : 0;
     };
