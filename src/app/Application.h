@@ -62,6 +62,8 @@ private:
     };
 
     QCoro::Task<void> connectToBackend(Cancel cancel);
+    QCoro::Task<void> startServer(Cancel cancel);
+    QCoro::Task<void> keepServer(Cancel cancel);
     void boot();
     void bootAgain();
     void raise(const QString &token);

@@ -1,7 +1,6 @@
 #include "app/EmbeddedServer.h"
 
 #include "base/BaseUrl.h"
-#include "base/ChildProcess.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,9 +18,8 @@ constexpr int farewellMs = 2000;
 } // namespace
 
 EmbeddedServer::EmbeddedServer(Clock &clock, const QString &program, const QStringList &arguments)
-    : m_clock(clock) {
+    : m_clock(clock), m_arguments(arguments) {
     m_process.setProgram(program);
-    m_process.setArguments(arguments);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
 }
 
@@ -38,6 +36,13 @@ EmbeddedServer::~EmbeddedServer() {
 QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     if (m_process.program().isEmpty())
         throw ProcessError("The embedded workspace is not installed.");
+    if (m_process.state() != QProcess::NotRunning)
+        m_process.kill();
+    co_await untilEnded(&m_process, cancel);
+    // The port of before, once: somebody else may have taken it.
+    const int port = std::exchange(m_port, 0);
+    m_process.setArguments(
+        port == 0 ? m_arguments : m_arguments + QStringList{u"--port"_s, QString::number(port)});
     const QByteArray line =
         co_await startAndReadLine(&m_process, &m_clock, startPatience, std::move(cancel));
     const QJsonObject greeting = QJsonDocument::fromJson(line).object();
@@ -47,6 +52,7 @@ QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     const QJsonObject sample = greeting.value(u"sample"_s).toObject();
     Greeting result;
     result.url = parseBaseUrl(url);
+    m_port = result.url.port();
     result.sample = {sample.value(u"email"_s).toString(), sample.value(u"password"_s).toString()};
     co_return result;
 }

@@ -14,11 +14,14 @@ class ConnectionRoom : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("owned by the store")
     Q_PROPERTY(bool offline READ offline NOTIFY offlineChanged)
+    Q_PROPERTY(bool serverDown READ serverDown NOTIFY serverDownChanged)
 public:
     explicit ConnectionRoom(AppStore &store);
 
     /// Requests wait for the connection.
     bool offline() const { return m_offline; }
+    /// They wait for the server of this computer, which is being started again.
+    bool serverDown() const { return m_serverDown; }
 
     /// Asks the server itself, whatever the system says.
     Q_INVOKABLE void retryNow();
@@ -28,10 +31,13 @@ public:
 
 Q_SIGNALS:
     void offlineChanged();
+    void serverDownChanged();
 
 private:
     AppStore &m_store;
     Q_OBJECT_BINDABLE_PROPERTY(ConnectionRoom, bool, m_offline, &ConnectionRoom::offlineChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(ConnectionRoom, bool, m_serverDown,
+                               &ConnectionRoom::serverDownChanged)
 };
 
 } // namespace kiv::store
