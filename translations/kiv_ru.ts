@@ -1318,6 +1318,10 @@
 <context>
     <name>MainView</name>
     <message>
+        <source>The workspace on this computer has stopped and is being started again. What you send waits for it.</source>
+        <translation>Рабочее пространство на этом компьютере остановилось и запускается заново. Всё отправленное дождётся его.</translation>
+    </message>
+    <message>
         <source>You are offline. What you send waits for the connection.</source>
         <translation>Нет связи. Всё отправленное дождётся её.</translation>
     </message>

@@ -12,9 +12,12 @@
 #include <QQuickWindow>
 #include <QSGRendererInterface>
 
+#include <algorithm>
+
 namespace kiv::app {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -29,6 +32,11 @@ void letPagesHear(const QString &file) {
 }
 
 constexpr qsizetype reportedLines = 40;
+/// How soon an embedded server that has ended is started again, and how seldom at last.
+constexpr Clock::Milliseconds firstPause = 250ms;
+constexpr Clock::Milliseconds longestPause = 30s;
+/// One that has run that long is not ended by how it is started.
+constexpr Clock::Milliseconds lasting = 60s;
 const QString askAction = u"ask-kiv"_s;
 
 QString drawnBy(const QQuickWindow *window) {
@@ -148,26 +156,60 @@ void Application::start() {
 }
 
 QCoro::Task<void> Application::connectToBackend(Cancel cancel) {
-    try {
-        if (m_options.baseUrl) {
-            m_net->setBaseUrl(*m_options.baseUrl);
-        } else {
-            const QStringList arguments =
-                QStringList{u"--data-dir"_s, m_options.places.workspaceDir} +
-                m_options.sandboxArguments;
-            m_server = std::make_unique<EmbeddedServer>(m_clock, m_options.places.sandboxProgram,
-                                                        arguments);
-            const EmbeddedServer::Greeting greeting = co_await m_server->start(cancel);
-            m_net->setBaseUrl(greeting.url);
-            m_store->session()->offerSample(greeting.sample);
-            m_store->storage()->reportDamage(store::StorageRoom::Kept::Workspace,
-                                             greeting.setAside);
-        }
+    if (m_options.baseUrl) {
+        m_net->setBaseUrl(*m_options.baseUrl);
         boot();
+        co_return;
+    }
+    const QStringList arguments =
+        QStringList{u"--data-dir"_s, m_options.places.workspaceDir} + m_options.sandboxArguments;
+    m_server =
+        std::make_unique<EmbeddedServer>(m_clock, m_options.places.sandboxProgram, arguments);
+    QString failure;
+    try {
+        co_await startServer(cancel);
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
-        qCritical("%s", error.what());
-        m_store->session()->reportUnavailable(QString::fromUtf8(error.what()));
+        failure = QString::fromUtf8(error.what());
+    }
+    if (!failure.isEmpty()) {
+        qCritical("%s", qPrintable(failure));
+        m_store->session()->reportUnavailable(failure);
+        co_return;
+    }
+    boot();
+    co_await keepServer(cancel);
+}
+
+QCoro::Task<void> Application::startServer(Cancel cancel) {
+    const EmbeddedServer::Greeting greeting = co_await m_server->start(std::move(cancel));
+    m_net->setBaseUrl(greeting.url);
+    m_store->session()->offerSample(greeting.sample);
+    m_store->storage()->reportDamage(store::StorageRoom::Kept::Workspace, greeting.setAside);
+}
+
+/// A server that ends is started again, more and more seldom while it does not last. Meanwhile what
+/// is sent waits, as without a network.
+QCoro::Task<void> Application::keepServer(Cancel cancel) {
+    for (auto pause = firstPause;;) {
+        const auto since = m_clock.elapsed();
+        co_await m_server->ended(cancel);
+        qWarning("The embedded workspace has ended and is started again");
+        m_connectivity.setServerDown(true);
+        if (m_clock.elapsed() - since > lasting)
+            pause = firstPause;
+        for (bool isUp = false; !isUp; pause = std::min(2 * pause, longestPause)) {
+            co_await m_clock.sleep(pause, cancel);
+            try {
+                co_await startServer(cancel);
+                isUp = true;
+            } catch (const std::exception &error) {
+                cancel.throwIfRequested();
+                qWarning("%s", error.what());
+            }
+        }
+        m_connectivity.setServerDown(false);
+        bootAgain();
     }
 }
 

@@ -64,6 +64,8 @@ private:
     void watchStorage();
     void connectAgain();
     QCoro::Task<void> connectToBackend(Cancel cancel);
+    QCoro::Task<void> startServer(Cancel cancel);
+    QCoro::Task<void> keepServer(Cancel cancel);
     void boot();
     void bootAgain();
     void raise(const QString &token);

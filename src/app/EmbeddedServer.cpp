@@ -1,10 +1,11 @@
 #include "app/EmbeddedServer.h"
 
 #include "base/BaseUrl.h"
-#include "base/ChildProcess.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <utility>
 
 namespace kiv::app {
 
@@ -21,9 +22,8 @@ constexpr auto serverPrefix = "kiv-sandbox: "_L1;
 } // namespace
 
 EmbeddedServer::EmbeddedServer(Clock &clock, const QString &program, const QStringList &arguments)
-    : m_clock(clock) {
+    : m_clock(clock), m_arguments(arguments) {
     m_process.setProgram(program);
-    m_process.setArguments(arguments);
     QObject::connect(&m_process, &QProcess::readyReadStandardError, &m_process, [this] { hear(); });
 }
 
@@ -51,6 +51,14 @@ void EmbeddedServer::hear() {
 QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     if (m_process.program().isEmpty())
         throw ProcessError("The embedded workspace is not installed.");
+    if (m_process.state() != QProcess::NotRunning)
+        m_process.kill();
+    co_await untilEnded(&m_process, cancel);
+    m_complaint.clear();
+    // The port of before, once: somebody else may have taken it.
+    const int port = std::exchange(m_port, 0);
+    m_process.setArguments(
+        port == 0 ? m_arguments : m_arguments + QStringList{u"--port"_s, QString::number(port)});
     QByteArray line;
     try {
         line = co_await startAndReadLine(&m_process, &m_clock, startPatience, std::move(cancel));
@@ -67,6 +75,7 @@ QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
     const QJsonObject sample = greeting.value(u"sample"_s).toObject();
     Greeting result;
     result.url = parseBaseUrl(url);
+    m_port = result.url.port();
     result.sample = {sample.value(u"email"_s).toString(), sample.value(u"password"_s).toString()};
     result.setAside = greeting.value(u"setAside"_s).toString();
     co_return result;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "base/Cancel.h"
-#include "base/Clock.h"
+#include "base/ChildProcess.h"
 #include "store/SessionRoom.h"
 
 #include <QCoroTask>
@@ -26,14 +25,19 @@ public:
     EmbeddedServer(Clock &clock, const QString &program, const QStringList &arguments);
     ~EmbeddedServer();
 
-    /// Throws ProcessError when the server does not come up, Cancelled.
+    /// Throws ProcessError when the server does not come up, Cancelled. A server that is started
+    /// again has the address of before if that is free.
     QCoro::Task<Greeting> start(Cancel cancel);
+    /// Waits until the server has ended. Throws Cancelled.
+    QCoro::Task<void> ended(Cancel cancel) { return untilEnded(&m_process, std::move(cancel)); }
     qint64 processId() const { return m_process.processId(); }
 
 private:
     void hear();
 
     Clock &m_clock;
+    const QStringList m_arguments;
+    int m_port = 0; ///< that the server had; 0 for any
     QProcess m_process;
     QString m_complaint; ///< the last line that the server complained with
 };

@@ -51,7 +51,42 @@ private:
     std::coroutine_handle<> m_waiting;
 };
 
+/// Waits until the process has ended.
+class End {
+public:
+    End(QProcess *process, Cancel cancel) : m_process(process), m_cancel(std::move(cancel)) {}
+
+    bool ready() const {
+        return m_cancel.requested() || m_process->state() == QProcess::NotRunning;
+    }
+    void suspend(std::coroutine_handle<> waiting) {
+        m_waiting = waiting;
+        QObject::connect(m_process, &QProcess::finished, &m_context, [this] { wake(); });
+        m_cancel.link(m_link, [this] { wake(); });
+    }
+    void result() const { m_cancel.throwIfRequested(); }
+
+private:
+    void wake() {
+        m_link.unlink();
+        m_process->disconnect(&m_context);
+        if (const auto waiting = std::exchange(m_waiting, {}))
+            waiting.resume();
+    }
+
+    QProcess *m_process;
+    Cancel m_cancel;
+    QObject m_context;
+    Cancel::Link m_link;
+    std::coroutine_handle<> m_waiting;
+};
+
 } // namespace
+
+QCoro::Task<void> untilEnded(QProcess *process, Cancel cancel) {
+    End end(process, std::move(cancel));
+    co_await waitFor(end);
+}
 
 QCoro::Task<QByteArray> startAndReadLine(QProcess *process, Clock *clock,
                                          Clock::Milliseconds patience, Cancel cancel) {

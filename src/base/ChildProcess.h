@@ -22,4 +22,7 @@ public:
 QCoro::Task<QByteArray> startAndReadLine(QProcess *process, Clock *clock,
                                          Clock::Milliseconds patience, Cancel cancel);
 
+/// Waits until `process` runs no more. Throws Cancelled. The process outlives the wait.
+QCoro::Task<void> untilEnded(QProcess *process, Cancel cancel);
+
 } // namespace kiv

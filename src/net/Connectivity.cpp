@@ -9,6 +9,8 @@ namespace kiv::net {
 using namespace Qt::StringLiterals;
 
 bool Connectivity::reaches(const QUrl &url) const {
+    if (m_serverDown)
+        return false;
     const bool hasAnswered = !m_answered.isEmpty() && m_answered == url.host();
     return hasAnswered || isKnownToReach(url);
 }
@@ -22,6 +24,11 @@ void Connectivity::probe(const QUrl &url) {
     });
     const int standardPort = url.scheme() == u"https"_s ? 443 : 80;
     m_probe->connectToHost(url.host(), static_cast<quint16>(url.port(standardPort)));
+}
+
+void Connectivity::setServerDown(bool down) {
+    if (std::exchange(m_serverDown, down) != down)
+        Q_EMIT changed();
 }
 
 void Connectivity::takeNews() {

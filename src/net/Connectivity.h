@@ -19,6 +19,9 @@ public:
     /// Asks the server itself, as the system may be wrong. One that answers counts as within reach
     /// until the system has news.
     void probe(const QUrl &url);
+    /// The server is known to be down, whatever the network is like.
+    void setServerDown(bool down);
+    bool isServerDown() const { return m_serverDown; }
 
 Q_SIGNALS:
     void changed();
@@ -30,6 +33,7 @@ protected:
 
 private:
     std::unique_ptr<QTcpSocket> m_probe;
+    bool m_serverDown = false;
     QString m_answered; ///< host of the server that was asked and answered
 };
 

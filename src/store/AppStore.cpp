@@ -43,6 +43,7 @@ AppStore::AppStore(Clock &clock, net::APIClient &net, QSettings &settings,
 
 AppStore::~AppStore() {
     m_chatStream.stop();
+    m_chat.end();
 }
 
 void AppStore::boot() {

@@ -89,6 +89,8 @@ public:
     void answerSettled(const QUuid &answer);
     /// The person leaves for good: nothing of what they typed is kept.
     void forgetTyped();
+    /// The program ends: what is not known to be sent is a draft when it starts again.
+    void end();
 
 Q_SIGNALS:
     /// The answer to the question of this turn is complete, as far as can be told.

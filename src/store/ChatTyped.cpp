@@ -41,8 +41,13 @@ void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
     m_store.attachments()->putBack(m_keptFiles.take(chat));
 }
 
-/// Messages that an expired session kept from being sent become what is being typed in their chat,
-/// and their files those of the next message.
+void ChatRoom::end() {
+    m_posts.cancel();
+    keepUnsent();
+}
+
+/// Messages that were kept from being sent become what is being typed in their chat, and their files
+/// those of the next message.
 void ChatRoom::keepUnsent() {
     const QString user = m_store.scope()->userEmail();
     setUnsentAside();

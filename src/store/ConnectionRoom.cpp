@@ -12,6 +12,7 @@ ConnectionRoom::ConnectionRoom(AppStore &store) : m_store(store) {
 void ConnectionRoom::look() {
     const QUrl &server = m_store.net().baseUrl();
     const bool before = m_offline;
+    m_serverDown = m_store.net().environment().connectivity->isServerDown();
     m_offline = !server.isEmpty() && !m_store.net().environment().connectivity->reaches(server);
     if (before && !m_offline)
         m_store.chat()->refresh();

@@ -2,12 +2,16 @@
 
 #include "app/Application.h"
 #include "driver/WindowDriver.h"
+#include "support/Processes.h"
 
 #include <QGuiApplication>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace kiv;
@@ -70,7 +74,49 @@ private Q_SLOTS:
         QCOMPARE(program.window()->visibility(), QWindow::Windowed);
     }
 
+    /// The workspace server ends in the middle of an answer. It is started again, and what the
+    /// person does meanwhile waits for it.
+    void serverComesBack() {
+        QTemporaryDir profile;
+        app::Application program(optionsFor(profile));
+        program.start();
+        store::AppStore &store = program.store();
+        const driver::WindowDriver person(program.window());
+        signUpByKeys(person, store);
+        person.press(Qt::Key_K, Qt::ControlModifier);
+        person.type(u"Weekly report"_s);
+        person.press(Qt::Key_Return);
+        QTRY_VERIFY_WITH_TIMEOUT(!store.chat()->msgs()->growing().isNull(), 15000);
+        for (const int round : {1, 2}) {
+            killServer();
+            QTRY_VERIFY(store.connection()->serverDown());
+            const QString text = u"Hello, for the %1. time"_s.arg(round);
+            person.type(text);
+            person.press(Qt::Key_Return);
+            person.type(u"half a thought"_s);
+            const auto isSent = [&](const store::Msg &message) {
+                return message.text == text && message.serverID;
+            };
+            QTRY_VERIFY_WITH_TIMEOUT(store.chat()->msgs()->find(isSent) >= 0, 15000);
+            QVERIFY(!store.connection()->serverDown());
+            QTRY_VERIFY_WITH_TIMEOUT(store.chat()->msgs()->messages().last().who ==
+                                             store::Who::Agent &&
+                                         store.chat()->msgs()->messages().last().serverID,
+                                     15000);
+            QCOMPARE(store.chat()->draft(), u"half a thought"_s);
+            store.chat()->setDraft(QString());
+        }
+        QCOMPARE(store.scope()->auth(), store::AuthPhase::SignedIn);
+    }
+
 private:
+    static void killServer() {
+        for (const qint64 process : test::family(getpid())) {
+            if (test::processFile(process, u"cmdline"_s).contains("kiv-sandbox"))
+                ::kill(static_cast<pid_t>(process), SIGKILL);
+        }
+    }
+
     void signUpByKeys(const driver::WindowDriver &person, store::AppStore &store) {
         QTRY_COMPARE_WITH_TIMEOUT(store.scope()->auth(), store::AuthPhase::Anon, 15000);
         person.press(Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier);

@@ -43,6 +43,7 @@ Rectangle {
 
         objectName: "bannerAction"
         x: parent.width - width - (banner.closable ? 64 : 24)
+        visible: banner.action !== ""
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.smallMedium
         color: banner.tone.text

@@ -66,8 +66,10 @@ FocusScope {
         height: visible ? implicitHeight : 0
         visible: view.store.connection.offline
         iconName: "offline"
-        text: qsTr("You are offline. What you send waits for the connection.")
-        action: qsTr("Retry now")
+        text: view.store.connection.serverDown
+            ? qsTr("The workspace on this computer has stopped and is being started again. What you send waits for it.")
+            : qsTr("You are offline. What you send waits for the connection.")
+        action: view.store.connection.serverDown ? "" : qsTr("Retry now")
         onActed: view.store.connection.retryNow()
     }
     Banner {
