@@ -46,8 +46,8 @@ void ChatRoom::end() {
     keepUnsent();
 }
 
-/// Messages that were kept from being sent become what is being typed in their chat, and their files
-/// those of the next message.
+/// Messages that were kept from being sent become what is being typed in their chat, and their
+/// files those of the next message.
 void ChatRoom::keepUnsent() {
     const QString user = m_store.scope()->userEmail();
     setUnsentAside();
