@@ -2,6 +2,7 @@
 
 #include "Schema.h"
 
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -25,6 +26,8 @@ Sql::Sql(const QString &path)
     if (!m_database->open()) {
         fail(m_database->lastError(), path);
     }
+    // One that was made when this was not yet seen to; what lies beside it takes after it.
+    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     exec(u"PRAGMA journal_mode = WAL"_s);
     exec(u"PRAGMA synchronous = NORMAL"_s);
     exec(u"PRAGMA foreign_keys = ON"_s);
