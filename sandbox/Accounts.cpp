@@ -29,15 +29,6 @@ void checkEmail(const QString &email) {
     }
 }
 
-void checkNewPassword(const QString &password) {
-    if (password.size() < shortestPassword) {
-        throw Refusal(400, u"Password must be at least 8 characters."_s, u"weak_password"_s);
-    }
-    if (password.size() > longestPassword) {
-        throw Refusal(400, u"Password must be at most 256 characters."_s, u"weak_password"_s);
-    }
-}
-
 QString storedHash(Sql &sql, const QString &account) {
     const auto row = sql.row(u"SELECT password FROM accounts WHERE id = ?"_s, {account});
     return row ? row->text(0) : QString();
@@ -74,6 +65,15 @@ QJsonObject readProfile(Sql &sql, const QString &account) {
 
 QString normalizedEmail(const QString &email) {
     return email.trimmed().toLower();
+}
+
+void Accounts::checkNewPassword(const QString &password) {
+    if (password.size() < shortestPassword) {
+        throw Refusal(400, u"Password must be at least 8 characters."_s, u"weak_password"_s);
+    }
+    if (password.size() > longestPassword) {
+        throw Refusal(400, u"Password must be at most 256 characters."_s, u"weak_password"_s);
+    }
 }
 
 QString Accounts::create(const QString &email, const QString &password,
@@ -131,7 +131,6 @@ void Accounts::setPassword(const QString &email, const QString &password) {
 }
 
 void Accounts::changePassword(const QString &account, const QString &current, const QString &next) {
-    checkNewPassword(next);
     const QString stored = m_database.run([&](Sql &sql) { return storedHash(sql, account); });
     if (!verifyPassword(stored.toLatin1(), current)) {
         throw Refusal(400, u"The current password is wrong."_s, u"wrong_password"_s);

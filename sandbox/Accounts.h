@@ -23,7 +23,9 @@ public:
     /// Gives the account with this address another password.
     void setPassword(const QString &email, const QString &password);
 
-    /// Throws Refusal when `current` is given and wrong, or `next` is too short.
+    /// Throws Refusal when the password is too short or too long to be taken.
+    static void checkNewPassword(const QString &password);
+    /// Throws Refusal when `current` is wrong. `next` has been checked.
     void changePassword(const QString &account, const QString &current, const QString &next);
 
     /// Every stored field under its wire key, "id", "email" and "avatar_url" (a key) included.

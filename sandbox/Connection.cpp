@@ -1,21 +1,36 @@
 #include "Connection.h"
 
+#include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 namespace kiv::sandbox {
 
 namespace {
 
 constexpr Connection::Milliseconds ioPatience{30'000};
+constexpr size_t largestHead = 64 * 1024;
+constexpr Connection::Milliseconds headPatience{10'000};
+constexpr Connection::Milliseconds bodyPatience{60'000};
+constexpr Connection::Milliseconds drainPatience{2'000};
 /// Not a divisor of anything: slow bytes cut events and characters at ever new places.
 constexpr size_t slowPiece = 7;
 
 thread_local Connection *servedHere = nullptr;
+
+/// Of the end that `ask` (getsockname or getpeername) names; 0 when it is gone.
+template <typename Ask>
+int portOf(socket_t socket, Ask ask) {
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    return ask(socket, reinterpret_cast<sockaddr *>(&address), &size) == 0 ? ntohs(address.sin_port)
+                                                                           : 0;
+}
 
 } // namespace
 
@@ -35,6 +50,14 @@ Connection *Connection::current() {
     return servedHere;
 }
 
+int Connection::peerPort() const {
+    return portOf(m_socket, ::getpeername);
+}
+
+int Connection::ownPort() const {
+    return portOf(m_socket, ::getsockname);
+}
+
 bool Connection::waitFor(short events, Milliseconds patience) const {
     pollfd watched{m_socket, events, 0};
     int ready = 0;
@@ -45,10 +68,30 @@ bool Connection::waitFor(short events, Milliseconds patience) const {
 }
 
 bool Connection::waitForRequest(Milliseconds patience) {
-    if (m_begin < m_end) {
-        return true;
+    return m_begin < m_end || (waitFor(POLLIN, patience) && !peerGone());
+}
+
+void Connection::beginHead() {
+    m_mayRead = largestHead;
+    m_deadline = std::chrono::steady_clock::now() + headPatience;
+}
+
+void Connection::beginBody() {
+    m_mayRead = std::numeric_limits<size_t>::max();
+    m_deadline = std::chrono::steady_clock::now() + bodyPatience;
+}
+
+Connection::Milliseconds Connection::timeLeft() const {
+    const auto left = m_deadline - std::chrono::steady_clock::now();
+    return std::max(std::chrono::duration_cast<Milliseconds>(left), Milliseconds(0));
+}
+
+void Connection::drain() {
+    ::shutdown(m_socket, SHUT_WR);
+    m_deadline = std::chrono::steady_clock::now() + drainPatience;
+    while (waitFor(POLLIN, timeLeft()) &&
+           ::recv(m_socket, m_buffer.data(), m_buffer.size(), 0) > 0) {
     }
-    return waitFor(POLLIN, patience) && !peerGone();
 }
 
 bool Connection::peerGone() const {
@@ -70,8 +113,12 @@ bool Connection::is_writable() const {
 }
 
 ssize_t Connection::read(char *data, size_t size) {
+    if (m_mayRead == 0) {
+        m_ending = true; // what follows is not the beginning of anything
+        return -1;
+    }
     if (m_begin == m_end) {
-        if (!waitFor(POLLIN, ioPatience)) {
+        if (!waitFor(POLLIN, std::min(timeLeft(), ioPatience))) {
             return -1;
         }
         const ssize_t got = ::recv(m_socket, m_buffer.data(), m_buffer.size(), 0);
@@ -81,9 +128,10 @@ ssize_t Connection::read(char *data, size_t size) {
         m_begin = 0;
         m_end = static_cast<size_t>(got);
     }
-    const size_t taken = std::min(size, m_end - m_begin);
+    const size_t taken = std::min({size, m_end - m_begin, m_mayRead});
     std::memcpy(data, m_buffer.data() + m_begin, taken);
     m_begin += taken;
+    m_mayRead -= taken;
     return static_cast<ssize_t>(taken);
 }
 

@@ -21,8 +21,19 @@ public:
     /// The connection that the calling thread serves, or null.
     static Connection *current();
 
+    int peerPort() const;
+    int ownPort() const;
     /// Waits for the first byte of the next request; false when the peer left or stayed silent.
     bool waitForRequest(Milliseconds patience);
+    /// A request begins. Its head may take so much room and time, and no more.
+    void beginHead();
+    /// The head has been read. Its body may take as long as the largest takes.
+    void beginBody();
+    /// Nothing is read of this connection after the reply under way.
+    void endAfterReply() { m_ending = true; }
+    bool isEnding() const { return m_ending; }
+    /// Takes what the peer still sends for a moment, so that it comes to read the reply.
+    void drain();
     /// Whether the peer has closed its end.
     bool peerGone() const;
     /// Everything written from now on goes out in small pieces with this pause between them.
@@ -40,9 +51,13 @@ public:
 
 private:
     bool waitFor(short events, Milliseconds patience) const;
+    Milliseconds timeLeft() const;
     bool sendAll(const char *data, size_t size);
 
     socket_t m_socket;
+    bool m_ending = false;
+    size_t m_mayRead = 0; ///< bytes of the request that may still be read
+    std::chrono::steady_clock::time_point m_deadline;
     Milliseconds m_pause{0};
     std::array<char, 8192> m_buffer;
     size_t m_begin = 0;

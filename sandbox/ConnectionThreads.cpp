@@ -22,6 +22,11 @@ void ConnectionThreads::shutdown() {
     }
 }
 
+bool ConnectionThreads::isCrowded() {
+    const std::lock_guard lock(m_mutex);
+    return m_jobs.size() > m_idle && m_threads.size() == m_most;
+}
+
 void ConnectionThreads::work() {
     std::unique_lock lock(m_mutex);
     while (true) {

@@ -18,6 +18,8 @@ public:
 
     void enqueue(std::function<void()> job) override;
     void shutdown() override;
+    /// Whether connections wait for others to end.
+    bool isCrowded();
 
 private:
     void work();

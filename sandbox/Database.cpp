@@ -90,6 +90,8 @@ Sql::Sql(const QString &path) : m_database(path) {
     if (!(*m_database).open()) {
         fail((*m_database).lastError(), path);
     }
+    // One that was made when this was not yet seen to; what lies beside it takes after it.
+    QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     // Looked at before anything is written: what is refused or set aside stays as it was.
     checkContent();
     createSchema(*this);

@@ -30,8 +30,13 @@ qsizetype betweenCharacters(const QByteArray &event) {
 } // namespace
 
 EventStream::EventStream(ChatHub &hub, const ChatKey &key,
-                         std::shared_ptr<ChatHub::Listener> listener, std::optional<Fault> fault)
-    : m_hub(hub), m_key(key), m_listener(std::move(listener)), m_fault(std::move(fault)) {}
+                         std::shared_ptr<ChatHub::Listener> listener, IsAllowed isAllowed,
+                         std::optional<Fault> fault)
+    : m_hub(hub),
+      m_key(key),
+      m_listener(std::move(listener)),
+      m_isAllowed(std::move(isAllowed)),
+      m_fault(std::move(fault)) {}
 
 EventStream::~EventStream() {
     m_hub.leave(m_key, m_listener);
@@ -68,7 +73,12 @@ bool EventStream::pump(httplib::DataSink &sink) {
         return write(sink, "event: ready\ndata: {}\n\n") && !due(Fault::StreamDrop);
     }
     QByteArray event;
-    switch (m_listener->next(event, lookRound)) {
+    const ChatHub::Wait waited = m_listener->next(event, lookRound);
+    if (!m_isAllowed()) {
+        sink.done();
+        return true;
+    }
+    switch (waited) {
     case ChatHub::Wait::Ended:
         sink.done();
         return true;

@@ -6,6 +6,7 @@
 #include <httplib.h>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 
 namespace kiv::sandbox {
@@ -13,8 +14,11 @@ namespace kiv::sandbox {
 /// Writes one listener's events to its connection, with the faults that were ordered for it.
 class EventStream {
 public:
+    /// Whether whoever asked for the stream is still signed in.
+    using IsAllowed = std::function<bool()>;
+
     EventStream(ChatHub &hub, const ChatKey &key, std::shared_ptr<ChatHub::Listener> listener,
-                std::optional<Fault> fault);
+                IsAllowed isAllowed, std::optional<Fault> fault);
     ~EventStream();
 
     /// Waits for the next thing to write and writes it; false ends the connection.
@@ -28,6 +32,7 @@ private:
     ChatHub &m_hub;
     const ChatKey m_key;
     const std::shared_ptr<ChatHub::Listener> m_listener;
+    const IsAllowed m_isAllowed;
     const std::optional<Fault> m_fault;
     bool m_greeted = false;
     int m_events = 0;

@@ -9,12 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace kiv::sandbox {
 
-namespace {
-
-constexpr size_t largestJson = 1024 * 1024;
-
-} // namespace
-
 QJsonObject Refusal::body() const {
     QJsonObject body{{u"error"_s, m_text}};
     if (!m_code.isEmpty()) {
@@ -46,9 +40,6 @@ int Call::number(const char *name, int byDefault, int least, int most) const {
 }
 
 QJsonObject Call::json() const {
-    if (request.body.size() > largestJson) {
-        throw Refusal(413, u"The request is too large."_s, u"too_large"_s);
-    }
     QJsonParseError error;
     const QJsonDocument document =
         QJsonDocument::fromJson(QByteArray::fromStdString(request.body), &error);

@@ -2,14 +2,18 @@
 
 #include "Connection.h"
 #include "ConnectionThreads.h"
+#include "PeerUser.h"
 
 #include <sys/socket.h>
+
+using namespace std::chrono_literals;
 
 namespace kiv::sandbox {
 
 namespace {
 
 constexpr Connection::Milliseconds keepAlivePatience{15'000};
+constexpr Connection::Milliseconds idleRound{500};
 constexpr size_t requestsPerConnection = 200;
 constexpr size_t mostConnections = 256;
 constexpr int backlog = 128;
@@ -19,7 +23,7 @@ constexpr int backlog = 128;
 LoopbackServer::LoopbackServer() {
     set_keep_alive_timeout(keepAlivePatience / std::chrono::seconds(1));
     set_keep_alive_max_count(requestsPerConnection);
-    new_task_queue = [] { return new ConnectionThreads(mostConnections); };
+    new_task_queue = [this] { return m_threads = new ConnectionThreads(mostConnections); };
 }
 
 int LoopbackServer::bindLoopback(int port) {
@@ -50,19 +54,37 @@ void LoopbackServer::stopNow() {
 
 bool LoopbackServer::process_and_close_socket(socket_t socket) {
     Connection connection(socket);
-    if (!enlist(socket)) {
+    if (isOfAnotherUser(connection.peerPort(), connection.ownPort()) || !enlist(socket)) {
         return false;
     }
     bool served = true;
     bool closed = false;
     for (size_t left = requestsPerConnection; left > 0 && served && !closed; --left) {
-        if (!connection.waitForRequest(keepAlivePatience)) {
+        if (!waitForRequest(connection)) {
             break;
         }
+        connection.beginHead();
         served = process_request(connection, left == 1, closed, nullptr);
+        if (connection.isEnding()) {
+            connection.drain();
+            break;
+        }
     }
     delist(socket);
     return served;
+}
+
+/// A connection on which nothing is asked gives way as soon as others wait for its place.
+bool LoopbackServer::waitForRequest(Connection &connection) {
+    for (auto waited = 0ms; waited < keepAlivePatience; waited += idleRound) {
+        if (connection.waitForRequest(idleRound)) {
+            return true;
+        }
+        if (connection.peerGone() || m_threads->isCrowded()) {
+            return false;
+        }
+    }
+    return false;
 }
 
 bool LoopbackServer::enlist(socket_t socket) {

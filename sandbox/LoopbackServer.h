@@ -7,8 +7,11 @@
 
 namespace kiv::sandbox {
 
-/// The HTTP server with connections that can be let go at once, so that shutting down never waits
-/// for an idle or streaming peer.
+class Connection;
+class ConnectionThreads;
+
+/// The HTTP server for the programs of one user, with connections that can be let go at once, so
+/// that shutting down never waits for an idle or streaming peer.
 class LoopbackServer : public httplib::Server {
 public:
     LoopbackServer();
@@ -20,12 +23,14 @@ public:
 
 private:
     bool process_and_close_socket(socket_t socket) override;
+    bool waitForRequest(Connection &connection);
     bool enlist(socket_t socket);
     void delist(socket_t socket);
 
     std::mutex m_mutex;
     std::unordered_set<socket_t> m_open;
     bool m_stopping = false;
+    ConnectionThreads *m_threads = nullptr; ///< the library's, while it listens
 };
 
 } // namespace kiv::sandbox

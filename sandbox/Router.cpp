@@ -12,11 +12,13 @@ namespace kiv::sandbox {
 
 namespace {
 
-const QByteArrayView sessionCookie = "kiv_session";
 constexpr QLatin1StringView controlPrefix = "/_control/"_L1;
 
 void write(httplib::Response &response, const Reply &reply) {
     response.status = reply.status;
+    // Of what people send nothing is taken for what it is not, or read by another site's page.
+    response.set_header("X-Content-Type-Options", "nosniff");
+    response.set_header("Cross-Origin-Resource-Policy", "same-origin");
     for (const auto &[name, value] : reply.headers) {
         response.set_header(name.toStdString(), value.toStdString());
     }
@@ -46,7 +48,8 @@ Reply faultReply(const Fault &fault) {
 } // namespace
 
 Router::Router(LoopbackServer &server, Sessions &sessions, Faults &faults)
-    : m_server(server), m_sessions(sessions), m_faults(faults) {
+    : m_server(server), m_sessions(sessions), m_faults(faults), m_door(sessions) {
+    installDoor();
     installErrorReplies();
 }
 
@@ -60,6 +63,11 @@ void Router::post(const std::string &pattern, Access access, Handler handler) {
 
 void Router::patch(const std::string &pattern, Access access, Handler handler) {
     m_server.Patch(pattern, wrap(access, std::move(handler)));
+}
+
+void Router::upload(const std::string &pattern, Handler handler) {
+    m_door.letFilesInto(pattern);
+    post(pattern, Access::SignedIn, std::move(handler));
 }
 
 httplib::Server::Handler Router::wrap(Access access, Handler handler) {
@@ -95,7 +103,7 @@ httplib::Server::Handler Router::wrap(Access access, Handler handler) {
 
 Reply Router::answer(const httplib::Request &request, Access access, const Handler &handler) {
     try {
-        Call call{request, {}, cookie(request, sessionCookie), checkedOrigin(request)};
+        Call call{request, {}, cookie(request, sessionCookie), Doorkeeper::originOf(request)};
         call.account = m_sessions.account(call.token);
         if (access == Access::SignedIn && call.account.isEmpty()) {
             throw Refusal(401, u"Sign in first."_s, u"unauthorized"_s);
@@ -113,25 +121,23 @@ Reply Router::answer(const httplib::Request &request, Access access, const Handl
     }
 }
 
-/// A page of another site can make a browser send requests here: it can neither choose the Origin
-/// header, nor, with a name of its own pointed at loopback, the Host header.
-QString Router::checkedOrigin(const httplib::Request &request) const {
-    const QString host = QString::fromStdString(request.get_header_value("Host"));
-    if (host != u"127.0.0.1:%1"_s.arg(m_port) && host != u"localhost:%1"_s.arg(m_port)) {
-        throw Refusal(421, u"This server does not answer for the host \"%1\"."_s.arg(host),
-                      u"wrong_host"_s);
-    }
-    const QString own = u"http://"_s + host;
-    if (request.method != "GET" && request.method != "HEAD") {
-        const QString origin = QString::fromStdString(request.get_header_value("Origin"));
-        if (origin != own) {
-            throw Refusal(403,
-                          u"The CSRF check failed: the Origin header is \"%1\", not \"%2\"."_s.arg(
-                              origin, own),
-                          u"csrf"_s);
-        }
-    }
-    return own;
+/// Who is turned away has not been read to the end: nothing else can come on that connection.
+void Router::installDoor() {
+    using Outcome = httplib::Server::HandlerResponse;
+    m_server.set_pre_routing_handler(
+        [this](const httplib::Request &request, httplib::Response &response) {
+            Connection *connection = Connection::current();
+            connection->beginBody();
+            try {
+                m_door.check(request);
+                return Outcome::Unhandled;
+            } catch (const Refusal &refusal) {
+                write(response, refused(refusal));
+                response.set_header("Connection", "close");
+                connection->endAfterReply();
+                return Outcome::Handled;
+            }
+        });
 }
 
 /// What the library refuses by itself (unknown paths, oversized bodies) gets the usual form too.

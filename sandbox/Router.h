@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Doorkeeper.h"
 #include "Http.h"
 
 namespace kiv::sandbox {
@@ -8,8 +9,8 @@ class Faults;
 class LoopbackServer;
 class Sessions;
 
-/// Puts routes on the server and does for each what all have in common: the checks of host, origin
-/// and session, the faults in force, and the form of replies and refusals.
+/// Puts routes on the server and does for each what all have in common: the look at the door, the
+/// check of the session, the faults in force, and the form of replies and refusals.
 class Router {
 public:
     enum class Access { Everybody, SignedIn };
@@ -21,20 +22,22 @@ public:
     void get(const std::string &pattern, Access access, Handler handler);
     void post(const std::string &pattern, Access access, Handler handler);
     void patch(const std::string &pattern, Access access, Handler handler);
+    /// A route to which who is signed in sends files.
+    void upload(const std::string &pattern, Handler handler);
 
     /// The port that requests have to name as their host; to be set before the first request.
-    void setPort(int port) { m_port = port; }
+    void setPort(int port) { m_door.setPort(port); }
 
 private:
     httplib::Server::Handler wrap(Access access, Handler handler);
     Reply answer(const httplib::Request &request, Access access, const Handler &handler);
-    QString checkedOrigin(const httplib::Request &request) const;
+    void installDoor();
     void installErrorReplies();
 
     LoopbackServer &m_server;
     Sessions &m_sessions;
     Faults &m_faults;
-    int m_port = 0;
+    Doorkeeper m_door;
 };
 
 } // namespace kiv::sandbox

@@ -10,18 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace kiv::sandbox {
 
-namespace {
-
-/// The largest upload and the multipart frame around it.
-constexpr size_t largestBody = 50 * 1024 * 1024 + 64 * 1024;
-
-} // namespace
-
 Server::Server(const Options &options)
     : m_services(std::make_unique<Services>(options)),
       m_http(std::make_unique<LoopbackServer>()),
       m_router(std::make_unique<Router>(*m_http, m_services->sessions, m_services->faults)) {
-    m_http->set_payload_max_length(largestBody);
     m_port = m_http->bindLoopback(options.port);
     if (m_port <= 0) {
         throw std::runtime_error("the port cannot be had");

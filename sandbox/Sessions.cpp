@@ -43,6 +43,7 @@ QString Sessions::account(const QByteArray &token) {
 void Sessions::close(const QByteArray &token) {
     m_database.run(
         [&](Sql &sql) { sql.exec(u"DELETE FROM sessions WHERE token = ?"_s, {tokenHash(token)}); });
+    ++m_closings;
 }
 
 void Sessions::closeOthers(const QString &account, const QByteArray &kept) {
@@ -50,6 +51,7 @@ void Sessions::closeOthers(const QString &account, const QByteArray &kept) {
         sql.exec(u"DELETE FROM sessions WHERE account = ? AND token <> ?"_s,
                  {account, tokenHash(kept)});
     });
+    ++m_closings;
 }
 
 } // namespace kiv::sandbox

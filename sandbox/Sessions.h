@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <atomic>
+
 namespace kiv::sandbox {
 
 class Database;
@@ -19,9 +21,12 @@ public:
     void close(const QByteArray &token);
     /// Signs the account out everywhere but under `kept`.
     void closeOthers(const QString &account, const QByteArray &kept);
+    /// How often sessions were closed: whether one is still open is asked only after that grew.
+    quint64 closings() const { return m_closings; }
 
 private:
     Database &m_database;
+    std::atomic<quint64> m_closings = 0;
 };
 
 } // namespace kiv::sandbox

@@ -15,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -94,6 +95,7 @@ int run(QCoreApplication &application) {
 } // namespace
 
 int main(int argc, char **argv) {
+    ::umask(S_IRWXG | S_IRWXO); // all that it keeps is for its user alone
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"kiv-sandbox"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(KIV_VERSION));

@@ -116,7 +116,9 @@ Reply HtmlPage::reply(int status) const {
                         m_title + u"</title><style>"_s + style + u"</style></head><body><main>"_s +
                         m_body + u"</main></body></html>"_s,
                     status);
-    reply.headers = {{"Content-Security-Policy", "default-src 'none'; style-src 'unsafe-inline'"},
+    reply.headers = {{"Content-Security-Policy", "default-src 'none'; style-src 'unsafe-inline'; "
+                                                 "base-uri 'none'; form-action 'none'; "
+                                                 "frame-ancestors 'none'"},
                      {"Cache-Control", "no-store"}};
     return reply;
 }

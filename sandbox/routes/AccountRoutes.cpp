@@ -46,8 +46,11 @@ Reply wallet(Services &services, const Call &call) {
 
 Reply changePassword(Services &services, const Call &call) {
     const QJsonObject body = call.json();
-    services.accounts.changePassword(call.account, stringMember(body, "current_password"_L1),
-                                     stringMember(body, "new_password"_L1));
+    const QString next = stringMember(body, "new_password"_L1);
+    Accounts::checkNewPassword(next);
+    services.attempts.begin(call.account);
+    services.accounts.changePassword(call.account, stringMember(body, "current_password"_L1), next);
+    services.attempts.succeeded(call.account);
     services.sessions.closeOthers(call.account, call.token);
     return Reply::json(QJsonObject{{u"ok"_s, true}});
 }
@@ -102,8 +105,8 @@ void addAccountRoutes(Router &router, Services &services) {
                [&services](const Call &call) { return wallet(services, call); });
     router.post("/api/v2/user/password", Access::SignedIn,
                 [&services](const Call &call) { return changePassword(services, call); });
-    router.post("/api/v2/user/avatar", Access::SignedIn,
-                [&services](const Call &call) { return uploadAvatar(services, call); });
+    router.upload("/api/v2/user/avatar",
+                  [&services](const Call &call) { return uploadAvatar(services, call); });
 }
 
 } // namespace kiv::sandbox

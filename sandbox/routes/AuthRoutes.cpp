@@ -37,17 +37,12 @@ Reply login(Services &services, const Call &call) {
     const QJsonObject body = call.json();
     const QString email = stringMember(body, "email"_L1);
     const QString address = normalizedEmail(email);
-    services.attempts.check(address);
+    services.attempts.begin(address);
     services.sample.ensure(email);
-    try {
-        const QString account =
-            services.accounts.authenticate(email, stringMember(body, "password"_L1));
-        services.attempts.succeeded(address);
-        return signedIn(services, call, account);
-    } catch (const Refusal &) {
-        services.attempts.failed(address);
-        throw;
-    }
+    const QString account =
+        services.accounts.authenticate(email, stringMember(body, "password"_L1));
+    services.attempts.succeeded(address);
+    return signedIn(services, call, account);
 }
 
 Reply signup(Services &services, const Call &call) {

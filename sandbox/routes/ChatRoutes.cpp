@@ -113,6 +113,15 @@ Reply send(Services &services, const Call &call, FindTarget find) {
     return sent(message, call);
 }
 
+/// Whether the session of a call goes on. The database is asked only when some session has ended.
+EventStream::IsAllowed sessionOf(Services &services, const Call &call) {
+    return [&sessions = services.sessions, token = call.token,
+            seen = services.sessions.closings()]() mutable {
+        const quint64 now = sessions.closings();
+        return std::exchange(seen, now) == now || !sessions.account(token).isEmpty();
+    };
+}
+
 Reply stream(Services &services, const Call &call, FindTarget find) {
     const Target target = find(services, call);
     const auto listener = services.hub.listen(target.key);
@@ -122,7 +131,8 @@ Reply stream(Services &services, const Call &call, FindTarget find) {
     const auto fault = services.faults.take(
         QString::fromStdString(call.request.method), QString::fromStdString(call.request.path),
         {Fault::StreamDrop, Fault::HalfEvent, Fault::HalfCharacter, Fault::StreamStall});
-    auto events = std::make_shared<EventStream>(services.hub, target.key, listener, fault);
+    auto events = std::make_shared<EventStream>(services.hub, target.key, listener,
+                                                sessionOf(services, call), fault);
     return {.body = {},
             .type = "text/event-stream",
             .stream = [events](size_t, httplib::DataSink &sink) { return events->pump(sink); }};

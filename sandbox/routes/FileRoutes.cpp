@@ -74,24 +74,21 @@ Reply download(Services &services, const Call &call) {
     // An uploaded page must not run as one of this server's own.
     return {.body = *std::move(content),
             .type = file->mime.toUtf8(),
-            .headers = {{"X-Content-Type-Options", "nosniff"},
-                        {"Content-Security-Policy", "sandbox; default-src 'none'"}}};
+            .headers = {{"Content-Security-Policy", "sandbox; default-src 'none'"}}};
 }
 
 } // namespace
 
 void addFileRoutes(Router &router, Services &services) {
     using Access = Router::Access;
-    router.post("/api/v2/projects/([^/]+)/chat/files", Access::SignedIn,
-                [&services](const Call &call) {
-                    services.workspace.projectLabel(call.account, call.segment(1));
-                    return upload(services, call);
-                });
-    router.post("/api/v2/custom-agents/([^/]+)/chat/files", Access::SignedIn,
-                [&services](const Call &call) {
-                    services.workspace.agent(call.account, call.segment(1));
-                    return upload(services, call);
-                });
+    router.upload("/api/v2/projects/([^/]+)/chat/files", [&services](const Call &call) {
+        services.workspace.projectLabel(call.account, call.segment(1));
+        return upload(services, call);
+    });
+    router.upload("/api/v2/custom-agents/([^/]+)/chat/files", [&services](const Call &call) {
+        services.workspace.agent(call.account, call.segment(1));
+        return upload(services, call);
+    });
     router.get("/files/([A-Za-z0-9_-]+)", Access::Everybody,
                [&services](const Call &call) { return download(services, call); });
 }

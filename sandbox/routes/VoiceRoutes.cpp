@@ -113,8 +113,7 @@ Reply script(const VoiceServer &voice) {
     }
     return {.body = file.readAll(),
             .type = "text/javascript; charset=utf-8",
-            .headers = {{"Cache-Control", "public, max-age=31536000, immutable"},
-                        {"X-Content-Type-Options", "nosniff"}}};
+            .headers = {{"Cache-Control", "public, max-age=31536000, immutable"}}};
 }
 
 } // namespace
