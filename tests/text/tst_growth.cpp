@@ -2,7 +2,7 @@
 // long. What grows with the square takes sixteen times.
 
 #include "base/JVal.h"
-#include "canvas/CanvasEngine.h"
+#include "canvas/AnswerBlock.h"
 #include "canvas/ReplyOptions.h"
 #include "canvas/SurfaceMatcher.h"
 #include "net/ChatRecords.h"
