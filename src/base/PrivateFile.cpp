@@ -18,8 +18,9 @@ constexpr auto asideSuffix = ".damaged"_L1;
 
 void PrivateFile::makeFolderOf(const QString &path) {
     const QString folder = QFileInfo(path).absolutePath();
+    // What its owner may not do there is left as it is.
     if (QFileInfo::exists(folder) || QDir().mkpath(folder))
-        QFile::setPermissions(folder, ownerFolder);
+        QFile::setPermissions(folder, QFile::permissions(folder) & ownerFolder);
 }
 
 QString PrivateFile::write(const QString &path, const QByteArray &bytes) {

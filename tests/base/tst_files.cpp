@@ -58,9 +58,9 @@ private Q_SLOTS:
             settings.save();
             QCOMPARE(settings.failure(), QString());
         }
-        // A file without settings is one.
+        // A file without settings is one, and nobody can tell that there were more.
         const QByteArray name = test::damages().at(damage).name;
-        QCOMPARE(moved.isEmpty(), name == "emptied");
+        QCOMPARE(moved.isEmpty(), name == "emptied" || name == "cut short");
         QCOMPARE(!moved.isEmpty() && QFileInfo(moved).isDir(), isFolder);
         if (!moved.isEmpty() && !isFolder) {
             QFile::setPermissions(moved, QFile::ReadOwner);
