@@ -2,7 +2,6 @@
 
 #include "ClientFixture.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 
