@@ -30,7 +30,7 @@ StoredFile Files::store(const QString &account, const QString &name, const QStri
     QSaveFile file(m_folder + u'/' + stored.key);
     const bool isWritten = file.open(QIODevice::WriteOnly) &&
                            file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-                           file.write(content) == content.size() && file.commit();
+                           file.write(content) == content.size() && file.flush() && file.commit();
     if (!isWritten) {
         const bool isFull = QStorageInfo(m_folder).bytesAvailable() < content.size();
         throw DatabaseError("An upload cannot be written: " + file.errorString().toStdString(),

@@ -26,8 +26,9 @@ void PrivateFile::makeFolderOf(const QString &path) {
 QString PrivateFile::write(const QString &path, const QByteArray &bytes) {
     makeFolderOf(path);
     QSaveFile file(path);
+    // Flushed before it is committed: what fails only then would still replace the file of before.
     const bool written = file.open(QIODevice::WriteOnly) && file.setPermissions(ownerFile) &&
-                         file.write(bytes) == bytes.size() && file.commit();
+                         file.write(bytes) == bytes.size() && file.flush() && file.commit();
     return written ? QString() : file.errorString();
 }
 

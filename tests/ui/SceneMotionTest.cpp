@@ -130,7 +130,7 @@ void SceneMotionTest::lineRedrawn() {
     page->setProperty("scene", QVariant::fromValue(scene));
     QCOMPARE(heightOf(1), before);
     QTRY_COMPARE_GT(heightOf(1), before + 10);
-    QTest::qWait(500);
+    QTRY_COMPARE(line->shownPoints(), line->property("points").value<QList<QPointF>>());
     const double after = heightOf(1);
     const double place = line->shownPoints().at(1).x();
     page->setWidth(page->width() - 120);

@@ -49,7 +49,8 @@ int render(const RenderOptions &options) {
 
     QSaveFile output(options.output);
     if (!output.open(QIODevice::WriteOnly) ||
-        !pictureOf(*scene, options.size, options.isDark).save(&output, "PNG") || !output.commit())
+        !pictureOf(*scene, options.size, options.isDark).save(&output, "PNG") || !output.flush() ||
+        !output.commit())
         return failed(UnwritableOutput,
                       u"%1 cannot be written: %2"_s.arg(options.output, output.errorString()));
     return EXIT_SUCCESS;

@@ -45,7 +45,8 @@ void FileSaver::save(const QUrl &file) {
     m_folder = file.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
     QSaveFile target(file.toLocalFile());
     const bool isSaved = target.open(QIODevice::WriteOnly) &&
-                         target.write(m_content) == m_content.size() && target.commit();
+                         target.write(m_content) == m_content.size() && target.flush() &&
+                         target.commit();
     m_content.clear();
     if (isSaved)
         Q_EMIT saved(tr("Saved %1").arg(file.fileName()), m_folder);
