@@ -149,7 +149,8 @@ private Q_SLOTS:
                 layout->dockW() <= store::LayoutRoom::dockMaxW);
         const store::AppearanceRoom *look = run.store().appearance();
         QVERIFY(look->textScale() >= 0.8 && look->textScale() <= 1.5);
-        QVERIFY(window->width() >= 800 && window->width() <= 10'000);
+        QVERIFY2(window->width() >= 800 && window->width() <= 10'000,
+                 qPrintable(QString::number(window->width())));
         QVERIFY(window->height() >= 600 && window->height() <= 10'000);
     }
 
@@ -214,7 +215,9 @@ private Q_SLOTS:
         }
         Run run(profile);
         QVERIFY(run.isEntered());
-        QCOMPARE(run.store().chat()->draft(), typed.repeated(500));
+        // With what could not be sent.
+        QVERIFY(run.store().chat()->draft().contains(typed.repeated(500).trimmed()));
+        QVERIFY(run.store().chat()->draft().contains(u"What is new? "_s.repeated(500).trimmed()));
     }
 
     void oddSurroundings_data() {

@@ -35,7 +35,6 @@ public:
         panels();
         accountPages();
         wizard();
-        toast();
     }
 
 private:
@@ -50,7 +49,6 @@ private:
     void pastCalls();
     void accountPages();
     void wizard();
-    void toast();
     void answerAccount();
 
     void visit(const char *place) { m_visit(QLatin1StringView(place)); }
@@ -331,15 +329,6 @@ void Way::wizard() {
     m_gallery.item(u"keepEditing"_s);
     visit("create-asked");
     click("discardDraft");
-}
-
-/// Last: it stays for a while.
-void Way::toast() {
-    m_workspace.backend.answer(u"GET api/v2/voice/capability"_s,
-                               R"({"available":false,"reason":"insufficient_balance"})");
-    m_gallery.press(Qt::Key_D, Qt::ControlModifier);
-    m_gallery.item(u"toast:0"_s);
-    visit("toast");
 }
 
 } // namespace
