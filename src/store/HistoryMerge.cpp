@@ -66,8 +66,8 @@ qsizetype HistoryMerge::placeOf(const Msg &message) const {
 }
 
 /// A row with the same text that the screen did not show yet. Where the row above it is not known,
-/// only the time tells whether it may be this one, and clocks differ: it counts unless it is clearly
-/// older.
+/// only the time tells whether it may be this one, and clocks differ: it counts unless it is
+/// clearly older.
 bool HistoryMerge::isStoredFormOf(const Msg &message, const Msg &stored) const {
     constexpr qint64 clockSkewSeconds = 120;
     const bool mayBeLater = message.follows || !message.at || !stored.at ||
