@@ -21,6 +21,9 @@ using namespace kiv::speech;
 
 namespace {
 
+/// Of a request, in bytes: more than half a minute of sound.
+constexpr std::streamsize longestLine = 4 * 1024 * 1024;
+
 void say(const QJsonObject &object) {
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
     std::fwrite(line.constData(), 1, static_cast<size_t>(line.size()), stdout);
@@ -61,11 +64,13 @@ void listen(const Recogniser &recogniser, VoiceActivity &activity, RequestQueue 
 
 /// Reads requests until standard input ends.
 void read(RequestQueue &requests) {
-    std::string line;
-    while (std::getline(std::cin, line)) {
-        if (auto request = parseRequest(QByteArray::fromStdString(line)))
+    std::vector<char> line(longestLine);
+    while (std::cin.getline(line.data(), longestLine)) {
+        if (auto request = parseRequest(QByteArray(line.data())))
             requests.put(std::move(*request));
     }
+    if (!std::cin.eof())
+        throw ProtocolError("A line is too long.");
 }
 
 int run(const QString &models, const QString &model) {

@@ -1,5 +1,7 @@
 #include "EnginePage.h"
 
+#include "base/BaseUrl.h"
+
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QUuid>
@@ -17,6 +19,9 @@ namespace {
 const QByteArray lastCookieName = "kiv-last";
 const QUrl nowhere = u"https://kiv.invalid/"_s;
 
+/// A page that sends the person to the browser more often than anybody clicks is not followed.
+constexpr int betweenVisitsMs = 500;
+
 constexpr int aborted = -3;
 constexpr int serverError = 500;
 
@@ -24,10 +29,6 @@ constexpr int serverError = 500;
 QNetworkCookie hostOnly(QNetworkCookie cookie) {
     cookie.setDomain({});
     return cookie;
-}
-
-bool isWeb(const QUrl &url) {
-    return url.scheme() == u"https"_s || url.scheme() == u"http"_s;
 }
 
 } // namespace
@@ -100,8 +101,9 @@ void EnginePage::follow(const QUrl &url) {
 }
 
 void EnginePage::handOver(const QUrl &url) {
-    if (!isWeb(url))
+    if (!isWebAddress(url) || (m_sinceVisit.isValid() && m_sinceVisit.elapsed() < betweenVisitsMs))
         return;
+    m_sinceVisit.start();
     m_leftForBrowser = true;
     m_watcher.pageLeft(url);
 }

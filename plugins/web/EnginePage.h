@@ -3,6 +3,7 @@
 #include "RequestGate.h"
 #include "web/WebPlugin.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QQuickItem>
 #include <QQuickWebEngineProfile>
@@ -46,8 +47,9 @@ private:
     QUrl m_home;
     PageWatcher &m_watcher;
     PageStatus m_status;
-    QUrl m_wanted;           ///< what is loaded once the cookies are in
-    QByteArray m_lastCookie; ///< the one whose arrival says so
+    QUrl m_wanted;              ///< what is loaded once the cookies are in
+    QByteArray m_lastCookie;    ///< the one whose arrival says so
+    QElapsedTimer m_sinceVisit; ///< of the browser
     bool m_leftForBrowser = false;
     bool m_hasContent = false;
     RequestGate m_gate;

@@ -1,11 +1,8 @@
 #include "EngineVoicePage.h"
 
-#include "RequestGate.h"
 #include "voice/VoicePageText.h"
 
 #include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QWebEngineNavigationRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
@@ -24,16 +21,11 @@ QString sourceOf(const QString &name) {
     return QString::fromUtf8(file.readAll());
 }
 
-/// A text as a script writes it.
-QString literal(const QString &text) {
-    const QByteArray list = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(list.sliced(1, list.size() - 2));
-}
-
 } // namespace
 
 EngineVoicePage::EngineVoicePage(voice::VoicePageWatcher &watcher)
     : m_port(watcher), m_page(&m_profile) {
+    m_profile.setUrlRequestInterceptor(&m_gate);
     QWebEngineSettings *settings = m_page.settings();
     settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
@@ -55,7 +47,7 @@ EngineVoicePage::EngineVoicePage(voice::VoicePageWatcher &watcher)
 EngineVoicePage::~EngineVoicePage() = default;
 
 void EngineVoicePage::loadHtml(const QString &html, const QUrl &baseUrl) {
-    m_home = baseUrl;
+    m_gate.setHome(baseUrl);
     inject();
     m_loading = true;
     m_page.setHtml(html, baseUrl);
@@ -77,7 +69,7 @@ void EngineVoicePage::evaluate(const QString &script) {
 }
 
 QString EngineVoicePage::microphoneScript() const {
-    return u"window.__microphone = "_s + literal(m_microphone) + u';';
+    return u"window.__microphone = "_s + voice::VoicePageText::jsString(m_microphone) + u';';
 }
 
 void EngineVoicePage::setMicrophone(const QString &name) {
@@ -91,7 +83,7 @@ void EngineVoicePage::setAudible(bool audible) {
 
 void EngineVoicePage::decide(const QUrl &origin, QWebEnginePage::Feature feature) {
     const bool isOurs =
-        feature == QWebEnginePage::MediaAudioCapture && isSameOrigin(origin, m_home);
+        feature == QWebEnginePage::MediaAudioCapture && isSameOrigin(origin, m_gate.home());
     m_page.setFeaturePermission(origin, feature,
                                 isOurs ? QWebEnginePage::PermissionGrantedByUser
                                        : QWebEnginePage::PermissionDeniedByUser);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RequestGate.h"
 #include "VoicePort.h"
 #include "voice/VoicePage.h"
 
@@ -9,6 +10,16 @@
 #include <QWebEngineProfile>
 
 namespace kiv::web {
+
+/// What its scripts say to themselves does not belong in the program's log.
+class QuietPage : public QWebEnginePage {
+public:
+    using QWebEnginePage::QWebEnginePage;
+
+protected:
+    void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString &, int,
+                                  const QString &) override {}
+};
 
 /// A voice page on Qt WebEngine: without a view, with a profile of its own that is never written
 /// to the disk, and with the microphone for the host alone that it was loaded from.
@@ -28,13 +39,13 @@ private:
     QString microphoneScript() const;
     void decide(const QUrl &origin, QWebEnginePage::Feature feature);
 
-    QUrl m_home;
     QString m_microphone;
     bool m_loading = false;
     VoicePort m_port;
     QWebChannel m_channel;
+    RequestGate m_gate;
     QWebEngineProfile m_profile; ///< without a name: off the record
-    QWebEnginePage m_page;       ///< last: it goes before its profile
+    QuietPage m_page;            ///< last: it goes before its profile
 };
 
 } // namespace kiv::web

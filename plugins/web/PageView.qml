@@ -14,12 +14,16 @@ WebEngineView {
 
     profile: page.profile
     Accessible.name: title
+    settings.allowRunningInsecureContent: false
+    settings.allowWindowActivationFromJavaScript: false
     settings.autoLoadImages: true
     settings.dnsPrefetchEnabled: false
     settings.errorPageEnabled: false
     settings.focusOnNavigationEnabled: false
     settings.fullScreenSupportEnabled: false
     settings.hyperlinkAuditingEnabled: false
+    settings.javascriptCanAccessClipboard: false
+    settings.javascriptCanPaste: false
     settings.localContentCanAccessFileUrls: false
     settings.localContentCanAccessRemoteUrls: false
     settings.localStorageEnabled: true
@@ -28,6 +32,7 @@ WebEngineView {
     settings.pluginsEnabled: false
     settings.screenCaptureEnabled: false
     settings.unknownUrlSchemePolicy: WebEngineSettings.DisallowUnknownUrlSchemes
+    settings.webRTCPublicInterfacesOnly: true
 
     onUrlChanged: report()
     onLoadProgressChanged: report()
@@ -39,7 +44,12 @@ WebEngineView {
         if (!page.admits(request.url, request.isMainFrame))
             request.reject()
     }
-    onNewWindowRequested: request => page.follow(request.requestedUrl)
+    onNewWindowRequested: request => {
+        if (request.userInitiated)
+            page.follow(request.requestedUrl)
+    }
+    // What a page says to itself does not belong in the program's log.
+    onJavaScriptConsoleMessage: {}
     onContextMenuRequested: request => request.accepted = true
     onCertificateError: error => error.rejectCertificate()
     onAuthenticationDialogRequested: request => {

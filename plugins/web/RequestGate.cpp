@@ -1,5 +1,7 @@
 #include "RequestGate.h"
 
+#include "base/BaseUrl.h"
+
 namespace kiv::web {
 
 using namespace Qt::StringLiterals;
@@ -30,6 +32,8 @@ void RequestGate::interceptRequest(QWebEngineUrlRequestInfo &request) {
 bool RequestGate::admits(const QUrl &url) const {
     const QString scheme = url.scheme();
     if (scheme == u"https"_s || scheme == u"wss"_s || scheme == u"data"_s || scheme == u"blob"_s)
+        return true;
+    if (scheme == u"ws"_s && isLoopback(url.host()) && isLoopback(m_home.host()))
         return true;
     return (scheme == u"http"_s || scheme == u"ws"_s) && isSameHost(url, m_home);
 }

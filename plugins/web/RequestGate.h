@@ -8,10 +8,14 @@ namespace kiv::web {
 /// Whether two addresses have scheme, host and port in common.
 bool isSameOrigin(const QUrl &one, const QUrl &other);
 
-/// Lets a page fetch from its own server and over https, and nothing from this computer.
+/// Lets a page fetch from its own server and over https, and no file of this computer. A server on
+/// this computer may have its sockets on another port.
 class RequestGate : public QWebEngineUrlRequestInterceptor {
 public:
-    explicit RequestGate(QUrl home) : m_home(std::move(home)) {}
+    /// With no home yet, nothing but https is let through.
+    explicit RequestGate(QUrl home = {}) : m_home(std::move(home)) {}
+    const QUrl &home() const { return m_home; }
+    void setHome(const QUrl &home) { m_home = home; }
     void interceptRequest(QWebEngineUrlRequestInfo &request) override;
 
 private:

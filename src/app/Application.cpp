@@ -2,6 +2,7 @@
 
 #include "base/AppVersion.h"
 #include "base/BaseUrl.h"
+#include "base/PrivateFile.h"
 #include "desktop/Diagnostics.h"
 #include "desktop/Instance.h"
 #include "ui/Modules.h"
@@ -55,7 +56,10 @@ QString drawnBy(const QQuickWindow *window) {
 Application::Ground::Ground(const Options &options) : log(options.places.logFile) {
     log.capture();
     log.write(QtInfoMsg, u"KIV %1 starts"_s.arg(AppVersion::running().display()));
-    options.places.adoptEarlier();
+    const Places &places = options.places;
+    for (const QString &file : {places.settingsFile, places.cookieFile, places.stateFile})
+        PrivateFile::makeFolderOf(file);
+    places.adoptEarlier();
 }
 
 void Application::prepareProcess() {

@@ -5,6 +5,7 @@
 #include "voice/LocalSpeech.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -60,6 +61,16 @@ private Q_SLOTS:
         QVERIFY2(test::wordErrors(first, finals.first()) <= 1, qPrintable(finals.first()));
         QVERIFY2(test::wordErrors(second, finals.last()) <= 1, qPrintable(finals.last()));
         QVERIFY(!interims.isEmpty());
+    }
+
+    void aLineWithoutEndIsNotKept() {
+        const SpeechProcess::Program installed = SpeechProcess::installed();
+        QProcess program;
+        program.start(installed.path, {u"--models"_s, installed.models, u"--model"_s, u"tiny"_s});
+        program.write("{\"audio\":\"" + QByteArray(5 * 1024 * 1024, 'A'));
+        QVERIFY(program.waitForFinished(20'000));
+        QCOMPARE(program.exitCode(), 1);
+        QVERIFY(program.readAllStandardOutput().contains("A line is too long."));
     }
 
     void faultyFile_data() {

@@ -22,9 +22,10 @@ QString fileNameOf(const QString &title) {
     name = name.simplified().left(longest);
     if (!name.isEmpty() && name.back().isHighSurrogate())
         name.chop(1);
-    // A point in front hides a file, and one at the end some systems drop.
+    // A point in front hides a file, a hyphen makes it an option of commands, and a point at the
+    // end some systems drop.
     const auto isEdge = [](QChar c) { return c == u'.' || c.isSpace(); };
-    while (!name.isEmpty() && isEdge(name.front()))
+    while (!name.isEmpty() && (isEdge(name.front()) || name.front() == u'-'))
         name.remove(0, 1);
     while (!name.isEmpty() && isEdge(name.back()))
         name.chop(1);

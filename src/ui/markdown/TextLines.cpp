@@ -23,13 +23,18 @@ constexpr double checkBox = 16;
 /// As many marks as a character is shown with.
 constexpr int mostMarks = 8;
 
+/// Makes Latin letters read from right to left: what is shown would not be what is there.
+bool isOverride(QChar c) {
+    return c == u'\u202d' || c == u'\u202e';
+}
+
 /// What can be shown of a character: not what ends a line, stands for an object or frames text in a
-/// document, no control characters and no half of a pair.
+/// document, no control characters, nothing that turns letters around and no half of a pair.
 bool isKept(QChar c) {
     return (c >= u' ' && c < u'\u007f') || c == u'\t' ||
            (c > u'\u009f' && !c.isSurrogate() && c != QChar::LineSeparator &&
             c != QChar::ParagraphSeparator && c != QChar::ObjectReplacementCharacter &&
-            (c < u'\ufdd0' || c > u'\ufdef') && c < u'\ufffe');
+            !isOverride(c) && (c < u'\ufdd0' || c > u'\ufdef') && c < u'\ufffe');
 }
 
 bool isPlain(QChar c) {
