@@ -129,6 +129,7 @@ private Q_SLOTS:
         answer(2, u"Five"_s);
         QTRY_COMPARE(m_server->shown.size(), 1);
         QTest::qWait(20);
+        m_server->click(42, u"token"_s); // another program's
         m_server->click(1, u"token"_s);
         QTRY_COMPARE(clicked.size(), 1);
         QCOMPARE(clicked[0], (QVariantList{u"kiv://chat/agent/scout"_s, u"token"_s}));

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void copiesTable();
     void opensLinks_data();
     void opensLinks();
+    void nothingPassesForAnything();
 
 public Q_SLOTS:
     void open(const QUrl &link) { m_opened.append(link.toString()); }
@@ -142,6 +143,12 @@ void BlocksTest::opensLinks_data() {
                           << QStringList{u"mailto:a@b.example"_s};
     QTest::newRow("file") << u"See [there](file:///etc/passwd) now"_s << QStringList();
     QTest::newRow("script") << u"See [there](javascript:alert(1)) now"_s << QStringList();
+    QTest::newRow("a name before the host") << u"See [there](https://bank.example@a.example/) now"_s
+                                            << QStringList{u"https://a.example/"_s};
+    QTest::newRow("a letter with a file")
+        << u"See [there](mailto:a@b.example?attach=/etc/passwd) now"_s
+        << QStringList{u"mailto:a@b.example"_s};
+    QTest::newRow("a chat") << u"See [there](kiv://chat/kiv) now"_s << QStringList();
     QTest::newRow("ftp") << u"See [there](ftp://a.example/) now"_s << QStringList();
     QTest::newRow("a path of the workspace")
         << u"See [there](/etc/passwd) now"_s << QStringList{u"WORKSPACE/etc/passwd"_s};
@@ -154,6 +161,15 @@ void BlocksTest::opensLinks() {
     QTest::mouseClick(&m_gallery->window(), Qt::LeftButton, {}, placeOf(u"there"_s));
     const QString workspace = m_workspace->backend.url().toString();
     QTEST(QStringList(m_opened).replaceInStrings(workspace, u"WORKSPACE"_s), "opened");
+}
+
+/// What is shown is in the order in which it is written, and marks of other languages are words.
+void BlocksTest::nothingPassesForAnything() {
+    answer(u"at evil.example/\u202emoc.knab <img src='file:///etc/passwd'> <b>there</b>"_s);
+    const QQuickItem *words = textWith(m_gallery->window().contentItem(), u"moc.knab"_s);
+    QVERIFY(words);
+    QCOMPARE(words->property("text").toString(),
+             u"at evil.example/\ufffdmoc.knab <img src='file:///etc/passwd'> <b>there</b>"_s);
 }
 
 } // namespace kiv::ui

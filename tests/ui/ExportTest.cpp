@@ -237,6 +237,7 @@ void ExportTest::fileNames_data() {
     QTest::newRow("refused signs") << u"A/B: \"what\" <is> |it|? *"_s << u"A B what is it"_s;
     QTest::newRow("line and direction") << u"one\ntwo\u202egnp\u0000"_s << u"one two gnp"_s;
     QTest::newRow("points") << u"..hidden.."_s << u"hidden"_s;
+    QTest::newRow("an option") << u"-rf --now"_s << u"rf --now"_s;
     QTest::newRow("nothing left") << u"///"_s << QString();
     QTest::newRow("long") << u"ж"_s.repeated(300) << u"ж"_s.repeated(80);
     QTest::newRow("no half sign at the end")

@@ -93,6 +93,11 @@ void PageLinksTest::leadsElsewhere_data() {
         << QByteArray("<a href='file:///etc/hostname'>x</a>") << QString() << here;
     QTest::newRow("another program")
         << QByteArray("<a href='mailto:a@b.example'>x</a>") << QString() << here;
+    QTest::newRow("a window that nobody asked for")
+        << QByteArray("<a>x</a><script>window.open('ELSEWHERE/x')</script>") << QString() << here;
+    QTest::newRow("elsewhere, again and again")
+        << QByteArray("<a onclick=\"setInterval(() => location = 'ELSEWHERE/x', 20)\">x</a>")
+        << u"ELSEWHERE/x"_s << here;
     QTest::newRow("a frame from elsewhere")
         << QByteArray("<a onclick=\"document.body.innerHTML="
                       "'<iframe src=ELSEWHERE/x></iframe>'\">x</a>")

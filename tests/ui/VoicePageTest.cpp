@@ -48,6 +48,7 @@ class VoicePageTest : public QObject {
     }
 
     test::ScriptedBackend m_backend;
+    test::ScriptedBackend m_elsewhere;
     Watcher m_watcher;
     WebHost m_host{QStringLiteral(KIV_WEB_PLUGIN_FILE)};
     std::unique_ptr<voice::VoicePage> m_page;
@@ -92,13 +93,26 @@ private Q_SLOTS:
             << u"navigator.mediaDevices.getUserMedia({video: true}).then(() => 'seen')"_s
             << u"vcall NotAllowedError"_s;
         QTest::newRow("no messages") << u"Notification.requestPermission()"_s << u"vcall denied"_s;
+        QTest::newRow("no file") << u"fetch('file:///etc/hostname').then(() => 'read')"_s
+                                 << u"vcall TypeError"_s;
+        QTest::newRow("no other server, unencrypted")
+            << u"fetch('%1/x', {mode: 'no-cors'}).then(() => 'read')"_s.arg(
+                   m_elsewhere.url().toString())
+            << u"vcall TypeError"_s;
+        QTest::newRow("no window")
+            << u"Promise.resolve(String(window.open('/elsewhere')))"_s << u"vcall null"_s;
+        QTest::newRow("no log") << u"Promise.resolve(String(console.warn('said to itself')))"_s
+                                << u"vcall undefined"_s;
         QTest::newRow("no way out") << u"new Promise(yes => { location.href = '/elsewhere'; "
                                        "setTimeout(() => yes(location.pathname), 300); })"_s
                                     << u"vcall /"_s;
     }
     void rights() {
         QFETCH(QString, promise);
+        QTest::failOnWarning(QRegularExpression(u"said to itself"_s));
+        m_elsewhere.answerPage(u"GET x"_s, "elsewhere");
         QTEST(ask(promise), "result");
+        QCOMPARE(m_elsewhere.count(u"GET x"_s), 0);
         QCOMPARE(m_backend.count(u"GET elsewhere"_s), 0);
     }
 
