@@ -57,7 +57,7 @@ BlockRow {
             growing: block.row.growing
             style: Tokens.type.code
             wrapMode: TextEdit.NoWrap
-            font.family: Tokens.codeFamily
+            font.family: Appearance.codeFamily
         }
     }
 }

@@ -1,5 +1,7 @@
 #include "ui/markdown/BlockText.h"
 
+#include "ui/tokens/Typefaces.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QFontMetricsF>
@@ -23,13 +25,16 @@ constexpr double codeMargin = 1;
 constexpr double codeStep = 160;
 
 /// The grounds of the characters from `start` to `end` of a block, line by line.
-void addChips(QList<QRectF> &chips, const QTextBlock &block, int start, int end,
-              const QFontMetricsF &metrics) {
-    for (const QRectF &place : placesOf(block, start, end, metrics))
+void addChips(QList<QRectF> &chips, const QTextBlock &block, int start, int end, int codeSize) {
+    if (start < 0)
+        return;
+    QFont font(codeFamily());
+    font.setPixelSize(codeSize);
+    for (const QRectF &place : placesOf(block, start, end, QFontMetricsF(font)))
         chips.append(place.adjusted(-DocumentWriter::codeInset, -codeMargin, 0, codeMargin));
 }
 
-void addChips(QList<QRectF> &chips, const QTextBlock &block, const QFontMetricsF &metrics) {
+void addChips(QList<QRectF> &chips, const QTextBlock &block, int codeSize) {
     int start = -1;
     int end = -1;
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -38,12 +43,12 @@ void addChips(QList<QRectF> &chips, const QTextBlock &block, const QFontMetricsF
             continue;
         const int at = fragment.position() - block.position();
         if (at != end) {
-            addChips(chips, block, start, end, metrics);
+            addChips(chips, block, start, end, codeSize);
             start = at;
         }
         end = at + fragment.length();
     }
-    addChips(chips, block, start, end, metrics);
+    addChips(chips, block, start, end, codeSize);
 }
 
 QRectF endOf(const QTextBlock &block) {
@@ -123,15 +128,12 @@ void BlockText::updatePolish() {
         return;
     const QTextDocument *text = m_document->textDocument();
     const bool isTable = std::holds_alternative<MDBlock::Table>(m_part.content);
-    QFont codeFont(m_look.codeFamily);
-    codeFont.setPixelSize(m_look.codeSize);
-    const QFontMetricsF metrics(codeFont);
     QList<QRectF> chips;
     QList<double> tops = isTable ? m_columns.rowTops() : QList<double>();
     for (QTextBlock block = text->begin(); block.isValid(); block = block.next()) {
         if (!isTable)
             tops.append(text->documentLayout()->blockBoundingRect(block).top());
-        addChips(chips, block, metrics);
+        addChips(chips, block, m_look.codeSize);
     }
     const QRectF end = endOf(text->lastBlock());
     if (chips != m_chips || tops != m_tops || end != m_end) {

@@ -32,7 +32,6 @@ class BlockText : public QQuickItem {
     Q_PROPERTY(int smallSize READ smallSize WRITE setSmallSize NOTIFY changed)
     Q_PROPERTY(QColor linkColor READ linkColor WRITE setLinkColor NOTIFY changed)
     Q_PROPERTY(QColor faintColor READ faintColor WRITE setFaintColor NOTIFY changed)
-    Q_PROPERTY(QString codeFamily READ codeFamily WRITE setCodeFamily NOTIFY changed)
     /// What a table can spread over before it scrolls.
     Q_PROPERTY(double available MEMBER m_available NOTIFY changed)
 
@@ -64,8 +63,6 @@ public:
     void setLinkColor(const QColor &color) { change(m_look.link, color); }
     QColor faintColor() const { return m_look.faint; }
     void setFaintColor(const QColor &color) { change(m_look.faint, color); }
-    QString codeFamily() const { return m_look.codeFamily; }
-    void setCodeFamily(const QString &family) { change(m_look.codeFamily, family); }
 
     QList<QRectF> chips() const { return m_chips; }
     QList<double> tops() const { return m_tops; }

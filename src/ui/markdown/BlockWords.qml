@@ -58,7 +58,6 @@ TextEdit {
         smallSize: Tokens.type.code.size
         linkColor: Tokens.accentText
         faintColor: Tokens.t3
-        codeFamily: Tokens.codeFamily
         foundColor: Tokens.found
         foundEdge: Tokens.foundEdge
     }

@@ -1,5 +1,7 @@
 #include "ui/markdown/DocumentWriter.h"
 
+#include "ui/tokens/Typefaces.h"
+
 #include <QTextBlock>
 #include <QTextBoundaryFinder>
 #include <QTextDocument>
@@ -172,7 +174,7 @@ QTextCharFormat DocumentWriter::charFormat(const TextRun &run) const {
     if (run.styles.testFlag(Style::Strike) || run.tone == Tone::Done)
         format.setFontStrikeOut(true);
     if (run.styles.testFlag(Style::Code)) {
-        format.setFontFamilies({m_look.codeFamily});
+        format.setFontFamilies({codeFamily()});
         format.setProperty(QTextFormat::FontPixelSize, m_look.codeSize);
         format.setProperty(codeProperty, true);
     }

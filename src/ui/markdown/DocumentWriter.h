@@ -12,7 +12,6 @@ namespace kiv::ui {
 struct TextLook {
     QColor link;
     QColor faint; ///< of figures, done tasks and heads of tables
-    QString codeFamily;
     int codeSize = 12;
     int headSize = 12;
     double lineHeight = 0;

@@ -1,6 +1,7 @@
 #include "ui/markdown/TableColumns.h"
 
 #include "canvas/CanvasNum.h"
+#include "ui/tokens/Typefaces.h"
 
 #include <QTextLayout>
 
@@ -37,7 +38,7 @@ QFont fontOf(const TextRun &run, QFont font, const TextLook &look) {
     if (run.tone == Tone::Head)
         font.setPixelSize(look.headSize);
     if (run.styles.testFlag(Style::Code)) {
-        font.setFamilies({look.codeFamily});
+        font.setFamilies({codeFamily()});
         font.setPixelSize(look.codeSize);
     }
     return font;

@@ -38,7 +38,7 @@ public:
     double textScale() const { return m_textScale; }
     void setTextScale(double scale);
 
-    QString codeFamily() const { return m_codeFamily; }
+    QString codeFamily() const { return ui::codeFamily(); }
 
 Q_SIGNALS:
     void darkChanged();
@@ -51,7 +51,6 @@ private:
     bool m_reducedMotion = false;
     bool m_highContrast = false;
     double m_textScale = 1;
-    QString m_codeFamily = ui::codeFamily();
 };
 
 } // namespace kiv::ui

@@ -83,7 +83,6 @@ QtObject {
     readonly property string family: "Inter"
     /// Every digit of one width, for columns, timers, time stamps and labels that count.
     readonly property string tabularFamily: "KIV Tabular"
-    readonly property string codeFamily: Appearance.codeFamily
     readonly property TypeScale type: TypeScale { scale: tokens.textScale }
 
     readonly property int radiusSmall: 4

@@ -21,6 +21,17 @@ bool loadTabularFace() {
     return true;
 }
 
+QString findCodeFamily() {
+    const QFontInfo system(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    if (system.fixedPitch())
+        return system.family();
+    for (const QString &family : {u"DejaVu Sans Mono"_s, u"SF Mono"_s, u"Consolas"_s}) {
+        if (QFontDatabase::hasFamily(family))
+            return family;
+    }
+    return u"monospace"_s;
+}
+
 } // namespace
 
 void useTypefaces() {
@@ -35,14 +46,8 @@ void useTypefaces() {
 }
 
 QString codeFamily() {
-    const QFontInfo system(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    if (system.fixedPitch())
-        return system.family();
-    for (const QString &family : {u"DejaVu Sans Mono"_s, u"SF Mono"_s, u"Consolas"_s}) {
-        if (QFontDatabase::hasFamily(family))
-            return family;
-    }
-    return u"monospace"_s;
+    static const QString family = findCodeFamily();
+    return family;
 }
 
 } // namespace kiv::ui
