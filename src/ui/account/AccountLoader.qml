@@ -8,7 +8,5 @@ Loader {
 
     active: store.layout.account !== ""
     onLoaded: (item as AccountPage)?.forceActiveFocus(Qt.OtherFocusReason)
-    sourceComponent: AccountPage {
-        store: (parent as AccountLoader)?.store
-    }
+    Component.onCompleted: setSource("AccountPage.qml", { "store": store })
 }

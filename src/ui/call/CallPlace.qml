@@ -27,8 +27,6 @@ FocusScope {
         visible: place.shown
         focus: true
         onLoaded: (item as CallScreen).forceActiveFocus(Qt.OtherFocusReason)
-        sourceComponent: CallScreen {
-            store: (parent.parent as CallPlace)?.store
-        }
+        Component.onCompleted: setSource("CallScreen.qml", { "store": place.store })
     }
 }

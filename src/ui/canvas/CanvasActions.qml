@@ -67,13 +67,13 @@ Row {
         Accessible.name: qsTr("Export")
         onClicked: menu.open()
 
-        ExportMenu {
+        PopupPlace {
             id: menu
 
-            exporter: exporter
+            Component.onCompleted: setSource("ExportMenu.qml", { "exporter": exporter })
         }
         TipLoader {
-            active: actions.compact && exportButton.hovered && !menu.visible
+            active: actions.compact && exportButton.hovered && !menu.opened
             text: qsTr("Export")
         }
     }
@@ -92,16 +92,13 @@ Row {
         Accessible.name: qsTr("Refine")
         onClicked: refine.open()
 
-        RefinePopover {
+        PopupPlace {
             id: refine
 
-            chips: actions.canvas.artInfo.offers
-            onSubmitted: text => actions.chat.send(text)
-            onPicked: chip => actions.canvas.artInfo.chips.length > 0 ? actions.chat.pickChip(actions.canvas.sourceMessageId, chip)
-                : actions.chat.send(chip.send)
+            Component.onCompleted: setSource("RefinePopover.qml", { "canvas": actions.canvas, "chat": actions.chat })
         }
         TipLoader {
-            active: actions.compact && refineButton.hovered && !refine.visible
+            active: actions.compact && refineButton.hovered && !refine.opened
             text: qsTr("Refine")
         }
     }

@@ -21,8 +21,6 @@ Item {
     readonly property bool building: canvas.state === Store.CanvasState.BuildingScene
     readonly property bool drawn: canvas.state === Store.CanvasState.Scene
 
-    implicitHeight: Math.max(36, Tokens.fit(32))
-
     Item {
         id: sign
 

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
@@ -23,18 +25,22 @@ FocusScope {
         anchors.fill: parent
         canvas: view.canvas
     }
-    CanvasCaption {
+    LatePlace {
         id: caption
 
         x: 24
         y: 16
         width: parent.width - 48
-        visible: view.canvas.framed
-        canvas: view.canvas
-        chat: view.store.chat
-        layout: view.store.layout
-        scope: view.store.scope
-        sheet: sheet.item as Item
+        height: Math.max(36, Tokens.fit(32))
+        wanted: view.canvas.framed
+        content: CanvasCaption {
+            anchors.fill: parent
+            canvas: view.canvas
+            chat: view.store.chat
+            layout: view.store.layout
+            scope: view.store.scope
+            sheet: sheet.item as Item
+        }
     }
     HistorySteps {
         x: parent.width - width - 24
@@ -50,10 +56,13 @@ FocusScope {
         visible: view.canvas.state === Store.CanvasState.BuildingScene
         running: visible
     }
-    SkeletonSheet {
+    LatePlace {
         anchors.fill: frame
-        visible: view.canvas.state === Store.CanvasState.ThinkingSkeleton || view.canvas.state === Store.CanvasState.BuildingScene
-        shape: view.canvas.skeletonShape
+        wanted: view.canvas.state === Store.CanvasState.ThinkingSkeleton || view.canvas.state === Store.CanvasState.BuildingScene
+        content: SkeletonSheet {
+            anchors.fill: parent
+            shape: view.canvas.skeletonShape
+        }
     }
     SheetLoader {
         id: sheet
@@ -77,15 +86,18 @@ FocusScope {
         anchors.bottomMargin: view.reserved
         active: view.canvas.state === Store.CanvasState.SignedOut
     }
-    CanvasMessage {
+    LatePlace {
         anchors.fill: parent
         anchors.bottomMargin: view.reserved
         // Not before it is known who asks.
-        visible: view.canvas.state === Store.CanvasState.Empty && view.store.scope.auth === Store.AuthPhase.SignedIn
-        heading: qsTr("Ask for something with numbers")
-        body: qsTr("The answer is drawn here, and the text stays in the conversation.")
-        questions: view.store.scope.starters
-        onAsked: question => view.store.chat.send(question)
+        wanted: view.canvas.state === Store.CanvasState.Empty && view.store.scope.auth === Store.AuthPhase.SignedIn
+        content: CanvasMessage {
+            anchors.fill: parent
+            heading: qsTr("Ask for something with numbers")
+            body: qsTr("The answer is drawn here, and the text stays in the conversation.")
+            questions: view.store.scope.starters
+            onAsked: question => view.store.chat.send(question)
+        }
     }
     PageLoader {
         anchors.fill: parent
@@ -94,22 +106,28 @@ FocusScope {
         store: view.store
         reserved: view.reserved
     }
-    CanvasMessage {
+    LatePlace {
         anchors.fill: parent
         anchors.bottomMargin: view.reserved
-        visible: view.canvas.state === Store.CanvasState.Hint
-        iconName: "sheet"
-        heading: view.canvas.canvasHint
-        questions: [qsTr("As a table"), qsTr("As a list")]
-        onAsked: question => view.store.chat.send(question)
+        wanted: view.canvas.state === Store.CanvasState.Hint
+        content: CanvasMessage {
+            anchors.fill: parent
+            iconName: "sheet"
+            heading: view.canvas.canvasHint
+            questions: [qsTr("As a table"), qsTr("As a list")]
+            onAsked: question => view.store.chat.send(question)
+        }
     }
-    CanvasMessage {
+    LatePlace {
         anchors.fill: parent
         anchors.bottomMargin: view.reserved
-        visible: view.canvas.state === Store.CanvasState.Failed
-        iconName: "alert"
-        heading: qsTr("No answer came")
-        questions: [qsTr("Try again")]
-        onAsked: view.store.chat.retryTurn()
+        wanted: view.canvas.state === Store.CanvasState.Failed
+        content: CanvasMessage {
+            anchors.fill: parent
+            iconName: "alert"
+            heading: qsTr("No answer came")
+            questions: [qsTr("Try again")]
+            onAsked: view.store.chat.retryTurn()
+        }
     }
 }

@@ -1,18 +1,15 @@
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
-import Kiv.Scene
+import Kiv.Store
 import Kiv.Tokens
 
 // Asks for a change of what is drawn.
 Popover {
     id: popover
 
-    /// What may be asked with one click.
-    required property list<replyChip> chips
-
-    signal submitted(text: string)
-    signal picked(chip: replyChip)
+    required property CanvasRoom canvas
+    required property ChatRoom chat
 
     width: Tokens.fit(340)
     padding: 12
@@ -31,7 +28,7 @@ Popover {
         placeholderText: qsTr("What should change?")
         Accessible.name: placeholderText
         onAccepted: if (/\S/.test(text)) {
-            popover.submitted(text)
+            popover.chat.send(text)
             popover.close()
         }
     }
@@ -40,10 +37,13 @@ Popover {
 
         y: Tokens.fit(40) + 8
         width: popover.availableWidth
-        chips: popover.chips
+        chips: popover.canvas.artInfo.offers
         most: 3
         onPicked: chip => {
-            popover.picked(chip)
+            if (popover.canvas.artInfo.chips.length > 0)
+                popover.chat.pickChip(popover.canvas.sourceMessageId, chip)
+            else
+                popover.chat.send(chip.send)
             popover.close()
         }
     }

@@ -7,6 +7,8 @@ import Kiv.Tokens
 
 // What somebody sees who is not signed in: a scene of made-up figures, and a way to the others.
 FocusScope {
+    focus: true
+
     Samples {
         id: samples
     }

@@ -55,7 +55,7 @@ Item {
             spacing: 12
 
             Repeater {
-                model: 6
+                model: cards.visible ? 6 : 0
 
                 Rectangle {
                     width: (sheet.inner - 12 * (cards.columns - 1)) / cards.columns
@@ -72,11 +72,13 @@ Item {
             }
         }
         Column {
+            id: rows
+
             y: sheet.shape === Store.SkeletonShape.Cards ? 352 : 96
             visible: sheet.shape === Store.SkeletonShape.Rows || sheet.shape === Store.SkeletonShape.Cards
 
             Repeater {
-                model: [0.32, 0.24, 0.38, 0.28, 0.34, 0.22]
+                model: rows.visible ? [0.32, 0.24, 0.38, 0.28, 0.34, 0.22] : []
 
                 Item {
                     required property real modelData
@@ -97,12 +99,14 @@ Item {
             }
         }
         Row {
+            id: lanes
+
             y: 78
             visible: sheet.shape === Store.SkeletonShape.Board
             spacing: 12
 
             Repeater {
-                model: [4, 3, 2]
+                model: lanes.visible ? [4, 3, 2] : []
 
                 Rectangle {
                     id: lane
@@ -131,18 +135,20 @@ Item {
             }
         }
         Row {
+            id: bars
+
             visible: sheet.shape === Store.SkeletonShape.Plot
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
             spacing: 24
 
             Repeater {
-                model: [0.52, 0.68, 0.44, 0.8, 0.6, 0.92, 0.74]
+                model: bars.visible ? [0.52, 0.68, 0.44, 0.8, 0.6, 0.92, 0.74] : []
 
                 Skeleton {
                     required property real modelData
 
-                    anchors.bottom: parent.bottom
+                    anchors.bottom: parent?.bottom
                     width: (sheet.inner - 144) / 7
                     height: (sheet.height - 280) * modelData
                 }

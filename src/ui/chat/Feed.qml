@@ -57,15 +57,19 @@ FocusScope {
         else
             Clipboard.setMarkdown(feedRows.messageText(messageId), feedRows.messageBody(messageId))
     }
+    /// Gives the focus to the messages.
+    function enterList() {
+        list.forceActiveFocus(Qt.PopupFocusReason)
+    }
     function openMenu(messageId: string) {
         if (messageId === "")
             return
         view.setCursor(messageId)
-        menu.row = feedRows.tailOf(messageId)
-        if (menu.row.callId === "")
-            menu.open()
+        const row = feedRows.tailOf(messageId)
+        if (row.callId === "")
+            menu.openFor(row)
         else
-            callToggled(menu.row.callId)
+            callToggled(row.callId)
     }
 
     FeedRows {
@@ -267,21 +271,22 @@ FocusScope {
             y: view.cursorPlace.y + 8
             width: view.width + 20
             height: view.cursorPlace.height + (feed.compact ? 4 : 16)
-            visible: (list.activeFocus || menu.visible) && view.cursorPlace.height > 0
+            visible: (list.activeFocus || menu.opened) && view.cursorPlace.height > 0
             radius: Tokens.radiusCard
             color: "transparent"
             border.width: 2
             border.color: Tokens.focus
 
-            MessageMenu {
+            PopupPlace {
                 id: menu
 
-                onAboutToHide: list.forceActiveFocus(Qt.PopupFocusReason)
-                onCopyRequested: feed.copyMessage(row.messageId)
-                onEditRequested: feed.editRequested(row.messageId)
-                onRetryRequested: feed.retryRequested(row.messageId)
-                onAskAgainRequested: feed.askAgainRequested(row.messageId)
-                onSceneRequested: feed.sceneRequested(row.messageId)
+                function openFor(row: feedRow) {
+                    active = true;
+                    (item as MessageMenu).row = row
+                    open()
+                }
+
+                Component.onCompleted: setSource("MessageMenu.qml", { "feed": feed })
             }
         }
     }

@@ -7,17 +7,14 @@ import Kiv.Store
 Popover {
     id: menu
 
+    required property Feed feed
     /// The last row of the message.
     property feedRow row
     readonly property bool failed: row.delivery === Store.Delivery.Failed
 
-    signal copyRequested()
-    signal editRequested()
-    signal retryRequested()
-    signal askAgainRequested()
-    signal sceneRequested()
 
     width: 240
+    onAboutToHide: feed.enterList()
     onAboutToShow: copy.forceActiveFocus(Qt.ShortcutFocusReason)
 
     contentItem: Item {
@@ -38,7 +35,7 @@ Popover {
             KeyNavigation.down: show
             onClicked: {
                 menu.close()
-                menu.copyRequested()
+                menu.feed.copyMessage(menu.row.messageId)
             }
         }
         MenuRow {
@@ -52,7 +49,7 @@ Popover {
             KeyNavigation.down: ask
             onClicked: {
                 menu.close()
-                menu.sceneRequested()
+                menu.feed.sceneRequested(menu.row.messageId)
             }
         }
         MenuRow {
@@ -66,7 +63,7 @@ Popover {
             KeyNavigation.down: edit
             onClicked: {
                 menu.close()
-                menu.askAgainRequested()
+                menu.feed.askAgainRequested(menu.row.messageId)
             }
         }
         MenuRow {
@@ -80,7 +77,7 @@ Popover {
             KeyNavigation.down: retry
             onClicked: {
                 menu.close()
-                menu.editRequested()
+                menu.feed.editRequested(menu.row.messageId)
             }
         }
         MenuRow {
@@ -93,7 +90,7 @@ Popover {
             text: qsTr("Try again")
             onClicked: {
                 menu.close()
-                menu.retryRequested()
+                menu.feed.retryRequested(menu.row.messageId)
             }
         }
     }

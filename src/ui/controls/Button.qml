@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Kiv.Icons
@@ -52,10 +54,14 @@ T.Button {
         anchors.centerIn: parent
         spacing: button.size === Button.Small ? 6 : 8
 
-        Busy {
+        LatePlace {
             anchors.verticalCenter: parent.verticalCenter
-            visible: button.busy
-            color: button.labelColor
+            width: 16
+            height: 16
+            wanted: button.busy
+            content: Busy {
+                color: button.labelColor
+            }
         }
         Icon {
             anchors.verticalCenter: parent.verticalCenter

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Kiv.Icons
@@ -49,12 +51,16 @@ T.Button {
         }
     }
 
-    Badge {
-        anchors.top: parent.top
-        anchors.right: parent.right
-        anchors.topMargin: -1
-        anchors.rightMargin: -2
-        count: button.badge
+    LatePlace {
+        anchors.fill: parent
+        wanted: button.badge > 0
+        content: Badge {
+            anchors.top: parent.top
+            anchors.right: parent.right
+            anchors.topMargin: -1
+            anchors.rightMargin: -2
+            count: button.badge
+        }
     }
     TipLoader {
         active: button.hovered && !button.down

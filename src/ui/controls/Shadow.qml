@@ -18,7 +18,8 @@ BorderImage {
     border.right: slice
     border.top: slice
     border.bottom: slice
-    source: "image://shadow/" + (level === Shadow.High ? "high" : "floating") + "/" + (Tokens.dark ? "dark" : "light")
+    // Nothing is drawn for what does not show.
+    source: !visible ? "" : "image://shadow/" + (level === Shadow.High ? "high" : "floating") + "/" + (Tokens.dark ? "dark" : "light")
         + "/" + reach + "/" + slice + "/" + targetRadius
     Accessible.ignored: true
 }

@@ -9,11 +9,13 @@ Popover {
     id: popover
 
     required property AppStore store
-    property real most: 600
-
+    readonly property PopupPlace place: parent as PopupPlace
+    readonly property real most: place?.most ?? 600
     readonly property bool chosen: store.scope.project !== ""
 
     width: Tokens.fit(360)
+    visible: place?.shown ?? false
+    onAboutToHide: store.layout.closePopovers()
     onAboutToShow: {
         events.toFirst()
         events.forceActiveFocus(Qt.PopupFocusReason)

@@ -11,10 +11,14 @@ import Kiv.Tokens
 Popover {
     id: popover
 
-    required property CanvasRoom canvas
-    property real most: 600
+    required property AppStore store
+    readonly property CanvasRoom canvas: store.canvas
+    readonly property PopupPlace place: parent as PopupPlace
+    readonly property real most: place?.most ?? 600
 
     width: Tokens.fit(360)
+    visible: place?.shown ?? false
+    onAboutToHide: store.layout.closePopovers()
     onAboutToShow: {
         list.currentIndex = 0
         list.forceActiveFocus(Qt.PopupFocusReason)

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kiv.Account
 import Kiv.Canvas
@@ -40,8 +42,8 @@ FocusScope {
     }
 
     focus: true
-    onWidthChanged: layout.setWindowWidth(width)
-    Component.onCompleted: layout.setWindowWidth(width)
+    // A window that is being made has no width yet.
+    onWidthChanged: if (width > 0) layout.setWindowWidth(width)
 
     Rectangle {
         anchors.fill: parent
@@ -58,54 +60,68 @@ FocusScope {
         railWidth: view.layout.railShown ? view.layout.shownRailW : 0
         popoverHeight: view.height * 0.7
     }
-    Banner {
+    LatePlace {
         id: offlineBanner
 
         anchors.top: topBar.bottom
         width: parent.width
         height: visible ? implicitHeight : 0
-        visible: view.store.connection.offline
-        iconName: "offline"
-        text: view.store.connection.serverDown
-            ? qsTr("The workspace on this computer has stopped and is being started again. What you send waits for it.")
-            : qsTr("You are offline. What you send waits for the connection.")
-        action: view.store.connection.serverDown ? "" : qsTr("Retry now")
-        onActed: view.store.connection.retryNow()
+        wanted: view.store.connection.offline
+        content: Banner {
+            anchors.fill: parent
+            iconName: "offline"
+            text: view.store.connection.serverDown
+                ? qsTr("The workspace on this computer has stopped and is being started again. What you send waits for it.")
+                : qsTr("You are offline. What you send waits for the connection.")
+            action: view.store.connection.serverDown ? "" : qsTr("Retry now")
+            onActed: view.store.connection.retryNow()
+        }
     }
-    Banner {
+    LatePlace {
         id: failureBanner
 
-        objectName: "failureBanner"
         anchors.top: offlineBanner.bottom
         width: parent.width
         height: visible ? implicitHeight : 0
-        visible: view.store.connection.failure !== ""
-        iconName: "alert"
-        text: qsTr("The workspace cannot start: %1").arg(view.store.connection.failure)
-        action: qsTr("Try again")
-        onActed: view.store.connection.startAgain()
+        wanted: view.store.connection.failure !== ""
+        content: Banner {
+            objectName: "failureBanner"
+            anchors.fill: parent
+            iconName: "alert"
+            text: qsTr("The workspace cannot start: %1").arg(view.store.connection.failure)
+            action: qsTr("Try again")
+            onActed: view.store.connection.startAgain()
+        }
     }
-    StorageBanners {
+    LatePlace {
         id: storageBanners
 
         anchors.top: failureBanner.bottom
         width: parent.width
-        storage: view.store.storage
+        height: visible ? implicitHeight : 0
+        wanted: view.store.storage.trouble !== "" || view.store.storage.damage !== ""
+        content: StorageBanners {
+            width: parent.width
+            storage: view.store.storage
+        }
     }
-    Banner {
+    LatePlace {
         id: updateBanner
 
         anchors.top: storageBanners.bottom
         width: parent.width
         height: visible ? implicitHeight : 0
-        visible: view.store.update.offered
-        iconName: "download"
-        tone: Tokens.violet
-        text: qsTr("KIV %1 is available.").arg(view.store.update.version)
-        action: qsTr("Open downloads")
-        closable: true
-        onActed: Qt.openUrlExternally(view.store.update.page)
-        onClosed: view.store.update.dismiss()
+        wanted: view.store.update.offered
+        content: Banner {
+            anchors.fill: parent
+            iconName: "download"
+            tone: Tokens.violet
+            text: qsTr("KIV %1 is available.").arg(view.store.update.version)
+            action: qsTr("Open downloads")
+            closable: true
+            onActed: Qt.openUrlExternally(view.store.update.page)
+            onClosed: view.store.update.dismiss()
+        }
     }
     Rail {
         id: rail
@@ -117,14 +133,18 @@ FocusScope {
         focus: true
         store: view.store
     }
-    Strip {
+    LatePlace {
         id: strip
 
         anchors.top: updateBanner.bottom
         anchors.bottom: parent.bottom
-        visible: !view.layout.railShown && !view.full
-        scope: view.store.scope
-        onCreateRequested: kind => view.layout.startCreate(kind)
+        wanted: !view.layout.railShown && !view.full
+        content: Strip {
+            anchors.fill: parent
+            focus: true
+            scope: view.store.scope
+            onCreateRequested: kind => view.layout.startCreate(kind)
+        }
     }
     EdgeHandle {
         anchors.top: updateBanner.bottom
@@ -171,16 +191,20 @@ FocusScope {
             focus: view.accountOpen
             store: view.store
         }
-        Composer {
+        LatePlace {
             id: floating
 
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 24
             anchors.horizontalCenter: parent.horizontalCenter
             width: Math.min(720, parent.width - 48)
-            visible: view.floats
-            floating: true
-            store: view.store
+            wanted: view.floats
+            content: Composer {
+                width: floating.width
+                focus: true
+                floating: true
+                store: view.store
+            }
         }
     }
     Item {
@@ -218,10 +242,11 @@ FocusScope {
         name: view.store.scope.scopeName
         onTold: words => answerAlert.say(words)
     }
-    SignInSheet {
-        store: view.store
+    PopupPlace {
+        shown: view.store.session.authSheet !== Store.AuthSheetMode.Closed
+        Component.onCompleted: setSource("SignInSheet.qml", { "store": view.store })
     }
-    LeaveDialog {
+    LeavePlace {
         account: view.store.account
     }
     WizardLoader {
@@ -245,28 +270,29 @@ FocusScope {
     AreaCycle {
         id: areas
 
-        areas: [topBar, offlineBanner, updateBanner, view.layout.railShown ? rail : strip, stage, dockPlace]
+        areas: [topBar, offlineBanner, failureBanner, storageBanners, updateBanner, view.layout.railShown ? rail : strip, stage, dockPlace]
     }
-    AboutDialog {
+    PopupPlace {
         id: about
 
-        commands: view.commands
-        onNoticesRequested: notices.open()
+        Component.onCompleted: setSource("AboutDialog.qml", { "commands": view.commands })
+        onLoaded: (item as AboutDialog).noticesRequested.connect(notices.open)
     }
-    NoticesSheet {
+    PopupPlace {
         id: notices
+
+        source: "NoticesSheet.qml"
     }
-    ShortcutsSheet {
+    PopupPlace {
         id: shortcuts
 
-        commands: view.commands
+        Component.onCompleted: setSource("ShortcutsSheet.qml", { "commands": view.commands })
     }
-    CommandPalette {
+    PopupPlace {
         id: commandPalette
 
-        store: view.store
-        commands: view.commands
-        onShortcutsRequested: shortcuts.open()
+        Component.onCompleted: setSource("CommandPalette.qml", { "store": view.store, "commands": view.commands })
+        onLoaded: (item as CommandPalette).shortcutsRequested.connect(shortcuts.open)
     }
     MenuKeys {
         commands: view.commands
@@ -308,7 +334,7 @@ FocusScope {
     }
     Shortcut {
         sequence: "Ctrl+Shift+P"
-        onActivated: commandPalette.visible = !commandPalette.visible
+        onActivated: commandPalette.toggle()
     }
     Shortcut {
         sequence: "F10"

@@ -12,7 +12,7 @@ T.Button {
     property bool offline: false
 
     function toggle() {
-        menu.visible = !menu.visible
+        menu.toggle()
     }
 
     objectName: "menuButton"
@@ -25,7 +25,7 @@ T.Button {
 
     background: Rectangle {
         radius: Tokens.radiusControl
-        color: button.down || menu.visible ? Tokens.press : button.hovered ? Tokens.hover : "transparent"
+        color: button.down || menu.opened ? Tokens.press : button.hovered ? Tokens.hover : "transparent"
 
         FocusRing {
             visible: button.visualFocus
@@ -50,13 +50,13 @@ T.Button {
         Accessible.ignored: true
     }
     TipLoader {
-        active: button.hovered && !menu.visible
+        active: button.hovered && !menu.opened
         text: qsTr("Main menu")
         keys: "F10"
     }
-    MainMenuView {
+    PopupPlace {
         id: menu
 
-        commands: button.commands
+        Component.onCompleted: setSource("MainMenuView.qml", { "commands": button.commands })
     }
 }

@@ -8,39 +8,20 @@ Loader {
 
     required property AppStore store
 
+    readonly property string page: store.canvas.panel === "agents" ? "AgentsPage.qml"
+        : store.canvas.panel === "calls" ? "CallsPage.qml"
+        : "EventsPage.qml"
+
     function leave() {
         store.canvas.closePanel()
         store.layout.focusAsk()
     }
 
     active: store.canvas.state === Store.CanvasState.Panel
-    sourceComponent: store.canvas.panel === "agents" ? agents
-        : store.canvas.panel === "calls" ? calls
-        : events
-    onLoaded: (item as PanelFrame)?.entered()
-
-    Component {
-        id: agents
-
-        AgentsPage {
-            store: (parent as PanelPlace)?.store
-            onClosed: (parent as PanelPlace)?.leave()
-        }
-    }
-    Component {
-        id: calls
-
-        CallsPage {
-            store: (parent as PanelPlace)?.store
-            onClosed: (parent as PanelPlace)?.leave()
-        }
-    }
-    Component {
-        id: events
-
-        EventsPage {
-            store: (parent as PanelPlace)?.store
-            onClosed: (parent as PanelPlace)?.leave()
-        }
+    onPageChanged: setSource(page, { "store": store })
+    onLoaded: {
+        const frame = item as PanelFrame
+        frame.closed.connect(leave)
+        frame.entered()
     }
 }

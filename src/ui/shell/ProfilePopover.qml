@@ -9,11 +9,12 @@ Popover {
     id: popover
 
     required property AppStore store
-    /// The most height that it takes.
-    required property real most
+    readonly property PopupPlace place: parent as PopupPlace
 
     width: Math.max(280, Tokens.fit(280))
-    height: Math.min(implicitHeight, most)
+    height: Math.min(implicitHeight, place?.most ?? 600)
+    visible: place?.shown ?? false
+    onAboutToHide: store.layout.closePopovers()
     onAboutToShow: accountRow.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {

@@ -39,7 +39,8 @@ FocusScope {
         scope: rail.store.scope
         onCreateRequested: kind => rail.store.layout.startCreate(kind)
         onSearchRequested: typed => {
-            finder.typed = typed
+            finder.active = true;
+            (finder.item as ScopePopover).typed = typed
             rail.layout.toggleScope()
         }
     }
@@ -49,14 +50,12 @@ FocusScope {
         width: parent.width - 25
         height: 48
 
-        ScopePopover {
+        PopupPlace {
             id: finder
 
-            objectName: "railFinder"
-            store: rail.store
             most: rail.height * 0.7
-            visible: rail.layout.scopeOpen && rail.visible
-            onAboutToHide: rail.layout.closePopovers()
+            shown: rail.layout.scopeOpen && rail.visible
+            Component.onCompleted: setSource("ScopePopover.qml", { "store": rail.store })
         }
     }
     RailSkeleton {

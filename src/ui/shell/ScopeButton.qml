@@ -3,7 +3,6 @@ import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Icons
-import Kiv.Shell
 import Kiv.Store
 import Kiv.Tokens
 
@@ -73,10 +72,9 @@ T.Button {
             color: Tokens.t1
         }
     }
-    ScopePopover {
-        store: button.store
+    PopupPlace {
         most: button.popoverHeight
-        visible: button.store.layout.topScopeOpen
-        onAboutToHide: button.store.layout.closePopovers()
+        shown: button.store.layout.topScopeOpen
+        Component.onCompleted: setSource("ScopePopover.qml", { "store": button.store })
     }
 }

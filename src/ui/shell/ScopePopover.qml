@@ -12,7 +12,8 @@ Popover {
     id: popover
 
     required property AppStore store
-    property real most: 600
+    readonly property PopupPlace place: parent as PopupPlace
+    readonly property real most: place?.most ?? 600
     /// What the search begins with.
     property string typed: ""
 
@@ -26,6 +27,8 @@ Popover {
 
     alignLeft: true
     width: Tokens.fit(340)
+    visible: place?.shown ?? false
+    onAboutToHide: store.layout.closePopovers()
     onAboutToShow: {
         search.text = typed
         typed = ""

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Templates as T
 import Kiv.Call
@@ -67,10 +69,12 @@ FocusScope {
         visible: bar.signedIn
         spacing: 4
 
-        CallPill {
-            objectName: "callPill"
-            visible: bar.store.call.call
-            call: bar.store.call
+        LatePlace {
+            wanted: bar.store.call.call
+            content: CallPill {
+                objectName: "callPill"
+                call: bar.store.call
+            }
         }
         IconButton {
             objectName: "endCallButton"
@@ -97,11 +101,10 @@ FocusScope {
             active: bar.store.layout.histOpen
             onClicked: bar.store.layout.toggleHist()
 
-            HistoryPopover {
-                canvas: bar.store.canvas
+            PopupPlace {
                 most: bar.popoverHeight
-                visible: bar.signedIn && bar.store.layout.histOpen
-                onAboutToHide: bar.store.layout.closePopovers()
+                shown: bar.signedIn && bar.store.layout.histOpen
+                Component.onCompleted: setSource("HistoryPopover.qml", { "store": bar.store })
             }
         }
         IconButton {
@@ -111,11 +114,10 @@ FocusScope {
             active: bar.store.layout.eventsOpen
             onClicked: bar.store.layout.toggleEvents()
 
-            EventFeed {
-                store: bar.store
+            PopupPlace {
                 most: bar.popoverHeight
-                visible: bar.store.layout.eventsOpen
-                onAboutToHide: bar.store.layout.closePopovers()
+                shown: bar.store.layout.eventsOpen
+                Component.onCompleted: setSource("EventFeed.qml", { "store": bar.store })
             }
         }
         IconButton {
@@ -162,11 +164,10 @@ FocusScope {
                 picture: bar.store.scope.userAvatarURL
                 ground: Tokens.rail
             }
-            ProfilePopover {
-                store: bar.store
+            PopupPlace {
                 most: bar.popoverHeight
-                visible: bar.store.layout.profileOpen
-                onAboutToHide: bar.store.layout.closePopovers()
+                shown: bar.store.layout.profileOpen
+                Component.onCompleted: setSource("ProfilePopover.qml", { "store": bar.store })
             }
         }
     }

@@ -12,7 +12,7 @@ FocusScope {
 
     required property AppStore store
     /// Room kept free at the bottom for what floats there.
-    required property int reserved
+    readonly property int reserved: (parent as PageLoader)?.reserved ?? 0
 
     readonly property surfaceLink link: store.canvas.pageView
     readonly property bool hidden: host.state === PageHost.Failed || host.state === PageHost.Refused
