@@ -17,8 +17,6 @@ FocusScope {
     readonly property surfaceLink link: store.canvas.pageView
     readonly property bool hidden: host.state === PageHost.Failed || host.state === PageHost.Refused
 
-    signal browserRequested(url: url)
-
     Accessible.role: Accessible.Pane
     Accessible.name: link.title
 
@@ -32,7 +30,7 @@ FocusScope {
         title: sheet.link.title
         host: host
         canvas: sheet.store.canvas
-        onBrowserRequested: sheet.browserRequested(host.address)
+        onBrowserRequested: Qt.openUrlExternally(host.address)
     }
     Rectangle {
         x: 24
@@ -79,7 +77,7 @@ FocusScope {
             store: sheet.store
             url: sheet.link.url
             dark: Tokens.dark
-            onBrowserRequested: url => sheet.browserRequested(url)
+            onBrowserRequested: url => Qt.openUrlExternally(url)
         }
     }
     CanvasMessage {
@@ -91,7 +89,7 @@ FocusScope {
         questions: host.state === PageHost.Refused ? [bar.browserText] : [qsTr("Try again"), bar.browserText]
         onAsked: question => {
             if (question === bar.browserText)
-                sheet.browserRequested(host.address)
+                Qt.openUrlExternally(host.address)
             else
                 host.retry()
         }
