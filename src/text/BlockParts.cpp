@@ -1,6 +1,7 @@
 #include "text/BlockParts.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace kiv::text {
 
@@ -10,7 +11,7 @@ using Joint = BlockPart::Joint;
 
 /// What a part holds at most. A line longer than a part is cut, so nothing is ever larger.
 struct Limits {
-    qsizetype chars;
+    qsizetype chars; ///< plain ones; others count for more
     qsizetype lines;
     qsizetype line; ///< of one line: where lines do not wrap, many long ones show at once
 };
@@ -23,9 +24,32 @@ constexpr qsizetype cellLimit = 1000;
 constexpr qsizetype columnLimit = 60;
 constexpr qsizetype cellCost = 8; ///< what laying a cell out costs beside its text, in characters
 
+/// What laying a character out costs beside that of a plain one: an emoji is a picture, and a mark
+/// begins or ends words in another look.
+qsizetype costOf(QChar c) {
+    if (c.isHighSurrogate())
+        return 20;
+    return c == u'*' || c == u'`' || c == u'[' ? 5 : 1;
+}
+
+qsizetype costOf(QStringView text) {
+    return std::accumulate(text.begin(), text.end(), qsizetype(0),
+                           [](qsizetype sum, QChar c) { return sum + costOf(c); });
+}
+
+/// How many characters from the start cost `most` together.
+qsizetype affordable(QStringView text, qsizetype most) {
+    qsizetype length = 0;
+    while (length < text.size() && most > 0)
+        most -= costOf(text[length++]);
+    return length;
+}
+
 /// How much of a text a part takes: up to a line's end or a word's end in the second half of what
 /// fits, and never half a character.
 qsizetype fitting(QStringView text, Limits limits) {
+    limits.chars = affordable(text, limits.chars);
+    limits.line = std::min(limits.line, limits.chars);
     const auto nextEnd = [text](qsizetype from, qsizetype within) {
         const qsizetype end =
             text.sliced(from).first(std::min(text.size() - from, within)).indexOf(u'\n');
@@ -162,20 +186,20 @@ private:
     template <typename Block, typename Line>
     void cutLines(const QList<Line> &lines) {
         qsizetype first = 0;
-        qsizetype chars = 0;
+        qsizetype cost = 0;
         Joint joint = Joint::Block;
         const auto flush = [&](qsizetype end) {
             if (end > first)
                 append(Block{lines.sliced(first, end - first)}, std::exchange(joint, Joint::Line));
             first = end;
-            chars = 0;
+            cost = 0;
         };
         for (qsizetype i = 0; i < lines.size(); ++i) {
-            const qsizetype length = textOf(lines.at(i)).size();
-            if (i - first == wordLimits.lines || chars + length > wordLimits.chars)
+            const qsizetype more = costOf(textOf(lines.at(i)));
+            if (i - first == wordLimits.lines || cost + more > wordLimits.chars)
                 flush(i);
-            chars += length;
-            if (length <= wordLimits.chars)
+            cost += more;
+            if (more <= wordLimits.chars)
                 continue;
             for (const Piece &piece : piecesOf(textOf(lines.at(i)), wordLimits)) {
                 Line line = lines.at(i);
@@ -184,7 +208,7 @@ private:
             }
             joint = Joint::Line;
             first = i + 1;
-            chars = 0;
+            cost = 0;
         }
         flush(lines.size());
     }

@@ -110,6 +110,7 @@ private Q_SLOTS:
             const QString words = lines.join(u'\n');
             QCOMPARE_LE(words.size(), 12'400);
             QVERIFY(words.isEmpty() || !words.front().isLowSurrogate());
+            QCOMPARE_LE(words.count(u"\U0001F600"_s), 125);
         }
         QCOMPARE(rejoined(parts), linesOf(blocks.first().kind));
     }

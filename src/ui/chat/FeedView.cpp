@@ -2,7 +2,10 @@
 
 #include "ui/chat/RowEstimate.h"
 
+#include <QElapsedTimer>
+
 #include <algorithm>
+#include <chrono>
 
 namespace kiv::ui {
 
@@ -13,6 +16,9 @@ constexpr double reserve = 160;
 constexpr double revealMargin = 16;
 /// How often heights may turn out to be other than estimated before the rest waits for a frame.
 constexpr int mostPasses = 8;
+/// How long rows are laid out for one frame. Those that are left keep their place free, or their
+/// former width, until the next.
+constexpr std::chrono::milliseconds makingTime{30};
 
 } // namespace
 
@@ -73,7 +79,6 @@ void FeedView::geometryChange(const QRectF &now, const QRectF &before) {
     const double place = m_origin + m_heights.top(anchor);
     estimateAll();
     m_origin = place - m_heights.top(anchor);
-    m_items.each([this](int, QQuickItem *item) { item->setWidth(width()); });
     polish();
 }
 
@@ -177,7 +182,10 @@ void FeedView::setRowHeight(int row, double height) {
 
 QQuickItem *FeedView::itemOf(int row) {
     QQuickItem *item = m_items.find(row);
-    return item ? item : m_items.show(row, m_rows->shown(row));
+    if (!item)
+        return m_items.show(row, m_rows->shown(row));
+    item->setWidth(width());
+    return item;
 }
 
 void FeedView::rowGrew() {
@@ -191,7 +199,10 @@ void FeedView::updatePolish() {
     m_layingOut = true;
     closeGap();
     const bool isMoved = m_following && !m_held;
+    QElapsedTimer making;
+    making.start();
     bool isSettled = false;
+    bool isWhole = true;
     int first = 0;
     int last = 0;
     for (int pass = 0; pass < mostPasses && !isSettled; ++pass) {
@@ -204,6 +215,12 @@ void FeedView::updatePolish() {
         for (last = first; last < m_heights.count(); ++last) {
             if (m_origin + m_heights.top(last) > lower)
                 break;
+            const QQuickItem *item = m_items.find(last);
+            const bool isMade = item && item->width() == width();
+            if (!isMade && making.hasExpired(makingTime.count())) {
+                isWhole = false;
+                continue;
+            }
             const double height = itemOf(last)->implicitHeight();
             if (height != m_heights.height(last)) {
                 setRowHeight(last, height);
@@ -217,8 +234,8 @@ void FeedView::updatePolish() {
     m_items.each([this](int row, QQuickItem *item) { item->setY(m_origin + m_heights.top(row)); });
     placeCursor();
     m_layingOut = false;
-    if (!isSettled)
-        polish();
+    if (!isSettled || !isWhole) // this frame ends only when nothing asks for more of it
+        QMetaObject::invokeMethod(this, &QQuickItem::polish, Qt::QueuedConnection);
 }
 
 void FeedView::setExtents() {

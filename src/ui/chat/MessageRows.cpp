@@ -62,7 +62,7 @@ public:
     bool isMine() const { return m_common.mine; }
     bool isGrowing() const { return m_growing; }
     QString body() const { return text(MessageModel::BodyRole); }
-    const QList<FeedRow> &rows() const { return m_rows; }
+    QList<FeedRow> takeRows() { return std::move(m_rows); }
 
     void addPlace(const MessagePlace &place) {
         if (place.belowOlder)
@@ -121,6 +121,7 @@ private:
 
     void addWords(QList<BlockPart> parts) {
         const qsizetype bubble = m_rows.size();
+        m_rows.reserve(bubble + parts.size() + 1);
         for (BlockPart &part : parts) {
             FeedRow &words = add(isMine() ? Kind::Own : kindOf(part.content));
             words.delivery = m_delivery;
@@ -161,7 +162,7 @@ MessageRows messageRows(const QModelIndex &message, const MessagePlace &place,
     maker.addPlace(place);
     if (maker.isCall()) {
         maker.addCall();
-        return {body, maker.rows()};
+        return {body, maker.takeRows()};
     }
     QList<BlockPart> parts;
     if (before.body == body)
@@ -169,7 +170,7 @@ MessageRows messageRows(const QModelIndex &message, const MessagePlace &place,
     if (parts.isEmpty())
         parts = partsIn(body, maker.isMine(), maker.isGrowing());
     maker.addMessage(std::move(parts));
-    return {body, maker.rows()};
+    return {body, maker.takeRows()};
 }
 
 } // namespace kiv::ui
