@@ -51,7 +51,7 @@ private Q_SLOTS:
         store::AppStore &store = m_program->store();
         QVERIFY(processesNamed("kiv-speech").isEmpty());
         QVERIFY(person.click(u"micButton"_s));
-        QVERIFY(person.waitFor([&] { return !store.dictation()->dictationInterim().isEmpty(); }));
+        QVERIFY(heardSomething());
         QVERIFY(store.microphone()->level() > 0);
         QVERIFY(store.chat()->draft().isEmpty());
         QVERIFY(person.waitFor([&] { return !store.chat()->draft().isEmpty(); }));
@@ -74,7 +74,7 @@ private Q_SLOTS:
         QVERIFY(person.click(u"askField"_s));
         person.type(u"Well:"_s);
         QVERIFY(person.click(u"micButton"_s));
-        QVERIFY(person.waitFor([&] { return !store.dictation()->dictationInterim().isEmpty(); }));
+        QVERIFY(heardSomething());
         const QString said = store.dictation()->dictationInterim();
         const QList<pid_t> recognisers = processesNamed("kiv-speech");
         QCOMPARE(recognisers.size(), 1);
@@ -113,6 +113,12 @@ private:
         store.session()->submitAuth(u"ada@example.org"_s, u"long enough"_s, true);
         QTRY_VERIFY_WITH_TIMEOUT(store.scope()->chatTarget() && store.chat()->msgs()->count() == 1,
                                  15'000);
+    }
+
+    /// The models are loaded first, which takes a busy machine its time.
+    bool heardSomething() const {
+        const store::DictationRoom &dictation = *m_program->store().dictation();
+        return QTest::qWaitFor([&] { return !dictation.dictationInterim().isEmpty(); }, 60'000);
     }
 
     SystemClock m_clock;

@@ -8,6 +8,7 @@
 #include "net/ChatRecords.h"
 #include "net/Decode.h"
 #include "net/LineSplitter.h"
+#include "support/WorkingTime.h"
 #include "text/BlockParts.h"
 #include "text/FoldedText.h"
 #include "text/HtmlText.h"
@@ -15,8 +16,6 @@
 #include "text/SearchText.h"
 
 #include <QTest>
-
-#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace kiv;
@@ -31,20 +30,13 @@ constexpr double bound = 9; // between the 4 of a line and the 16 of a square
 constexpr qsizetype least = 16 * 1024;
 constexpr qsizetype most = 512 * 1024;
 
-/// What this thread has worked, whatever else the machine does.
-double worked() {
-    timespec now{};
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
-}
-
 /// The least of some runs: what disturbs one makes it longer only.
 double timeOf(const Read &read, const QByteArray &input) {
     double best = 1e9;
     for (int run = 0; run < 3; ++run) {
-        const double start = worked();
+        const double start = test::workingTime();
         read(input);
-        best = std::min(best, worked() - start);
+        best = std::min(best, test::workingTime() - start);
     }
     return best;
 }

@@ -1,9 +1,9 @@
 #include "ui/FrameMeter.h"
 
+#include "support/WorkingTime.h"
+
 #include <QCoreApplication>
 #include <QTest>
-
-#include <ctime>
 
 namespace kiv::ui {
 
@@ -14,9 +14,7 @@ constexpr int restTime = 500;
 } // namespace
 
 double mainThreadTime() {
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+    return test::workingTime() * 1e9;
 }
 
 FrameMeter::FrameMeter(QQuickWindow &window) : m_window(window) {
