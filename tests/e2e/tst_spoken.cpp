@@ -51,14 +51,13 @@ private Q_SLOTS:
         store::AppStore &store = m_program->store();
         QVERIFY(processesNamed("kiv-speech").isEmpty());
         QVERIFY(person.click(u"micButton"_s));
+        QTRY_VERIFY(store.microphone()->level() > 0);
         QVERIFY(heardSomething());
-        QVERIFY(store.microphone()->level() > 0);
-        QVERIFY(store.chat()->draft().isEmpty());
         QVERIFY(person.waitFor([&] { return !store.chat()->draft().isEmpty(); }));
-        const QString heard = person.find(u"askField"_s)->property("text").toString();
-        QCOMPARE(heard, store.chat()->draft());
-        QVERIFY2(test::wordErrors(u"Give me the weekly report please"_s, heard) == 0,
-                 qPrintable(heard));
+        const QString shown = person.find(u"askField"_s)->property("text").toString();
+        QCOMPARE(shown, store.chat()->draft());
+        QVERIFY2(test::wordErrors(u"Give me the weekly report please"_s, shown) == 0,
+                 qPrintable(shown));
         QVERIFY(store.dictation()->dictating()); // until the person ends it
 
         person.press(Qt::Key_Return);
@@ -72,10 +71,11 @@ private Q_SLOTS:
         driver::WindowDriver person(m_program->window());
         store::AppStore &store = m_program->store();
         QVERIFY(person.click(u"askField"_s));
-        person.type(u"Well:"_s);
+        m_typed = u"Well:"_s;
+        person.type(m_typed);
         QVERIFY(person.click(u"micButton"_s));
         QVERIFY(heardSomething());
-        const QString said = store.dictation()->dictationInterim();
+        const QString said = heard().trimmed();
         const QList<pid_t> recognisers = processesNamed("kiv-speech");
         QCOMPARE(recognisers.size(), 1);
         ::kill(recognisers.first(), SIGKILL);
@@ -91,7 +91,10 @@ private Q_SLOTS:
         QCOMPARE(store.chat()->chatNote(), QString());
     }
 
-    void cleanup() { m_program.reset(); }
+    void cleanup() {
+        m_program.reset();
+        m_typed.clear();
+    }
 
 private:
     /// The program, signed in, with a microphone that hears this sentence.
@@ -115,13 +118,17 @@ private:
                                  15'000);
     }
 
-    /// The models are loaded first, which takes a busy machine its time.
+    /// The words as they come; where the machine is busy, the recogniser has them only at the end.
+    QString heard() const {
+        const QString interim = m_program->store().dictation()->dictationInterim();
+        return interim.isEmpty() ? m_program->store().chat()->draft().mid(m_typed.size()) : interim;
+    }
     bool heardSomething() const {
-        const store::DictationRoom &dictation = *m_program->store().dictation();
-        return QTest::qWaitFor([&] { return !dictation.dictationInterim().isEmpty(); }, 60'000);
+        return QTest::qWaitFor([&] { return !heard().isEmpty(); }, 60'000);
     }
 
     SystemClock m_clock;
+    QString m_typed; ///< before anything is said
     std::unique_ptr<QTemporaryDir> m_profile;
     std::unique_ptr<app::Application> m_program;
 };
