@@ -113,14 +113,12 @@ bool Connection::is_writable() const {
 }
 
 ssize_t Connection::read(char *data, size_t size) {
-    if (m_mayRead == 0) {
+    const bool isOver = m_mayRead == 0 || timeLeft() == Milliseconds(0);
+    if (isOver || (m_begin == m_end && !waitFor(POLLIN, std::min(timeLeft(), ioPatience)))) {
         m_ending = true; // what follows is not the beginning of anything
         return -1;
     }
     if (m_begin == m_end) {
-        if (!waitFor(POLLIN, std::min(timeLeft(), ioPatience))) {
-            return -1;
-        }
         const ssize_t got = ::recv(m_socket, m_buffer.data(), m_buffer.size(), 0);
         if (got <= 0) {
             return got;

@@ -54,7 +54,7 @@ void LoopbackServer::stopNow() {
 
 bool LoopbackServer::process_and_close_socket(socket_t socket) {
     Connection connection(socket);
-    if (isOfAnotherUser(connection.peerPort(), connection.ownPort()) || !enlist(socket)) {
+    if (mayBeOfAnotherUser(connection.peerPort(), connection.ownPort()) || !enlist(socket)) {
         return false;
     }
     bool served = true;

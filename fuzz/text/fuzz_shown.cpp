@@ -42,9 +42,10 @@ void checkHtml(const QList<MDBlock> &blocks) {
         for (const QXmlStreamAttribute &attribute : reader.attributes()) {
             const bool isLink = attribute.name() == u"href"_s;
             mustHold(isLink || attribute.name() == u"value"_s);
-            const QString scheme = QUrl(attribute.value().toString()).scheme();
+            const QString link = attribute.value().toString();
+            const bool isPath = link.startsWith(u'/') && !link.startsWith(u"//"_s);
             const QStringList safe{u"http"_s, u"https"_s, u"mailto"_s};
-            mustHold(!isLink || safe.contains(scheme, Qt::CaseInsensitive));
+            mustHold(!isLink || isPath || safe.contains(QUrl(link).scheme(), Qt::CaseInsensitive));
         }
     }
     mustHold(!reader.hasError());

@@ -29,6 +29,7 @@ EngineVoicePage::EngineVoicePage(voice::VoicePageWatcher &watcher)
     QWebEngineSettings *settings = m_page.settings();
     settings->setAttribute(QWebEngineSettings::PlaybackRequiresUserGesture, false);
     settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, false);
+    settings->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
     settings->setAttribute(QWebEngineSettings::PluginsEnabled, false);
     m_channel.registerObject(u"port"_s, &m_port);
     m_page.setWebChannel(&m_channel, QWebEngineScript::MainWorld);

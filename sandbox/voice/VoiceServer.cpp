@@ -105,7 +105,7 @@ void VoiceServer::accept() {
             }
         });
         if (m_shaking.size() + static_cast<qsizetype>(m_calls.size()) > mostConnections ||
-            isOfAnotherUser(peer, m_port) || faults.take(method, socketPath, {Fault::Close})) {
+            mayBeOfAnotherUser(peer, m_port) || faults.take(method, socketPath, {Fault::Close})) {
             connection->abort();
         } else if (const auto fault = faults.take(method, socketPath, {Fault::Status})) {
             connection->write("HTTP/1.1 " + QByteArray::number(fault->value) +

@@ -10,17 +10,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A spreadsheet runs a cell that begins with = + - @, or with a tab or line break before one of
-/// them, as a formula, and an answer may hold what others wrote. Such a cell gets an apostrophe in
-/// front, which makes it a text. A signed figure stays as it is, with its unit and the words behind
-/// it ("-12", "+6.2% on last week", "-$1,200.50"): without an operator, a bracket or a name in
-/// front there is nothing in it to run. So does a sign alone, the dash of a missing value.
+/// A spreadsheet runs a cell that begins with = + - @ as a formula, and an answer may hold what
+/// others wrote. What would be one gets an apostrophe in front, which makes it a text; so does what
+/// stands behind a tab, a line break or the semicolon, which separates cells where the comma is the
+/// decimal sign. A signed figure stays as it is, with its unit and the words behind it ("-12",
+/// "+6.2% on last week", "-$1,200.50"): without an operator, a bracket or a name in front there is
+/// nothing in it to run. So does a sign alone, the dash of a missing value.
 QString guarded(const QString &cell) {
-    static const Regex formula(u"^[\\t\\r\\n]*[=+\\-@\uff1d\uff0b\uff0d\uff20]");
-    static const Regex figure(u"^[+\\-](?: ?\\p{Sc})? ?\\d[\\p{L}\\d\\p{Sc}\\s.,%‰°'’]*$");
-    static const Regex sign(u"^[+\\-]+$");
-    const bool isSafe = !formula.contains(cell) || figure.contains(cell) || sign.contains(cell);
-    return isSafe ? cell : u'\'' + cell;
+    static const Regex formula(
+        u"(^|[;\\t\\r\\n])(?=[=+\\-@\uff1d\uff0b\uff0d\uff20])"
+        u"(?![+\\-](?: ?\\p{Sc})? ?\\d[\\p{L}\\d\\p{Sc}\\p{Zs}.,%‰°'’]*(?:[;\\t\\r\\n]|$))"
+        u"(?![+\\-]+(?:[;\\t\\r\\n]|$))");
+    return formula.replaceAll(cell, u"$1'"_s);
 }
 
 QString written(const QString &cell, QChar separator) {

@@ -39,15 +39,17 @@ QString wordOf(QtMsgType type) {
 void handle(QtMsgType type, const QMessageLogContext &context, const QString &text) {
     // What writing a line itself complains of would be written, and complained of, for ever.
     thread_local bool isInside = false;
-    if (capturing && !isInside) {
+    const bool isCaptured = capturing && !isInside;
+    if (isCaptured) {
         isInside = true;
         const QString category = QString::fromLatin1(context.category);
         const bool isNamed = !category.isEmpty() && category != u"default"_s;
         capturing->write(type, isNamed ? category + u": "_s + text : text);
         isInside = false;
     }
+    // The desktop keeps what programs say in a journal of its own.
     if (before)
-        before(type, context, text);
+        before(type, context, isCaptured ? LogText::redacted(text) : text);
 }
 
 } // namespace

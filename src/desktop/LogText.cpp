@@ -23,16 +23,19 @@ struct Rule {
 /// In this order: what a rule leaves is what the next one reads. Words alone are read in either case:
 /// a set of characters takes far longer to be made ready for both.
 std::span<const Rule> rules() {
+    const QString value = uR"re((?:\\*"(?:[^"\\]|\\.)*"?|'[^']*'?|[^\s,;&}]+))re"_s;
     static const Rule table[] = {
         // Whole headers: everything up to the end is theirs.
         {Regex(uR"(\b((?i:(?:set-)?cookie|authorization))\b(\W{0,3}[:=]).*)"), u"$1$2 […]"_s},
         // The name in an address of the web may carry a password, its end what was asked for.
-        {Regex(uR"(\b([A-Za-z][A-Za-z0-9+.-]*://)[^\s/"'<>@]*@)"), u"$1"_s},
+        {Regex(uR"(\b([A-Za-z][A-Za-z0-9+.-]*://)[^\s/"'<>]*@)"), u"$1"_s},
         {Regex(uR"(\b([A-Za-z][A-Za-z0-9+.-]*://[^\s?#"'<>]*)[?#][^\s"'<>]*)"), u"$1[…]"_s},
         {Regex(uR"(\b(?i:bearer)\s+\S+)"), u"bearer […]"_s},
-        {Regex(uR"re(\b([\w-]*(?i:password|passwd|secret|token|session|sid|api[_-]?key))(["']?\s*[:=]\s*)("[^"]*"?|'[^']*'?|[^\s,;&}]+))re"),
+        // What follows a name that has no value may be the name of one that has.
+        {Regex(uR"(\b([\w-]*(?i:password|passwd|secret|token|session|sid|api[_-]?key))(\\*["']?\s*[:=]\s*))"_s +
+               value + uR"((?:\s*[:=]\s*)"_s + value + u")*"_s),
          u"$1$2[…]"_s},
-        {Regex(uR"([^\s"'<>@:/]+@[^\s"'<>@]+\.[A-Za-z]{2,})"), u"[address]"_s},
+        {Regex(uR"([^\s"'<>@:/]+@[^\s"'<>@]+\.\p{L}{2,})"), u"[address]"_s},
         // What is long and means nothing to a reader: keys, signatures, cookies without a name.
         {Regex(uR"([A-Za-z0-9+_=-]{32,})"), u"[…]"_s},
         // A quotation of some length is what somebody wrote.

@@ -36,15 +36,24 @@ QString written(const QUrl &url) {
                url.toString(QUrl::PrettyDecoded | QUrl::RemoveScheme | QUrl::RemoveAuthority));
 }
 
-/// Of a letter, only what is written in it.
+/// Of a letter, only what is written in it: of its lines, those of the text alone.
 QString letter(QUrl url) {
     QUrlQuery kept;
     for (const auto &[name, value] : QUrlQuery(url).queryItems(QUrl::FullyEncoded)) {
-        if (name == "subject"_L1 || name == "body"_L1 || name == "cc"_L1)
+        const bool isLine = !value.contains("%0"_L1);
+        if (name == "body"_L1 || ((name == "subject"_L1 || name == "cc"_L1) && isLine))
             kept.addQueryItem(name, value);
     }
     url.setQuery(kept);
+    url.setFragment({}); // some programs look for a question mark behind it
     return url.toString(QUrl::FullyEncoded);
+}
+
+/// Whether its host is written as it is looked up, and no name stands before it.
+bool namesItsHost(const QString &link, const QUrl &url) {
+    const QString place = u"://"_s + url.authority(QUrl::FullyEncoded);
+    return url.userInfo().isEmpty() &&
+           QStringView(link).sliced(url.scheme().size()).startsWith(place, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -57,7 +66,7 @@ QString linkTarget(const QString &link) {
         return letter(url);
     if (!isWebAddress(url))
         return {};
-    if (url.userInfo(QUrl::FullyEncoded).isEmpty() && std::ranges::all_of(link, isPlain))
+    if (namesItsHost(link, url) && std::ranges::all_of(link, isPlain))
         return link;
     url.setUserInfo({});
     return written(url);

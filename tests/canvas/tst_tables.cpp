@@ -127,23 +127,26 @@ private Q_SLOTS:
 
     void formulas_data() {
         QTest::addColumn<QString>("cell");
-        QTest::addColumn<bool>("isGuarded");
+        QTest::addColumn<QString>("written");
         for (const char *figure :
              {"-12", "+6.2%", "-1,234.50 km", "-$1,200.50", "- 5", "+6.2% on last week", "−12",
               "-12\u202f500\u00a0₽", "-", "--", "Q1=Q2", "a@b.example", "(300)", "5-3", ""})
-            QTest::newRow(figure) << QString::fromUtf8(figure) << false;
+            QTest::newRow(figure) << QString::fromUtf8(figure) << QString::fromUtf8(figure);
         for (const char *formula : {"=1+1", "=", "@SUM(A1:A9)", "@ada", "-A1", "+cmd|' /C calc'!A0",
-                                    "-2+3+cmd|' /C calc'!A0", "-1(2)", "- later", "\t=1+1",
-                                    "\n=1+1", "＝1+1", "=HYPERLINK(\"https://kiv.example\")"})
-            QTest::newRow(formula) << QString::fromUtf8(formula) << true;
+                                    "-2+3+cmd|' /C calc'!A0", "-1(2)", "- later", "＝1+1",
+                                    "=HYPERLINK(\"https://kiv.example\")"})
+            QTest::newRow(formula)
+                << QString::fromUtf8(formula) << u'\'' + QString::fromUtf8(formula);
+        QTest::newRow("behind a tab") << u"\t=1+1"_s << u"\t'=1+1"_s;
+        QTest::newRow("behind a line") << u"a\n=1+1"_s << u"a\n'=1+1"_s;
+        QTest::newRow("behind semicolons") << u"a;;=1+1;-3;-;-b"_s << u"a;;'=1+1;-3;-;'-b"_s;
     }
     void formulas() {
         QFETCH(QString, cell);
-        QFETCH(bool, isGuarded);
+        QFETCH(QString, written);
         const QList<AnswerTable> tables{{{u"Name"_s}, {{cell}}}};
-        const QString expected = isGuarded ? u'\'' + cell : cell;
-        QCOMPARE(parsed(csvText(tables), u',', u"\r\n"_s).at(1).first(), expected);
-        QCOMPARE(parsed(tsvText(tables), u'\t', u"\n"_s).at(1).first(), expected);
+        QCOMPARE(parsed(csvText(tables), u',', u"\r\n"_s).at(1).first(), written);
+        QCOMPARE(parsed(tsvText(tables), u'\t', u"\n"_s).at(1).first(), written);
     }
 };
 

@@ -136,10 +136,12 @@ private Q_SLOTS:
             QVERIFY(call.finish());
             QVERIFY(call.failedWith(APIError::Kind::Server));
         }
-        redirectTo(at.server, 302, "file:///etc/hostname");
+        redirectTo(at.server, 302, "file:///etc/passwd");
         auto call = post(*at.client);
         QVERIFY(call.finish());
         QVERIFY(call.failedWith(APIError::Kind::Transport));
+        // Not for the reason that what is read there is no answer.
+        QVERIFY(call.apiError()->message().contains(u"unsafe address"_s));
     }
 
     void cookiesGoBackToTheirHostAlone_data() {

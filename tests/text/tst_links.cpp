@@ -60,6 +60,12 @@ private Q_SLOTS:
         row("a letter with a file",
             u"mailto:a@b.example?subject=Hi%20you&attach=/etc/passwd&attachment=x&bcc=c@d.example"_s,
             u"mailto:a@b.example?subject=Hi%20you"_s);
+        row("a letter with lines of its head",
+            u"mailto:a@b.example?subject=x%0d%0aBcc:c@d.example&body=a%0Ab#?attach=x"_s,
+            u"mailto:a@b.example?body=a%0Ab"_s);
+        row("a host behind signs", u"https://bank.example%2eevil.example/x"_s,
+            u"https://bank.example.evil.example/x"_s);
+        row("a host in figures", u"http://0x7f.1/x"_s, u"http://127.0.0.1/x"_s);
         row("words of another script stay words", u"https://a.example/\u043f\u043b\u0430\u043d"_s,
             u"https://a.example/\u043f\u043b\u0430\u043d"_s);
         row("letters that look like others", u"https://\u0430pple.com/"_s,

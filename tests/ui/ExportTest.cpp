@@ -214,6 +214,8 @@ void ExportTest::dialogOpens() {
     QCOMPARE(dialog->property("title").toString(), u"Save the table"_s);
     QCOMPARE(dialog->property("selectedFile").toUrl().fileName(),
              u"Hosting options for Glasshouse.csv"_s);
+    constexpr int asksBeforeReplacing = 0; // of its options none is set
+    QCOMPARE(dialog->property("options").toInt(), asksBeforeReplacing);
     QMetaObject::invokeMethod(dialog, "reject");
     QTRY_VERIFY(!dialog->property("visible").toBool());
     QVERIFY(QDir(m_folder->path()).isEmpty());
@@ -236,6 +238,7 @@ void ExportTest::fileNames_data() {
     QTest::newRow("folders") << u"../../etc/passwd"_s << u"etc passwd"_s;
     QTest::newRow("refused signs") << u"A/B: \"what\" <is> |it|? *"_s << u"A B what is it"_s;
     QTest::newRow("line and direction") << u"one\ntwo\u202egnp\u0000"_s << u"one two gnp"_s;
+    QTest::newRow("unseen letters") << u"a\U000E0041\U000E0042b"_s << u"a b"_s;
     QTest::newRow("points") << u"..hidden.."_s << u"hidden"_s;
     QTest::newRow("an option") << u"-rf --now"_s << u"rf --now"_s;
     QTest::newRow("nothing left") << u"///"_s << QString();

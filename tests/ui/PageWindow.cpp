@@ -70,6 +70,7 @@ int runPageTest(QObject &test, int argc, char **argv) {
         std::fputs("Running as root: the web engine's sandbox is off for these tests.\n", stderr);
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     }
+    qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QGuiApplication application(argc, argv);
     return QTest::qExec(&test, argc, argv);
 }

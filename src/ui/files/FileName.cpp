@@ -1,5 +1,7 @@
 #include "ui/files/FileName.h"
 
+#include <QList>
+
 namespace kiv::ui {
 
 using namespace Qt::StringLiterals;
@@ -9,16 +11,18 @@ namespace {
 /// With three bytes a character and an extension within the 255 bytes of common file systems.
 constexpr qsizetype longest = 80;
 
-bool isSafe(QChar c) {
-    return (c.isPrint() || c.isSurrogate()) && !u"/\\:*?\"<>|"_s.contains(c);
+bool isSafe(char32_t c) {
+    constexpr QStringView refused = u"/\\:*?\"<>|";
+    return QChar::isPrint(c) && (QChar::requiresSurrogates(c) || !refused.contains(QChar(c)));
 }
 
 } // namespace
 
 QString fileNameOf(const QString &title) {
     QString name;
-    for (const QChar c : title)
-        name += isSafe(c) ? c : u' ';
+    const QList<uint> codes = title.toUcs4();
+    for (const char32_t c : codes)
+        name += isSafe(c) ? QString::fromUcs4(&c, 1) : u" "_s;
     name = name.simplified().left(longest);
     if (!name.isEmpty() && name.back().isHighSurrogate())
         name.chop(1);
