@@ -117,7 +117,6 @@ Application::~Application() {
     m_start.cancel();
     if (!m_options.snapshot)
         m_frame.save();
-    m_settings.sync();
 }
 
 /// What the disk gives and takes is told in one place.

@@ -1,8 +1,9 @@
 #include "app/WindowFrame.h"
 
+#include "base/SettingsFile.h"
+
 #include <QGuiApplication>
 #include <QScreen>
-#include <QSettings>
 #include <QWindow>
 
 #include <algorithm>
@@ -65,14 +66,13 @@ bool WindowFrame::wasMaximized() const {
     return m_settings.value(maximizedKey).toBool();
 }
 
-void WindowFrame::moveFrame(QSettings &from, QSettings &to) {
+void WindowFrame::moveFrame(QSettings &from, SettingsFile &to) {
     for (const QString &key : {frameKey, maximizedKey}) {
         if (!from.contains(key))
             continue;
         if (!to.contains(key))
             to.setValue(key, from.value(key));
-        to.sync();
-        if (to.status() == QSettings::NoError)
+        if (to.finish())
             from.remove(key);
     }
 }

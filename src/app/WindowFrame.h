@@ -11,6 +11,10 @@ class QScreen;
 class QSettings;
 class QWindow;
 
+namespace kiv {
+class SettingsFile;
+}
+
 namespace kiv::app {
 
 /// Where the window was when the program ended, and keeping that up to date.
@@ -32,7 +36,7 @@ public:
     void save();
 
     /// Takes a frame that stands among other settings out of them, unless there is one already.
-    static void moveFrame(QSettings &from, QSettings &to);
+    static void moveFrame(QSettings &from, SettingsFile &to);
 
     /// `frame` within the free area of a screen, not smaller than `least` unless the area is.
     static QRect fitted(const QRect &frame, const QRect &area, const QSize &least);

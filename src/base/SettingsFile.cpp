@@ -6,9 +6,12 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <atomic>
 #include <utility>
 
 namespace kiv {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -17,35 +20,67 @@ constexpr qint64 largestFile = 256 * 1024;
 /// More than the settings ever take.
 constexpr qsizetype probeSize = 16 * 1024;
 
-} // namespace
-
-SettingsFile::SettingsFile(const QString &path) : SettingsFile(path, rescue(path)) {}
-
-SettingsFile::SettingsFile(const QString &path, const Rescue &rescue)
-    : QSettings(path, QSettings::IniFormat), m_setAside(rescue.setAside) {
-    for (auto value = rescue.values.cbegin(); value != rescue.values.cend(); ++value)
-        setValue(value.key(), value.value());
+/// A place of its own among the resources, where nothing can be written: what is set there stays in
+/// memory, and Qt's attempts to save it cost nothing.
+QString inMemory() {
+    static std::atomic_int count;
+    return u":/settings/%1"_s.arg(++count);
 }
 
-SettingsFile::Rescue SettingsFile::rescue(const QString &path) {
-    if (!QFileInfo::exists(path))
-        return {};
-    Rescue rescue;
-    const auto bytes = PrivateFile::read(path, largestFile);
-    if (bytes) {
-        const QSettings damaged(path, QSettings::IniFormat);
-        if (damaged.status() == QSettings::NoError && !bytes->contains('\0'))
-            return {};
-        const QStringList keys = damaged.allKeys();
+/// Qt tells no reason: writing something else to the same place does.
+QString whyUnwritten(const QString &path) {
+    PrivateFile::makeFolderOf(path);
+    QSaveFile probe(path);
+    if (probe.open(QIODevice::WriteOnly)) {
+        probe.write(QByteArray(probeSize, ' '));
+        probe.flush();
+    }
+    const QString why = probe.errorString();
+    probe.cancelWriting();
+    return why;
+}
+
+QString write(const QString &path, const QMap<QString, QVariant> &values) {
+    QSettings file(path, QSettings::IniFormat);
+    file.clear();
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        file.setValue(value.key(), value.value());
+    file.sync();
+    return file.status() == QSettings::NoError ? QString() : whyUnwritten(path);
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString &path)
+    : QSettings(inMemory(), QSettings::IniFormat), m_path(path) {
+    connect(&m_writer, &FileWriter::written, this, &SettingsFile::settle);
+    load();
+}
+
+SettingsFile::~SettingsFile() {
+    finish();
+}
+
+void SettingsFile::load() {
+    m_written.emplace();
+    if (!QFileInfo::exists(m_path))
+        return;
+    if (const auto bytes = PrivateFile::read(m_path, largestFile)) {
+        const QSettings file(m_path, QSettings::IniFormat);
+        const bool isWhole = file.status() == NoError && !bytes->contains('\0');
+        const QStringList keys = file.allKeys();
         for (const QString &key : keys) {
-            // Names in plain letters, as all of ours are: what else was read is no setting.
-            if (key == QString::fromLatin1(key.toLatin1()) && key.front().isLetter())
-                rescue.values.insert(key, damaged.value(key));
+            // Names in plain letters, as all of ours are: what else a damaged file has is none.
+            if (isWhole || (key == QString::fromLatin1(key.toLatin1()) && key.front().isLetter()))
+                setValue(key, file.value(key));
+        }
+        if (isWhole) {
+            m_written = values();
+            return;
         }
     }
-    qWarning("%s cannot be read; it is set aside", qUtf8Printable(path));
-    rescue.setAside = PrivateFile::setAside(path);
-    return rescue;
+    qWarning("%s cannot be read; it is set aside", qUtf8Printable(m_path));
+    m_setAside = PrivateFile::setAside(m_path);
 }
 
 bool SettingsFile::event(QEvent *event) {
@@ -56,30 +91,34 @@ bool SettingsFile::event(QEvent *event) {
 }
 
 void SettingsFile::save() {
-    sync();
-    // An error of before stays the status of these settings; others on the same file have one of
-    // their own.
-    QSettings attempt(fileName(), format());
-    attempt.sync();
-    const QString failure = attempt.status() == NoError ? QString() : whyUnwritten();
+    Values now = values();
+    if (m_written == now)
+        return;
+    m_writer.write([path = m_path, now] { return write(path, now); });
+    m_written = std::move(now);
+}
+
+bool SettingsFile::finish() {
+    save();
+    return m_writer.finish().isEmpty();
+}
+
+SettingsFile::Values SettingsFile::values() const {
+    Values values;
+    const QStringList keys = allKeys();
+    for (const QString &key : keys)
+        values.insert(key, value(key));
+    return values;
+}
+
+void SettingsFile::settle(const QString &failure) {
+    if (!failure.isEmpty())
+        m_written.reset();
     if (std::exchange(m_failure, failure) == failure)
         return;
     if (!failure.isEmpty())
-        qWarning("%s cannot be saved: %s", qUtf8Printable(fileName()), qUtf8Printable(failure));
+        qWarning("%s cannot be saved: %s", qUtf8Printable(m_path), qUtf8Printable(failure));
     Q_EMIT failureChanged();
-}
-
-/// Qt tells no reason: writing something else to the same place does.
-QString SettingsFile::whyUnwritten() const {
-    PrivateFile::makeFolderOf(fileName());
-    QSaveFile probe(fileName());
-    if (probe.open(QIODevice::WriteOnly)) {
-        probe.write(QByteArray(probeSize, ' '));
-        probe.flush();
-    }
-    const QString why = probe.errorString();
-    probe.cancelWriting();
-    return why;
 }
 
 } // namespace kiv

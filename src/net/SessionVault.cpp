@@ -37,11 +37,18 @@ QByteArray bytesOf(const QJsonArray &cookies) {
 } // namespace
 
 SessionVault::SessionVault(QString file, Clock *clock, SecretStore *secrets)
-    : m_file(std::move(file)), m_clock(clock), m_secrets(clock ? secrets : nullptr) {}
+    : m_file(std::move(file)), m_clock(clock), m_secrets(clock ? secrets : nullptr) {
+    connect(&m_writer, &FileWriter::written, this, [this](const QString &failure) {
+        if (!failure.isEmpty())
+            qWarning("The session cannot be saved: %s", qUtf8Printable(failure));
+        Q_EMIT written(failure);
+    });
+}
 
 SessionVault::~SessionVault() {
     if (m_unsafe)
         writeFile(false, m_cookies);
+    m_writer.finish();
 }
 
 QJsonArray SessionVault::open() {
@@ -128,7 +135,7 @@ void SessionVault::forget() {
     m_handing = false;
     m_readTimer.stop();
     m_handTimer.stop();
-    QFile::remove(m_file);
+    removeFile();
     PrivateFile::removeSetAside(m_file);
     if (m_secrets && mayBeInChain)
         m_secrets->remove();
@@ -177,14 +184,19 @@ void SessionVault::takeReceipt(SecretStore::Outcome outcome, const QJsonArray &h
 void SessionVault::writeFile(bool inChain, const QJsonArray &cookies) {
     m_inChain = inChain;
     if (!inChain && cookies.isEmpty()) {
-        QFile::remove(m_file);
+        removeFile();
         return;
     }
     const QJsonObject content{{chainKey, inChain}, {cookiesKey, cookies}};
-    const QString failure = PrivateFile::write(m_file, QJsonDocument(content).toJson());
-    if (!failure.isEmpty())
-        qWarning("The session cannot be saved: %s", qUtf8Printable(failure));
-    Q_EMIT written(failure);
+    m_writer.write([file = m_file, bytes = QJsonDocument(content).toJson()] {
+        return PrivateFile::write(file, bytes);
+    });
+}
+
+/// At once, and no writing of before brings it back.
+void SessionVault::removeFile() {
+    m_writer.giveUp();
+    QFile::remove(m_file);
 }
 
 } // namespace kiv::net

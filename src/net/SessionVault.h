@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/FileWriter.h"
 #include "base/SecretStore.h"
 
 #include <QJsonArray>
@@ -39,7 +40,7 @@ public:
     /// The key chain may still have cookies where the file has none: to know who is signed in one
     /// must wait for settled(), which comes within `patience`.
     bool isWaiting() const { return m_waiting; }
-    /// These are the cookies from now on.
+    /// These are the cookies from now on. The file is written on another thread.
     void keep(const QJsonArray &cookies);
     /// There is no session any more; of the file nothing is left when this returns.
     void forget();
@@ -58,8 +59,10 @@ private:
     void hand();
     void takeReceipt(SecretStore::Outcome outcome, const QJsonArray &handed);
     void writeFile(bool inChain, const QJsonArray &cookies);
+    void removeFile();
 
     QString m_file;
+    FileWriter m_writer;
     QString m_setAside;
     Clock *m_clock;
     SecretStore *m_secrets;

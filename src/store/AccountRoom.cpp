@@ -66,6 +66,9 @@ void AccountRoom::addField(const QString &key, const QVariant &empty) {
         }
         if (field->key() == nameKey)
             m_store.scope()->setUserName(field->text());
+        // What is on its way may be older than what has been saved.
+        if (m_profileWork.running())
+            loadProfile();
     });
     connect(field, &AccountField::saveFailed, this, [this, field] {
         if (!m_store.layout()->isAccount())

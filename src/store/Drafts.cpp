@@ -6,7 +6,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QtConcurrentRun>
 
 #include <algorithm>
 #include <utility>
@@ -45,18 +44,18 @@ QString beginning(const QString &text) {
 } // namespace
 
 Drafts::Drafts(Clock &clock, QString file) : m_clock(clock), m_file(std::move(file)) {
-    QObject::connect(&m_writing, &QFutureWatcherBase::finished, &m_writing,
-                     [this] { settle(m_writing.result()); });
+    QObject::connect(&m_writer, &FileWriter::written, &m_writer,
+                     [this](const QString &failure) { settle(failure); });
     load();
 }
 
 Drafts::~Drafts() {
     m_report = nullptr;
-    m_writing.disconnect();
-    m_writing.waitForFinished();
-    if (m_writing.future().resultCount() > 0)
-        settle(m_writing.result());
-    const QString failure = m_unsavedSince ? PrivateFile::write(m_file, content()) : QString();
+    m_writer.finish();
+    m_writer.disconnect();
+    if (m_unsavedSince)
+        save();
+    const QString failure = m_writer.finish();
     if (!failure.isEmpty())
         qWarning("What was being typed is lost: %s", qUtf8Printable(failure));
 }
@@ -124,14 +123,10 @@ void Drafts::scheduleSave() {
                                 [this] { save(); });
 }
 
-/// A disk can be slow: it is written to on another thread, one writing after the other.
 void Drafts::save() {
-    if (m_writing.isRunning()) {
-        m_saveTimer = m_clock.after(pause, [this] { save(); });
-        return;
-    }
     m_unsavedSince.reset();
-    m_writing.setFuture(QtConcurrent::run(PrivateFile::write, m_file, content()));
+    m_writer.write(
+        [file = m_file, content = content()] { return PrivateFile::write(file, content); });
 }
 
 void Drafts::retry() {

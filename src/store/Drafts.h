@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Clock.h"
+#include "base/FileWriter.h"
 
-#include <QFutureWatcher>
 #include <QList>
 #include <QString>
 
@@ -58,7 +58,7 @@ private:
     QString m_failure; ///< of the last writing
     QString m_setAside;
     Report m_report;
-    QFutureWatcher<QString> m_writing;
+    FileWriter m_writer;
 };
 
 } // namespace kiv::store

@@ -1,11 +1,13 @@
 // Files that are not as they were left, and disks that take nothing.
 
+#include "base/FileWriter.h"
 #include "base/PrivateFile.h"
 #include "base/SettingsFile.h"
 #include "support/Damage.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -36,6 +38,39 @@ private Q_SLOTS:
         QCOMPARE(PrivateFile::setAside(path), QString());
     }
 
+    /// A slow disk has to be written to as seldom as possible, and ends with what came last.
+    void writing_data() {
+        QTest::addColumn<bool>("givenUp");
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("finished") << false << "three"_ba;
+        QTest::newRow("given up") << true << "one"_ba;
+    }
+    void writing() {
+        QFETCH(bool, givenUp);
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"file"_s);
+        QSemaphore disk;
+        FileWriter writer;
+        QSignalSpy written(&writer, &FileWriter::written);
+        for (const QByteArray &bytes : {"one"_ba, "two"_ba, "three"_ba}) {
+            writer.write([path, bytes, &disk] {
+                disk.acquire();
+                return PrivateFile::write(path, bytes);
+            });
+        }
+        QVERIFY(!QFileInfo::exists(path)); // nobody has waited
+        disk.release(3);
+        if (givenUp)
+            writer.giveUp();
+        else
+            QCOMPARE(writer.finish(), QString());
+        QCoreApplication::processEvents();
+        QCOMPARE(contentOf(path), content);
+        QCOMPARE(written.size(), givenUp ? 1 : 2);
+        QCOMPARE(disk.available(), givenUp ? 2 : 1);
+    }
+
     void damagedSettings_data() {
         QTest::addColumn<int>("damage");
         for (int i = 0; i < test::damages().size(); ++i)
@@ -55,8 +90,7 @@ private Q_SLOTS:
             SettingsFile settings(path);
             moved = settings.setAside();
             settings.setValue(u"zandor.theme"_s, u"Light"_s);
-            settings.save();
-            QCOMPARE(settings.failure(), QString());
+            QVERIFY(settings.finish());
         }
         // A file without settings is one, and nobody can tell that there were more.
         const QByteArray name = test::damages().at(damage).name;
@@ -82,7 +116,7 @@ private Q_SLOTS:
         QVERIFY(!settings.setAside().isEmpty());
         QCOMPARE(settings.value(u"zandor.railW"_s).toInt(), 420);
         QCOMPARE(settings.value(u"zandor.theme"_s).toString(), u"Dark"_s);
-        settings.save();
+        QVERIFY(settings.finish());
         QVERIFY(contentOf(path).contains("railW=420"));
     }
 
@@ -121,7 +155,7 @@ private Q_SLOTS:
 
         hinder(false);
         settings.save();
-        QCOMPARE(changes.size(), 2);
+        QTRY_COMPARE(changes.size(), 2);
         QCOMPARE(settings.failure(), QString());
         QVERIFY(contentOf(path).contains("railW=520"));
     }

@@ -101,7 +101,10 @@ private Q_SLOTS:
             QVERIFY(run.isThere());
             QCOMPARE(run.store().scope()->auth(), store::AuthPhase::Anon);
             QTRY_VERIFY(!run.said(u"damageBanner"_s).isEmpty());
-            for (const QString &word : {u"what was being typed"_s, u"the session"_s})
+            QStringList words{u"what was being typed"_s, u"the session"_s};
+            if (name != "emptied" && name != "cut short") // which settings may be
+                words.append(u"the settings"_s);
+            for (const QString &word : words)
                 QVERIFY2(run.said(u"damageBanner"_s).contains(word),
                          qPrintable(run.said(u"damageBanner"_s)));
             QCOMPARE(run.said(u"damageBanner"_s).contains(u"the workspace"_s),
@@ -190,6 +193,22 @@ private Q_SLOTS:
             QVERIFY(run.store().appearance()->dark());
         }
         QFile::setPermissions(profile.path(), writable);
+    }
+
+    /// The person is in, and knows what comes of it.
+    void sessionThatCannotBeSaved() {
+        const QTemporaryDir profile;
+        const app::Places places = app::Places::below(profile.path());
+        const QString folder = QFileInfo(places.cookieFile).path();
+        QVERIFY(QDir().mkpath(places.workspaceDir));
+        QFile::setPermissions(folder, readOnly);
+        {
+            Run run(profile.path());
+            QVERIFY(run.enterSample());
+            QTRY_VERIFY(
+                run.said(u"troubleBanner"_s).startsWith(u"You will have to sign in again"_s));
+        }
+        QFile::setPermissions(folder, writable);
     }
 
     /// What is typed and asked stays in the window, the person is told, and room helps.

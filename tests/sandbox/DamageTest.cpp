@@ -152,8 +152,11 @@ private Q_SLOTS:
             QCOMPARE(signIn(sandbox, client), 200);
         }
         strike(folder.path());
+        const QString uploads = folder.filePath(u"files"_s);
+        const bool isInTheWay = QFileInfo(uploads).isFile();
         SandboxProcess sandbox(folder.path());
         QVERIFY2(sandbox.ready(), sandbox.complaints());
+        QCOMPARE(QFileInfo::exists(uploads + u".damaged"_s), isInTheWay);
         Client client(sandbox.port());
         QCOMPARE(signIn(sandbox, client), 200);
         const auto sent = client.upload(chat + u"/files"_s, {{u"a.txt"_s, u"text/plain"_s, "abc"}});

@@ -100,13 +100,13 @@ QString accountFor(Stage &stage, const Chat &chat, const QList<Stored> &stored) 
         const bool isUnsent = messages->find([&, wanted = number](const Msg &message) {
             return message.isUnsent() && Ledger::numberIn(message.text) == wanted;
         }) >= 0;
-        if (isUnsent && rows.size() >= sent.most)
+        if (isUnsent && rows.size() >= sent.most && !sent.isMistimed)
             return u"%1 is stored and shown as not sent"_s.arg(name);
         const bool isTyped = draft.contains(name);
         // Of a long conversation only the newest rows are asked for.
         sent.isStored = sent.isStored || !rows.isEmpty();
         if (!sent.isStored && !isUnsent && !isTyped && !sent.isGone)
-            return u"%1 is lost"_s.arg(name);
+            return u"%1 is lost; the draft is \"%2\""_s.arg(name, draft.right(200));
     }
     return {};
 }

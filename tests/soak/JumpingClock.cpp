@@ -8,7 +8,6 @@ using namespace std::chrono_literals;
 
 void JumpingClock::sleep(Milliseconds time) {
     m_ahead += time;
-    m_wallAhead += time;
     for (auto &[id, waiting] : m_waiting)
         arm(id, waiting);
 }

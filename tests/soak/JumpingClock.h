@@ -13,10 +13,13 @@ public:
     QDateTime now() const override { return m_real.now().addMSecs(m_wallAhead.count()); }
     Milliseconds elapsed() const override { return m_real.elapsed() + m_ahead; }
 
-    /// The computer has slept: all time moves on, and what fell due meanwhile is called back.
+    /// The computer has slept: what fell due meanwhile is called back. The time of day stays that
+    /// of the server, which has not slept as long.
     void sleep(Milliseconds time);
     /// Only the time of day is another one from now on.
     void setWall(Milliseconds ahead) { m_wallAhead = ahead; }
+    /// How far the time of day is ahead of the server's.
+    Milliseconds wallAhead() const { return m_wallAhead; }
 
 protected:
     quint64 schedule(Milliseconds delay, Callback callback) override;

@@ -27,13 +27,14 @@ QString Ledger::tag(int number) {
     return u"#k%1"_s.arg(number);
 }
 
-void Ledger::send(const Chat &chat, const QString &text, qsizetype files) {
+void Ledger::send(const Chat &chat, const QString &text, qsizetype files, bool isMistimed) {
     const int number = numberIn(text);
     if (number == 0)
         return;
     drop(text); // what it was made of goes on in it
     const auto [entry, isNew] = sent.try_emplace(number, Sent{.chat = chat, .files = files});
     entry->second.isGone = false;
+    entry->second.isMistimed |= isMistimed;
     if (!isNew) {
         ++entry->second.most;
         entry->second.files = std::max(entry->second.files, files);

@@ -27,7 +27,8 @@ struct Sent {
     Chat chat;
     int most = 1; ///< rows that may come of it: one for each time it was sent
     qsizetype files = 0;
-    QSet<qint64> rows; ///< that the screen has shown of it
+    QSet<qint64> rows;       ///< that the screen has shown of it
+    bool isMistimed = false; ///< its row may be taken for another one, and it be shown twice
     bool isStored = false;
     bool isGone = false; ///< the person has dropped it, or its text went into another message
 };
@@ -41,7 +42,7 @@ public:
 
     /// The text of a new message, with its number.
     QString numbered(const QString &text) { return text + u' ' + tag(++m_last); }
-    void send(const Chat &chat, const QString &text, qsizetype files);
+    void send(const Chat &chat, const QString &text, qsizetype files, bool isMistimed);
     /// The person does without what this text carries.
     void drop(const QString &text);
     void dropAll(const QString &user);

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -52,6 +53,9 @@ MainThread::Reading MainThread::read() const {
         std::strtoull(text, &second, 10);
         reading.queued = Nanoseconds(std::strtoull(second, nullptr, 10));
     }
+    rusage usage{};
+    ::getrusage(RUSAGE_THREAD, &usage);
+    reading.waits = usage.ru_nvcsw;
     reading.time = Nanoseconds(m_clock.nsecsElapsed());
     return reading;
 }
@@ -100,14 +104,18 @@ void MainThread::endPass() {
     const auto span = [&](Nanoseconds Reading::*part) {
         return end.*part - m_begin.*part - m_own.*part;
     };
-    const Nanoseconds held = span(&Reading::time) - span(&Reading::queued);
+    // Without a wait of its own all that is not work is time that others had the processor, also
+    // where the kernel does not know of them.
+    const long waits = end.waits - m_begin.waits;
+    const Nanoseconds held =
+        waits > 0 ? span(&Reading::time) - span(&Reading::queued) : span(&Reading::worked);
     const auto isOver = [&](int milliseconds) {
         return held > std::chrono::milliseconds(milliseconds) ? 1 : 0;
     };
     m_over16 += isOver(16);
     m_over50 += isOver(50);
     m_over100 += isOver(100);
-    const Hold hold{held, span(&Reading::worked), m_doing, m_passes};
+    const Hold hold{held, span(&Reading::worked), waits, m_doing, m_passes};
     if (held > m_worst.held)
         m_worst = hold;
     if (isOver(100) && m_holds.size() < mostHolds)

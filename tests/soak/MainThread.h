@@ -22,6 +22,7 @@ public:
     struct Hold {
         Nanoseconds held{0};
         Nanoseconds worked{0}; ///< of it on a processor
+        long waits = 0;        ///< how often it gave the processor up by itself
         QByteArray doing;      ///< the longest of what was done
         int pass = 0;
     };
@@ -65,6 +66,7 @@ private:
         Nanoseconds time{0};
         Nanoseconds worked{0};
         Nanoseconds queued{0};
+        long waits = 0; ///< how often it gave the processor up by itself
     };
     Reading read() const;
     void note(QByteArray what);

@@ -8,6 +8,7 @@
 namespace kiv::soak {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using store::Msg;
 
 namespace {
@@ -63,6 +64,11 @@ void leaveDraft(Stage &stage) {
         stage.ledger.drafts[*chat] = room(stage).draft();
 }
 
+/// Whether its row, when the reply is lost, is taken for an older one: only the time tells.
+bool isMistimed(Stage &stage, const Msg &message) {
+    return !message.follows && stage.clock.wallAhead() > 2min;
+}
+
 /// Takes down what `send` has sent, if anything: a new message of ours at the end.
 void sending(Stage &stage, auto send) {
     QSet<QUuid> before;
@@ -72,7 +78,10 @@ void sending(Stage &stage, auto send) {
     send();
     for (const Msg &message : room(stage).msgs()->messages()) {
         if (chat && message.isUnsent() && !before.contains(message.id)) {
-            stage.ledger.send(*chat, message.text, message.attachments.size());
+            stage.ledger.send(*chat, message.text, message.attachments.size(),
+                              isMistimed(stage, message));
+            stage.note(
+                u"  %1 to %2"_s.arg(Ledger::tag(Ledger::numberIn(message.text)), chat->path));
             ++stage.tally[u"questions"_s];
         }
     }
@@ -87,7 +96,7 @@ bool isSignedIn(Stage &stage) {
 
 bool isSignedOut(Stage &stage) {
     return stage.store().scope()->auth() == store::AuthPhase::Anon &&
-           !stage.store().session()->busy();
+           !stage.store().session()->busy() && stage.leaving.isEmpty();
 }
 
 bool isInChat(Stage &stage) {

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 Program::Program(Clock &clock, net::Connectivity &connectivity, const QString &profile,
                  const QUrl &server)
-    : m_settings(profile + u"/settings.ini"_s, QSettings::IniFormat),
+    : m_settings(profile + u"/settings.ini"_s),
       m_net(clock, connectivity, profile + u"/cookies.json"_s),
       m_store(clock, m_net, m_settings, profile + u"/drafts.json"_s) {
     m_net.setBaseUrl(server);

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/SettingsFile.h"
 #include "net/APIClient.h"
 #include "store/AppStore.h"
 
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -24,7 +24,7 @@ public:
     store::AppStore &store() { return m_store; }
 
 private:
-    QSettings m_settings;
+    SettingsFile m_settings;
     net::APIClient m_net;
     store::AppStore m_store;
     std::unique_ptr<ShownWindow> m_window;

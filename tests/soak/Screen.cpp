@@ -29,7 +29,8 @@ QString nothingTwice(Stage &stage) {
     }
     for (const auto &[number, count] : times) {
         const auto sent = stage.ledger.sent.find(number);
-        if (sent != stage.ledger.sent.end() && count > sent->second.most)
+        if (sent != stage.ledger.sent.end() &&
+            count > sent->second.most + (sent->second.isMistimed ? 1 : 0))
             return u"message #k%1 is shown %2 times and was sent %3 times"_s.arg(number)
                 .arg(count)
                 .arg(sent->second.most);
@@ -123,16 +124,13 @@ Screen::Screen(Stage &stage) : m_stage(stage) {
     connect(store.chat(), &store::ChatRoom::draftChanged, this, scheduled);
     connect(store.canvas(), &store::CanvasRoom::stateChanged, this, scheduled);
     connect(store.scope(), &store::ScopeRoom::authChanged, this, [this] {
-        // Signing out by oneself drops what was typed; a session that expires opens the sheet.
+        // Only then it shows why.
         Stage &on = m_stage;
         QMetaObject::invokeMethod(
             this,
             [&on] {
+                on.takeLeave();
                 const bool isOut = on.store().scope()->auth() == store::AuthPhase::Anon;
-                const QString user = std::exchange(on.leaving, QString());
-                if (isOut && !user.isEmpty() &&
-                    on.store().session()->authSheet() == store::AuthSheetMode::Closed)
-                    on.ledger.dropAll(user);
                 on.note(isOut ? u"  signed out"_s : u"  signed in"_s);
             },
             Qt::QueuedConnection);

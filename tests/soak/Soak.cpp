@@ -128,8 +128,9 @@ void Soak::print() const {
     std::printf("  %d passes, %d over 16 ms, %d over 50 ms, %d over 100 ms\n", thread.passes(),
                 thread.over16(), thread.over50(), thread.over100());
     for (const MainThread::Hold &hold : thread.holds())
-        std::printf("  pass %d: %.1f ms (%.1f ms) %s\n", hold.pass, milliseconds(hold.held),
-                    milliseconds(hold.worked), hold.doing.constData());
+        std::printf("  pass %d: %.1f ms (%.1f ms, %ld waits) %s\n", hold.pass,
+                    milliseconds(hold.held), milliseconds(hold.worked), hold.waits,
+                    hold.doing.constData());
     if (m_stage.failure.isEmpty())
         return;
     std::printf("FAILED at step %d of seed %llu: %s\n", m_stage.steps,

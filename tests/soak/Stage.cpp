@@ -33,11 +33,20 @@ void Stage::open() {
 
 void Stage::close() {
     const MainThread::OwnDoing ending(thread);
+    if (program)
+        takeLeave();
     screen.reset();
     program.reset();
     entered.reset();
-    leaving.clear();
     isCleared = false;
+}
+
+/// Signing out by oneself drops what was typed; a session that expires opens the sheet.
+void Stage::takeLeave() {
+    const QString user = std::exchange(leaving, QString());
+    const bool isOut = store().scope()->auth() == store::AuthPhase::Anon;
+    if (isOut && !user.isEmpty() && store().session()->authSheet() == store::AuthSheetMode::Closed)
+        ledger.dropAll(user);
 }
 
 void Stage::note(const QString &step) {

@@ -37,6 +37,9 @@ struct Stage {
     void open();
     void close();
 
+    /// Whoever has asked to sign out is out, or stays.
+    void takeLeave();
+
     void note(const QString &step);
     /// The first failure ends the run.
     void fail(const QString &what);

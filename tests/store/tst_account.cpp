@@ -149,6 +149,23 @@ private Q_SLOTS:
         QCOMPARE(f.field(u"handle"_s).text(), u"half typ"_s);
     }
 
+    /// A profile that was asked for before something was saved may be older than that.
+    void savedWhileLoading() {
+        AccountFixture f;
+        QVERIFY(f.open());
+        const int before = f.backend.count(profileGet);
+        f.backend.hold(profileGet);
+        f.account().loadProfile();
+        SOON_COMPARE(f.backend.count(profileGet), before + 1);
+        f.field(u"jobTitle"_s).choose(u"Lead"_s);
+        SOON_COMPARE(f.field(u"jobTitle"_s).state(), SaveState::Saved);
+        SOON_COMPARE(f.backend.count(profileGet), before + 2);
+        f.backend.answer(profileGet, R"({"jobTitle":"Lead","handle":"lace"})");
+        f.backend.release(profileGet);
+        SOON_COMPARE(f.field(u"handle"_s).text(), u"lace"_s);
+        QCOMPARE(f.field(u"jobTitle"_s).text(), u"Lead"_s);
+    }
+
     void undo() {
         AccountFixture f;
         QVERIFY(f.open());

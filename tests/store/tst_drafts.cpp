@@ -238,7 +238,7 @@ private Q_SLOTS:
         QVERIFY(f.store->chat()->draft().endsWith(u" 3"_s));
         QCOMPARE(test::contentOf(path), before); // nothing half written
         test::clearDisk();
-        f.store->storage()->retry();
+        f.clock.advance(5s);
         QTRY_COMPARE(told.size(), 2);
         QCOMPARE(f.store->storage()->trouble(), QString());
         QVERIFY(test::contentOf(path).contains("text 3"));
