@@ -5,7 +5,6 @@
 #include "base/PrivateFile.h"
 #include "desktop/Diagnostics.h"
 #include "desktop/Instance.h"
-#include "ui/Modules.h"
 #include "voice/FileDevices.h"
 #include "voice/MicrophoneHost.h"
 
@@ -14,6 +13,9 @@
 #include <QSGRendererInterface>
 
 #include <algorithm>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace kiv::app {
 
@@ -38,7 +40,17 @@ constexpr Clock::Milliseconds firstPause = 250ms;
 constexpr Clock::Milliseconds longestPause = 30s;
 /// One that has run that long is not ended by how it is started.
 constexpr Clock::Milliseconds lasting = 60s;
+/// From the first frame until the start is over.
+constexpr Clock::Milliseconds settling = 2s;
 const QString askAction = u"ask-kiv"_s;
+
+/// What reading the views and preparing the first frames took, the allocator keeps for each thread
+/// that asked for it.
+void giveMemoryBack() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
 
 QString drawnBy(const QQuickWindow *window) {
     switch (window->rendererInterface()->graphicsApi()) {
@@ -64,13 +76,16 @@ Application::Ground::Ground(const Options &options) : log(options.places.logFile
 
 void Application::prepareProcess() {
     // A web engine that is loaded later draws with what the window draws with.
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    // Icons share one texture. By itself that is as large as the window: 8 MiB, a tenth of it used.
+    qputenv("QSG_ATLAS_WIDTH", "1024");
+    qputenv("QSG_ATLAS_HEIGHT", "512");
 }
 
 Application::Application(const Options &options)
     : m_options(options),
       m_ground(options),
+      m_window(std::make_unique<ui::MainWindow>()),
       m_settings(options.places.settingsFile),
       m_state(options.places.stateFile),
       m_frame(m_state, m_clock),
@@ -118,6 +133,7 @@ Application::~Application() {
     if (!m_options.snapshot)
         m_frame.save();
     m_settings.sync();
+    m_window.reset(); // it shows what goes now
 }
 
 /// What the disk gives and takes is told in one place.
@@ -151,12 +167,18 @@ void Application::start() {
         look.frame = m_frame.restored();
         look.maximized = m_frame.wasMaximized();
     }
-    ui::showMainWindow(m_engine, *m_store, *m_delegate, look);
+    m_window->open(*m_store, *m_delegate, look);
     m_delegate->setWindow(window());
     m_notes->setWindow(window());
     m_chooser.setWindow(window());
-    if (window() && !m_options.snapshot)
+    if (!window())
+        return;
+    if (!m_options.snapshot)
         m_frame.follow(window(), look.frame.value_or(window()->geometry()));
+    QObject::connect(
+        window(), &QQuickWindow::frameSwapped, m_store.get(),
+        [this] { m_settled = m_clock.after(settling, giveMemoryBack); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 QCoro::Task<void> Application::connectToBackend(Cancel cancel) {
@@ -275,11 +297,6 @@ QString Application::diagnostics() const {
         facts.append({u"Window"_s, u"%1 x %2"_s.arg(shown->width()).arg(shown->height())});
     }
     return desktop::diagnostics(facts, m_ground.log.lastLines(reportedLines));
-}
-
-QQuickWindow *Application::window() const {
-    const QList<QObject *> roots = m_engine.rootObjects();
-    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(roots.first());
 }
 
 } // namespace kiv::app
