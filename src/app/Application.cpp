@@ -13,9 +13,6 @@
 #include <QSGRendererInterface>
 
 #include <algorithm>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace kiv::app {
 
@@ -40,17 +37,7 @@ constexpr Clock::Milliseconds firstPause = 250ms;
 constexpr Clock::Milliseconds longestPause = 30s;
 /// One that has run that long is not ended by how it is started.
 constexpr Clock::Milliseconds lasting = 60s;
-/// From the first frame until the start is over.
-constexpr Clock::Milliseconds settling = 2s;
 const QString askAction = u"ask-kiv"_s;
-
-/// What reading the views and preparing the first frames took, the allocator keeps for each thread
-/// that asked for it.
-void giveMemoryBack() {
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
 
 QString drawnBy(const QQuickWindow *window) {
     switch (window->rendererInterface()->graphicsApi()) {
@@ -171,14 +158,8 @@ void Application::start() {
     m_delegate->setWindow(window());
     m_notes->setWindow(window());
     m_chooser.setWindow(window());
-    if (!window())
-        return;
-    if (!m_options.snapshot)
+    if (window() && !m_options.snapshot)
         m_frame.follow(window(), look.frame.value_or(window()->geometry()));
-    QObject::connect(
-        window(), &QQuickWindow::frameSwapped, m_store.get(),
-        [this] { m_settled = m_clock.after(settling, giveMemoryBack); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 
 QCoro::Task<void> Application::connectToBackend(Cancel cancel) {

@@ -91,7 +91,6 @@ private:
     desktop::Notifier m_notifier{QDBusConnection::sessionBus()};
     std::unique_ptr<AnswerNotes> m_notes;
     Work m_start;
-    Clock::Timer m_settled;
 };
 
 } // namespace kiv::app
