@@ -5,7 +5,6 @@
 #include "base/PrivateFile.h"
 #include "desktop/Diagnostics.h"
 #include "desktop/Instance.h"
-#include "ui/Modules.h"
 #include "voice/FileDevices.h"
 #include "voice/MicrophoneHost.h"
 
@@ -64,13 +63,16 @@ Application::Ground::Ground(const Options &options) : log(options.places.logFile
 
 void Application::prepareProcess() {
     // A web engine that is loaded later draws with what the window draws with.
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    // Icons share one texture. By itself that is as large as the window: 8 MiB, a tenth of it used.
+    qputenv("QSG_ATLAS_WIDTH", "1024");
+    qputenv("QSG_ATLAS_HEIGHT", "512");
 }
 
 Application::Application(const Options &options)
     : m_options(options),
       m_ground(options),
+      m_window(std::make_unique<ui::MainWindow>()),
       m_settings(options.places.settingsFile),
       m_state(options.places.stateFile),
       m_frame(m_state, m_clock),
@@ -117,6 +119,7 @@ Application::~Application() {
     m_start.cancel();
     if (!m_options.snapshot)
         m_frame.save();
+    m_window.reset(); // it shows what goes now
 }
 
 /// What the disk gives and takes is told in one place.
@@ -150,7 +153,7 @@ void Application::start() {
         look.frame = m_frame.restored();
         look.maximized = m_frame.wasMaximized();
     }
-    ui::showMainWindow(m_engine, *m_store, *m_delegate, look);
+    m_window->open(*m_store, *m_delegate, look);
     m_delegate->setWindow(window());
     m_notes->setWindow(window());
     m_chooser.setWindow(window());
@@ -274,11 +277,6 @@ QString Application::diagnostics() const {
         facts.append({u"Window"_s, u"%1 x %2"_s.arg(shown->width()).arg(shown->height())});
     }
     return desktop::diagnostics(facts, m_ground.log.lastLines(reportedLines));
-}
-
-QQuickWindow *Application::window() const {
-    const QList<QObject *> roots = m_engine.rootObjects();
-    return roots.isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(roots.first());
 }
 
 } // namespace kiv::app

@@ -4,6 +4,7 @@
 #include "app/AppDelegate.h"
 #include "app/EmbeddedServer.h"
 #include "app/Options.h"
+#include "app/SharedContext.h"
 #include "app/SystemLook.h"
 #include "app/WindowFrame.h"
 #include "base/SettingsFile.h"
@@ -16,16 +17,13 @@
 #include "net/Connectivity.h"
 #include "net/PersistentCookieJar.h"
 #include "store/AppStore.h"
+#include "ui/MainWindow.h"
 #include "ui/chat/DialogChooser.h"
 #include "voice/AudioDevices.h"
 #include "voice/LocalSpeech.h"
 #include "web/WebHost.h"
 
-#include <QQmlApplicationEngine>
-
 #include <memory>
-
-class QQuickWindow;
 
 namespace kiv::desktop {
 class Instance;
@@ -51,7 +49,7 @@ public:
     /// Opens the chat that a link names; one that is no such link is not followed.
     void openLink(const QString &link);
 
-    QQuickWindow *window() const;
+    QQuickWindow *window() const { return m_window->window(); }
     store::AppStore &store() { return *m_store; }
 
 private:
@@ -73,6 +71,8 @@ private:
 
     Options m_options;
     Ground m_ground;
+    std::unique_ptr<ui::MainWindow> m_window; ///< its views are read while the rest is made
+    SharedContext m_sharedContext;
     SystemClock m_clock;
     SettingsFile m_settings;
     SettingsFile m_state;
@@ -90,7 +90,6 @@ private:
     std::unique_ptr<AppDelegate> m_delegate;
     desktop::Notifier m_notifier{QDBusConnection::sessionBus()};
     std::unique_ptr<AnswerNotes> m_notes;
-    QQmlApplicationEngine m_engine;
     Work m_start;
 };
 

@@ -1,10 +1,7 @@
 #include "soak/ShownWindow.h"
 
 #include "app/AppDelegate.h"
-#include "ui/Modules.h"
-
-#include <QQmlApplicationEngine>
-#include <QQuickWindow>
+#include "ui/MainWindow.h"
 
 namespace kiv::soak {
 
@@ -13,15 +10,15 @@ namespace {
 class RealWindow : public ShownWindow {
 public:
     explicit RealWindow(store::AppStore &store) : m_delegate(store) {
-        ui::showMainWindow(m_engine, store, m_delegate, {.frame = QRect(0, 0, 1440, 900)});
-        if (m_engine.rootObjects().isEmpty())
+        m_window.open(store, m_delegate, {.frame = QRect(0, 0, 1440, 900)});
+        if (!m_window.window())
             qFatal("The window cannot be made");
-        m_delegate.setWindow(qobject_cast<QQuickWindow *>(m_engine.rootObjects().constFirst()));
+        m_delegate.setWindow(m_window.window());
     }
 
 private:
     app::AppDelegate m_delegate;
-    QQmlApplicationEngine m_engine;
+    ui::MainWindow m_window;
 };
 
 } // namespace

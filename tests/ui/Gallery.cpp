@@ -38,15 +38,17 @@ void Gallery::close() {
     m_own.reset();
     m_window = nullptr;
     m_engine.reset();
+    m_main.reset();
+    m_appearance = nullptr;
     m_delegate.reset();
 }
 
 QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariantMap &properties) {
     close();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    Appearance &appearance = registerModules(*m_engine);
-    appearance.setDark(m_dark);
-    appearance.setReducedMotion(m_reducedMotion);
+    m_engine = std::make_unique<QQmlEngine>();
+    m_appearance = &registerModules(*m_engine);
+    m_appearance->setDark(m_dark);
+    m_appearance->setReducedMotion(m_reducedMotion);
     QQmlComponent component(m_engine.get(), QStringLiteral(KIV_PAGES "/") + page);
     if (component.isError())
         qFatal("%s", qPrintable(component.errorString()));
@@ -64,14 +66,15 @@ QQuickItem *Gallery::show(const QString &page, const QSize &size, const QVariant
 
 void Gallery::open(store::AppStore &store, const QSize &size) {
     close();
-    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_main = std::make_unique<MainWindow>();
     m_delegate = std::make_unique<app::AppDelegate>(store);
     store.appearance()->presetTheme(m_dark ? store::Theme::Dark : store::Theme::Light);
-    showMainWindow(*m_engine, store, *m_delegate, {});
-    if (m_engine->rootObjects().isEmpty())
+    m_main->open(store, *m_delegate, {});
+    m_window = m_main->window();
+    if (!m_window)
         qFatal("The window cannot be made");
-    m_engine->findChild<Appearance *>()->setReducedMotion(m_reducedMotion);
-    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
+    m_appearance = &m_main->appearance();
+    m_appearance->setReducedMotion(m_reducedMotion);
     m_delegate->setWindow(m_window);
     present(size);
 }
@@ -86,8 +89,8 @@ void Gallery::present(const QSize &size) {
 
 void Gallery::setDark(bool dark) {
     m_dark = dark;
-    if (m_engine)
-        m_engine->findChild<Appearance *>()->setDark(dark);
+    if (m_appearance)
+        m_appearance->setDark(dark);
 }
 
 /// For what is shown from now on.
@@ -96,7 +99,7 @@ void Gallery::setReducedMotion(bool reduced) {
 }
 
 void Gallery::setTextScale(double scale) {
-    m_engine->findChild<Appearance *>()->setTextScale(scale);
+    m_appearance->setTextScale(scale);
 }
 
 QImage Gallery::save(const QString &name) {

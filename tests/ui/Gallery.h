@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "ui/MainWindow.h"
 #include "ui/Modules.h"
 
-#include <QQmlApplicationEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 
@@ -54,7 +54,9 @@ private:
     void present(const QSize &size);
 
     std::unique_ptr<app::AppDelegate> m_delegate;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    std::unique_ptr<MainWindow> m_main;
+    std::unique_ptr<QQmlEngine> m_engine;
+    Appearance *m_appearance = nullptr;
     QQuickWindow *m_window = nullptr;
     std::unique_ptr<QQuickWindow> m_own;
     std::unique_ptr<QObject> m_shown;
