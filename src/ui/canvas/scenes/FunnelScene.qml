@@ -59,6 +59,9 @@ ArtScene {
     RowList {
         id: rows
 
+        readonly property int gap: funnel.dense ? 20 : 26
+        readonly property int laneHeight: leastRow - gap
+
         art: funnel
         anchors.top: head.bottom
         anchors.bottom: parent.bottom
@@ -78,8 +81,5 @@ ArtScene {
             // What is lost is told below the stage that it is lost after.
             drop: funnel.scene.fnStages[index + 1]?.drop ?? ""
         }
-
-        readonly property int gap: funnel.dense ? 20 : 26
-        readonly property int laneHeight: leastRow - gap
     }
 }
