@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // Stages from first to last: bars that get narrower, and what was lost between two of them.
