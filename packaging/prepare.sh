@@ -1,4 +1,4 @@
-# Sourced by ./run, ./test and .ci/run: installs what is missing, configures and builds. Says
+# Sourced by ./run, ./test, ./bench and .ci/run: installs what is missing, configures and builds. Says
 # something only when it does something.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)

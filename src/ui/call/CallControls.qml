@@ -12,10 +12,10 @@ FocusScope {
     required property AppStore store
     required property bool transcriptOpen
 
-    signal transcriptToggled()
-
     readonly property CallRoom call: store.call
     readonly property bool active: call.callPhase === Store.CallPhase.Active
+
+    signal transcriptToggled()
 
     implicitWidth: row.width + 20
     implicitHeight: 72

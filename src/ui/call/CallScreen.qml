@@ -8,9 +8,9 @@ import Kiv.Tokens
 FocusScope {
     id: screen
 
-    required property AppStore store
-
     enum Wish { Unset, Open, Closed }
+
+    required property AppStore store
 
     property int wish: CallScreen.Unset
     readonly property bool transcriptOpen: wish === CallScreen.Unset ? width >= panel.width + 800 : wish === CallScreen.Open

@@ -11,8 +11,6 @@ FocusScope {
     required property AppStore store
     required property bool transcriptOpen
 
-    signal transcriptToggled()
-
     readonly property CallRoom call: store.call
     readonly property bool active: call.callPhase === Store.CallPhase.Active && !call.callReconnecting
     readonly property bool speaking: active && !call.callHeld && call.callMode === "speaking"
@@ -21,6 +19,8 @@ FocusScope {
     property real phase
     readonly property real breath: speaking && !Tokens.reducedMotion ? (1 - Math.cos(2 * Math.PI * phase)) / 2 : 0
     readonly property real level: heard ? store.microphone.level : 0
+
+    signal transcriptToggled()
 
     NumberAnimation on phase {
         from: 0

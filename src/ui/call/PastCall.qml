@@ -28,7 +28,6 @@ T.ItemDelegate {
     readonly property string start: CallText.start(startedAt, store.calendar)
     readonly property string title: durationSecs === 0 ? CallText.outcome(status)
         : qsTr("%1 · %2").arg(CallText.outcome(status)).arg(CallText.length(durationSecs))
-
     readonly property int headHeight: Tokens.fit(60)
 
     signal toggled()

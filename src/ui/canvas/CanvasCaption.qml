@@ -2,7 +2,6 @@ import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
 import Kiv.Icons
-import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens
 

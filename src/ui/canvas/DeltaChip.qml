@@ -1,4 +1,3 @@
-import Kiv.Canvas
 import Kiv.Controls
 import Kiv.Scene
 

@@ -1,6 +1,5 @@
 import QtQuick
 import Kiv.Chat
-import Kiv.Controls
 import Kiv.Tokens
 
 // A block of an answer, on its part of the bubble.

@@ -19,6 +19,8 @@ Item {
     T.Button {
         id: button
 
+        readonly property color ink: hovered ? Tokens.t1 : Tokens.t3
+
         objectName: "callLine:" + line.row.callId
         anchors.horizontalCenter: parent.horizontalCenter
         y: line.compact ? 12 : 16
@@ -31,8 +33,6 @@ Item {
         Accessible.checkable: line.row.callHasLines
         Accessible.checked: line.row.callOpen
         onClicked: line.toggled()
-
-        readonly property color ink: hovered ? Tokens.t1 : Tokens.t3
 
         background: Rectangle {
             radius: height / 2

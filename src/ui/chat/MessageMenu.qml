@@ -12,7 +12,6 @@ Popover {
     property feedRow row
     readonly property bool failed: row.delivery === Store.Delivery.Failed
 
-
     width: 240
     onAboutToHide: feed.enterList()
     onAboutToShow: copy.forceActiveFocus(Qt.ShortcutFocusReason)

@@ -8,9 +8,9 @@ Rectangle {
 
     enum Tone { Neutral, Good, Bad, Warning, Running, Accent }
 
+    required property string text
     property int tone: Chip.Neutral
     property string iconName: ""
-    required property string text
 
     readonly property int reserved: 16 + (iconName === "" ? 0 : 17)
     readonly property color textColor: tone === Chip.Good ? Tokens.green.text

@@ -1,6 +1,5 @@
 import QtQuick
 import Kiv.Canvas
-import Kiv.Controls
 import Kiv.Scene
 import Kiv.Store
 import Kiv.Tokens

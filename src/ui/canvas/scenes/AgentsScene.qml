@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // A lane for each agent with its work in the order of the answer. Positions are order, not time.

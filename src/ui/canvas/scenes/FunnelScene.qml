@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // Stages from first to last: bars that get narrower, and what was lost between two of them.
@@ -59,6 +58,9 @@ ArtScene {
     RowList {
         id: rows
 
+        readonly property int gap: funnel.dense ? 20 : 26
+        readonly property int laneHeight: leastRow - gap
+
         art: funnel
         anchors.top: head.bottom
         anchors.bottom: parent.bottom
@@ -78,8 +80,5 @@ ArtScene {
             // What is lost is told below the stage that it is lost after.
             drop: funnel.scene.fnStages[index + 1]?.drop ?? ""
         }
-
-        readonly property int gap: funnel.dense ? 20 : 26
-        readonly property int laneHeight: leastRow - gap
     }
 }

@@ -1,7 +1,6 @@
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // A period: what came in, what went out, and its name below the plot.

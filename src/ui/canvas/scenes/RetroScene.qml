@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Kiv.Canvas
-import Kiv.Scene
 
 // What a team noted, column by column.
 ArtScene {

@@ -2,8 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Kiv.Canvas
-import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // The parts of a whole, and the figures beside them: a ring for few parts, one bar for many.

@@ -1,7 +1,6 @@
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Scene
 import Kiv.Tokens
 
 // The parts of a whole in one bar below their total.

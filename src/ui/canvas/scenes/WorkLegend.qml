@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kiv.Canvas
 import Kiv.Controls
-import Kiv.Icons
 import Kiv.Scene
 import Kiv.Tokens
 
