@@ -200,7 +200,7 @@ FocusScope {
             width: Math.min(720, parent.width - 48)
             wanted: view.floats
             content: Composer {
-                width: floating.width
+                width: parent.width
                 focus: true
                 floating: true
                 store: view.store
