@@ -10,6 +10,16 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 lint_only=false
 [ "${1:-}" != --lint ] || lint_only=true
 
+say "Comparing what the views import with what the package asks for"
+lacking=$(/usr/lib/qt6/libexec/qmlimportscanner -rootPath src -rootPath plugins \
+    -importPath "/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/qt6/qml" |
+    sed -n 's|.*"path": "\(/usr/[^"]*\)".*|\1/qmldir|p' | xargs dpkg -S | cut -d : -f 1 | sort -u |
+    comm -23 - <(grep -v '^#' packaging/debian/depends.txt | sort))
+if [ -n "$lacking" ]; then
+    say "packaging/debian/depends.txt lacks:" "$lacking"
+    exit 1
+fi
+
 say "Making the package"
 build_targets kiv-packaging kiv-tour
 rm -rf "$build/package"

@@ -548,7 +548,7 @@
     </message>
     <message>
         <source>Drawing the %1</source>
-        <translation>Рисую: %1</translation>
+        <translation>Рисуем: %1</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -830,7 +830,7 @@
     </message>
     <message>
         <source>The name is what you call it, the role is what it does.</source>
-        <translation>Имя — как вы его зовёте, роль — что он делает.</translation>
+        <translation>Как вы его зовёте и что он делает.</translation>
     </message>
     <message>
         <source>Every agent in the project reads the brief.</source>

@@ -127,6 +127,9 @@ void AccessTest::everyPlace() {
         TreeWalk walk;
         walk.look(QAccessible::queryAccessibleInterface(&gallery.window()));
         QQuickItem *focused = gallery.window().activeFocusItem();
+        if (focused && !focused->isVisible())
+            walk.faults.append(u"the keys are out of sight: "_s + focused->objectName() + u' ' +
+                               QLatin1StringView(focused->metaObject()->className()));
         const QStringList all = walk.faults + TabWalk(gallery).faults;
         for (const QString &fault : all)
             faults.append(place + u": "_s + fault);

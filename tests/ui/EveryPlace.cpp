@@ -51,7 +51,11 @@ private:
     void wizard();
     void answerAccount();
 
-    void visit(const char *place) { m_visit(QLatin1StringView(place)); }
+    void visit(const char *place) { visit(QString(QLatin1StringView(place))); }
+    void visit(const QString &place) {
+        QTest::qWait(20); // what follows from the last step is done
+        m_visit(place);
+    }
     /// Opens what an item opens, visits it and closes it.
     void visitBehind(const char *item, const char *place) {
         m_gallery.click(QLatin1StringView(item));
@@ -129,6 +133,9 @@ void Way::conversation() {
     require(m_workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s),
             "its report");
     visit("report");
+    click("copyButton");
+    m_gallery.item(u"toast:0"_s);
+    visit("toast");
     m_workspace.connectivity.setOnline(false);
     visit("offline");
     m_workspace.connectivity.setOnline(true);
@@ -242,9 +249,12 @@ void Way::endOfCall() {
     require(QTest::qWaitFor([&] { return !store().call()->callError().isEmpty(); }), "a failure");
     visit("call-failed");
     m_workspace.pass(5s);
-    click("callLine:now");
+    require(QTest::qWaitFor([&] { return !store().call()->call(); }), "what was said");
+    visit("call-words");
+    store().call()->toggleCallLines(
+        u"now"_s); // its line is above what was said, maybe out of sight
+    m_gallery.item(u"callLine:now"_s);
     visit("call-line");
-    store().call()->toggleCallLines(u"now"_s); // it may be out of sight
     require(m_workspace.talk(), "another call");
     m_gallery.press(Qt::Key_D, Qt::ControlModifier);
     visit("call-ended");
@@ -260,7 +270,7 @@ void Way::panels() {
     for (const char *panel : {"agents", "events"}) {
         store().canvas()->openPanel(QLatin1StringView(panel));
         require(QTest::qWaitFor([&] { return !store().events()->eventsLoading(); }), panel);
-        m_visit(QLatin1StringView(panel) + u"-page"_s);
+        visit(QLatin1StringView(panel) + u"-page"_s);
     }
     pastCalls();
     store().canvas()->closePanel();
@@ -291,7 +301,7 @@ void Way::accountPages() {
          {"plan", "security", "sources", "voice", "notifications", "memory", "profile"}) {
         click(qPrintable(QLatin1StringView(tab) + u"Tab"_s));
         m_gallery.item(QLatin1StringView(tab) + u"Page"_s);
-        m_visit(u"account-"_s + QLatin1StringView(tab));
+        visit(u"account-"_s + QLatin1StringView(tab));
     }
     press("country");
     m_gallery.item(u"choiceList"_s);

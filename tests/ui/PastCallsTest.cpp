@@ -137,10 +137,9 @@ void PastCallsTest::callInTheConversation() {
     m_workspace->converse();
     room().hangupCall();
     m_workspace->pass(5s);
-    QTRY_VERIFY(m_gallery->find(u"callLine:now"_s));
+    QTRY_VERIFY(m_workspace->texts().contains(u"Which one should worry me?"_s));
     m_gallery->save(u"call-in-rail"_s);
-    // The keys stand on the last message; the line is further up.
-    QVERIFY(m_workspace->texts().contains(u"Which one should worry me?"_s));
+    // The keys stand on the last message; the line is further up, and not made yet.
     m_gallery->item(u"compactFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
     const int shown = m_workspace->msgs().count();
     for (int step = 0; step < 40 && m_workspace->msgs().count() == shown; ++step) {

@@ -194,6 +194,7 @@ void WindowTest::panelsByKeys() {
     QVERIFY(m_gallery->find(u"strip"_s));
     m_gallery->press(Qt::Key_K, Qt::ControlModifier);
     QVERIFY(m_gallery->hasFocus(u"askField"_s));
+    QVERIFY(m_gallery->item(u"askField"_s)->width() > 400); // in a bar of 720
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
     QVERIFY(layout->dockOpen());
     QTRY_VERIFY(m_gallery->find(u"dockFeed"_s));

@@ -13,12 +13,15 @@ FocusScope {
 
     required property AppStore store
     readonly property CallRoom room: store.call
+    readonly property bool failed: room.callHistoryFailed
+
+    onFailedChanged: (failed ? retry : list).focus = true
 
     Label {
         objectName: "callsEmpty"
         x: 16
         y: 8
-        visible: list.count === 0 && !calls.room.callHistoryFailed
+        visible: list.count === 0 && !calls.failed
         color: Tokens.t3
         text: calls.room.callHistoryLoaded ? qsTr("No calls yet") : qsTr("Loading…")
     }
@@ -26,13 +29,15 @@ FocusScope {
         x: 16
         y: 8
         spacing: 12
-        visible: calls.room.callHistoryFailed
+        visible: calls.failed
 
         Label {
             text: qsTr("The calls could not be loaded")
             Accessible.role: Accessible.AlertMessage
         }
         Button {
+            id: retry
+
             objectName: "callsRetry"
             size: Button.Small
             text: qsTr("Try again")
@@ -44,7 +49,7 @@ FocusScope {
 
         objectName: "callList"
         anchors.fill: parent
-        visible: !calls.room.callHistoryFailed
+        visible: !calls.failed
         model: calls.room.callHistory
         clip: true
         focus: true

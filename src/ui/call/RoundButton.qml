@@ -31,7 +31,7 @@ T.Button {
             : button.down ? Tokens.press
             : Tokens.sunken
         // The controls' own colours have no second shade: an edge answers to the pointer.
-        border.width: button.hovered && button.enabled ? 1 : 0
+        border.width: button.enabled && (button.hovered || button.on && Tokens.highContrast) ? 1 : 0
         border.color: button.ending ? Tokens.dangerText : button.on ? Tokens.accentLine : Tokens.line2
 
         FocusRing {

@@ -33,7 +33,7 @@ FocusScope {
     IconButton {
         objectName: "copyTranscript"
         x: parent.width - width - 12
-        y: 8
+        y: (Tokens.topBarHeight - height) / 2
         enabled: list.count > 0
         iconName: copied.running ? "check" : "copy"
         text: copied.running ? qsTr("Copied") : qsTr("Copy the transcript")

@@ -15,7 +15,7 @@ FocusScope {
 
     readonly property string trouble: store.chat.chatNote
 
-    implicitHeight: bar.height + (floating ? 0 : Tokens.fit(22))
+    implicitHeight: bar.height + (floating ? 0 : Math.max(Tokens.fit(22), line.height + 6))
 
     AskBar {
         id: bar
@@ -41,11 +41,15 @@ FocusScope {
         Accessible.name: words
     }
     Label {
+        id: line
+
         objectName: "chatNote"
         anchors.top: bar.bottom
         anchors.topMargin: composer.floating ? 4 : 6
         width: composer.width
         horizontalAlignment: Text.AlignHCenter
+        // What went wrong is read to its end.
+        wrapMode: composer.trouble === "" ? Text.NoWrap : Text.Wrap
         style: Tokens.type.micro
         color: composer.trouble === "" ? Tokens.t3 : Tokens.dangerText
         text: composer.trouble !== "" ? composer.trouble

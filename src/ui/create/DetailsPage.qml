@@ -1,7 +1,9 @@
 import QtQuick
+import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Create
 import Kiv.Store
+import Kiv.Tokens
 
 // Name, and the role of an agent or the brief of a project.
 FocusScope {
@@ -16,62 +18,81 @@ FocusScope {
     visible: room.step === Store.CreateStep.Details
     onVisibleChanged: if (visible) name.field.forceActiveFocus(Qt.OtherFocusReason)
 
-    Column {
-        id: lines
+    Flickable {
+        id: scroller
 
-        width: parent.width
-        spacing: 18
+        anchors.fill: parent
+        // Room for the ring of a field.
+        anchors.leftMargin: -4
+        anchors.rightMargin: -4
+        contentHeight: page.agent ? lines.height : 0
+        clip: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
+
+        T.ScrollBar.vertical: ScrollBar {}
 
         Column {
-            width: parent.width
+            id: lines
 
-            Field {
-                id: name
+            x: 4
+            width: scroller.width - 8
+            spacing: 18
 
+            Column {
                 width: parent.width
-                label: qsTr("Name")
-                field.objectName: "createName"
-                field.focus: true
-                field.text: page.room.name
-                field.failed: page.room.nameError !== ""
-                field.onTextEdited: page.room.name = field.text
+
+                Field {
+                    id: name
+
+                    width: parent.width
+                    label: qsTr("Name")
+                    field.objectName: "createName"
+                    field.focus: true
+                    field.text: page.room.name
+                    field.failed: page.room.nameError !== ""
+                    field.onTextEdited: page.room.name = field.text
+                }
+                FieldNote {
+                    objectName: "nameNote"
+                    width: parent.width
+                    error: page.room.nameError
+                    count: page.room.nameCount
+                }
             }
-            FieldNote {
-                objectName: "nameNote"
+            Column {
                 width: parent.width
-                error: page.room.nameError
-                count: page.room.nameCount
+                visible: page.agent
+
+                Field {
+                    id: role
+
+                    width: parent.width
+                    label: qsTr("Role")
+                    field.objectName: "createRole"
+                    field.text: page.agent ? page.room.text : ""
+                    field.failed: page.room.textError !== ""
+                    field.onTextEdited: page.room.text = field.text
+                }
+                FieldNote {
+                    objectName: "roleNote"
+                    width: parent.width
+                    error: page.room.textError
+                    count: page.room.textCount
+                }
+            }
+            ParentChoice {
+                width: parent.width
+                visible: page.agent
+                choices: page.room.parents
+                chosen: page.room.parentId
+                chosenTitle: page.room.parentName
+                onPicked: id => page.room.parentId = id
             }
         }
-        Column {
-            width: parent.width
-            visible: page.agent
-
-            Field {
-                id: role
-
-                width: parent.width
-                label: qsTr("Role")
-                field.objectName: "createRole"
-                field.text: page.agent ? page.room.text : ""
-                field.failed: page.room.textError !== ""
-                field.onTextEdited: page.room.text = field.text
-            }
-            FieldNote {
-                objectName: "roleNote"
-                width: parent.width
-                error: page.room.textError
-                count: page.room.textCount
-            }
-        }
-        ParentChoice {
-            width: parent.width
-            visible: page.agent
-            choices: page.room.parents
-            chosen: page.room.parentId
-            chosenTitle: page.room.parentName
-            onPicked: id => page.room.parentId = id
-        }
+    }
+    FocusInSight {
+        area: scroller
     }
     BriefField {
         id: brief

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Create
 import Kiv.Store
@@ -17,64 +18,86 @@ FocusScope {
     visible: room.step === Store.CreateStep.Tools
     onVisibleChanged: if (visible) tools.itemAt(0).forceActiveFocus(Qt.OtherFocusReason)
 
-    Label {
-        id: toolsLabel
+    Flickable {
+        id: scroller
 
-        style: Tokens.type.smallMedium
-        text: qsTr("Tools")
-    }
-    Grid {
-        id: grid
+        anchors.fill: parent
+        // Room for the ring of a card.
+        anchors.leftMargin: -4
+        anchors.rightMargin: -4
+        contentHeight: levels.y + levels.height
+        clip: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        flickDeceleration: Tokens.flickDeceleration
 
-        y: toolsLabel.height + 6
-        width: parent.width
-        columns: 2
-        spacing: 8
-        Accessible.role: Accessible.Grouping
-        Accessible.name: toolsLabel.text
+        T.ScrollBar.vertical: ScrollBar {}
 
-        Repeater {
-            id: tools
+        Label {
+            id: toolsLabel
 
-            model: page.room.toolChoices
+            x: 4
+            style: Tokens.type.smallMedium
+            text: qsTr("Tools")
+        }
+        Grid {
+            id: grid
 
-            ChoiceCard {
-                required property int index
-                required property createChoice modelData
+            x: 4
+            y: toolsLabel.height + 6
+            width: scroller.width - 8
+            columns: 2
+            spacing: 8
+            Accessible.role: Accessible.Grouping
+            Accessible.name: toolsLabel.text
 
-                objectName: "tool:" + modelData.id
-                width: (grid.width - grid.spacing) / 2
-                several: true
-                compact: true
-                choice: modelData
-                checked: page.room.toolMarks[index]
-                onClicked: page.room.toggleTool(modelData.id)
+            Repeater {
+                id: tools
 
-                TipLoader {
-                    active: (parent as ChoiceCard)?.hovered ?? false
-                    text: (parent as ChoiceCard)?.modelData.summary ?? ""
+                model: page.room.toolChoices
+
+                ChoiceCard {
+                    required property int index
+                    required property createChoice modelData
+
+                    objectName: "tool:" + modelData.id
+                    width: (grid.width - grid.spacing) / 2
+                    several: true
+                    compact: true
+                    choice: modelData
+                    checked: page.room.toolMarks[index]
+                    onClicked: page.room.toggleTool(modelData.id)
+
+                    TipLoader {
+                        active: (parent as ChoiceCard)?.hovered ?? false
+                        text: (parent as ChoiceCard)?.modelData.summary ?? ""
+                    }
                 }
             }
         }
-    }
-    Label {
-        id: autonomyLabel
+        Label {
+            id: autonomyLabel
 
-        y: grid.y + grid.height + 18
-        style: Tokens.type.smallMedium
-        text: qsTr("Autonomy")
+            x: 4
+            y: grid.y + grid.height + 18
+            style: Tokens.type.smallMedium
+            text: qsTr("Autonomy")
+        }
+        ChoiceList {
+            id: levels
+
+            anchors.top: autonomyLabel.bottom
+            anchors.topMargin: 6
+            width: scroller.width
+            spacing: 8
+            prefix: "level:"
+            choices: page.room.levels
+            chosen: page.room.level
+            interactive: false
+            Accessible.name: autonomyLabel.text
+            onPicked: id => page.room.level = id
+        }
     }
-    ChoiceList {
-        anchors.top: autonomyLabel.bottom
-        anchors.topMargin: 6
-        x: -4
-        width: parent.width + 8
-        spacing: 8
-        prefix: "level:"
-        choices: page.room.levels
-        chosen: page.room.level
-        interactive: false
-        Accessible.name: autonomyLabel.text
-        onPicked: id => page.room.level = id
+    FocusInSight {
+        area: scroller
     }
 }

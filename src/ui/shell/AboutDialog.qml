@@ -12,7 +12,7 @@ Dialog {
 
     signal noticesRequested
 
-    width: Tokens.fit(360)
+    width: Tokens.fit(420)
     objectName: "aboutDialog"
     onAboutToShow: close.forceActiveFocus(Qt.PopupFocusReason)
 

@@ -26,11 +26,21 @@ FocusScope {
     readonly property bool floats: !layout.railShown && !layout.dockOpen && !full && !accountOpen
     readonly property real side: full ? 0 : layout.railShown ? layout.shownRailW : Tokens.stripWidth
 
+    /// What had the keys has gone out of sight.
+    readonly property bool astray: Window.activeFocusItem !== null && !Window.activeFocusItem.visible
+
     /// Puts the cursor into the ask bar that shows.
     function focusAsk() {
         layout.leaveCanvasFull()
         const bar = layout.dockOpen ? dockLoader.item : layout.railShown ? rail.composer : floating
         bar?.forceActiveFocus(Qt.ShortcutFocusReason)
+    }
+
+    function bringKeysBack() {
+        if (full || accountOpen)
+            stage.nextItemInFocusChain(true).forceActiveFocus(Qt.OtherFocusReason)
+        else
+            focusAsk()
     }
 
     /// Shows the message that a scene came from, in the feed that shows or in the dock.
@@ -200,7 +210,7 @@ FocusScope {
             width: Math.min(720, parent.width - 48)
             wanted: view.floats
             content: Composer {
-                width: floating.width
+                width: parent.width
                 focus: true
                 floating: true
                 store: view.store
@@ -266,6 +276,12 @@ FocusScope {
 
         area: stage
         wanted: view.layout.canvasFull
+    }
+    Timer {
+        // Not in the midst of a change.
+        running: view.astray && view.visible
+        interval: 0
+        onTriggered: view.bringKeysBack()
     }
     AreaCycle {
         id: areas

@@ -56,13 +56,15 @@ Dialog {
             required property notice modelData
 
             width: list.width
-            height: Tokens.fit(64)
+            height: Math.max(Tokens.fit(64), words.height + 12)
             focusPolicy: Qt.NoFocus
             text: modelData.name
             Accessible.name: qsTr("%1: %2. %3. %4").arg(modelData.name).arg(modelData.part).arg(modelData.licence).arg(modelData.holder)
             Accessible.role: Accessible.ListItem
 
             Column {
+                id: words
+
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - 12
 
@@ -75,7 +77,7 @@ Dialog {
                 }
                 Label {
                     width: parent.width
-                    elide: Text.ElideRight
+                    wrapMode: Text.Wrap
                     style: Tokens.type.caption
                     color: Tokens.t2
                     text: row.modelData.licence + " · " + row.modelData.holder

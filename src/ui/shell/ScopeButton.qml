@@ -12,6 +12,8 @@ T.Button {
 
     required property AppStore store
     required property real popoverHeight
+    /// The room that there is for it: the detail gives way first.
+    required property real most
 
     readonly property ScopeRoom scope: store.scope
 
@@ -50,16 +52,20 @@ T.Button {
             size: 20
         }
         Label {
+            id: name
+
             anchors.verticalCenter: parent.verticalCenter
-            width: Math.min(implicitWidth, Tokens.fit(220))
+            width: Math.min(implicitWidth, Tokens.fit(220), button.most - 70)
             style: Tokens.type.name
             text: button.scope.scopeName
             Accessible.ignored: true
         }
         Label {
+            readonly property real room: button.most - 78 - name.width
+
             anchors.verticalCenter: parent.verticalCenter
-            visible: text !== ""
-            width: Math.min(implicitWidth, Tokens.fit(180))
+            visible: text !== "" && room > 32
+            width: Math.min(implicitWidth, Tokens.fit(180), room)
             style: Tokens.type.line
             color: Tokens.t3
             text: button.scope.scopeDetail

@@ -15,6 +15,11 @@ Dialog {
     readonly property AppearanceRoom appearance: store.appearance
     readonly property bool signup: session.authSheet === Store.AuthSheetMode.Signup
 
+    /// To where there is something to write.
+    function writeOn(reason: int) {
+        (email.field.text === "" ? email : password).field.forceActiveFocus(reason)
+    }
+
     function submit() {
         if (!session.busy)
             session.submitAuth(email.field.text, password.field.text, signup)
@@ -22,12 +27,14 @@ Dialog {
 
     width: Tokens.fit(424)
     visible: session.authSheet !== Store.AuthSheetMode.Closed
-    onAboutToShow: (email.field.text === "" ? email : password).field.forceActiveFocus(Qt.PopupFocusReason)
+    onAboutToShow: writeOn(Qt.PopupFocusReason)
     onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()
     onClosed: {
         eye.checked = false
-        if (store.scope.auth === Store.AuthPhase.SignedIn)
+        if (store.scope.auth === Store.AuthPhase.SignedIn) {
             password.field.clear()
+            store.layout.focusAsk()
+        }
     }
 
     contentItem: Item {
@@ -155,7 +162,10 @@ Dialog {
                 enabled: !sheet.session.busy
                 style: Tokens.type.smallMedium
                 text: sheet.signup ? qsTr("Sign in") : qsTr("Create an account")
-                onClicked: sheet.session.openAuthSheet(sheet.signup ? Store.AuthSheetMode.Login : Store.AuthSheetMode.Signup)
+                onClicked: {
+                    sheet.session.openAuthSheet(sheet.signup ? Store.AuthSheetMode.Login : Store.AuthSheetMode.Signup)
+                    sheet.writeOn(Qt.OtherFocusReason)
+                }
             }
         }
     }

@@ -57,12 +57,15 @@ FocusScope {
         offline: bar.store.connection.offline
     }
     ScopeButton {
+        most: panels.x - x - 12
         x: bar.railWidth > 0 ? bar.railWidth + 24 : menuButton.x + menuButton.width + 24
         anchors.verticalCenter: parent.verticalCenter
         store: bar.store
         popoverHeight: bar.popoverHeight
     }
     Row {
+        id: panels
+
         anchors.right: parent.right
         anchors.rightMargin: 12
         anchors.verticalCenter: parent.verticalCenter
@@ -70,6 +73,7 @@ FocusScope {
         spacing: 4
 
         LatePlace {
+            anchors.verticalCenter: parent.verticalCenter
             wanted: bar.store.call.call
             content: CallPill {
                 objectName: "callPill"
@@ -78,6 +82,7 @@ FocusScope {
         }
         IconButton {
             objectName: "endCallButton"
+            anchors.verticalCenter: parent.verticalCenter
             visible: bar.store.call.call
             iconName: "hang"
             color: enabled ? Tokens.dangerText : Tokens.tDisabled
@@ -87,6 +92,7 @@ FocusScope {
         }
         IconButton {
             objectName: "callButton"
+            anchors.verticalCenter: parent.verticalCenter
             visible: !bar.store.call.call
             iconName: "phone"
             text: qsTr("Call")
@@ -95,6 +101,7 @@ FocusScope {
         }
         IconButton {
             objectName: "historyButton"
+            anchors.verticalCenter: parent.verticalCenter
             iconName: "history"
             text: qsTr("History")
             keys: "Ctrl Y"
@@ -109,6 +116,7 @@ FocusScope {
         }
         IconButton {
             objectName: "eventsButton"
+            anchors.verticalCenter: parent.verticalCenter
             iconName: "events"
             text: qsTr("Events")
             active: bar.store.layout.eventsOpen
@@ -122,6 +130,7 @@ FocusScope {
         }
         IconButton {
             objectName: "dockButton"
+            anchors.verticalCenter: parent.verticalCenter
             iconName: "dock"
             text: qsTr("Chat dock")
             keys: "Ctrl J"
@@ -130,6 +139,7 @@ FocusScope {
             onClicked: bar.store.layout.toggleDock()
         }
         Item {
+            anchors.verticalCenter: parent.verticalCenter
             width: 13
             height: 36
 
@@ -144,6 +154,7 @@ FocusScope {
             id: person
 
             objectName: "profileButton"
+            anchors.verticalCenter: parent.verticalCenter
             implicitWidth: 32
             implicitHeight: 36
             text: qsTr("Profile of %1").arg(bar.store.scope.userName)
