@@ -139,13 +139,14 @@ void PageTest::refusals() {
 
 /// The keys go into the page and lead out of it again.
 void PageTest::keys() {
-    open("<a>Name</a><input oninput=\"fetch('/seen?'+this.value)\">");
+    open("<a>Name</a><input oninput=\"if (this.value.endsWith('y')) fetch('/seen?'+this.value)\">");
     QTRY_COMPARE(m_workspace->backend.count(u"GET seen"_s), 1);
     clickRow(1);
     QTRY_VERIFY(page()->hasActiveFocus());
     for (const char letter : {'f', 'e', 'r', 'r', 'y'})
         QTest::keyClick(&m_gallery->window(), letter);
-    QTRY_COMPARE(m_workspace->backend.requests(u"GET seen"_s).last().query, u"ferry"_s);
+    QTRY_COMPARE(m_workspace->backend.count(u"GET seen"_s), 2);
+    QCOMPARE(m_workspace->backend.requests(u"GET seen"_s).last().query, u"ferry"_s);
     m_gallery->press(Qt::Key_Escape);
     QTRY_VERIFY(m_gallery->hasFocus(u"pageReload"_s));
     m_gallery->press(Qt::Key_Tab);
