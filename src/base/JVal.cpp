@@ -40,7 +40,7 @@ void appendCanonical(QString &out, const JVal &value) {
     if (const auto *text = value.asStr()) {
         appendQuoted(out, *text);
     } else if (const auto *number = value.asNum()) {
-        out += decimalDescription(*number);
+        out += decimalDescription(*number + 0.0); // nought has no sign
     } else if (const auto *flag = value.asBool()) {
         out += *flag ? u"true"_s : u"false"_s;
     } else if (const auto *array = value.asArr()) {

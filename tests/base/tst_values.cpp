@@ -154,6 +154,7 @@ private Q_SLOTS:
             << QByteArray(R"({"b":null,"a":"x\"y"})") << u"{\"a\":\"x\"y\",\"b\":null}"_s;
         QTest::newRow("booleans are numbers") << QByteArray("[true,false]") << u"[1.0,0.0]"_s;
         QTest::newRow("empty") << QByteArray("[[],{}]") << u"[[],{}]"_s;
+        QTest::newRow("nought") << "[0,-0,-0.0]"_ba << u"[0.0,0.0,0.0]"_s;
     }
     void canonical() {
         QFETCH(QByteArray, json);

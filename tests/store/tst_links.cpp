@@ -148,11 +148,17 @@ private Q_SLOTS:
         SOON_COMPARE(f.store->scope()->agent(), u"quill"_s);
     }
 
+    void aChatThatIsNotThere_data() {
+        QTest::addColumn<QString>("link");
+        QTest::newRow("agent") << u"kiv://chat/agent/nobody"_s;
+        QTest::newRow("project") << u"kiv://chat/project/nowhere"_s;
+    }
     void aChatThatIsNotThere() {
+        QFETCH(QString, link);
         StoreFixture f;
         QVERIFY(f.signIn());
         f.store->scope()->enterProject(u"lantern"_s);
-        f.store->door()->open(*ChatLink::parse(u"kiv://chat/agent/nobody"_s));
+        f.store->door()->open(*ChatLink::parse(link));
         SOON_VERIFY(!f.store->chat()->chatNote().isEmpty());
         QCOMPARE(f.store->scope()->project(), u"lantern"_s);
     }
