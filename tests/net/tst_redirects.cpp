@@ -91,7 +91,7 @@ private Q_SLOTS:
         });
         QByteArray there = other.url(host).toEncoded() + "/there";
         if (withoutScheme)
-            there.remove(0, qstrlen("http:"));
+            there.remove(0, u"http:"_s.size());
         redirectTo(at.server, status, there);
         auto call = post(*at.client);
         QVERIFY(call.finish());

@@ -195,6 +195,23 @@ private Q_SLOTS:
         QCOMPARE(f.msgs().count(), 2);
     }
 
+    void unsentAtTheEnd() {
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.backend.answer(kivPost, "{}", 500);
+        f.store->chat()->send(u"failed"_s);
+        SOON_COMPARE(f.deliveryOf(1), Delivery::Failed);
+        f.connectivity.setOnline(false);
+        f.store->chat()->send(u"waiting"_s);
+        f.store->chat()->setDraft(u"typed"_s);
+        f.store->scope()->enterProject(u"ferry"_s);
+        f.connectivity.setOnline(true);
+        f.restart();
+        QVERIFY(f.signIn());
+        f.store->scope()->pickGlobal();
+        SOON_COMPARE(f.store->chat()->draft(), u"failed\nwaiting\ntyped"_s);
+    }
+
     void sentWhileLeaving() {
         StoreFixture f;
         QVERIFY(f.signIn());
