@@ -19,6 +19,18 @@ constexpr int farewellMs = 2000;
 /// What the server's own lines begin with.
 constexpr auto serverPrefix = "kiv-sandbox: "_L1;
 
+/// Reads the server's first line. Throws ProcessError when it names no address.
+EmbeddedServer::Greeting greetingOf(const QByteArray &line) {
+    const QJsonObject greeting = QJsonDocument::fromJson(line).object();
+    const QString url = greeting.value(u"url"_s).toString();
+    if (url.isEmpty())
+        throw ProcessError("The embedded workspace did not say where it listens.");
+    const QJsonObject sample = greeting.value(u"sample"_s).toObject();
+    return {.url = parseBaseUrl(url),
+            .sample = {sample.value(u"email"_s).toString(), sample.value(u"password"_s).toString()},
+            .setAside = greeting.value(u"setAside"_s).toString()};
+}
+
 } // namespace
 
 EmbeddedServer::EmbeddedServer(Clock &clock, const QString &program, const QStringList &arguments)
@@ -68,17 +80,9 @@ QCoro::Task<EmbeddedServer::Greeting> EmbeddedServer::start(Cancel cancel) {
             throw;
         throw ProcessError(m_complaint.toStdString());
     }
-    const QJsonObject greeting = QJsonDocument::fromJson(line).object();
-    const QString url = greeting.value(u"url"_s).toString();
-    if (url.isEmpty())
-        throw ProcessError("The embedded workspace did not say where it listens.");
-    const QJsonObject sample = greeting.value(u"sample"_s).toObject();
-    Greeting result;
-    result.url = parseBaseUrl(url);
-    m_port = result.url.port();
-    result.sample = {sample.value(u"email"_s).toString(), sample.value(u"password"_s).toString()};
-    result.setAside = greeting.value(u"setAside"_s).toString();
-    co_return result;
+    Greeting greeting = greetingOf(line);
+    m_port = greeting.url.port();
+    co_return greeting;
 }
 
 } // namespace kiv::app

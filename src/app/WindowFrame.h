@@ -7,7 +7,6 @@
 
 #include <optional>
 
-class QScreen;
 class QSettings;
 class QWindow;
 

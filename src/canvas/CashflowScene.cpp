@@ -1,6 +1,5 @@
 #include "canvas/CashflowSeries.h"
 #include "canvas/SceneBuilders.h"
-#include "canvas/SceneFigures.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,6 @@
 #include "canvas/CanvasNum.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
-#include "canvas/SceneText.h"
 
 #include <algorithm>
 #include <cmath>

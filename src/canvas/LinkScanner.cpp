@@ -1,7 +1,5 @@
 #include "canvas/LinkScanner.h"
 
-#include <QString>
-
 #include <algorithm>
 
 namespace kiv::canvas {

@@ -4,7 +4,6 @@
 #include "net/KivAPI.h"
 #include "store/AppStore.h"
 #include "store/CallRoom.h"
-#include "store/CallTexts.h"
 
 #include <algorithm>
 

@@ -2,8 +2,6 @@
 
 #include "net/AccountRecords.h"
 
-#include <QStringList>
-
 namespace kiv::store {
 
 using net::KivAPI::UserProfile;

@@ -1,7 +1,5 @@
 #include "voice/Pcm.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <cmath>
 #include <cstring>

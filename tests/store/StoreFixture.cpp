@@ -1,6 +1,5 @@
 #include "StoreFixture.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTimer>
 

@@ -37,15 +37,6 @@ QList<BlockPart> partsIn(const QList<FeedRow> &rows) {
     return parts;
 }
 
-/// The parts of a text; one that is still being written is never without any.
-QList<BlockPart> partsIn(const QString &body, bool mine, bool growing) {
-    if (mine)
-        return body.isEmpty() ? QList<BlockPart>() : text::plainParts(body);
-    const auto parts =
-        text::partsOf(growing ? text::MDParser::parse(body) : text::MDParser::blocks(body));
-    return parts.isEmpty() && growing ? text::plainParts(body) : parts;
-}
-
 /// Makes the rows of one message, from the top down.
 class RowMaker {
 public:
@@ -59,9 +50,15 @@ public:
     }
 
     bool isCall() const { return !text(MessageModel::CallIdRole).isEmpty(); }
-    bool isMine() const { return m_common.mine; }
-    bool isGrowing() const { return m_growing; }
     QString body() const { return text(MessageModel::BodyRole); }
+    /// The parts of the text; one that is still being written is never without any.
+    QList<BlockPart> partsOf(const QString &body) const {
+        if (isMine())
+            return body.isEmpty() ? QList<BlockPart>() : text::plainParts(body);
+        const auto parts =
+            text::partsOf(m_growing ? text::MDParser::parse(body) : text::MDParser::blocks(body));
+        return parts.isEmpty() && m_growing ? text::plainParts(body) : parts;
+    }
     QList<FeedRow> takeRows() { return std::move(m_rows); }
 
     void addPlace(const MessagePlace &place) {
@@ -91,6 +88,8 @@ public:
     }
 
 private:
+    bool isMine() const { return m_common.mine; }
+
     template <typename T>
     T value(int role) const {
         return m_message.data(role).value<T>();
@@ -168,7 +167,7 @@ MessageRows messageRows(const QModelIndex &message, const MessagePlace &place,
     if (before.body == body)
         parts = partsIn(before.rows);
     if (parts.isEmpty())
-        parts = partsIn(body, maker.isMine(), maker.isGrowing());
+        parts = maker.partsOf(body);
     maker.addMessage(std::move(parts));
     return {body, maker.takeRows()};
 }

@@ -3,6 +3,7 @@
 #include "canvas/CanvasNum.h"
 #include "ui/tokens/Typefaces.h"
 
+#include <QFontMetricsF>
 #include <QTextLayout>
 
 #include <algorithm>

@@ -3,8 +3,6 @@
 #include "text/SearchText.h"
 #include "ui/markdown/DocumentWriter.h"
 
-#include <QFontMetricsF>
-
 namespace kiv::ui {
 
 /// Lays a table out as lines of text whose cells stand at tabs: as one text it is selected, copied
