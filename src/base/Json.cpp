@@ -10,10 +10,36 @@ QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// The end of the string or the number that begins at `at`.
+qsizetype endOfToken(const QByteArray &json, qsizetype at) {
+    if (json[at] != '"') {
+        while (++at < json.size() && QByteArrayView("+-.eE0123456789").contains(json[at])) {
+        }
+        return at;
+    }
+    while (++at < json.size() && json[at] != '"')
+        at += json[at] == '\\' ? 1 : 0;
+    return at + 1;
+}
+
 /// simdjson refuses numbers beyond its types (2^64, 1e400). Qt's parser takes those it can hold as
-/// doubles; writing the document out again gives text that simdjson reads.
+/// doubles; writing the document out again gives text that simdjson reads, once those among them
+/// that are whole and have more than 64 bits are written as doubles.
 QByteArray withNumbersInRange(QByteArrayView utf8) {
-    return QJsonDocument::fromJson(utf8.toByteArray()).toJson(QJsonDocument::Compact);
+    const QByteArray json =
+        QJsonDocument::fromJson(utf8.toByteArray()).toJson(QJsonDocument::Compact);
+    QByteArray readable;
+    for (qsizetype at = 0; at < json.size();) {
+        const bool isNumber = json[at] == '-' || (json[at] >= '0' && json[at] <= '9');
+        const qsizetype end = isNumber || json[at] == '"' ? endOfToken(json, at) : at + 1;
+        const QByteArray token = json.sliced(at, end - at);
+        bool fits = true;
+        if (isNumber && !token.contains('.') && !token.contains('e'))
+            token.toLongLong(&fits);
+        readable += fits ? token : token + ".0";
+        at = end;
+    }
+    return readable;
 }
 
 constexpr qsizetype escapeSize = 6;

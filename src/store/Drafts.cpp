@@ -22,7 +22,7 @@ constexpr auto pause = 150ms;
 constexpr auto longestUnsaved = 500ms;
 /// How long a disk that took nothing is left alone.
 constexpr auto nextAttempt = 5s;
-constexpr qsizetype mostSaved = 50;
+constexpr qsizetype mostSaved = 500;
 /// In UTF-16 units, of one draft and of all.
 constexpr qsizetype longestSaved = 64 * 1024;
 constexpr qsizetype allSaved = 256 * 1024;

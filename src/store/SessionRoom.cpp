@@ -19,31 +19,50 @@ constexpr qsizetype leastPassword = 8;
 constexpr Clock::Milliseconds firstPause = 2s;
 constexpr Clock::Milliseconds longestPause = 30s;
 
+bool isUnauthorized(const std::exception &error) {
+    const auto *refusal = dynamic_cast<const net::APIError *>(&error);
+    return refusal && refusal->kind() == net::APIError::Kind::Unauthorized;
+}
+
 /// What of the workspace has not been loaded.
 struct Missing {
     bool rail = true;
     bool kiv = true;
+    bool isRefused = false; ///< to whoever asks now
 };
 
 /// Asks for what is missing; the result is what still is.
 QCoro::Task<Missing> loadWorkspace(ScopeRoom *scope, Missing missing, Cancel cancel) {
+    missing.isRefused = false;
     try {
         if (missing.rail)
             co_await scope->reloadRail(cancel);
         missing.rail = false;
-    } catch (const std::exception &) {
+    } catch (const std::exception &error) {
         // The rail of before stays.
         cancel.throwIfRequested();
+        missing.isRefused = isUnauthorized(error);
     }
     try {
         if (missing.kiv)
             co_await scope->resolveKiv(cancel);
         missing.kiv = false;
-    } catch (const std::exception &) {
+    } catch (const std::exception &error) {
         // Without it the global scope has nobody to talk to; everything else works.
         cancel.throwIfRequested();
+        missing.isRefused |= isUnauthorized(error);
     }
     co_return missing;
+}
+
+QCoro::Task<bool> isSessionOver(net::APIClient *client, Cancel cancel) {
+    try {
+        co_await net::KivAPI::currentUser(client, cancel);
+    } catch (const std::exception &error) {
+        cancel.throwIfRequested();
+        co_return isUnauthorized(error);
+    }
+    co_return false;
 }
 
 /// What the person can change so that a refused attempt succeeds.
@@ -104,6 +123,13 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     co_await scope->refreshUserAvatarIfNeeded(cancel);
     for (auto pause = firstPause; missing.rail || missing.kiv;
          pause = std::min(2 * pause, longestPause)) {
+        // The session may have ended after it was asked for, as by a sign-out that came late.
+        if (missing.isRefused && co_await isSessionOver(&m_store.net(), cancel)) {
+            m_store.chat()->end();
+            resetToAnon();
+            openAuthSheet(AuthSheetMode::Login);
+            co_return;
+        }
         co_await m_store.clock().sleep(pause, cancel);
         missing = co_await loadWorkspace(scope, missing, cancel);
         // Where the person has gone meanwhile they stay.
