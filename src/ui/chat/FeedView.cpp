@@ -2,10 +2,8 @@
 
 #include "ui/chat/RowEstimate.h"
 
-#include <QElapsedTimer>
-
 #include <algorithm>
-#include <chrono>
+#include <ctime>
 
 namespace kiv::ui {
 
@@ -16,9 +14,15 @@ constexpr double reserve = 160;
 constexpr double revealMargin = 16;
 /// How often heights may turn out to be other than estimated before the rest waits for a frame.
 constexpr int mostPasses = 8;
-/// How long rows are laid out for one frame. Those that are left keep their place free, or their
-/// former width, until the next.
-constexpr std::chrono::milliseconds makingTime{30};
+/// How long this thread works at rows for one frame, in seconds. Those that are left keep their
+/// place free, or their former width, until the next.
+constexpr double makingTime = 0.03;
+
+double workingTime() {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
+}
 
 } // namespace
 
@@ -199,8 +203,7 @@ void FeedView::updatePolish() {
     m_layingOut = true;
     closeGap();
     const bool isMoved = m_following && !m_held;
-    QElapsedTimer making;
-    making.start();
+    const double start = workingTime();
     bool isSettled = false;
     bool isWhole = true;
     int first = 0;
@@ -217,7 +220,7 @@ void FeedView::updatePolish() {
                 break;
             const QQuickItem *item = m_items.find(last);
             const bool isMade = item && item->width() == width();
-            if (!isMade && making.hasExpired(makingTime.count())) {
+            if (!isMade && workingTime() - start > makingTime) {
                 isWhole = false;
                 continue;
             }
