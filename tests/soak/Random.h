@@ -19,7 +19,7 @@ public:
     bool oneIn(int count) { return below(count) == 0; }
     template <typename List>
     const auto &of(const List &list) {
-        return list[static_cast<size_t>(below(static_cast<qsizetype>(std::size(list))))];
+        return *std::next(std::begin(list), below(std::ssize(list)));
     }
 
 private:

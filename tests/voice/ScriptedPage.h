@@ -45,13 +45,13 @@ private:
     class Page : public voice::VoicePage {
     public:
         explicit Page(ScriptedPages &script) : m_script(script) {}
-        void loadHtml(const QString &, const QUrl &baseUrl) override {
+        void loadHtml(const QString &, const QUrl &url) override {
             ++m_script.loads;
-            m_script.baseUrl = baseUrl;
+            m_script.baseUrl = url;
         }
         void evaluate(const QString &script) override { m_script.scripts.append(script); }
         void setMicrophone(const QString &name) override { m_script.microphone = name; }
-        void setAudible(bool audible) override { m_script.audible = audible; }
+        void setAudible(bool isAudible) override { m_script.audible = isAudible; }
 
     private:
         ScriptedPages &m_script;

@@ -1,4 +1,5 @@
 import QtQuick
+import Kiv.Icons
 
 // A line icon of our own set, by the name of its file, in any colour.
 Image {
@@ -12,6 +13,6 @@ Image {
     sourceSize.height: size
     width: size
     height: size
-    source: name === "" ? "" : "image://icon/" + name + "/" + size + "/" + color
+    source: IconAddress.of(name, size, color)
     Accessible.ignored: true
 }
