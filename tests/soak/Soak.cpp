@@ -20,8 +20,6 @@ constexpr auto sampleEvery = 2s;
 constexpr auto warmUp = 60s;
 constexpr qint64 allowedKib = 24 * 1024;
 
-constexpr auto longestHold = 100ms;
-
 // Under a sanitizer, times and sizes are its own.
 #ifdef __has_feature
 constexpr bool isSanitized = __has_feature(address_sanitizer);
@@ -35,9 +33,10 @@ double milliseconds(MainThread::Nanoseconds time) {
 
 } // namespace
 
-Soak::Soak(quint64 seed, std::chrono::seconds length)
+Soak::Soak(quint64 seed, std::chrono::seconds length, std::chrono::milliseconds longestHold)
     : m_seed(seed),
       m_length(length),
+      m_longestHold(longestHold),
       m_stage(seed),
       m_witness(m_stage.server.url().port()),
       m_calm(m_stage, m_witness) {
@@ -108,7 +107,7 @@ void Soak::checkMemory() {
 }
 
 void Soak::checkMainThread() {
-    if (m_stage.thread.worst().held > longestHold && !isSanitized)
+    if (m_stage.thread.worst().held > m_longestHold && !isSanitized)
         m_stage.fail(
             u"the main thread was held for %1 ms"_s.arg(milliseconds(m_stage.thread.worst().held)));
 }

@@ -9,7 +9,8 @@ namespace kiv::soak {
 /// One run: steps by chance, and now and then a calm in which everything has to come right.
 class Soak {
 public:
-    Soak(quint64 seed, std::chrono::seconds length);
+    /// The main thread may be held for `longestHold`.
+    Soak(quint64 seed, std::chrono::seconds length, std::chrono::milliseconds longestHold);
 
     /// Prints a summary, and what went wrong; whether nothing did.
     bool run();
@@ -24,6 +25,7 @@ private:
 
     const quint64 m_seed;
     const std::chrono::seconds m_length;
+    const std::chrono::milliseconds m_longestHold;
     QElapsedTimer m_timer;
     Stage m_stage;
     Witness m_witness;

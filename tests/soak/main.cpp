@@ -58,14 +58,17 @@ int main(int argc, char **argv) {
                                   u"number"_s);
     const QCommandLineOption minutes(u"minutes"_s, u"How long the run takes."_s, u"number"_s,
                                      u"2"_s);
-    parser.addOptions({seed, minutes});
+    const QCommandLineOption hold(u"hold"_s,
+                                  u"How long the main thread may be held, in milliseconds."_s,
+                                  u"number"_s, u"100"_s);
+    parser.addOptions({seed, minutes, hold});
     parser.process(application);
     const quint64 chosen = parser.isSet(seed) ? parser.value(seed).toULongLong()
                                               : QRandomGenerator::system()->generate();
     std::printf("kiv-soak --seed %llu --minutes %s\n", static_cast<unsigned long long>(chosen),
                 qPrintable(parser.value(minutes)));
     std::fflush(stdout);
-    kiv::soak::Soak run(chosen,
-                        std::chrono::seconds(qRound(parser.value(minutes).toDouble() * 60)));
+    kiv::soak::Soak run(chosen, std::chrono::seconds(qRound(parser.value(minutes).toDouble() * 60)),
+                        std::chrono::milliseconds(parser.value(hold).toInt()));
     return run.run() ? 0 : 1;
 }
