@@ -108,11 +108,6 @@ void ChatRoom::sendLive(const QString &text) {
                                            "real project or agent to chat."_s));
         return;
     }
-    // A question asked from the canvas leaves what is being typed alone.
-    if (m_draft.value().trimmed() == text)
-        setDraft(QString());
-    if (target != m_connected)
-        connectChat(); // what is sent is on the screen of the chat that it goes to
     Msg message = localMsg(Who::You, text);
     message.pendingID = QUuid::createUuid().toString(QUuid::WithoutBraces);
     message.at = m_store.clock().now();
@@ -121,6 +116,9 @@ void ChatRoom::sendLive(const QString &text) {
     message.files = msgFiles(message.attachments);
     const Post sent{*target, message.id, message.pendingID, text, message.attachments};
     m_msgs.append(std::move(message));
+    // A question asked from the canvas leaves what is being typed alone.
+    if (m_draft.value().trimmed() == text)
+        setDraft(QString());
     startTurn(sent);
     m_posts.start([this, sent](Cancel cancel) { return post(sent, std::move(cancel)); });
 }

@@ -158,6 +158,34 @@ private Q_SLOTS:
         QCOMPARE(f.store->scope()->userName(), u"sample@example.org"_s);
     }
 
+    /// A sign-out that comes late ends the session behind the back of who has just been let in. One
+    /// refusal alone ends nothing.
+    void endsWhileTheWorkspaceLoads_data() {
+        QTest::addColumn<int>("status"); // of the question who is signed in
+        QTest::addColumn<AuthPhase>("phase");
+        QTest::newRow("ended") << 401 << AuthPhase::Anon;
+        QTest::newRow("refused once") << 200 << AuthPhase::SignedIn;
+    }
+    void endsWhileTheWorkspaceLoads() {
+        QFETCH(int, status);
+        QFETCH(AuthPhase, phase);
+        const QString me = u"GET api/v2/auth/me"_s;
+        const QString projects = u"GET api/v2/projects"_s;
+        StoreFixture f;
+        f.backend.answer(projects, R"({"error":"Signed out"})", 401);
+        f.backend.hold(projects);
+        f.store->boot();
+        SOON_COMPARE(f.backend.count(projects), 1);
+        f.backend.answer(me, status == 200 ? R"({"id":"ada","email":"ada@example.org"})" : "{}",
+                         status);
+        f.backend.release(projects);
+        SOON_COMPARE(f.backend.count(me), 2);
+        SOON_COMPARE(f.store->scope()->auth(), phase);
+        SOON_COMPARE(f.store->session()->authSheet(),
+                     status == 401 ? AuthSheetMode::Login : AuthSheetMode::Closed);
+        QCOMPARE(f.backend.count(projects), 1);
+    }
+
     void goneInTheMiddle() {
         StoreFixture f;
         QVERIFY(f.bootSignedOut());
