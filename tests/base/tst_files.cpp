@@ -149,13 +149,13 @@ private Q_SLOTS:
             settings.setValue(u"zandor.railW"_s, width);
             QCoreApplication::processEvents();
         }
-        QTRY_COMPARE(changes.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(changes.size(), 1, test::diskPatience);
         QVERIFY(!settings.failure().isEmpty());
         QCOMPARE(contentOf(path), "[General]\nzandor.railW=420\n"_ba);
 
         hinder(false);
         settings.save();
-        QTRY_COMPARE(changes.size(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(changes.size(), 2, test::diskPatience);
         QCOMPARE(settings.failure(), QString());
         QVERIFY(contentOf(path).contains("railW=520"));
     }

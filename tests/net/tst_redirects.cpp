@@ -1,6 +1,7 @@
 // Redirects, and which hosts get to see the session's cookie.
 
 #include "ClientFixture.h"
+#include "support/Damage.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -170,7 +171,7 @@ private Q_SLOTS:
         ClientFixture at;
         QVERIFY(setCookie(at));
         const QString file = at.folder.filePath(u"session/cookies"_s);
-        QTRY_VERIFY(QFile::exists(file));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(file), kiv::test::diskPatience);
         constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                 QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
         QCOMPARE(QFile::permissions(file) & (others | QFile::ExeOwner), QFile::Permissions());

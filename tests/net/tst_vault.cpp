@@ -358,11 +358,12 @@ private Q_SLOTS:
         PersistentCookieJar jar(folder.filePath(u"file/cookies"_s));
         QSignalSpy written(&jar, &PersistentCookieJar::written);
         jar.setCookiesFromUrl({QNetworkCookie("sid", "first")}, server);
-        QTRY_COMPARE(written.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(written.size(), 1, kiv::test::diskPatience);
         QVERIFY(!written.first().first().toString().isEmpty());
         QFile::remove(folder.filePath(u"file"_s));
         jar.save();
-        QTRY_COMPARE(written.last().first().toString(), QString());
+        QTRY_COMPARE_WITH_TIMEOUT(written.last().first().toString(), QString(),
+                                  kiv::test::diskPatience);
     }
 
     void answersMayOutliveTheProgram() {

@@ -52,7 +52,7 @@ private Q_SLOTS:
         f.store->chat()->setDraft(text);
         f.clock.advance(age);
         const QString file = f.folder.filePath(u"drafts"_s);
-        QTRY_VERIFY(age == 0ms || QFile::exists(file));
+        QTRY_VERIFY_WITH_TIMEOUT(age == 0ms || QFile::exists(file), kiv::test::diskPatience);
         QVERIFY(age > 0ms || !QFile::exists(file));
         f.restart();
         const auto others = QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup;
@@ -82,13 +82,14 @@ private Q_SLOTS:
             drafts.setText(u"u"_s, u"c"_s, text);
             clock.advance(100ms);
         }
-        QTRY_VERIFY(QFile::exists(path));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), kiv::test::diskPatience);
         QCOMPARE(Drafts(clock, path).text(u"u"_s, u"c"_s), text);
         // A pause is enough; several changes meanwhile are written once it is over.
         drafts.setText(u"u"_s, u"c"_s, u"y"_s);
         drafts.setText(u"u"_s, u"c"_s, u"z"_s);
         clock.advance(150ms);
-        QTRY_COMPARE(Drafts(clock, path).text(u"u"_s, u"c"_s), u"z"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(Drafts(clock, path).text(u"u"_s, u"c"_s), u"z"_s,
+                                  kiv::test::diskPatience);
     }
 
     void staysWithItsPerson() {
@@ -205,7 +206,7 @@ private Q_SLOTS:
                              QRegularExpression(u"^What is being typed cannot be saved: ."_s));
         drafts.setText(u"u"_s, u"c"_s, u"text"_s);
         clock.advance(1s);
-        QTRY_COMPARE(reports.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(reports.size(), 1, kiv::test::diskPatience);
         QVERIFY(!reports.last().isEmpty());
         QCOMPARE(drafts.text(u"u"_s, u"c"_s), u"text"_s);
         QTest::ignoreMessage(QtWarningMsg,
@@ -222,7 +223,7 @@ private Q_SLOTS:
         QVERIFY(f.signIn());
         f.store->chat()->setDraft(u"before"_s);
         f.clock.advance(1s);
-        QTRY_VERIFY(QFile::exists(path));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path), kiv::test::diskPatience);
         const QByteArray before = test::contentOf(path);
         test::fillDisk();
         QSignalSpy told(f.store->storage(), &StorageRoom::troubleChanged);
@@ -233,13 +234,13 @@ private Q_SLOTS:
             f.clock.advance(6s);
             QTest::qWait(20); // for the thread that writes
         }
-        QTRY_COMPARE(told.size(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(told.size(), 1, kiv::test::diskPatience);
         QVERIFY(f.store->storage()->trouble().startsWith(u"What you type is kept only while"_s));
         QVERIFY(f.store->chat()->draft().endsWith(u" 3"_s));
         QCOMPARE(test::contentOf(path), before); // nothing half written
         test::clearDisk();
         f.clock.advance(5s);
-        QTRY_COMPARE(told.size(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(told.size(), 2, kiv::test::diskPatience);
         QCOMPARE(f.store->storage()->trouble(), QString());
         QVERIFY(test::contentOf(path).contains("text 3"));
     }

@@ -24,6 +24,9 @@ void putContent(const QString &path, const QByteArray &content);
 /// To be called first in main. Makes a disk of its own of so many kilobytes where the system allows
 /// it, and goes on without the rights of an administrator, who is never refused anything.
 void becomeOrdinaryUser(int diskKilobytes = 0);
+/// How long a file may take to be written, in milliseconds: others keep the disk busy.
+constexpr int diskPatience = 30'000;
+
 /// The folder of that disk; empty where there can be none.
 QString smallDisk();
 /// Takes all room of the disk, and gives it back.
