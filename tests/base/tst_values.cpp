@@ -150,6 +150,9 @@ private Q_SLOTS:
         QTest::newRow("round and small numbers")
             << QByteArray("[1000000,1200000,1e15,1e20,0.0001,0.00001]")
             << u"[1000000.0,1200000.0,1000000000000000.0,1e+20,0.0001,1e-05]"_s;
+        QTest::newRow("whole numbers of more than 64 bits")
+            << QByteArray("[18446744935577450000,-18446744935577450000,\"1\\\"9\"]")
+            << u"[1.844674493557745e+19,-1.844674493557745e+19,\"1\"9\"]"_s;
         QTest::newRow("keys sorted")
             << QByteArray(R"({"b":null,"a":"x\"y"})") << u"{\"a\":\"x\"y\",\"b\":null}"_s;
         QTest::newRow("booleans are numbers") << QByteArray("[true,false]") << u"[1.0,0.0]"_s;
