@@ -1,6 +1,6 @@
 // The account: the profile field by field, plan and wallet, picture and password.
 
-#include "StoreFixture.h"
+#include "AccountFixture.h"
 
 #include <QJsonArray>
 #include <QSignalSpy>
@@ -9,48 +9,7 @@ using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
-using test::StoreFixture;
-
-namespace {
-
-const QString profileGet = u"GET api/v2/user/profile"_s;
-const QString profilePatch = u"PATCH api/v2/user/profile"_s;
-const QString planGet = u"GET api/v2/user/plan"_s;
-const QString walletGet = u"GET api/v2/user/wallet"_s;
-const QString passwordPost = u"POST api/v2/user/password"_s;
-const QString avatarPost = u"POST api/v2/user/avatar"_s;
-
-/// A signed-in person on their account pages.
-class AccountFixture : public StoreFixture {
-public:
-    AccountFixture() {
-        backend.answer(profileGet, R"({"email":"ada@example.org","full_name":"Ada Byron",
-            "handle":"ada","jobTitle":"Engineer","preferred_sectors":["Energy"],
-            "notification_email":true,"goals_md":"Ship"})");
-        backend.answer(profilePatch, "{}");
-        backend.answer(planGet, R"({"name":"Team","token_limit":1000,"spent_tokens":250})");
-        backend.answer(walletGet, R"({"wallet":{"balance_credits":12.5}})");
-    }
-    bool open() {
-        if (!signIn())
-            return false;
-        store->layout()->openAccount();
-        return test::soon([this] {
-            return account().profileLoad() == LoadState::Ready &&
-                   account().budgetLoad() == LoadState::Ready;
-        });
-    }
-    AccountRoom &account() { return *store->account(); }
-    AccountField &field(const QString &key) { return *account().field(key); }
-    QList<QJsonObject> patches() {
-        QList<QJsonObject> bodies;
-        for (const auto &request : backend.requests(profilePatch))
-            bodies.append(request.body);
-        return bodies;
-    }
-};
-
-} // namespace
+using namespace kiv::test;
 
 class AccountTest : public QObject {
     Q_OBJECT
