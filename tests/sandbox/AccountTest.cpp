@@ -5,7 +5,7 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 void CallTest::initTestCase() {
     m_voice = std::make_unique<VoiceFixture>();
@@ -19,4 +19,4 @@ void CallTest::cleanupTestCase() {
     QCOMPARE(m_voice->sandbox().complaints(), QByteArray());
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// Tests of a server that is called, and that ends without a complaint. After each of them nobody
 /// is on the line.
@@ -20,4 +20,4 @@ protected:
     std::unique_ptr<VoiceFixture> m_voice;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kiv::testing {
+namespace kiv::test {
 
 namespace {
 
@@ -112,4 +112,4 @@ bool Caller::waitForClose(int patienceMs) {
     return QTest::qWaitFor([this] { return m_closed; }, patienceMs);
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWebSocket>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// A caller by hand: opens the socket of a minted call and keeps every message that comes.
 class Caller {
@@ -43,4 +43,4 @@ private:
     bool m_closed = false;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -2,7 +2,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kiv::testing {
+namespace kiv::test {
 
 namespace {
 
@@ -81,4 +81,4 @@ void Client::keepSession(const Response &response) {
     headers.emplace("Cookie", response.cookie.split(';').constFirst().toStdString());
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -6,7 +6,7 @@
 
 #include <httplib.h>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 struct Response {
     int status = 0; ///< 0 when the connection gave no reply
@@ -53,4 +53,8 @@ private:
     httplib::Client m_client;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test
+
+namespace kiv {
+namespace testing = test; // of tests/soak
+}

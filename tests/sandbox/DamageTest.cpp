@@ -12,7 +12,6 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
 using namespace kiv::test;
 
 using Strike = std::function<void(const QString &path)>;

@@ -12,7 +12,7 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 class FaultsTest : public ServerTest {
     Q_OBJECT

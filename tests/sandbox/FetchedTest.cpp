@@ -9,7 +9,7 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 class FetchedTest : public QObject {
     Q_OBJECT

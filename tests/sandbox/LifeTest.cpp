@@ -9,7 +9,7 @@
 #include <csignal>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 class LifeTest : public QObject {
     Q_OBJECT

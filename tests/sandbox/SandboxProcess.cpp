@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kiv::testing {
+namespace kiv::test {
 
 namespace {
 
@@ -41,4 +41,4 @@ bool SandboxProcess::closeInput() {
            m_process.exitCode() == 0;
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -4,7 +4,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// A real kiv-sandbox as a child, in a data folder that may outlive it. Answers have no pauses
 /// unless `arguments` say otherwise.
@@ -31,4 +31,4 @@ private:
     QJsonObject m_first;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 void ServerTest::initTestCase() {
     m_sandbox = std::make_unique<SandboxProcess>(m_folder.path(), m_arguments);
@@ -22,4 +22,4 @@ const QString &ServerTest::kivChat() {
     return m_kivChat;
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

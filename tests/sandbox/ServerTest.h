@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// Tests of a server of their own, which ends without a complaint, and of one person who is signed
 /// in there.
@@ -35,4 +35,4 @@ private:
     QString m_kivChat;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test

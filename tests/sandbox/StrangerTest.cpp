@@ -8,7 +8,7 @@
 #include <future>
 
 using namespace Qt::StringLiterals;
-using namespace kiv::testing;
+using namespace kiv::test;
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 using namespace std::chrono_literals;
 
-namespace kiv::testing {
+namespace kiv::test {
 
 namespace {
 
@@ -89,4 +89,4 @@ QList<QJsonObject> Stream::rows() {
     return rowsIn(bytes());
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

@@ -6,7 +6,7 @@
 #include <mutex>
 #include <thread>
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// Reads a chat's live stream on a thread and keeps the bytes as they came.
 class Stream {
@@ -39,4 +39,4 @@ private:
     std::thread m_thread;
 };
 
-} // namespace kiv::testing
+} // namespace kiv::test

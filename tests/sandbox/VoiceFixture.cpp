@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kiv::testing {
+namespace kiv::test {
 
 VoiceFixture::VoiceFixture() {
     // What is in the script does not matter here, only that it is there.
@@ -85,4 +85,4 @@ QString heardIn(const QJsonObject &userTranscript) {
     return userTranscript[u"user_transcription_event"_s][u"user_transcript"_s].toString();
 }
 
-} // namespace kiv::testing
+} // namespace kiv::test

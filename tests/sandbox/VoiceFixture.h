@@ -4,7 +4,7 @@
 #include "sandbox/Client.h"
 #include "sandbox/SandboxProcess.h"
 
-namespace kiv::testing {
+namespace kiv::test {
 
 /// A server that can be called, and somebody signed in there who calls. It has a voice client's
 /// script of its own and no recogniser.
@@ -47,4 +47,4 @@ private:
 QString saidIn(const QJsonObject &agentResponse);
 QString heardIn(const QJsonObject &userTranscript);
 
-} // namespace kiv::testing
+} // namespace kiv::test
