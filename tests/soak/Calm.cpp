@@ -102,9 +102,9 @@ QString accountFor(Stage &stage, const Chat &chat, const QList<Stored> &stored) 
         }) >= 0;
         if (isUnsent && rows.size() >= sent.most && !sent.isMistimed)
             return u"%1 is stored and shown as not sent"_s.arg(name);
-        const bool isTyped = draft.contains(name);
+        const bool isTyped = Ledger::carries(draft, number);
         // Of a long conversation only the newest rows are asked for.
-        sent.isStored = sent.isStored || !rows.isEmpty();
+        sent.isStored = sent.isStored || !rows.isEmpty() || !sent.rows.isEmpty();
         if (!sent.isStored && !isUnsent && !isTyped && !sent.isGone)
             return u"%1 is lost; the draft is \"%2\""_s.arg(name, draft.right(200));
     }

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QList<int> numbersIn(const QString &text) {
-    static const QRegularExpression tag(u"#k(\\d+)\\b"_s);
+    static const QRegularExpression tag(u"#k(\\d+)"_s);
     QList<int> numbers;
     for (auto match = tag.globalMatch(text); match.hasNext();)
         numbers.append(match.next().capturedView(1).toInt());
@@ -21,6 +21,10 @@ QList<int> numbersIn(const QString &text) {
 int Ledger::numberIn(const QString &text) {
     const QList<int> numbers = numbersIn(text);
     return numbers.isEmpty() ? 0 : numbers.constLast();
+}
+
+bool Ledger::carries(const QString &text, int number) {
+    return numbersIn(text).contains(number);
 }
 
 QString Ledger::tag(int number) {

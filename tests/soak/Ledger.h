@@ -38,6 +38,7 @@ struct Sent {
 class Ledger {
 public:
     static int numberIn(const QString &text);
+    static bool carries(const QString &text, int number);
     static QString tag(int number);
 
     /// The text of a new message, with its number.

@@ -16,10 +16,13 @@
 
 namespace kiv::soak {
 
+using namespace std::chrono_literals;
+
 namespace {
 
 MainThread *meter = nullptr;
 constexpr qsizetype mostHolds = 20;
+constexpr auto noticed = 50ms;
 
 } // namespace
 
@@ -56,6 +59,7 @@ MainThread::Reading MainThread::read() const {
     rusage usage{};
     ::getrusage(RUSAGE_THREAD, &usage);
     reading.waits = usage.ru_nvcsw;
+    reading.pooledQueued = m_pauses.pooledQueued();
     reading.time = Nanoseconds(m_clock.nsecsElapsed());
     return reading;
 }
@@ -107,15 +111,23 @@ void MainThread::endPass() {
     // Without a wait of its own all that is not work is time that others had the processor, also
     // where the kernel does not know of them.
     const long waits = end.waits - m_begin.waits;
-    const Nanoseconds held =
-        waits > 0 ? span(&Reading::time) - span(&Reading::queued) : span(&Reading::worked);
+    const Nanoseconds worked = span(&Reading::worked);
+    Nanoseconds held = worked;
+    if (waits > 0) {
+        const Nanoseconds waited = span(&Reading::time) - span(&Reading::queued) - worked;
+        held += std::max(waited - std::max(span(&Reading::pooledQueued), 0ns), 0ns);
+    }
+    if (held > noticed)
+        held -=
+            std::min(m_pauses.stoodStill(Pauses::SteadyClock::now() - span(&Reading::time)), held);
     const auto isOver = [&](int milliseconds) {
         return held > std::chrono::milliseconds(milliseconds) ? 1 : 0;
     };
     m_over16 += isOver(16);
     m_over50 += isOver(50);
     m_over100 += isOver(100);
-    const Hold hold{held, span(&Reading::worked), waits, m_doing, m_passes};
+    m_mostWorked = std::max(m_mostWorked, worked);
+    const Hold hold{held, worked, waits, m_doing, m_passes};
     if (held > m_worst.held)
         m_worst = hold;
     if (isOver(100) && m_holds.size() < mostHolds)
@@ -132,7 +144,7 @@ MainThread::OwnDoing::~OwnDoing() {
     if (!m_isOutermost)
         return;
     const Reading end = m_thread.read();
-    for (auto part : {&Reading::time, &Reading::worked, &Reading::queued})
+    for (auto part : {&Reading::time, &Reading::worked, &Reading::queued, &Reading::pooledQueued})
         m_thread.m_own.*part += end.*part - m_thread.m_ownBegin.*part;
     m_thread.m_isOwn = false;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "soak/Pauses.h"
+
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QList>
@@ -12,8 +14,9 @@ class QEvent;
 namespace kiv::soak {
 
 /// How long the main thread is held: from the first thing that it does after waiting for events to
-/// where it waits again. The time that it stood in the queue for a processor does not count, nor
-/// does what the run itself does meanwhile.
+/// where it waits again. What the machine takes away does not count: the time that it stood in the
+/// queue for a processor, or waited for a thread of a pool that stood there, or that a processor
+/// stood still. Nor does what the run itself does meanwhile.
 class MainThread : public QObject {
     Q_OBJECT
 public:
@@ -50,6 +53,8 @@ public:
     };
 
     const Hold &worst() const { return m_worst; }
+    /// The most that it worked in one pass, on a processor.
+    Nanoseconds mostWorked() const { return m_mostWorked; }
     /// The first passes of more than 100 ms.
     const QList<Hold> &holds() const { return m_holds; }
     int passes() const { return m_passes; }
@@ -66,12 +71,14 @@ private:
         Nanoseconds time{0};
         Nanoseconds worked{0};
         Nanoseconds queued{0};
+        Nanoseconds pooledQueued{0};
         long waits = 0; ///< how often it gave the processor up by itself
     };
     Reading read() const;
     void note(QByteArray what);
     void endPass();
 
+    Pauses m_pauses;
     QElapsedTimer m_clock;
     int m_schedstat = -1;
     int m_depth = 0;
@@ -84,6 +91,7 @@ private:
     Nanoseconds m_longest{0};
     QByteArray m_doing;
     Hold m_worst;
+    Nanoseconds m_mostWorked{0};
     QList<Hold> m_holds;
     int m_passes = 0;
     int m_over16 = 0;

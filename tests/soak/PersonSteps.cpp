@@ -143,14 +143,20 @@ void clearDraft(Stage &stage) {
     leaveDraft(stage);
 }
 
+/// A file of the person's.
+QUrl notes(Stage &stage, int number) {
+    const MainThread::OwnDoing writing(stage.thread);
+    const QString path = stage.folder.filePath(u"notes-%1.txt"_s.arg(number));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QByteArray(stage.random.between(1, 60'000), 'n'));
+    return QUrl::fromLocalFile(path);
+}
+
 void attach(Stage &stage) {
     QList<QUrl> files;
     for (int left = stage.random.between(1, 3); left > 0; --left) {
-        const QString path = stage.folder.filePath(u"notes-%1.txt"_s.arg(left));
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(QByteArray(stage.random.between(1, 60'000), 'n'));
-        files.append(QUrl::fromLocalFile(path));
+        files.append(notes(stage, left));
     }
     stage.store().attachments()->uploadChatFiles(files);
 }

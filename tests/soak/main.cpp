@@ -61,7 +61,9 @@ int main(int argc, char **argv) {
     const QCommandLineOption hold(u"hold"_s,
                                   u"How long the main thread may be held, in milliseconds."_s,
                                   u"number"_s, u"100"_s);
-    parser.addOptions({seed, minutes, hold});
+    const QCommandLineOption shared(
+        u"shared"_s, u"Others use this machine: only what the main thread works counts as held."_s);
+    parser.addOptions({seed, minutes, hold, shared});
     parser.process(application);
     const quint64 chosen = parser.isSet(seed) ? parser.value(seed).toULongLong()
                                               : QRandomGenerator::system()->generate();
@@ -69,6 +71,7 @@ int main(int argc, char **argv) {
                 qPrintable(parser.value(minutes)));
     std::fflush(stdout);
     kiv::soak::Soak run(chosen, std::chrono::seconds(qRound(parser.value(minutes).toDouble() * 60)),
-                        std::chrono::milliseconds(parser.value(hold).toInt()));
+                        {.longest = std::chrono::milliseconds(parser.value(hold).toInt()),
+                         .onlyWork = parser.isSet(shared)});
     return run.run() ? 0 : 1;
 }
