@@ -6,10 +6,24 @@
 #include <QQmlEngine>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <QtConcurrentRun>
 
 namespace kiv::ui {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Nothing, or why it failed.
+QString written(const QString &file, const QByteArray &content) {
+    QSaveFile target(file);
+    const bool isSaved = target.open(QIODevice::WriteOnly) &&
+                         target.write(content) == content.size() && target.flush() &&
+                         target.commit();
+    return isSaved ? QString() : target.errorString();
+}
+
+} // namespace
 
 FileSaver::FileSaver(QObject *parent)
     : QObject(parent),
@@ -43,15 +57,13 @@ void FileSaver::ask(QWindow *window, const Format &format, const QString &name,
 
 void FileSaver::save(const QUrl &file) {
     m_folder = file.adjusted(QUrl::RemoveFilename | QUrl::StripTrailingSlash);
-    QSaveFile target(file.toLocalFile());
-    const bool isSaved = target.open(QIODevice::WriteOnly) &&
-                         target.write(m_content) == m_content.size() && target.flush() &&
-                         target.commit();
-    m_content.clear();
-    if (isSaved)
-        Q_EMIT saved(tr("Saved %1").arg(file.fileName()), m_folder);
-    else
-        Q_EMIT failed(tr("%1 could not be saved: %2").arg(file.fileName(), target.errorString()));
+    QtConcurrent::run(written, file.toLocalFile(), std::exchange(m_content, QByteArray()))
+        .then(this, [this, name = file.fileName(), folder = m_folder](const QString &failure) {
+            if (failure.isEmpty())
+                Q_EMIT saved(tr("Saved %1").arg(name), folder);
+            else
+                Q_EMIT failed(tr("%1 could not be saved: %2").arg(name, failure));
+        });
 }
 
 } // namespace kiv::ui

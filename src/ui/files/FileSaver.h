@@ -9,7 +9,7 @@
 namespace kiv::ui {
 
 /// Puts what leaves the program into a file that the person names. The file is there whole or not
-/// at all.
+/// at all. A slow disk holds nobody up.
 class FileSaver : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
