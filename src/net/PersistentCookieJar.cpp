@@ -38,8 +38,8 @@ QList<QNetworkCookie> fromJson(const QJsonArray &entries) {
         QList<QNetworkCookie> cookies = QNetworkCookie::parseCookies(form);
         for (QNetworkCookie &cookie : cookies)
             cookie.setDomain(host);
-        cookies.removeIf([&](const auto &cookie) { return host.isEmpty() || isExpired(cookie); });
-        all += cookies;
+        if (!host.isEmpty())
+            all += cookies;
     }
     return all;
 }

@@ -204,6 +204,16 @@ private Q_SLOTS:
         APIClient restarted(at.clock, at.connectivity, file);
         restarted.setBaseUrl(at.server.url());
         QCOMPARE(cookieAt(at, restarted), "new=1"_ba);
+        // Nor does it stay in the file.
+        at.server.answer(200, "{}", {"Set-Cookie: more=1; Max-Age=60"});
+        auto call = post(restarted);
+        QVERIFY(call.finish());
+        const auto kept = [&] {
+            QFile in(file);
+            return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+        };
+        QTRY_VERIFY(kept().contains("more=1"));
+        QVERIFY(kept().contains("new=1") && !kept().contains("old=1"));
     }
 
     void aDamagedFileCountsAsEmpty_data() {
