@@ -2,12 +2,13 @@
 #include "support/PrivateBus.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCall>
+#include <QDBusPendingReply>
 #include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -103,6 +104,32 @@ private Q_SLOTS:
         m_bus.connection(u"desktop"_s).asyncCall(call);
         QVERIFY(chosen.wait());
         QCOMPARE(chosen.first().first().toString(), u"ask-kiv"_s);
+    }
+
+    /// Nothing of the program is on the bus but the calls of the desktop's interface: no signal,
+    /// which everybody would hear, tells of a link.
+    void nothingElseIsOnTheBus() {
+        Instance first(m_bus.connection(u"first"_s), {});
+        QCOMPARE(first.claim({}, {}, 1s), Instance::Place::First);
+        const QDBusPendingReply<QString> reply =
+            m_bus.connection(u"desktop"_s)
+                .asyncCall(QDBusMessage::createMethodCall(u"ai.kiv.Desktop"_s, u"/ai/kiv/Desktop"_s,
+                                                          u"org.freedesktop.DBus.Introspectable"_s,
+                                                          u"Introspect"_s));
+        QTRY_VERIFY(reply.isFinished());
+        QStringList offered;
+        QXmlStreamReader xml(reply.value());
+        for (QString interface; !xml.atEnd(); xml.readNext()) {
+            const QString name = xml.attributes().value("name"_L1).toString();
+            if (xml.name() == "interface"_L1)
+                interface = name;
+            const bool isOffer = xml.isStartElement() && xml.name() != "arg"_L1 &&
+                                 xml.name() != "annotation"_L1 && name != interface;
+            if (isOffer && !interface.startsWith("org.freedesktop.DBus."_L1))
+                offered.append(name);
+        }
+        offered.sort();
+        QCOMPARE(offered, QStringList({u"Activate"_s, u"ActivateAction"_s, u"Open"_s}));
     }
 
     void names() {
