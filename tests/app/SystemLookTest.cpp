@@ -3,7 +3,6 @@
 #include "support/PrivateBus.h"
 
 #include <QDBusContext>
-#include <QDBusMessage>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>

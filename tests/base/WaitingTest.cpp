@@ -5,7 +5,6 @@
 #include "base/Work.h"
 #include "support/ManualClock.h"
 
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

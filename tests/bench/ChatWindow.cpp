@@ -1,5 +1,7 @@
 #include "ChatWindow.h"
 
+#include <QTextDocument>
+
 namespace kiv::bench {
 
 using namespace Qt::StringLiterals;
@@ -46,6 +48,16 @@ where region = '' and grp = %1;
 
 )"_s;
     return section.arg(number);
+}
+
+double documentTime(const QString &markdown) {
+    const double start = ui::mainThreadTime();
+    QTextDocument document;
+    document.setMarkdown(markdown);
+    document.setTextWidth(600);
+    if (document.size().isEmpty())
+        qFatal("The document shows nothing");
+    return ui::mainThreadTime() - start;
 }
 
 } // namespace kiv::bench

@@ -25,4 +25,7 @@ private:
 /// A piece of an answer with every kind of block; no two are the same.
 QString mixedSection(int number);
 
+/// What a QTextDocument takes to read a text as markdown and to lay it out.
+double documentTime(const QString &markdown);
+
 } // namespace kiv::bench

@@ -9,8 +9,6 @@
 #define PCRE2_CODE_UNIT_WIDTH 16
 #include <pcre2.h>
 
-#include <memory>
-
 namespace kiv::bench {
 
 using namespace Qt::StringLiterals;

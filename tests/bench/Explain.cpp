@@ -7,7 +7,6 @@
 #include "kiv-canvas/Explain.h"
 #include "support/HostileAnswers.h"
 
-#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
@@ -18,23 +17,12 @@ namespace kiv::bench {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-double once(const std::function<void()> &step) {
-    QElapsedTimer timer;
-    timer.start();
-    step();
-    return static_cast<double>(timer.nsecsElapsed());
-}
-
-} // namespace
-
 QList<Row> explain() {
     Row slowest{.name = u"explain"_s, .target = 1e9};
     for (const auto &[name, text] : test::hostileAnswers()) {
         const QByteArray request =
             QJsonDocument(QJsonObject{{u"text"_s, text}}).toJson(QJsonDocument::Compact);
-        const double time = once([&] {
+        const double time = measureOnce([&] {
             auto reply = tools::explain(request, QUrl(u"https://kiv.example"_s));
             benchmark::DoNotOptimize(reply);
         });
@@ -42,7 +30,7 @@ QList<Row> explain() {
             continue;
         slowest.figure = time;
         slowest.peer = u"JSON parse, "_s + QString::fromUtf8(name).simplified().left(16);
-        slowest.peerFigure = once([&] {
+        slowest.peerFigure = measureOnce([&] {
             const JsonDocument document(request);
             auto value = document.root().toJVal();
             benchmark::DoNotOptimize(value);

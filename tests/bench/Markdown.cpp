@@ -4,7 +4,6 @@
 
 #include "text/MDParser.h"
 
-#include <QElapsedTimer>
 #include <QTextDocument>
 
 #include <benchmark/benchmark.h>
@@ -98,14 +97,13 @@ double cmarkTime(const QByteArray &utf8) {
     });
 }
 
-/// Once: it takes many seconds.
+/// It takes many seconds.
 double textDocumentTime(const QString &text) {
-    QElapsedTimer timer;
-    timer.start();
-    QTextDocument document;
-    document.setMarkdown(text);
-    benchmark::DoNotOptimize(document);
-    return static_cast<double>(timer.nsecsElapsed());
+    return measureOnce([&] {
+        QTextDocument document;
+        document.setMarkdown(text);
+        benchmark::DoNotOptimize(document);
+    });
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 #include "Measure.h"
 
+#include <QElapsedTimer>
+
+#include <algorithm>
+
 #include <benchmark/benchmark.h>
 
 namespace kiv::bench {
@@ -40,6 +44,18 @@ double measure(const QString &name, const std::function<void()> &step) {
     MedianReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return reporter.nanoseconds();
+}
+
+double measureOnce(const std::function<void()> &step) {
+    QElapsedTimer timer;
+    timer.start();
+    step();
+    return static_cast<double>(timer.nsecsElapsed());
+}
+
+double median(QList<double> figures) {
+    std::ranges::sort(figures);
+    return figures.at(figures.size() / 2);
 }
 
 } // namespace kiv::bench

@@ -26,6 +26,10 @@ struct Row {
 
 /// Nanoseconds of one call: the median of several runs, each long enough to be told from noise.
 double measure(const QString &name, const std::function<void()> &step);
+/// Nanoseconds of a call that is too long to be made again and again.
+double measureOnce(const std::function<void()> &step);
+/// The middle one of several figures.
+double median(QList<double> figures);
 
 QList<Row> answerToScene();
 QList<Row> classify();

@@ -2,11 +2,8 @@
 
 #include "Measure.h"
 
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
-
-#include <algorithm>
 
 namespace kiv::bench {
 
@@ -32,19 +29,19 @@ const QByteArray answer = R"(Spending by line.
 double processTime(const QString &program, const QStringList &arguments) {
     QList<double> times;
     for (int run = 0; run <= repetitions; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        QProcess process;
-        process.start(program, arguments);
-        process.write(answer);
-        process.closeWriteChannel();
-        if (!process.waitForFinished() || process.exitCode() != 0)
-            qFatal("%s fails: %s", qPrintable(program), process.readAllStandardError().constData());
+        const double time = measureOnce([&] {
+            QProcess process;
+            process.start(program, arguments);
+            process.write(answer);
+            process.closeWriteChannel();
+            if (!process.waitForFinished() || process.exitCode() != 0)
+                qFatal("%s fails: %s", qPrintable(program),
+                       process.readAllStandardError().constData());
+        });
         if (run > 0)
-            times.append(static_cast<double>(timer.nsecsElapsed()));
+            times.append(time);
     }
-    std::ranges::sort(times);
-    return times.at(times.size() / 2);
+    return median(times);
 }
 
 } // namespace

@@ -10,7 +10,6 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include <algorithm>
 #include <ctime>
 #include <memory>
 
@@ -74,8 +73,7 @@ double timeOf(const std::function<void()> &reset, const std::function<void()> &s
         if (run > 0)
             times.append(1e9 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
-    std::ranges::sort(times);
-    return times.at(times.size() / 2);
+    return median(times);
 }
 
 /// A window off screen with one item.

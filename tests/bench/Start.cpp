@@ -6,8 +6,6 @@
 
 #include <QTest>
 
-#include <algorithm>
-
 namespace kiv::bench {
 
 using namespace Qt::StringLiterals;
@@ -21,11 +19,6 @@ constexpr double memoryTarget = 1.5;
 
 QStringList programArguments() {
     return {u"--profile"_s, signedInProfile()};
-}
-
-double median(QList<double> figures) {
-    std::ranges::sort(figures);
-    return figures.at(figures.size() / 2);
 }
 
 struct Start {

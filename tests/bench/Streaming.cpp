@@ -5,10 +5,8 @@
 #include "Measure.h"
 
 #include "net/ChatRecords.h"
+#include "net/Decode.h"
 #include "net/LineSplitter.h"
-#include "net/Record.h"
-
-#include <QTextDocument>
 
 #include <numeric>
 
@@ -41,11 +39,6 @@ double mean(const QList<double> &times) {
     return std::accumulate(times.begin(), times.end(), 0.0) / static_cast<double>(times.size());
 }
 
-double median(QList<double> times) {
-    std::ranges::sort(times);
-    return times.at(times.size() / 2);
-}
-
 /// The cost of each piece of an answer to a question asked in a fresh window.
 QList<double> pieceTimes(const QString &answer) {
     ChatWindow window;
@@ -70,18 +63,10 @@ QList<double> pieceTimes(const QString &answer) {
 }
 
 /// The last pieces where the text is laid out as a whole each time.
-double documentTime(const QString &answer) {
+double wholeTime(const QString &answer) {
     QList<double> times;
-    for (int piece = pieces - some; piece < pieces; ++piece) {
-        const QString text = grown(answer, piece);
-        const double start = ui::mainThreadTime();
-        QTextDocument document;
-        document.setMarkdown(text);
-        document.setTextWidth(600);
-        if (document.size().isEmpty())
-            qFatal("The document shows nothing");
-        times.append(ui::mainThreadTime() - start);
-    }
+    for (int piece = pieces - some; piece < pieces; ++piece)
+        times.append(documentTime(grown(answer, piece)));
     return mean(times);
 }
 
@@ -96,10 +81,9 @@ QList<Row> streaming() {
         first.append(mean(times.first(some)));
         last.append(mean(times.last(some)));
     }
-    return {
-        {u"streaming, last"_s, median(last), u"first 20 pieces"_s, median(first),
-         2 * median(first)},
-        {u"streaming, last"_s, median(last), u"setMarkdown each"_s, documentTime(text), eachMost}};
+    return {{u"streaming, last"_s, median(last), u"first 20 pieces"_s, median(first),
+             2 * median(first)},
+            {u"streaming, last"_s, median(last), u"setMarkdown each"_s, wholeTime(text), eachMost}};
 }
 
 } // namespace kiv::bench

@@ -4,7 +4,6 @@
 #include "support/ManualClock.h"
 #include "voice/LocalSpeech.h"
 
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <csignal>

@@ -6,7 +6,6 @@
 #include <QJsonObject>
 
 #include <csignal>
-#include <cstdio>
 #include <iostream>
 #include <unistd.h>
 

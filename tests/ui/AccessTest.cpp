@@ -1,5 +1,6 @@
 #include "ui/EveryPlace.h"
 #include "ui/SceneView.h"
+#include "ui/Workspace.h"
 
 #include <QAccessible>
 #include <QtTest>

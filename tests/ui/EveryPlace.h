@@ -1,8 +1,8 @@
 #pragma once
 
+#include "store/AppearanceRoom.h"
 #include "store/Enums.h"
 #include "ui/Gallery.h"
-#include "ui/Workspace.h"
 
 #include <functional>
 

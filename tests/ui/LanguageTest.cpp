@@ -2,6 +2,7 @@
 #include "language/Translations.h"
 #include "ui/EveryPlace.h"
 #include "ui/SeenText.h"
+#include "ui/Workspace.h"
 
 #include <QtTest>
 

@@ -14,7 +14,6 @@
 
 #include <cmath>
 #include <complex>
-#include <cstring>
 #include <numbers>
 
 using namespace Qt::StringLiterals;
