@@ -197,47 +197,50 @@ void FeedView::rowGrew() {
         polish();
 }
 
+/// Gives the rows in sight their items and their own heights; those that have none yet wait for
+/// another frame when this thread has worked `until` then.
+FeedView::Sight FeedView::layOutSight(double until) {
+    Sight sight{.first = m_heights.rowAt(top() - reserve - m_origin), .isSettled = true};
+    const double lower = top() + m_flickable->height() + reserve;
+    int row = sight.first;
+    for (; row < m_heights.count() && m_origin + m_heights.top(row) <= lower; ++row) {
+        const QQuickItem *item = m_items.find(row);
+        const bool isMade = item && item->width() == width();
+        if (!isMade && workingTime() > until) {
+            sight.isWhole = false;
+            continue;
+        }
+        const double height = itemOf(row)->implicitHeight();
+        if (height != m_heights.height(row)) {
+            setRowHeight(row, height);
+            sight.isSettled = false;
+        }
+    }
+    sight.end = row;
+    return sight;
+}
+
 void FeedView::updatePolish() {
     if (!m_flickable || !m_rows)
         return;
     m_layingOut = true;
     closeGap();
     const bool isMoved = m_following && !m_held;
-    const double start = workingTime();
-    bool isSettled = false;
-    bool isWhole = true;
-    int first = 0;
-    int last = 0;
-    for (int pass = 0; pass < mostPasses && !isSettled; ++pass) {
+    const double until = workingTime() + makingTime;
+    Sight sight;
+    for (int pass = 0; pass < mostPasses && !sight.isSettled; ++pass) {
         setExtents();
         if (isMoved)
             moveTo(end());
-        isSettled = true;
-        first = m_heights.rowAt(top() - reserve - m_origin);
-        const double lower = top() + m_flickable->height() + reserve;
-        for (last = first; last < m_heights.count(); ++last) {
-            if (m_origin + m_heights.top(last) > lower)
-                break;
-            const QQuickItem *item = m_items.find(last);
-            const bool isMade = item && item->width() == width();
-            if (!isMade && workingTime() - start > makingTime) {
-                isWhole = false;
-                continue;
-            }
-            const double height = itemOf(last)->implicitHeight();
-            if (height != m_heights.height(last)) {
-                setRowHeight(last, height);
-                isSettled = false;
-            }
-        }
+        sight = layOutSight(until);
     }
-    m_items.putOutside(first, last);
+    m_items.putOutside(sight.first, sight.end);
     if (!m_held)
         moveOrigin();
     m_items.each([this](int row, QQuickItem *item) { item->setY(m_origin + m_heights.top(row)); });
     placeCursor();
     m_layingOut = false;
-    if (!isSettled || !isWhole) // this frame ends only when nothing asks for more of it
+    if (!sight.isSettled || !sight.isWhole) // this frame ends only when nothing asks for more of it
         QMetaObject::invokeMethod(this, &QQuickItem::polish, Qt::QueuedConnection);
 }
 

@@ -99,6 +99,14 @@ private:
         double height = 0;
     };
 
+    /// The rows in sight, or close to it, once they are laid out.
+    struct Sight {
+        int first = 0;
+        int end = 0;            ///< behind the last of them
+        bool isSettled = false; ///< none was higher or lower than thought
+        bool isWhole = true;    ///< none was left for another frame
+    };
+
     void reset();
     void insertRows(int first, int last);
     void removeRows(int first, int last);
@@ -121,6 +129,7 @@ private:
     void moveOrigin();
 
     QQuickItem *itemOf(int row);
+    Sight layOutSight(double until);
     void rowGrew();
     void setFollowing(bool following);
     void countUnseen();
