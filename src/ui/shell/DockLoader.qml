@@ -37,12 +37,6 @@ Loader {
         wanted = ""
     }
 
-    Behavior on shown {
-        NumberAnimation {
-            duration: place.store.layout.dockOpen ? Tokens.slide : Tokens.base
-            easing.type: place.store.layout.dockOpen ? Easing.OutQuint : Easing.InCubic
-        }
-    }
     sourceComponent: ChatDock {
         id: dock
 
@@ -61,6 +55,13 @@ Loader {
             onDragged: place => dock.store.layout.dragDock(dock.width - place)
             onSized: size => dock.store.layout.dragDock(size)
             onResetRequested: dock.store.layout.resetDock()
+        }
+    }
+
+    Behavior on shown {
+        NumberAnimation {
+            duration: place.store.layout.dockOpen ? Tokens.slide : Tokens.base
+            easing.type: place.store.layout.dockOpen ? Easing.OutQuint : Easing.InCubic
         }
     }
 }

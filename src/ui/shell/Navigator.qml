@@ -15,14 +15,14 @@ ListView {
 
     /// Somebody is looked for, perhaps with what is typed already.
     signal searchRequested(typed: string)
+    /// A new "project" or "agent" is asked for.
+    signal createRequested(kind: string)
 
     /// Whether a key gives a letter that a name can begin with.
     function isTyped(event: KeyEvent): bool {
         return event.text > " " && event.key !== Qt.Key_Delete && event.key !== Qt.Key_Backspace
             && (event.modifiers & ~Qt.ShiftModifier) === 0
     }
-    /// A new "project" or "agent" is asked for.
-    signal createRequested(kind: string)
 
     objectName: "navigator"
     model: scope.rail

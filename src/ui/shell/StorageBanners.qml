@@ -1,7 +1,6 @@
 import QtQuick
 import Kiv.Controls
 import Kiv.Store
-import Kiv.Tokens
 
 // What cannot be saved, and what was found damaged.
 Column {
