@@ -229,7 +229,8 @@ void Application::boot() {
         m_store->boot();
 }
 
-/// The key chain was unlocked late: nobody has to sign in who was signed in.
+/// The session has come late from the key chain, or the server is back: nobody has to sign in who
+/// was signed in.
 void Application::bootAgain() {
     if (m_store->scope()->auth() == store::AuthPhase::Anon && !m_store->session()->busy())
         m_store->boot();
