@@ -25,12 +25,10 @@ QList<qsizetype> cutsOf(const QString &text) {
     QList<qsizetype> cuts;
     for (qsizetype i = 1; i <= pieces; ++i) {
         qsizetype cut = text.size() * i / pieces;
-        if (cut > 0 && cut < text.size() && text.at(cut).isLowSurrogate()) {
+        if (cut > 0 && cut < text.size() && text.at(cut).isLowSurrogate())
             ++cut;
-        }
-        if (cut > 0 && (cuts.isEmpty() || cut > cuts.constLast())) {
+        if (cut > 0 && (cuts.isEmpty() || cut > cuts.constLast()))
             cuts.append(cut);
-        }
     }
     return cuts;
 }
@@ -92,12 +90,10 @@ void Answerer::work() {
             continue;
         }
         // The lock is held while a piece is stored, so that nothing grows once stop() returned.
-        if (!grow(next->first, queue.front())) {
+        if (!grow(next->first, queue.front()))
             queue.pop_front();
-        }
-        if (queue.empty()) {
+        if (queue.empty())
             m_growing.erase(next);
-        }
     }
 }
 
@@ -111,9 +107,8 @@ bool Answerer::grow(const ChatKey &key, Growth &growth) {
                              {{u"error"_s, u"lookup_failed"_s}}};
         }
         growth.cuts = cutsOf(growth.answer.content);
-        if (growth.cuts.isEmpty()) {
+        if (growth.cuts.isEmpty())
             return false;
-        }
         growth.due = std::max(growth.due, Clock::now());
     }
     try {
@@ -137,9 +132,8 @@ void Answerer::showUnstored(const ChatKey &key, Growth &growth, const std::excep
                              (isFull ? u": the disk is full."_s : u"."_s);
     growth.message.metadata = growth.answer.metadata;
     QJsonObject row = growth.message.rowObject(growth.origin);
-    if (growth.message.id == 0) {
+    if (growth.message.id == 0)
         row.insert(u"id"_s, QJsonValue());
-    }
     m_hub.publish(key, rowEvent(row));
 }
 
@@ -151,9 +145,8 @@ void Answerer::show(const ChatKey &key, Growth &growth, qsizetype length) {
     if (!whole) {
         metadata = {};
         const QJsonValue label = growth.answer.metadata.value(u"member_label"_s);
-        if (label.isString()) {
+        if (label.isString())
             metadata.insert(u"member_label"_s, label);
-        }
     }
     if (growth.message.id == 0) {
         growth.message = m_chats.append(key, u"assistant"_s, content, metadata);

@@ -41,14 +41,12 @@ QJsonObject ChatMessage::rowObject(const QString &origin) const {
     for (const QJsonValue &value : metadata.value(u"attachments"_s).toArray()) {
         QJsonObject attachment = value.toObject();
         const QString key = attachment.value(u"key"_s).toString();
-        if (!key.isEmpty()) {
+        if (!key.isEmpty())
             attachment.insert(u"url"_s, u"%1/files/%2"_s.arg(origin, key));
-        }
         attachments.append(attachment);
     }
-    if (!attachments.isEmpty()) {
+    if (!attachments.isEmpty())
         shown.insert(u"attachments"_s, attachments);
-    }
     return {{u"id"_s, id},
             {u"role"_s, role},
             {u"content"_s, content},
@@ -75,9 +73,8 @@ std::pair<ChatMessage, bool> ChatStore::appendOnce(const ChatKey &key, const QSt
                                                    const QJsonObject &metadata,
                                                    const QString &requestId) {
     return m_database.run([&](Sql &sql) {
-        if (requestId.isEmpty()) {
+        if (requestId.isEmpty())
             return std::pair(insert(sql, key, u"user"_s, content, metadata, QVariant()), true);
-        }
         const auto earlier =
             sql.row(columns + u" AND request_id = ?"_s, {key.account, key.chat, requestId});
         return earlier ? std::pair(messageOf(*earlier), false)

@@ -120,9 +120,8 @@ ssize_t Connection::read(char *data, size_t size) {
     }
     if (m_begin == m_end) {
         const ssize_t got = ::recv(m_socket, m_buffer.data(), m_buffer.size(), 0);
-        if (got <= 0) {
+        if (got <= 0)
             return got;
-        }
         m_begin = 0;
         m_end = static_cast<size_t>(got);
     }
@@ -136,29 +135,24 @@ ssize_t Connection::read(char *data, size_t size) {
 ssize_t Connection::write(const char *data, size_t size) {
     const size_t piece = m_pause.count() > 0 ? slowPiece : size;
     for (size_t sent = 0; sent < size; sent += piece) {
-        if (!sendAll(data + sent, std::min(piece, size - sent))) {
+        if (!sendAll(data + sent, std::min(piece, size - sent)))
             return -1;
-        }
         // Pausing ends early when either side closes, so that slowness never holds up the end.
-        if (m_pause.count() > 0 && waitFor(POLLRDHUP, m_pause)) {
+        if (m_pause.count() > 0 && waitFor(POLLRDHUP, m_pause))
             return -1;
-        }
     }
     return static_cast<ssize_t>(size);
 }
 
 bool Connection::sendAll(const char *data, size_t size) {
     while (size > 0) {
-        if (!waitFor(POLLOUT, ioPatience)) {
+        if (!waitFor(POLLOUT, ioPatience))
             return false;
-        }
         const ssize_t sent = ::send(m_socket, data, size, MSG_NOSIGNAL);
-        if (sent < 0 && errno == EINTR) {
+        if (sent < 0 && errno == EINTR)
             continue;
-        }
-        if (sent <= 0) {
+        if (sent <= 0)
             return false;
-        }
         data += sent;
         size -= static_cast<size_t>(sent);
     }

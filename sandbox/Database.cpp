@@ -50,24 +50,20 @@ DatabaseError::Kind kindOf(const QSqlError &error) {
 /// would throw away what the log beside it still holds.
 void checkFile(const QString &path) {
     const QFileInfo file(path);
-    if (file.exists() && !file.isFile()) {
+    if (file.exists() && !file.isFile())
         failAsDamaged(u"it is no file"_s);
-    }
-    if (file.exists() && file.size() == 0) {
+    if (file.exists() && file.size() == 0)
         failAsDamaged(u"it is empty"_s);
-    }
-    if (file.exists() && !(file.isReadable() && file.isWritable())) {
+    if (file.exists() && !(file.isReadable() && file.isWritable()))
         throw DatabaseError("This user may not read and write " + path.toStdString());
-    }
 }
 
 /// The log and its index belong to their file: beside a fresh one they would spoil it.
 QString setAsideWithLog(const QString &path) {
     const QString moved = PrivateFile::setAside(path);
     for (const QString &beside : {u"-wal"_s, u"-shm"_s}) {
-        if (!moved.isEmpty() && QFileInfo::exists(path + beside)) {
+        if (!moved.isEmpty() && QFileInfo::exists(path + beside))
             QFile::rename(path + beside, moved + beside);
-        }
     }
     return moved;
 }
@@ -87,9 +83,8 @@ Sql::Connection::~Connection() {
 
 Sql::Sql(const QString &path) : m_database(path) {
     checkFile(path);
-    if (!(*m_database).open()) {
+    if (!(*m_database).open())
         fail((*m_database).lastError(), path);
-    }
     // One that was made when this was not yet seen to; what lies beside it takes after it.
     QFile::setPermissions(path, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     // Looked at before anything is written: what is refused or set aside stays as it was.
@@ -98,22 +93,19 @@ Sql::Sql(const QString &path) : m_database(path) {
     exec(u"PRAGMA journal_mode = WAL"_s);
     exec(u"PRAGMA synchronous = NORMAL"_s);
     exec(u"PRAGMA foreign_keys = ON"_s);
-    if (row(u"PRAGMA user_version"_s)->whole(0) != schemaVersion) {
+    if (row(u"PRAGMA user_version"_s)->whole(0) != schemaVersion)
         exec(u"PRAGMA user_version = %1"_s.arg(schemaVersion));
-    }
 }
 
 Sql::~Sql() = default; // the statements before their connection
 
 void Sql::checkContent() {
     const QString found = row(u"PRAGMA quick_check(1)"_s)->text(0);
-    if (found != u"ok"_s) {
+    if (found != u"ok"_s)
         failAsDamaged(found);
-    }
-    if (row(u"PRAGMA user_version"_s)->whole(0) > schemaVersion) {
+    if (row(u"PRAGMA user_version"_s)->whole(0) > schemaVersion)
         throw DatabaseError("The database was written by a later version.",
                             DatabaseError::Kind::Later);
-    }
 }
 
 QSqlQuery &Sql::run(const QString &statement, const QVariantList &values) {
@@ -121,9 +113,8 @@ QSqlQuery &Sql::run(const QString &statement, const QVariantList &values) {
     if (found == m_prepared.end()) {
         QSqlQuery query(*m_database);
         query.setForwardOnly(true);
-        if (!query.prepare(statement)) {
+        if (!query.prepare(statement))
             fail(query.lastError(), statement);
-        }
         found = m_prepared.emplace(statement, std::move(query)).first;
     }
     QSqlQuery &query = found->second;
@@ -161,9 +152,8 @@ QList<Row> Sql::rows(const QString &statement, const QVariantList &values) {
     while (query.next()) {
         QVariantList columns;
         const int count = query.record().count();
-        for (int column = 0; column < count; ++column) {
+        for (int column = 0; column < count; ++column)
             columns.append(query.value(column));
-        }
         result.append(Row(std::move(columns)));
     }
     query.finish();
@@ -191,17 +181,15 @@ QString Database::open() {
     std::future<void> done = task.get_future();
     enqueue(std::move(task));
     done.get();
-    if (!m_failure.empty()) {
+    if (!m_failure.empty())
         throw DatabaseError(m_failure);
-    }
     return m_setAside;
 }
 
 void Database::transact(std::function<void(Sql &)> job) {
     std::packaged_task<void(Sql *)> task([this, job = std::move(job)](Sql *sql) {
-        if (!sql) {
+        if (!sql)
             throw DatabaseError(m_failure);
-        }
         sql->exec(u"BEGIN"_s);
         try {
             job(*sql);
@@ -232,14 +220,12 @@ std::unique_ptr<Sql> Database::opened(const QString &path) {
     try {
         return std::make_unique<Sql>(path);
     } catch (const DatabaseError &error) {
-        if (error.kind() != DatabaseError::Kind::Damaged) {
+        if (error.kind() != DatabaseError::Kind::Damaged)
             throw;
-        }
         qCritical("The database is damaged and set aside: %s", error.what());
         m_setAside = setAsideWithLog(path);
-        if (m_setAside.isEmpty()) {
+        if (m_setAside.isEmpty())
             throw;
-        }
     }
     return std::make_unique<Sql>(path);
 }
@@ -254,9 +240,8 @@ void Database::work(const QString &path) {
     std::unique_lock lock(m_mutex);
     while (true) {
         m_wake.wait(lock, [this] { return m_ended || !m_jobs.empty(); });
-        if (m_jobs.empty()) {
+        if (m_jobs.empty())
             return;
-        }
         std::packaged_task<void(Sql *)> job = std::move(m_jobs.front());
         m_jobs.pop_front();
         lock.unlock();

@@ -87,9 +87,8 @@ bool EventStream::pump(httplib::DataSink &sink) {
     case ChatHub::Wait::Nothing:
         break;
     }
-    if (!sink.is_writable()) {
+    if (!sink.is_writable())
         return false;
-    }
     const bool quiet = std::chrono::steady_clock::now() - m_lastWrite > keepAlive;
     return !quiet || due(Fault::StreamStall) || write(sink, ": keep-alive\n\n");
 }

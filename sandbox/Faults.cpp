@@ -45,39 +45,34 @@ constexpr std::array kinds{
 int wholeNumber(const QString &text, const QString &value, int most) {
     bool good = false;
     const int number = value.toInt(&good);
-    if (!good || number < 0 || number > most) {
+    if (!good || number < 0 || number > most)
         fail(text, u"\"%1\" is no number up to %2"_s.arg(value).arg(most));
-    }
     return number;
 }
 
 void readKind(Fault &fault, const QString &text, const QString &name, const QString &value) {
     const auto found = std::find_if(kinds.begin(), kinds.end(),
                                     [&](const KindName &kind) { return kind.name == name; });
-    if (found == kinds.end()) {
+    if (found == kinds.end())
         fail(text, u"unknown fault"_s);
-    }
     fault.kind = found->kind;
-    if (found->needsValue || !value.isEmpty()) {
+    if (found->needsValue || !value.isEmpty())
         fault.value = wholeNumber(text, value, found->most);
-    }
-    if ((fault.kind == Fault::Status || fault.kind == Fault::Html) && fault.value < 100) {
+    if ((fault.kind == Fault::Status || fault.kind == Fault::Html) && fault.value < 100)
         fail(text, u"a status has three digits"_s);
-    }
 }
 
 void readLimit(Fault &fault, const QString &text, const QString &name, const QString &value) {
-    if (name == "path"_L1) {
+    if (name == "path"_L1)
         fault.path = value;
-    } else if (name == "method"_L1) {
+    else if (name == "method"_L1)
         fault.method = value.toUpper();
-    } else if (name == "times"_L1) {
+    else if (name == "times"_L1)
         fault.times = wholeNumber(text, value, 1'000'000);
-    } else if (name == "code"_L1) {
+    else if (name == "code"_L1)
         fault.code = value;
-    } else {
+    else
         fail(text, u"unknown word \"%1\""_s.arg(name));
-    }
 }
 
 } // namespace
@@ -97,18 +92,14 @@ QString Fault::text() const {
     const auto found = std::find_if(kinds.begin(), kinds.end(),
                                     [&](const KindName &entry) { return entry.kind == kind; });
     QString text = found->name;
-    if (found->needsValue || value > 0) {
+    if (found->needsValue || value > 0)
         text += u"=%1"_s.arg(value);
-    }
-    if (!path.isEmpty()) {
+    if (!path.isEmpty())
         text += u",path="_s + path;
-    }
-    if (!method.isEmpty()) {
+    if (!method.isEmpty())
         text += u",method="_s + method;
-    }
-    if (times >= 0) {
+    if (times >= 0)
         text += u",times=%1"_s.arg(times);
-    }
     return code.isEmpty() ? text : text + u",code="_s + code;
 }
 
@@ -120,9 +111,8 @@ void Faults::set(std::vector<Fault> faults) {
 QStringList Faults::list() {
     const std::lock_guard lock(m_mutex);
     QStringList texts;
-    for (const Fault &fault : m_faults) {
+    for (const Fault &fault : m_faults)
         texts.append(fault.text());
-    }
     return texts;
 }
 
@@ -134,12 +124,10 @@ std::optional<Fault> Faults::take(const QString &method, const QString &path,
                (fault.method.isEmpty() || fault.method == method) && path.contains(fault.path);
     };
     const auto found = std::find_if(m_faults.begin(), m_faults.end(), strikes);
-    if (found == m_faults.end()) {
+    if (found == m_faults.end())
         return std::nullopt;
-    }
-    if (found->times > 0) {
+    if (found->times > 0)
         --found->times;
-    }
     return *found;
 }
 

@@ -49,9 +49,8 @@ std::optional<StoredFile> Files::find(const QString &key) {
     const auto row = m_database.run([&](Sql &sql) {
         return sql.row(u"SELECT name, mime, size FROM files WHERE key = ?"_s, {key});
     });
-    if (!row) {
+    if (!row)
         return std::nullopt;
-    }
     return StoredFile{key, row->text(0), row->text(1), row->whole(2)};
 }
 

@@ -11,9 +11,8 @@ namespace kiv::sandbox {
 
 QJsonObject Refusal::body() const {
     QJsonObject body{{u"error"_s, m_text}};
-    if (!m_code.isEmpty()) {
+    if (!m_code.isEmpty())
         body.insert(u"code"_s, m_code);
-    }
     return body;
 }
 
@@ -43,20 +42,17 @@ QJsonObject Call::json() const {
     QJsonParseError error;
     const QJsonDocument document =
         QJsonDocument::fromJson(QByteArray::fromStdString(request.body), &error);
-    if (error.error != QJsonParseError::NoError || !document.isObject()) {
+    if (error.error != QJsonParseError::NoError || !document.isObject())
         throw Refusal(400, u"The request body must be a JSON object."_s, u"bad_json"_s);
-    }
     return document.object();
 }
 
 QString stringMember(const QJsonObject &object, QLatin1StringView key, const QString &byDefault) {
     const QJsonValue value = object.value(key);
-    if (value.isUndefined() || value.isNull()) {
+    if (value.isUndefined() || value.isNull())
         return byDefault;
-    }
-    if (!value.isString()) {
+    if (!value.isString())
         throw Refusal(400, u"\"%1\" must be a string."_s.arg(key), u"bad_value"_s);
-    }
     return value.toString();
 }
 
@@ -64,9 +60,8 @@ QByteArray cookie(const httplib::Request &request, QByteArrayView name) {
     const QByteArray header = QByteArray::fromStdString(request.get_header_value("Cookie"));
     for (const QByteArray &pair : header.split(';')) {
         const qsizetype equals = pair.indexOf('=');
-        if (equals > 0 && pair.first(equals).trimmed() == name) {
+        if (equals > 0 && pair.first(equals).trimmed() == name)
             return pair.sliced(equals + 1).trimmed();
-        }
     }
     return {};
 }

@@ -28,11 +28,10 @@ LoopbackServer::LoopbackServer() {
 
 int LoopbackServer::bindLoopback(int port) {
     const char *const loopback = "127.0.0.1";
-    if (port == 0) {
+    if (port == 0)
         port = bind_to_any_port(loopback);
-    } else if (!bind_to_port(loopback, port)) {
+    else if (!bind_to_port(loopback, port))
         port = -1;
-    }
     if (port > 0) {
         ::listen(svr_sock_, backlog); // the library's own five drop a client that starts up
     }
@@ -43,9 +42,8 @@ void LoopbackServer::stopNow() {
     {
         const std::lock_guard lock(m_mutex);
         m_stopping = true;
-        for (socket_t socket : m_open) {
+        for (socket_t socket : m_open)
             ::shutdown(socket, SHUT_RDWR);
-        }
     }
     // The library's own stop does nothing before its thread has come to listen.
     ::shutdown(svr_sock_, SHUT_RDWR);
@@ -54,15 +52,13 @@ void LoopbackServer::stopNow() {
 
 bool LoopbackServer::process_and_close_socket(socket_t socket) {
     Connection connection(socket);
-    if (mayBeOfAnotherUser(connection.peerPort(), connection.ownPort()) || !enlist(socket)) {
+    if (mayBeOfAnotherUser(connection.peerPort(), connection.ownPort()) || !enlist(socket))
         return false;
-    }
     bool served = true;
     bool closed = false;
     for (size_t left = requestsPerConnection; left > 0 && served && !closed; --left) {
-        if (!waitForRequest(connection)) {
+        if (!waitForRequest(connection))
             break;
-        }
         connection.beginHead();
         served = process_request(connection, left == 1, closed, nullptr);
         if (connection.isEnding()) {
@@ -77,21 +73,18 @@ bool LoopbackServer::process_and_close_socket(socket_t socket) {
 /// A connection on which nothing is asked gives way as soon as others wait for its place.
 bool LoopbackServer::waitForRequest(Connection &connection) {
     for (auto waited = 0ms; waited < keepAlivePatience; waited += idleRound) {
-        if (connection.waitForRequest(idleRound)) {
+        if (connection.waitForRequest(idleRound))
             return true;
-        }
-        if (connection.peerGone() || m_threads->isCrowded()) {
+        if (connection.peerGone() || m_threads->isCrowded())
             return false;
-        }
     }
     return false;
 }
 
 bool LoopbackServer::enlist(socket_t socket) {
     const std::lock_guard lock(m_mutex);
-    if (m_stopping) {
+    if (m_stopping)
         return false;
-    }
     m_open.insert(socket);
     return true;
 }

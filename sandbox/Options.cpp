@@ -13,15 +13,13 @@ namespace {
 
 double readNumber(const QCommandLineParser &parser, const QString &option, double byDefault,
                   double most) {
-    if (!parser.isSet(option)) {
+    if (!parser.isSet(option))
         return byDefault;
-    }
     const QString text = parser.value(option);
     bool good = false;
     const double value = text.toDouble(&good);
-    if (!good || !(value >= 0 && value <= most)) {
+    if (!good || !(value >= 0 && value <= most))
         throw OptionsError(u"--%1 cannot be \"%2\""_s.arg(option, text).toStdString());
-    }
     return value;
 }
 
@@ -55,18 +53,14 @@ Options parseOptions(const QStringList &arguments) {
         {u"share-dir"_s, u"Folder of the voice client and the speech models."_s, u"folder"_s},
         {u"stay"_s, u"Stay when standard input ends."_s},
     });
-    if (!parser.parse(arguments)) {
+    if (!parser.parse(arguments))
         throw OptionsError(parser.errorText().toStdString());
-    }
-    if (parser.isSet(u"help"_s)) {
+    if (parser.isSet(u"help"_s))
         parser.showHelp();
-    }
-    if (parser.isSet(u"version"_s)) {
+    if (parser.isSet(u"version"_s))
         parser.showVersion();
-    }
-    if (parser.value(u"data-dir"_s).isEmpty() || !parser.positionalArguments().isEmpty()) {
+    if (parser.value(u"data-dir"_s).isEmpty() || !parser.positionalArguments().isEmpty())
         throw OptionsError("--data-dir names the folder to keep everything in; see --help");
-    }
     Options options;
     options.dataDir = parser.value(u"data-dir"_s);
     options.port = static_cast<int>(readNumber(parser, u"port"_s, 0, 65535));

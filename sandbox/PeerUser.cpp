@@ -26,9 +26,8 @@ QByteArray hex(quint32 number, int width) {
 /// the open file in the seventh column: 0 when its program has closed it.
 std::optional<Owner> ownerOf(const QString &table, const QByteArray &address, int from, int to) {
     QFile file(table);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    }
     const auto end = [&address](int port) {
         return address + ':' + hex(static_cast<quint32>(port), 4) + ' ';
     };
@@ -37,18 +36,16 @@ std::optional<Owner> ownerOf(const QString &table, const QByteArray &address, in
     const qsizetype line = sockets.indexOf(end(from) + end(to));
     const QByteArrayList columns =
         sockets.mid(std::max<qsizetype>(line, 0), rest).simplified().split(' ');
-    if (line < 0 || columns.size() < 9 || columns[8] == "0") {
+    if (line < 0 || columns.size() < 9 || columns[8] == "0")
         return Owner::Unknown;
-    }
     return columns[6].toUInt() == ::geteuid() ? Owner::Us : Owner::Other;
 }
 
 std::optional<Owner> ownerOf(int from, int to) {
     const QByteArray loopback = hex(htonl(INADDR_LOOPBACK), 8);
     const auto owner = ownerOf(u"/proc/net/tcp"_s, loopback, from, to);
-    if (owner != Owner::Unknown) {
+    if (owner != Owner::Unknown)
         return owner;
-    }
     // By the address that stands for the other.
     const QByteArray mapped = QByteArray(16, '0') + hex(htonl(0xFFFF), 8) + loopback;
     return ownerOf(u"/proc/net/tcp6"_s, mapped, from, to).value_or(Owner::Unknown);

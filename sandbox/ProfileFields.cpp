@@ -71,19 +71,15 @@ const QHash<QString, Field> &fields() {
 }
 
 void checkString(const QString &key, const QString &value, const Field &field) {
-    if (value.size() > field.longest) {
+    if (value.size() > field.longest)
         refuse(key, u"is longer than %1 characters"_s.arg(field.longest));
-    }
-    if (field.kind == Kind::Line && value.contains(u'\n')) {
+    if (field.kind == Kind::Line && value.contains(u'\n'))
         refuse(key, u"must be one line"_s);
-    }
-    if (field.kind == Kind::Zone && !value.isEmpty() && !QTimeZone(value.toUtf8()).isValid()) {
+    if (field.kind == Kind::Zone && !value.isEmpty() && !QTimeZone(value.toUtf8()).isValid())
         refuse(key, u"is no time zone"_s);
-    }
     if (field.kind == Kind::Hour && !value.isEmpty() &&
-        !QTime::fromString(value, u"HH:mm"_s).isValid()) {
+        !QTime::fromString(value, u"HH:mm"_s).isValid())
         refuse(key, u"must be a time such as 09:30"_s);
-    }
 }
 
 void check(const QString &key, const QJsonValue &value, const Field &field) {
@@ -92,23 +88,20 @@ void check(const QString &key, const QJsonValue &value, const Field &field) {
     }
     switch (field.kind) {
     case Kind::Flag:
-        if (!value.isBool()) {
+        if (!value.isBool())
             refuse(key, u"must be true or false"_s);
-        }
         return;
     case Kind::List: {
         const QJsonArray entries = value.toArray();
         const bool strings = std::all_of(entries.begin(), entries.end(),
                                          [](const QJsonValue &entry) { return entry.isString(); });
-        if (!value.isArray() || !strings || entries.size() > field.longest) {
+        if (!value.isArray() || !strings || entries.size() > field.longest)
             refuse(key, u"must be a list of at most %1 strings"_s.arg(field.longest));
-        }
         return;
     }
     default:
-        if (!value.isString()) {
+        if (!value.isString())
             refuse(key, u"must be a string"_s);
-        }
         checkString(key, value.toString(), field);
     }
 }

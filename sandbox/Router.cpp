@@ -19,9 +19,8 @@ void write(httplib::Response &response, const Reply &reply) {
     // Of what people send nothing is taken for what it is not, or read by another site's page.
     response.set_header("X-Content-Type-Options", "nosniff");
     response.set_header("Cross-Origin-Resource-Policy", "same-origin");
-    for (const auto &[name, value] : reply.headers) {
+    for (const auto &[name, value] : reply.headers)
         response.set_header(name.toStdString(), value.toStdString());
-    }
     if (reply.stream) {
         response.set_header("Cache-Control", "no-store");
         response.set_chunked_content_provider(reply.type.toStdString(), reply.stream);
@@ -35,13 +34,11 @@ Reply refused(const Refusal &refusal) {
 }
 
 Reply faultReply(const Fault &fault) {
-    if (fault.kind == Fault::Html) {
+    if (fault.kind == Fault::Html)
         return Reply::html(u"<html><body><h1>Error %1</h1></body></html>"_s.arg(fault.value),
                            fault.value);
-    }
-    if (fault.value < 400) {
+    if (fault.value < 400)
         return {.status = fault.value, .body = {}};
-    }
     return refused(Refusal(fault.value, u"Fault %1, as ordered."_s.arg(fault.value), fault.code));
 }
 
@@ -79,12 +76,10 @@ httplib::Server::Handler Router::wrap(Access access, Handler handler) {
             write(response, answer(request, access, handler));
             return;
         }
-        if (const auto slow = m_faults.take(method, path, {Fault::Slow})) {
+        if (const auto slow = m_faults.take(method, path, {Fault::Slow}))
             Connection::current()->slowDown(Connection::Milliseconds(slow->value));
-        }
-        if (const auto late = m_faults.take(method, path, {Fault::Latency})) {
+        if (const auto late = m_faults.take(method, path, {Fault::Latency}))
             m_faults.sleep(late->value);
-        }
         if (m_faults.take(method, path, {Fault::Close})) {
             Connection::current()->abort();
             return;
@@ -94,9 +89,8 @@ httplib::Server::Handler Router::wrap(Access access, Handler handler) {
             return;
         }
         Reply reply = answer(request, access, handler);
-        if (!reply.stream && m_faults.take(method, path, {Fault::BadJson})) {
+        if (!reply.stream && m_faults.take(method, path, {Fault::BadJson}))
             reply.body.chop(reply.body.size() / 2 + 1);
-        }
         write(response, reply);
     };
 }
@@ -105,18 +99,16 @@ Reply Router::answer(const httplib::Request &request, Access access, const Handl
     try {
         Call call{request, {}, cookie(request, sessionCookie), Doorkeeper::originOf(request)};
         call.account = m_sessions.account(call.token);
-        if (access == Access::SignedIn && call.account.isEmpty()) {
+        if (access == Access::SignedIn && call.account.isEmpty())
             throw Refusal(401, u"Sign in first."_s, u"unauthorized"_s);
-        }
         return handler(call);
     } catch (const Refusal &refusal) {
         return refused(refusal);
     } catch (const std::exception &error) {
         qCritical("%s %s: %s", request.method.c_str(), request.path.c_str(), error.what());
         const auto *stored = dynamic_cast<const DatabaseError *>(&error);
-        if (stored && stored->kind() == DatabaseError::Kind::Full) {
+        if (stored && stored->kind() == DatabaseError::Kind::Full)
             return refused(Refusal(507, u"The disk of the workspace is full."_s, u"disk_full"_s));
-        }
         return refused(Refusal(500, u"Something went wrong on the server."_s, u"internal"_s));
     }
 }
@@ -145,9 +137,8 @@ void Router::installErrorReplies() {
     using Outcome = httplib::Server::HandlerResponse;
     const httplib::Server::HandlerWithResponse handler = [](const httplib::Request &,
                                                             httplib::Response &response) {
-        if (!response.body.empty()) {
+        if (!response.body.empty())
             return Outcome::Unhandled;
-        }
         const QString text = response.status == 404   ? u"There is nothing here."_s
                              : response.status == 413 ? u"The request is too large."_s
                                                       : u"The request cannot be read."_s;

@@ -29,9 +29,8 @@ QString makePassword(const QString &path) {
     }
     const QByteArray made = randomToken();
     const QString failure = PrivateFile::write(path, made + '\n');
-    if (!failure.isEmpty()) {
+    if (!failure.isEmpty())
         qWarning("The sample account's password cannot be kept: %s", qUtf8Printable(failure));
-    }
     return QString::fromLatin1(made);
 }
 
@@ -41,9 +40,8 @@ SampleAccount::SampleAccount(const QString &dataDir, Accounts &accounts) : m_acc
     const QString path = dataDir + u"/sample-password"_s;
     m_password = readPassword(path);
     m_isNew = m_password.isEmpty();
-    if (m_isNew) {
+    if (m_isNew)
         m_password = makePassword(path);
-    }
 }
 
 QString SampleAccount::email() const {
@@ -51,14 +49,12 @@ QString SampleAccount::email() const {
 }
 
 void SampleAccount::ensure(const QString &address) {
-    if (normalizedEmail(address) != email()) {
+    if (normalizedEmail(address) != email())
         return;
-    }
     const std::lock_guard lock(m_mutex);
     const bool isThere = m_made || m_accounts.exists(email());
-    if (!m_made && isThere && m_isNew) {
+    if (!m_made && isThere && m_isNew)
         m_accounts.setPassword(email(), m_password);
-    }
     if (!isThere) {
         const QString zone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
         m_accounts.create(email(), m_password,

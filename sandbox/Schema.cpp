@@ -86,12 +86,10 @@ const char16_t *const indexes[] = {
 
 void createSchema(Sql &sql) {
     sql.exec(u"BEGIN"_s);
-    for (const char16_t *table : tables) {
+    for (const char16_t *table : tables)
         sql.exec(u"CREATE TABLE IF NOT EXISTS "_s + QString::fromUtf16(table));
-    }
-    for (const char16_t *index : indexes) {
+    for (const char16_t *index : indexes)
         sql.exec(u"CREATE INDEX IF NOT EXISTS "_s + QString::fromUtf16(index));
-    }
     sql.exec(u"COMMIT"_s);
 }
 

@@ -18,9 +18,8 @@ std::mutex hashing;
 } // namespace
 
 void startSecrets() {
-    if (sodium_init() < 0) {
+    if (sodium_init() < 0)
         qFatal("libsodium does not start");
-    }
 }
 
 QByteArray hashPassword(const QString &password) {
@@ -29,9 +28,8 @@ QByteArray hashPassword(const QString &password) {
     const std::lock_guard lock(hashing);
     if (crypto_pwhash_str(hash.data(), utf8.constData(), static_cast<quint64>(utf8.size()),
                           crypto_pwhash_OPSLIMIT_INTERACTIVE,
-                          crypto_pwhash_MEMLIMIT_INTERACTIVE) != 0) {
+                          crypto_pwhash_MEMLIMIT_INTERACTIVE) != 0)
         qFatal("Out of memory while hashing a password");
-    }
     return QByteArray(hash.data());
 }
 

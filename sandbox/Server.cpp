@@ -15,9 +15,8 @@ Server::Server(const Options &options)
       m_http(std::make_unique<LoopbackServer>()),
       m_router(std::make_unique<Router>(*m_http, m_services->sessions, m_services->faults)) {
     m_port = m_http->bindLoopback(options.port);
-    if (m_port <= 0) {
+    if (m_port <= 0)
         throw std::runtime_error("the port cannot be had");
-    }
     m_router->setPort(m_port);
     m_voice = std::make_unique<VoiceServer>(*m_services, m_port);
     addAuthRoutes(*m_router, *m_services);
@@ -28,9 +27,8 @@ Server::Server(const Options &options)
     addVoiceRoutes(*m_router, *m_services, *m_voice);
     addPageRoutes(*m_router, *m_services);
     addSurfaceRoutes(*m_router, *m_services);
-    if (options.control) {
+    if (options.control)
         addControlRoutes(*m_router, *m_services);
-    }
     m_setAside = m_services->database.open();
     m_thread = std::thread([this] { m_http->listen_after_bind(); });
 }

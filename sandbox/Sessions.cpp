@@ -29,9 +29,8 @@ QByteArray Sessions::open(const QString &account) {
 }
 
 QString Sessions::account(const QByteArray &token) {
-    if (token.isEmpty()) {
+    if (token.isEmpty())
         return {};
-    }
     const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
     const auto row = m_database.run([&](Sql &sql) {
         return sql.row(u"SELECT account FROM sessions WHERE token = ? AND expires_at >= ?"_s,

@@ -18,22 +18,19 @@ constexpr qsizetype longestText = 4000;
 
 QString checkedName(const QString &name, const QString &what) {
     const QString trimmed = name.trimmed();
-    if (trimmed.isEmpty()) {
+    if (trimmed.isEmpty())
         throw Refusal(400, u"%1 needs a name."_s.arg(what), u"name_missing"_s);
-    }
-    if (characterCount(trimmed) > longestName) {
+    if (characterCount(trimmed) > longestName)
         throw Refusal(400, u"The name is longer than %1 characters."_s.arg(longestName),
                       u"name_too_long"_s);
-    }
     return trimmed;
 }
 
 QString checkedText(const QString &text, const QString &what, qsizetype longest) {
     const QString trimmed = text.trimmed();
-    if (characterCount(trimmed) > longest) {
+    if (characterCount(trimmed) > longest)
         throw Refusal(400, u"The %1 is longer than %2 characters."_s.arg(what).arg(longest),
                       u"text_too_long"_s);
-    }
     return trimmed;
 }
 
@@ -41,15 +38,13 @@ QString checkedText(const QString &text, const QString &what, qsizetype longest)
 QString slugOf(const QString &label) {
     QString slug;
     for (QChar c : label.normalized(QString::NormalizationForm_D).toLower()) {
-        if ((c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9')) {
+        if ((c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9'))
             slug += c;
-        } else if (!slug.isEmpty() && !slug.endsWith(u'-') && !c.isMark()) {
+        else if (!slug.isEmpty() && !slug.endsWith(u'-') && !c.isMark())
             slug += u'-';
-        }
     }
-    while (slug.endsWith(u'-')) {
+    while (slug.endsWith(u'-'))
         slug.chop(1);
-    }
     return slug.isEmpty() ? u"project"_s : slug;
 }
 
@@ -61,9 +56,8 @@ bool hasProject(Sql &sql, const QString &account, const QString &slug) {
 QString freeSlug(Sql &sql, const QString &account, const QString &label) {
     const QString base = slugOf(label);
     QString slug = base;
-    for (int n = 2; hasProject(sql, account, slug); ++n) {
+    for (int n = 2; hasProject(sql, account, slug); ++n)
         slug = u"%1-%2"_s.arg(base).arg(n);
-    }
     return slug;
 }
 
@@ -104,9 +98,8 @@ const QString projectColumns =
 } // namespace
 
 Scope scopeOf(const QString &account, const AgentRecord &agent) {
-    if (agent.kind == u"orchestrator"_s) {
+    if (agent.kind == u"orchestrator"_s)
         return {account, Scope::Portfolio, {}, u"KIV"_s, {}};
-    }
     return {account, Scope::Agent, agent.slug, agent.name, agent.name};
 }
 
@@ -114,9 +107,8 @@ QJsonArray Workspace::projects(const QString &account) {
     const auto rows = m_database.run(
         [&](Sql &sql) { return sql.rows(projectColumns + u" ORDER BY position"_s, {account}); });
     QJsonArray list;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         list.append(projectObject(row));
-    }
     return list;
 }
 
@@ -139,9 +131,8 @@ QString Workspace::projectLabel(const QString &account, const QString &slug) {
         return sql.row(u"SELECT label FROM projects WHERE account = ? AND slug = ?"_s,
                        {account, slug});
     });
-    if (!row) {
+    if (!row)
         throw Refusal(404, u"There is no such project."_s, u"not_found"_s);
-    }
     return row->text(0);
 }
 
@@ -154,9 +145,8 @@ QJsonArray Workspace::members(const QString &account, const QString &slug) {
                         {account, slug});
     });
     QJsonArray roster;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         roster.append(QJsonObject{{u"member_kind"_s, row.text(4)}, {u"agent"_s, agentObject(row)}});
-    }
     return roster;
 }
 
@@ -169,13 +159,12 @@ QJsonArray Workspace::events(const QString &account, const QString &slug, int li
                         {account, slug, limit});
     });
     QJsonArray list;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         list.append(QJsonObject{{u"id"_s, row.whole(0)},
                                 {u"kind"_s, row.text(1)},
                                 {u"title"_s, row.text(2)},
                                 {u"detail"_s, row.text(3)},
                                 {u"created_at"_s, row.text(4)}});
-    }
     return list;
 }
 
@@ -186,9 +175,8 @@ QJsonArray Workspace::agents(const QString &account) {
                         {account});
     });
     QJsonArray list;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         list.append(agentObject(row));
-    }
     return list;
 }
 
@@ -227,9 +215,8 @@ AgentRecord Workspace::agent(const QString &account, const QString &id) {
                        u" WHERE a.account = ? AND a.id = ?"_s,
                        {account, id});
     });
-    if (!row || row->text(2) == u"team"_s) {
+    if (!row || row->text(2) == u"team"_s)
         throw Refusal(404, u"There is no such agent."_s, u"not_found"_s);
-    }
     return {id, row->text(0), row->text(1), row->text(2), row->text(3)};
 }
 

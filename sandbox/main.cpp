@@ -32,9 +32,8 @@ void onSignal(int) {
 
 /// Ends the event loop on SIGTERM and SIGINT.
 void quitOnSignals(QCoreApplication &application) {
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalEnds) != 0) {
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalEnds) != 0)
         qFatal("No socket pair for signals");
-    }
     auto *notifier = new QSocketNotifier(signalEnds[1], QSocketNotifier::Read, &application);
     QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
     std::signal(SIGTERM, onSignal);
@@ -58,9 +57,8 @@ void announce(const Server &server) {
     const QJsonObject sample{{u"email"_s, server.sampleEmail()},
                              {u"password"_s, server.samplePassword()}};
     QJsonObject greeting{{u"url"_s, server.url()}, {u"sample"_s, sample}};
-    if (!server.setAside().isEmpty()) {
+    if (!server.setAside().isEmpty())
         greeting.insert(u"setAside"_s, server.setAside());
-    }
     const QByteArray line = compact(greeting);
     std::printf("%s\n", line.constData());
     std::fflush(stdout);
@@ -73,21 +71,18 @@ int fail(const char *why) {
 
 int run(QCoreApplication &application) {
     const Options options = parseOptions(QCoreApplication::arguments());
-    if (!QDir().mkpath(options.dataDir)) {
+    if (!QDir().mkpath(options.dataDir))
         return fail("the data folder cannot be made");
-    }
     QLockFile lock(options.dataDir + u"/lock"_s);
-    if (!lock.tryLock(2000)) {
+    if (!lock.tryLock(2000))
         return fail(lock.error() == QLockFile::LockFailedError
                         ? "another server works in this data folder"
                         : "the data folder cannot be written to");
-    }
     startSecrets();
     Server server(options);
     quitOnSignals(application);
-    if (!options.stay) {
+    if (!options.stay)
         quitWithStandardInput(application);
-    }
     announce(server);
     return QCoreApplication::exec();
 }

@@ -32,9 +32,8 @@ QString namedProject(Sql &sql, const Question &question) {
     const auto rows =
         sql.rows(u"SELECT slug, label FROM projects WHERE account = ?"_s, {question.scope.account});
     for (const Row &row : rows) {
-        if (names(question.text, row.text(1))) {
+        if (names(question.text, row.text(1)))
             return row.text(0);
-        }
     }
     return {};
 }
@@ -46,9 +45,8 @@ std::optional<Row> namedAgent(Sql &sql, const Question &question) {
                                u" WHERE a.account = ? AND a.kind = 'agent'"_s,
                                {question.scope.account});
     for (const Row &row : rows) {
-        if (names(question.text, row.text(0))) {
+        if (names(question.text, row.text(0)))
             return row;
-        }
     }
     return std::nullopt;
 }
@@ -85,9 +83,8 @@ QString Asked::projectLabel(const QString &slug) const {
 }
 
 QString Asked::subject() const {
-    if (!m_agent.isEmpty()) {
+    if (!m_agent.isEmpty())
         return m_agent;
-    }
     return m_slug.isEmpty() ? say(u"all projects"_s, u"все проекты"_s) : projectLabel(m_slug);
 }
 
@@ -104,9 +101,8 @@ QList<Row> Asked::rows(const QString &columns, const QString &table, const QStri
 
 QList<Row> Asked::tasks(const QString &columns, const QString &rest,
                         const QVariantList &more) const {
-    if (m_agent.isEmpty()) {
+    if (m_agent.isEmpty())
         return rows(columns, u"tasks"_s, rest, more);
-    }
     return rows(columns, u"tasks"_s, u"AND agent = ? "_s + rest, QVariantList{m_agent} + more);
 }
 
@@ -119,9 +115,8 @@ Answer withBlock(const QString &before, const QJsonObject &view, const QString &
                  const QString &language) {
     const QString json = QString::fromUtf8(QJsonDocument(view).toJson(QJsonDocument::Compact));
     QString content = u"%1\n\n```%2\n%3\n```"_s.arg(before, language, json);
-    if (!after.isEmpty()) {
+    if (!after.isEmpty())
         content += u"\n\n"_s + after;
-    }
     return {content};
 }
 
@@ -138,9 +133,8 @@ QString cents(qint64 amount) {
 }
 
 QString percentChange(double now, double before) {
-    if (before == 0) {
+    if (before == 0)
         return u"0%"_s;
-    }
     const double change = std::round((now - before) / before * 1000) / 10;
     const QString figure = QString::number(std::abs(change), 'f', 1) + u'%';
     return change < 0 ? minus + figure : u'+' + figure;

@@ -19,13 +19,11 @@ QJsonObject point(const QString &label, qint64 value) {
 std::optional<Answer> rankedRevenue(const Asked &asked) {
     const auto rows =
         asked.rows(u"slug, revenue"_s, u"weekly"_s, u"AND week = 0 ORDER BY revenue DESC"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         points.append(point(asked.projectLabel(row.text(0)), row.whole(1)));
-    }
     return withBlock(
         asked
             .say(u"**%1** brought in the most this week, %2."_s,
@@ -40,9 +38,8 @@ std::optional<Answer> rankedRevenue(const Asked &asked) {
 std::optional<Answer> revenueTrend(const Asked &asked) {
     const auto rows =
         asked.rows(u"week, SUM(revenue)"_s, u"weekly"_s, u"GROUP BY week ORDER BY week DESC"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     for (const Row &row : rows) {
         const int week = asked.asOf().addDays(-7 * row.whole(0)).weekNumber();
@@ -64,23 +61,20 @@ std::optional<Answer> revenueTrend(const Asked &asked) {
 std::optional<Answer> spendByProject(const Asked &asked) {
     const auto rows =
         asked.rows(u"line, slug, actual"_s, u"spend"_s, u"ORDER BY position, rowid"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QStringList order;
     QMap<QString, QJsonArray> lines;
     qint64 total = 0;
     for (const Row &row : rows) {
-        if (!lines.contains(row.text(0))) {
+        if (!lines.contains(row.text(0)))
             order.append(row.text(0));
-        }
         lines[row.text(0)].append(point(asked.projectLabel(row.text(1)), row.whole(2)));
         total += row.whole(2);
     }
     QJsonArray series;
-    for (const QString &line : order) {
+    for (const QString &line : order)
         series.append(QJsonObject{{u"name"_s, line}, {u"points"_s, lines.value(line)}});
-    }
     return withBlock(asked
                          .say(u"%1 in all, a layer for every line of the budget."_s,
                               u"Всего %1, по слою на каждую статью бюджета."_s)
@@ -93,14 +87,12 @@ std::optional<Answer> spendByProject(const Asked &asked) {
 
 std::optional<Answer> highlightCards(const Asked &asked) {
     const auto rows = asked.rows(u"text, slug"_s, u"highlights"_s, u"ORDER BY position"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         points.append(
             QJsonObject{{u"label"_s, row.text(0)}, {u"meta"_s, asked.projectLabel(row.text(1))}});
-    }
     return withBlock(
         asked.say(u"What stood out this week:"_s, u"Что запомнилось за неделю:"_s),
         {{u"kind"_s, u"cards"_s}, {u"title"_s, u"Highlights"_s}, {u"points"_s, points}});
@@ -110,9 +102,8 @@ std::optional<Answer> highlightCards(const Asked &asked) {
 std::optional<Answer> headline(const Asked &asked) {
     const auto week = asked.rows(u"SUM(revenue), SUM(releases)"_s, u"weekly"_s,
                                  u"AND week = 0 HAVING COUNT(*) > 0"_s);
-    if (week.isEmpty()) {
+    if (week.isEmpty())
         return std::nullopt;
-    }
     const qint64 open = asked.tasks(u"COUNT(*)"_s, u"AND closed IS NULL"_s).constFirst().whole(0);
     const Row &row = week.constFirst();
     const QString revenue = asked.say(u"Revenue: %1"_s, u"Выручка: %1"_s).arg(euros(row.whole(0)));

@@ -8,9 +8,8 @@ namespace kiv::sandbox {
 
 std::optional<Answer> hostingOptions(const Asked &asked) {
     const QString slug = asked.projectWith(u"hosting"_s);
-    if (slug.isEmpty()) {
+    if (slug.isEmpty())
         return std::nullopt;
-    }
     const auto options =
         asked.sql().rows(u"SELECT name, price, uptime, latency, backups FROM hosting"
                          u" WHERE account = ? AND slug = ? ORDER BY position"_s,
@@ -46,19 +45,16 @@ std::optional<Answer> decision(const Asked &asked) {
     const auto questions =
         asked.rows(u"question, option_a, option_b, SUM(a), SUM(b)"_s, u"criteria"_s,
                    u"GROUP BY question, option_a, option_b ORDER BY MIN(position)"_s);
-    if (questions.isEmpty()) {
+    if (questions.isEmpty())
         return std::nullopt;
-    }
     const bool voice = asked.question().text.contains(u"voice"_s, Qt::CaseInsensitive);
     const Row *chosen = &questions.constFirst();
-    for (const Row &row : questions) {
+    for (const Row &row : questions)
         chosen = voice && row.text(0).contains(u"voice"_s) ? &row : chosen;
-    }
     QJsonArray rows;
     for (const Row &row : asked.rows(u"name, a, b"_s, u"criteria"_s,
-                                     u"AND question = ? ORDER BY position"_s, {chosen->text(0)})) {
+                                     u"AND question = ? ORDER BY position"_s, {chosen->text(0)}))
         rows.append(QJsonArray{row.text(0), row.whole(1), row.whole(2)});
-    }
     const bool even = chosen->whole(3) == chosen->whole(4);
     const QString winner = chosen->text(chosen->whole(3) > chosen->whole(4) ? 1 : 2);
     const QString before =
@@ -76,18 +72,16 @@ std::optional<Answer> decision(const Asked &asked) {
 
 std::optional<Answer> trialFunnel(const Asked &asked) {
     const QString slug = asked.projectWith(u"stages"_s);
-    if (slug.isEmpty()) {
+    if (slug.isEmpty())
         return std::nullopt;
-    }
     const auto stages = asked.sql().rows(u"SELECT name, count FROM stages"
                                          u" WHERE account = ? AND slug = ? ORDER BY position"_s,
                                          {asked.account(), slug});
     QJsonArray points;
-    for (const Row &stage : stages) {
+    for (const Row &stage : stages)
         points.append(QJsonObject{{u"label"_s, stage.text(0)},
                                   {u"value"_s, stage.whole(1)},
                                   {u"display"_s, grouped(stage.whole(1))}});
-    }
     const double through = stages.constLast().number(1) / stages.constFirst().number(1) * 100;
     return withBlock(
         asked

@@ -73,9 +73,8 @@ const QList<TopicWords> &topics() {
 
 qsizetype weight(const TopicWords &words, const QString &question) {
     qsizetype found = 0;
-    for (const QString &stem : words.stems) {
+    for (const QString &stem : words.stems)
         found += question.contains(stem) ? stem.size() : 0;
-    }
     return found;
 }
 
@@ -102,9 +101,8 @@ Answer composeAnswer(Sql &sql, const Question &question) {
             bestWeight = here;
         }
     }
-    if (!best) {
+    if (!best)
         return plainAnswer(asked);
-    }
     const std::optional<Answer> answer = best->topic(asked);
     return answer ? *answer : nothingRecorded(asked);
 }

@@ -20,9 +20,8 @@ QList<Row> spendLines(const Asked &asked, const QString &order) {
 
 std::optional<Answer> costs(const Asked &asked) {
     const auto rows = spendLines(asked, u"3 DESC"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     qint64 total = 0;
     for (const Row &row : rows) {
@@ -51,17 +50,15 @@ std::optional<Answer> costs(const Asked &asked) {
 
 std::optional<Answer> budget(const Asked &asked) {
     const auto rows = spendLines(asked, u"4"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray lines;
     QStringList over;
     for (const Row &row : rows) {
         lines.append(strings({row.text(0), euros(row.whole(1)), euros(row.whole(2))}));
-        if (row.number(2) > row.number(1) * 1.1) {
+        if (row.number(2) > row.number(1) * 1.1)
             over.append(
                 u"**%1** (%2)"_s.arg(row.text(0), percentChange(row.number(2), row.number(1))));
-        }
     }
     const QString month = asked.asOf().toString(u"MMMM"_s);
     const QString before = over.isEmpty()
@@ -82,9 +79,8 @@ std::optional<Answer> cashFlow(const Asked &asked) {
     const auto rows = asked.sql().rows(
         u"SELECT month, money_in, money_out FROM cash WHERE account = ? ORDER BY position"_s,
         {asked.account()});
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     constexpr qint64 opening = 100; // thousands, before the first month of the table
     QJsonArray in;
     QJsonArray out;
@@ -123,9 +119,8 @@ std::optional<Answer> cashFlow(const Asked &asked) {
 
 std::optional<Answer> unitCost(const Asked &asked) {
     const QString slug = asked.projectWith(u"unit_parts"_s);
-    if (slug.isEmpty()) {
+    if (slug.isEmpty())
         return std::nullopt;
-    }
     const auto rows = asked.sql().rows(u"SELECT name, cents FROM unit_parts"
                                        u" WHERE account = ? AND slug = ? ORDER BY position"_s,
                                        {asked.account(), slug});

@@ -19,9 +19,8 @@ struct Week {
 std::optional<Week> weekBack(const Asked &asked, int back) {
     const auto rows = asked.rows(u"revenue, releases, reply_minutes"_s, u"weekly"_s,
                                  u"AND week = ? ORDER BY reply_minutes"_s, {back});
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     Week week;
     for (const Row &row : rows) {
         week.revenue += row.whole(0);
@@ -60,13 +59,11 @@ QString openSpots(const Asked &asked) {
     const auto rows =
         asked.rows(u"slug, note"_s, u"progress"_s, u"AND done < target ORDER BY rowid"_s);
     QStringList spots;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         spots.append(u"**%1** (%2)"_s.arg(asked.projectLabel(row.text(0)), row.text(1)));
-    }
-    if (spots.isEmpty()) {
+    if (spots.isEmpty())
         return asked.say(u"A good week with nothing behind its target."_s,
                          u"Хорошая неделя, отставаний нет."_s);
-    }
     return asked
         .say(u"A good week with %1 open spots: %2."_s,
              u"Хорошая неделя, открытых вопросов: %1. %2."_s)
@@ -79,9 +76,8 @@ QString openSpots(const Asked &asked) {
 std::optional<Answer> weeklyReport(const Asked &asked) {
     const auto now = weekBack(asked, 0);
     const auto before = weekBack(asked, 1);
-    if (!now || !before) {
+    if (!now || !before)
         return std::nullopt;
-    }
     const QDate lastWeek = asked.asOf().addDays(-7);
     const qint64 open = openTasks(asked, asked.asOf());
     const qint64 overdue = overdueTasks(asked, asked.asOf());

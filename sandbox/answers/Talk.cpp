@@ -23,16 +23,14 @@ QList<Row> taskFigures(const Asked &asked) {
 
 std::optional<Answer> projectTable(const Asked &asked) {
     const auto rows = taskFigures(asked);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QString table = u"| Project | Open | Overdue | Blocked |\n| :--- | ---: | ---: | ---: |\n"_s;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         table += u"| %1 | %2 | %3 | %4 |\n"_s.arg(asked.projectLabel(row.text(0)))
                      .arg(row.whole(1))
                      .arg(row.whole(2))
                      .arg(row.whole(3));
-    }
     return Answer{
         asked.say(u"Tasks of %1 as they stand now:\n\n%2"_s, u"Задачи на сейчас, %1:\n\n%2"_s)
             .arg(asked.subject(), table.trimmed())};
@@ -40,9 +38,8 @@ std::optional<Answer> projectTable(const Asked &asked) {
 
 std::optional<Answer> taskCounts(const Asked &asked) {
     const auto rows = taskFigures(asked);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     qint64 total = 0;
     for (const Row &row : rows) {
@@ -65,13 +62,11 @@ std::optional<Answer> taskCounts(const Asked &asked) {
 
 std::optional<Answer> openTaskList(const Asked &asked) {
     const auto rows = taskFigures(asked);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QString list;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         list += u"- %1: %2\n"_s.arg(asked.projectLabel(row.text(0))).arg(row.whole(1));
-    }
     return Answer{asked
                       .say(u"Open tasks, the longest lists first:\n\n%1"_s,
                            u"Открытые задачи, сначала самые длинные списки:\n\n%1"_s)
@@ -81,9 +76,8 @@ std::optional<Answer> openTaskList(const Asked &asked) {
 std::optional<Answer> keyFacts(const Asked &asked) {
     const auto rows = asked.rows(u"SUM(revenue), SUM(releases), MAX(reply_minutes)"_s, u"weekly"_s,
                                  u"AND week = 0 HAVING COUNT(*) > 0"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     const Row &row = rows.constFirst();
     return Answer{asked
                       .say(u"The week of %1 in three lines:\n\nRevenue: %2\nReleases: %3\n"
@@ -99,9 +93,8 @@ std::optional<Answer> projectPage(const Asked &asked) {
     const auto found = asked.slug().isEmpty()
                            ? asked.rows(u"slug, label"_s, u"projects"_s, u"ORDER BY position"_s)
                            : asked.rows(u"slug, label"_s, u"projects"_s);
-    if (found.isEmpty()) {
+    if (found.isEmpty())
         return std::nullopt;
-    }
     const bool dashboard = asked.question().text.contains(u"dashboard"_s, Qt::CaseInsensitive);
     const QString path = dashboard ? u"/dashboard/%1"_s : u"/project/%1?tab=tasks"_s;
     return Answer{asked

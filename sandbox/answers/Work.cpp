@@ -25,9 +25,8 @@ QString place(const Asked &asked, const Row &task) {
 
 std::optional<Answer> projectStatus(const Asked &asked) {
     const auto rows = asked.rows(u"slug, done, target, note"_s, u"progress"_s, u"ORDER BY rowid"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     QStringList behind;
     for (const Row &row : rows) {
@@ -37,11 +36,10 @@ std::optional<Answer> projectStatus(const Asked &asked) {
                                   {u"target"_s, row.whole(2)},
                                   {u"display"_s, u"%1%"_s.arg(row.whole(1))},
                                   {u"hint"_s, row.text(3)}});
-        if (row.whole(1) < row.whole(2)) {
+        if (row.whole(1) < row.whole(2))
             behind.append(asked.say(u"**%1** by %2 points"_s, u"**%1** на %2 п. п."_s)
                               .arg(label)
                               .arg(row.whole(2) - row.whole(1)));
-        }
     }
     QJsonObject progress =
         view(u"progress"_s, asked.say(u"Progress of %1"_s, u"Ход дел: %1"_s).arg(asked.subject()),
@@ -63,9 +61,8 @@ std::optional<Answer> releasePlan(const Asked &asked) {
         more.append(asked.agent());
     }
     const auto rows = asked.rows(u"agent, title, state, slug"_s, u"plan"_s, rest, more);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     int done = 0;
     for (const Row &row : rows) {
@@ -90,13 +87,11 @@ std::optional<Answer> todaysBrief(const Asked &asked) {
                         {today});
     rows += asked.tasks(columns, u"AND state = 'todo' AND due >= ? ORDER BY due, id LIMIT 3"_s,
                         {today});
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         points.append(statusPoint(row.text(0), row.text(1), place(asked, row)));
-    }
     const qint64 overdue = asked.tasks(u"COUNT(*)"_s, u"AND closed IS NULL AND due < ?"_s, {today})
                                .constFirst()
                                .whole(0);
@@ -113,12 +108,11 @@ std::optional<Answer> todaysBrief(const Asked &asked) {
 std::optional<Answer> blockedTasks(const Asked &asked) {
     const auto rows = asked.tasks(u"title, state, slug, agent, due"_s,
                                   u"AND state = 'blocked' ORDER BY due, id LIMIT 8"_s);
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return Answer{asked
                           .say(u"Nothing is blocked for **%1** right now."_s,
                                u"Сейчас ничего не заблокировано: **%1**."_s)
                           .arg(asked.subject())};
-    }
     QString list;
     for (qsizetype i = 0; i < rows.size(); ++i) {
         const Row &row = rows.at(i);
@@ -135,9 +129,8 @@ std::optional<Answer> blockedTasks(const Asked &asked) {
 
 std::optional<Answer> retrospective(const Asked &asked) {
     const QString slug = asked.projectWith(u"retro"_s);
-    if (slug.isEmpty()) {
+    if (slug.isEmpty())
         return std::nullopt;
-    }
     QJsonArray columns;
     for (const Row &column :
          asked.sql().rows(u"SELECT column_name FROM retro WHERE account = ? AND slug = ?"
@@ -147,9 +140,8 @@ std::optional<Answer> retrospective(const Asked &asked) {
         for (const Row &card :
              asked.sql().rows(u"SELECT card FROM retro WHERE account = ? AND slug = ?"
                               u" AND column_name = ? ORDER BY position"_s,
-                              {asked.account(), slug, column.text(0)})) {
+                              {asked.account(), slug, column.text(0)}))
             cards.append(QJsonObject{{u"label"_s, card.text(0)}});
-        }
         columns.append(QJsonObject{{u"name"_s, column.text(0)}, {u"points"_s, cards}});
     }
     const QString label = asked.projectLabel(slug);
@@ -166,9 +158,8 @@ std::optional<Answer> goalScores(const Asked &asked) {
     const auto rows = asked.sql().rows(u"SELECT goal, owner, name, value, target FROM key_results"
                                        u" WHERE account = ? ORDER BY position"_s,
                                        {asked.account()});
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     int reached = 0;
     for (const Row &row : rows) {
@@ -194,9 +185,8 @@ std::optional<Answer> workload(const Asked &asked) {
     const auto rows = asked.sql().rows(u"SELECT person, place, planned, available FROM capacity"
                                        u" WHERE account = ? ORDER BY position"_s,
                                        {asked.account()});
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return std::nullopt;
-    }
     QJsonArray points;
     QStringList over;
     for (const Row &row : rows) {
@@ -205,9 +195,8 @@ std::optional<Answer> workload(const Asked &asked) {
                                   {u"value"_s, load},
                                   {u"display"_s, u"%1%"_s.arg(load)},
                                   {u"hint"_s, row.text(1)}});
-        if (load > 100) {
+        if (load > 100)
             over.append(u"**%1** (%2%)"_s.arg(row.text(0)).arg(load));
-        }
     }
     QJsonObject load = view(u"hbar"_s, u"Load for the coming week"_s, points);
     load.insert(u"art"_s, u"workload"_s);

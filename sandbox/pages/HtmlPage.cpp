@@ -57,52 +57,46 @@ HtmlPage &HtmlPage::section(const QString &heading) {
 
 HtmlPage &HtmlPage::links(const QList<Link> &links) {
     m_body += u"<nav>"_s;
-    for (const Link &link : links) {
+    for (const Link &link : links)
         m_body += u"<a href=\""_s + link.path.toHtmlEscaped() + u'"' +
                   (link.isHere ? u" aria-current=\"page\""_s : QString()) + u'>' +
                   link.text.toHtmlEscaped() + u"</a>"_s;
-    }
     m_body += u"</nav>"_s;
     return *this;
 }
 
 HtmlPage &HtmlPage::figures(const QList<Figure> &figures) {
     m_body += u"<dl>"_s;
-    for (const Figure &figure : figures) {
+    for (const Figure &figure : figures)
         m_body += u"<div><dt>"_s + figure.label.toHtmlEscaped() + u"</dt><dd>"_s +
                   figure.value.toHtmlEscaped() + u"</dd></div>"_s;
-    }
     m_body += u"</dl>"_s;
     return *this;
 }
 
 HtmlPage &HtmlPage::list(const QStringList &points) {
     m_body += u"<ul>"_s;
-    for (const QString &point : points) {
+    for (const QString &point : points)
         m_body += u"<li>"_s + point.toHtmlEscaped() + u"</li>"_s;
-    }
     m_body += u"</ul>"_s;
     return *this;
 }
 
 HtmlPage &HtmlPage::table(const QList<Column> &columns, const QList<QStringList> &rows) {
-    if (rows.isEmpty()) {
+    if (rows.isEmpty())
         return line(u"Nothing yet."_s);
-    }
     const auto cell = [&](const QString &tag, qsizetype column, const QString &text) {
         const QString mark = columns.at(column).isFigure ? u" class=\"n\""_s : QString();
         return u'<' + tag + mark + u'>' + text.toHtmlEscaped() + u"</"_s + tag + u'>';
     };
     m_body += u"<div class=\"scroll\"><table><thead><tr>"_s;
-    for (qsizetype column = 0; column < columns.size(); ++column) {
+    for (qsizetype column = 0; column < columns.size(); ++column)
         m_body += cell(u"th"_s, column, columns.at(column).name);
-    }
     m_body += u"</tr></thead><tbody>"_s;
     for (const QStringList &row : rows) {
         m_body += u"<tr>"_s;
-        for (qsizetype column = 0; column < columns.size(); ++column) {
+        for (qsizetype column = 0; column < columns.size(); ++column)
             m_body += cell(column == 0 ? u"th"_s : u"td"_s, column, row.value(column));
-        }
         m_body += u"</tr>"_s;
     }
     m_body += u"</tbody></table></div>"_s;

@@ -14,9 +14,8 @@ const QList<HtmlPage::Column> agentColumns{{u"Agent"_s}, {u"Role"_s}, {u"Status"
 
 QList<QStringList> agentsOf(const QList<Row> &rows) {
     QList<QStringList> agents;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         agents.append({row.text(0), row.text(1), row.text(2)});
-    }
     return agents;
 }
 
@@ -29,9 +28,8 @@ QList<QStringList> openTasks(Sql &sql, const ProjectKey &project) {
     QList<QStringList> tasks;
     for (const Row &row : sql.rows(u"SELECT title, agent, state, due FROM tasks WHERE account = ?"
                                    u" AND slug = ? AND closed IS NULL ORDER BY due, id"_s,
-                                   {project.account, project.slug})) {
+                                   {project.account, project.slug}))
         tasks.append({row.text(0), row.text(1), row.text(2), row.text(3)});
-    }
     return tasks;
 }
 
@@ -39,9 +37,8 @@ QList<HtmlPage::Figure> weekFigures(Sql &sql, const ProjectKey &project) {
     const auto row = sql.row(u"SELECT revenue, releases, reply_minutes FROM weekly"
                              u" WHERE account = ? AND slug = ? AND week = 0"_s,
                              {project.account, project.slug});
-    if (!row) {
+    if (!row)
         return {};
-    }
     return {{u"Revenue this week"_s, euros(row->whole(0))},
             {u"Releases this week"_s, row->text(1)},
             {u"Median first reply"_s, hoursMinutes(row->whole(2))}};
@@ -72,12 +69,10 @@ HtmlPage publicPage(Sql &sql, const ProjectKey &project) {
         u"SELECT p.brief, g.done FROM projects p LEFT JOIN progress g"
         u" ON g.account = p.account AND g.slug = p.slug WHERE p.account = ? AND p.slug = ?"_s,
         {project.account, project.slug});
-    if (!row->text(0).isEmpty()) {
+    if (!row->text(0).isEmpty())
         page.line(row->text(0));
-    }
-    if (!row->isNull(1)) {
+    if (!row->isNull(1))
         page.figures({{u"Done"_s, u"%1%"_s.arg(row->whole(1))}});
-    }
     return page;
 }
 

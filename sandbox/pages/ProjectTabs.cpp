@@ -18,9 +18,8 @@ void showWork(Sql &sql, const ProjectKey &project, HtmlPage &page) {
     for (const Row &row : sql.rows(u"SELECT title, agent, closed FROM tasks WHERE account = ?"
                                    u" AND slug = ? AND closed IS NOT NULL"
                                    u" ORDER BY closed DESC, id DESC LIMIT 10"_s,
-                                   {project.account, project.slug})) {
+                                   {project.account, project.slug}))
         closed.append({row.text(0), row.text(1), row.text(2)});
-    }
     page.section(u"Done lately"_s).table({{u"Task"_s}, {u"Agent"_s}, {u"Closed"_s, true}}, closed);
 }
 
@@ -39,10 +38,9 @@ void showGoals(Sql &sql, const ProjectKey &project, HtmlPage &page) {
     for (const Row &row :
          sql.rows(u"SELECT name, goal, owner, value, target FROM key_results WHERE account = ?"
                   u" ORDER BY position"_s,
-                  {project.account})) {
+                  {project.account}))
         results.append(
             {row.text(0), row.text(1), row.text(2), u"%1 of %2"_s.arg(row.text(3), row.text(4))});
-    }
     page.section(u"Goals of all projects"_s)
         .table({{u"Key result"_s}, {u"Goal"_s}, {u"Owner"_s}, {u"Reached"_s, true}}, results);
 }
@@ -94,14 +92,12 @@ void showKnowledge(Sql &sql, const ProjectKey &project, HtmlPage &page) {
     QStringList known;
     for (const Row &row : sql.rows(u"SELECT text FROM highlights WHERE account = ? AND slug = ?"
                                    u" ORDER BY position"_s,
-                                   {project.account, project.slug})) {
+                                   {project.account, project.slug}))
         known.append(row.text(0));
-    }
-    if (known.isEmpty()) {
+    if (known.isEmpty())
         page.line(u"Nothing has been written down yet."_s);
-    } else {
+    else
         page.line(u"What the agents of this project have written down."_s).list(known);
-    }
 }
 
 void showSettings(Sql &sql, const ProjectKey &project, HtmlPage &page) {
@@ -134,9 +130,8 @@ HtmlPage projectHead(Sql &sql, const ProjectKey &project, const QString &here) {
     HtmlPage page(project.label);
     const auto brief = sql.row(u"SELECT brief FROM projects WHERE account = ? AND slug = ?"_s,
                                {project.account, project.slug});
-    if (!brief->text(0).isEmpty()) {
+    if (!brief->text(0).isEmpty())
         page.line(brief->text(0));
-    }
     QList<HtmlPage::Link> links{
         {u"Dashboard"_s, u"/dashboard/"_s + project.slug, here == u"dashboard"_s}};
     for (const Tab &tab : tabs) {

@@ -57,30 +57,24 @@ Reply changePassword(Services &services, const Call &call) {
 
 /// The picture's type by its first bytes: what the sender calls it does not count.
 QString pictureType(const QByteArray &content) {
-    if (content.startsWith("\x89PNG\r\n\x1a\n")) {
+    if (content.startsWith("\x89PNG\r\n\x1a\n"))
         return u"image/png"_s;
-    }
-    if (content.startsWith("\xff\xd8\xff")) {
+    if (content.startsWith("\xff\xd8\xff"))
         return u"image/jpeg"_s;
-    }
-    if (content.startsWith("GIF8")) {
+    if (content.startsWith("GIF8"))
         return u"image/gif"_s;
-    }
-    if (content.startsWith("RIFF") && content.mid(8, 4) == "WEBP") {
+    if (content.startsWith("RIFF") && content.mid(8, 4) == "WEBP")
         return u"image/webp"_s;
-    }
     throw Refusal(400, u"Send a PNG, JPEG, GIF or WebP picture."_s, u"bad_picture"_s);
 }
 
 Reply uploadAvatar(Services &services, const Call &call) {
-    if (call.request.files.size() != 1) {
+    if (call.request.files.size() != 1)
         throw Refusal(400, u"Send one picture."_s, u"no_files"_s);
-    }
     const httplib::MultipartFormData &part = call.request.files.begin()->second;
     const QByteArray content = QByteArray::fromStdString(part.content);
-    if (content.size() > largestPicture) {
+    if (content.size() > largestPicture)
         throw Refusal(413, u"The picture is larger than 5 MiB."_s, u"too_large"_s);
-    }
     const StoredFile file = services.files.store(
         call.account, QString::fromStdString(part.filename), pictureType(content), content);
     services.accounts.setAvatar(call.account, file.key);

@@ -42,22 +42,19 @@ Reply history(Services &services, const Call &call, FindTarget find) {
     const Target target = find(services, call);
     QJsonArray rows;
     for (const ChatMessage &message :
-         services.chats.history(target.key, call.number("limit", 50, 1, 200))) {
+         services.chats.history(target.key, call.number("limit", 50, 1, 200)))
         rows.append(message.rowObject(call.origin));
-    }
     return Reply::json({{u"messages"_s, rows}});
 }
 
 QJsonArray checkedAttachments(const QJsonObject &body) {
     const QJsonValue value = body.value(u"attachments"_s);
     const QJsonArray attachments = value.toArray();
-    if (!value.isUndefined() && !value.isArray()) {
+    if (!value.isUndefined() && !value.isArray())
         throw Refusal(400, u"\"attachments\" must be a list."_s, u"bad_value"_s);
-    }
-    if (attachments.size() > mostAttachments) {
+    if (attachments.size() > mostAttachments)
         throw Refusal(400, u"A message carries at most %1 files."_s.arg(mostAttachments),
                       u"too_many_files"_s);
-    }
     QJsonArray kept;
     for (const QJsonValue &entry : attachments) {
         const QJsonObject object = entry.toObject();
@@ -78,36 +75,29 @@ Reply send(Services &services, const Call &call, FindTarget find) {
     const QString text = stringMember(body, "text"_L1);
     const QString requestId = stringMember(body, "client_request_id"_L1);
     const QJsonArray attachments = checkedAttachments(body);
-    if (text.trimmed().isEmpty() && attachments.isEmpty()) {
+    if (text.trimmed().isEmpty() && attachments.isEmpty())
         throw Refusal(400, u"The message is empty."_s, u"empty_message"_s);
-    }
-    if (text.size() > longestMessage) {
+    if (text.size() > longestMessage)
         throw Refusal(400, u"The message is longer than %1 characters."_s.arg(longestMessage),
                       u"message_too_long"_s);
-    }
-    if (target.stopped) {
+    if (target.stopped)
         throw Refusal(409, u"%1 is stopped."_s.arg(target.scope.name), u"work_halted"_s);
-    }
     QJsonObject metadata;
-    if (!attachments.isEmpty()) {
+    if (!attachments.isEmpty())
         metadata.insert(u"attachments"_s, attachments);
-    }
     const auto [message, isNew] = services.chats.appendOnce(target.key, text, metadata, requestId);
-    if (!isNew) {
+    if (!isNew)
         return sent(message, call);
-    }
     services.hub.publish(target.key, rowEvent(message.rowObject(call.origin)));
     QStringList files;
-    for (const QJsonValue &attachment : attachments) {
+    for (const QJsonValue &attachment : attachments)
         files.append(attachment[u"name"_s].toString());
-    }
     const Question question{text, target.scope, files};
     services.answerer.begin(target.key, call.origin, [&services, question, label = target.label] {
         Answer answer =
             services.database.run([&question](Sql &sql) { return composeAnswer(sql, question); });
-        if (!label.isEmpty()) {
+        if (!label.isEmpty())
             answer.metadata.insert(u"member_label"_s, label);
-        }
         return answer;
     });
     return sent(message, call);
@@ -125,9 +115,8 @@ EventStream::IsAllowed sessionOf(Services &services, const Call &call) {
 Reply stream(Services &services, const Call &call, FindTarget find) {
     const Target target = find(services, call);
     const auto listener = services.hub.listen(target.key);
-    if (!listener) {
+    if (!listener)
         throw Refusal(503, u"Too many open streams."_s, u"too_many_streams"_s);
-    }
     const auto fault = services.faults.take(
         QString::fromStdString(call.request.method), QString::fromStdString(call.request.path),
         {Fault::StreamDrop, Fault::HalfEvent, Fault::HalfCharacter, Fault::StreamStall});

@@ -29,9 +29,8 @@ Reply beacons(Services &services) {
     const auto rows = services.database.run(
         [](Sql &sql) { return sql.rows(u"SELECT name, SUM(count) FROM beacons GROUP BY name"_s); });
     QJsonObject counts;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         counts.insert(row.text(0), row.whole(1));
-    }
     return Reply::json({{u"beacons"_s, counts}});
 }
 

@@ -28,15 +28,12 @@ QJsonObject storeOne(Services &services, const Call &call, const httplib::Multip
     const auto refused = [&name](const QString &why) {
         return QJsonObject{{u"ok"_s, false}, {u"name"_s, name}, {u"error"_s, why}};
     };
-    if (content.isEmpty()) {
+    if (content.isEmpty())
         return refused(u"The file is empty."_s);
-    }
-    if (content.size() > largestFile) {
+    if (content.size() > largestFile)
         return refused(u"The file is larger than 10 MiB."_s);
-    }
-    if (!isTaken(mime)) {
+    if (!isTaken(mime))
         return refused(u"Files of this kind cannot be read here."_s);
-    }
     const StoredFile file = services.files.store(call.account, name, mime, content);
     QJsonObject stored{{u"ok"_s, true},
                        {u"name"_s, file.name},
@@ -45,32 +42,27 @@ QJsonObject storeOne(Services &services, const Call &call, const httplib::Multip
                        {u"key"_s, file.key},
                        {u"url"_s, u"%1/files/%2"_s.arg(call.origin, file.key)},
                        {u"kind"_s, mime.startsWith(u"image/"_s) ? u"image"_s : u"file"_s}};
-    if (isText(mime)) {
+    if (isText(mime))
         stored.insert(u"text"_s, QString::fromUtf8(content).left(longestInlineText));
-    }
     return stored;
 }
 
 Reply upload(Services &services, const Call &call) {
-    if (!call.request.is_multipart_form_data() || call.request.files.empty()) {
+    if (!call.request.is_multipart_form_data() || call.request.files.empty())
         throw Refusal(400, u"No files were sent."_s, u"no_files"_s);
-    }
-    if (call.request.files.size() > mostFiles) {
+    if (call.request.files.size() > mostFiles)
         throw Refusal(400, u"At most %1 files at a time."_s.arg(mostFiles), u"too_many_files"_s);
-    }
     QJsonArray files;
-    for (const auto &[field, part] : call.request.files) {
+    for (const auto &[field, part] : call.request.files)
         files.append(storeOne(services, call, part));
-    }
     return Reply::json({{u"files"_s, files}});
 }
 
 Reply download(Services &services, const Call &call) {
     const auto file = services.files.find(call.segment(1));
     auto content = file ? services.files.content(*file) : std::nullopt;
-    if (!content) {
+    if (!content)
         throw Refusal(404, u"There is no such file."_s, u"not_found"_s);
-    }
     // An uploaded page must not run as one of this server's own.
     return {.body = *std::move(content),
             .type = file->mime.toUtf8(),

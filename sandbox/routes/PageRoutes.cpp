@@ -12,9 +12,8 @@ constexpr qsizetype longestBeaconName = 64;
 
 Reply countBeacon(Services &services, const Call &call) {
     const QString name = stringMember(call.json(), "name"_L1);
-    if (name.isEmpty() || name.size() > longestBeaconName) {
+    if (name.isEmpty() || name.size() > longestBeaconName)
         throw Refusal(400, u"A beacon needs a name."_s, u"name_missing"_s);
-    }
     services.database.run([&](Sql &sql) {
         sql.exec(u"INSERT INTO beacons (account, name, count) VALUES (?, ?, 1)"
                  u" ON CONFLICT (account, name) DO UPDATE SET count = count + 1"_s,

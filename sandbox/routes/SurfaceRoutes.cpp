@@ -15,9 +15,8 @@ using Make = std::function<HtmlPage(Sql &, const Call &)>;
 
 /// A person reads what comes back, whether there is a page or not.
 Reply show(Services &services, const Call &call, const Make &make) {
-    if (call.account.isEmpty()) {
+    if (call.account.isEmpty())
         return signInPage().reply(401);
-    }
     try {
         return services.database.run([&](Sql &sql) { return make(sql, call); }).reply();
     } catch (const Refusal &refusal) {
@@ -29,9 +28,8 @@ ProjectKey projectOf(Sql &sql, const Call &call) {
     const QString slug = call.segment(1).toLower();
     const auto row = sql.row(u"SELECT label FROM projects WHERE account = ? AND slug = ?"_s,
                              {call.account, slug});
-    if (!row) {
+    if (!row)
         throw Refusal(404, u"There is no such project."_s, u"not_found"_s);
-    }
     return {call.account, slug, row->text(0)};
 }
 

@@ -47,27 +47,22 @@ std::optional<Fault> taken(Services &services, const Call &call,
 
 Reply capability(Services &services, const VoiceServer &voice, const Call &call) {
     QString reason = voice.isAvailable() ? QString() : u"not_configured"_s;
-    if (const auto fault = taken(services, call, {Fault::CallUnavailable})) {
+    if (const auto fault = taken(services, call, {Fault::CallUnavailable}))
         reason = fault->code.isEmpty() ? u"voice_unavailable"_s : fault->code;
-    }
-    if (reason.isEmpty()) {
+    if (reason.isEmpty())
         return Reply::json(QJsonObject{{u"available"_s, true}});
-    }
     return Reply::json(QJsonObject{{u"available"_s, false}, {u"reason"_s, reason}});
 }
 
 Reply session(Services &services, const VoiceServer &voice, const Call &call) {
     const AgentRecord agent =
         services.workspace.agent(call.account, stringMember(call.json(), "agent_id"_L1));
-    if (const auto fault = taken(services, call, {Fault::CallRefused})) {
+    if (const auto fault = taken(services, call, {Fault::CallRefused}))
         throw refusalFor(fault->code.isEmpty() ? u"token_mint_failed"_s : fault->code);
-    }
-    if (!voice.isAvailable()) {
+    if (!voice.isAvailable())
         throw refusalFor(u"voice_unavailable"_s);
-    }
-    if (agent.status == u"stopped"_s) {
+    if (agent.status == u"stopped"_s)
         throw Refusal(409, u"%1 is stopped."_s.arg(agent.name), u"work_halted"_s);
-    }
     const auto limit = taken(services, call, {Fault::CallLimit});
     const int longest = limit ? limit->value : longestCall;
     const CallDoor door = voice.door(call.origin);
@@ -81,12 +76,10 @@ Reply session(Services &services, const VoiceServer &voice, const Call &call) {
     };
     const auto transport =
         taken(services, call, {Fault::CallTokenOnly, Fault::CallWithToken, Fault::CallNoTransport});
-    if (transport && transport->kind != Fault::CallWithToken) {
+    if (transport && transport->kind != Fault::CallWithToken)
         reply.remove(u"signed_url"_s);
-    }
-    if (transport && transport->kind != Fault::CallNoTransport) {
+    if (transport && transport->kind != Fault::CallNoTransport)
         reply.insert(u"token"_s, mediaToken);
-    }
     return Reply::json(reply);
 }
 
@@ -108,9 +101,8 @@ Reply end(Services &services, VoiceServer &voice, const Call &call) {
 /// The page asks for it by a path that names its version, so that it never changes.
 Reply script(const VoiceServer &voice) {
     QFile file(voice.clientScript());
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         throw Refusal(404, u"The voice client is not here."_s, u"not_found"_s);
-    }
     return {.body = file.readAll(),
             .type = "text/javascript; charset=utf-8",
             .headers = {{"Cache-Control", "public, max-age=31536000, immutable"}}};

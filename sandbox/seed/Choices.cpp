@@ -114,38 +114,32 @@ constexpr std::array plan{
 
 void seedChoices(Sql &sql, const QString &account, Variation &vary) {
     int position = 0;
-    for (const HostingSeed &option : hosting) {
+    for (const HostingSeed &option : hosting)
         sql.exec(u"INSERT INTO hosting (account, slug, position, name, price, uptime, latency,"
                  u" backups) VALUES (?, 'glasshouse', ?, ?, ?, ?, ?, ?)"_s,
                  {account, ++position, text(option.name), vary(option.price), option.uptime,
                   vary(option.latency), text(option.backups)});
-    }
-    for (const StageSeed &stage : stages) {
+    for (const StageSeed &stage : stages)
         sql.exec(u"INSERT INTO stages (account, slug, position, name, count)"
                  u" VALUES (?, 'night-ferry', ?, ?, ?)"_s,
                  {account, ++position, text(stage.name), vary(stage.count)});
-    }
-    for (const StageSeed &part : parts) {
+    for (const StageSeed &part : parts)
         sql.exec(u"INSERT INTO unit_parts (account, slug, position, name, cents)"
                  u" VALUES (?, 'orchard', ?, ?, ?)"_s,
                  {account, ++position, text(part.name), vary(part.count)});
-    }
-    for (const CriterionSeed &row : criteria) {
+    for (const CriterionSeed &row : criteria)
         sql.exec(u"INSERT INTO criteria (account, slug, question, option_a, option_b, position,"
                  u" name, a, b) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"_s,
                  {account, text(row.slug), text(row.question), text(row.optionA), text(row.optionB),
                   ++position, text(row.name), row.a, row.b});
-    }
-    for (const CardSeed &card : retro) {
+    for (const CardSeed &card : retro)
         sql.exec(u"INSERT INTO retro (account, slug, position, column_name, card)"
                  u" VALUES (?, 'night-ferry', ?, ?, ?)"_s,
                  {account, ++position, text(card.column), text(card.card)});
-    }
-    for (const PlanSeed &piece : plan) {
+    for (const PlanSeed &piece : plan)
         sql.exec(u"INSERT INTO plan (account, slug, position, agent, title, state)"
                  u" VALUES (?, 'night-ferry', ?, ?, ?, ?)"_s,
                  {account, ++position, text(piece.agent), text(piece.title), text(piece.state)});
-    }
 }
 
 } // namespace kiv::sandbox

@@ -142,9 +142,8 @@ void seedWeeks(Sql &sql, const QString &account, Variation &vary) {
     };
     for (const WeekSeed &week : weeks) {
         add(week, week.back, week.revenue);
-        for (int back = 2; week.back == 1 && back < weeksKept; ++back) {
+        for (int back = 2; week.back == 1 && back < weeksKept; ++back)
             add(week, back, week.revenue * (100 - 3 * (back - 1)) / 100);
-        }
     }
 }
 
@@ -152,40 +151,34 @@ void seedWeeks(Sql &sql, const QString &account, Variation &vary) {
 
 void seedFigures(Sql &sql, const QString &account, Variation &vary) {
     seedWeeks(sql, account, vary);
-    for (const ProgressSeed &project : progress) {
+    for (const ProgressSeed &project : progress)
         sql.exec(
             u"INSERT INTO progress (account, slug, done, target, note)"
             u" VALUES (?, ?, ?, ?, ?)"_s,
             {account, text(project.slug), vary(project.done), project.target, text(project.note)});
-    }
-    for (const SpendSeed &line : spend) {
+    for (const SpendSeed &line : spend)
         sql.exec(u"INSERT INTO spend (account, slug, line, position, plan, actual)"
                  u" VALUES (?, ?, ?, ?, ?, ?)"_s,
                  {account, text(line.slug), text(line.line), line.position, line.plan,
                   vary(line.actual)});
-    }
     int position = 0;
-    for (const CashSeed &month : cash) {
+    for (const CashSeed &month : cash)
         sql.exec(u"INSERT INTO cash (account, position, month, money_in, money_out)"
                  u" VALUES (?, ?, ?, ?, ?)"_s,
                  {account, ++position, text(month.month), vary(month.in), vary(month.out)});
-    }
-    for (const GoalSeed &goal : goals) {
+    for (const GoalSeed &goal : goals)
         sql.exec(u"INSERT INTO key_results (account, position, goal, owner, name, value, target)"
                  u" VALUES (?, ?, ?, ?, ?, ?, 100)"_s,
                  {account, ++position, text(goal.goal), text(goal.owner), text(goal.result),
                   vary(goal.value)});
-    }
-    for (const LoadSeed &load : loads) {
+    for (const LoadSeed &load : loads)
         sql.exec(u"INSERT INTO capacity (account, position, person, place, planned, available)"
                  u" VALUES (?, ?, ?, ?, ?, ?)"_s,
                  {account, ++position, text(load.person), text(load.place), vary(load.planned),
                   available});
-    }
-    for (const HighlightSeed &highlight : highlights) {
+    for (const HighlightSeed &highlight : highlights)
         sql.exec(u"INSERT INTO highlights (account, slug, position, text) VALUES (?, ?, ?, ?)"_s,
                  {account, text(highlight.slug), ++position, text(highlight.text)});
-    }
 }
 
 } // namespace kiv::sandbox

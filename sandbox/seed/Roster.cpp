@@ -85,12 +85,11 @@ constexpr std::array events{
 
 void seedRoster(Sql &sql, const QString &account, const QDateTime &now) {
     int position = 0;
-    for (const ProjectSeed &project : projects) {
+    for (const ProjectSeed &project : projects)
         sql.exec(
             u"INSERT INTO projects (account, slug, label, brief, status, position)"
             u" VALUES (?, ?, ?, ?, 'active', ?)"_s,
             {account, text(project.slug), text(project.label), text(project.brief), ++position});
-    }
     position = 0;
     for (const AgentSeed &agent : agents) {
         const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);

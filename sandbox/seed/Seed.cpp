@@ -18,9 +18,8 @@ int Variation::below(int end) {
 }
 
 int Variation::operator()(int figure) {
-    if (m_seed == 0) {
+    if (m_seed == 0)
         return figure;
-    }
     const int promille = below(201) - 100;
     return figure + static_cast<int>(static_cast<qint64>(figure) * promille / 1000);
 }

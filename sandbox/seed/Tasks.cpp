@@ -128,9 +128,8 @@ void addOrdinary(TaskWriter &writer, const Load &load, Variation &vary) {
         const bool young = n >= load.open - load.opened;
         const int created = young ? -1 - vary.below(6) : -8 - vary.below(40);
         int due = 3 + vary.below(30);
-        if (n < load.overdue) {
+        if (n < load.overdue)
             due = n < load.longOverdue ? -9 : -2;
-        }
         writer.add(load.slug, agent(n), titleOf(load, n), n % 4 == 1 ? u"doing"_s : u"todo"_s,
                    created, due);
     }
@@ -147,9 +146,8 @@ void addOrdinary(TaskWriter &writer, const Load &load, Variation &vary) {
 
 void seedTasks(Sql &sql, const QString &account, QDate today, Variation &vary) {
     TaskWriter writer(sql, account, today);
-    for (const Load &load : loads) {
+    for (const Load &load : loads)
         addOrdinary(writer, load, vary);
-    }
     for (const Named &task : named) {
         const QString title = text(task.title);
         writer.add(task.slug, task.agent, title, text(task.state), -10, task.due);

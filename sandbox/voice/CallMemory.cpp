@@ -23,9 +23,8 @@ bool asksForThePast(const QString &question) {
 
 QString lastOf(const QStringList &lines, const QString &speaker) {
     for (auto line = lines.crbegin(); line != lines.crend(); ++line) {
-        if (line->startsWith(speaker)) {
+        if (line->startsWith(speaker))
             return line->sliced(speaker.size());
-        }
     }
     return {};
 }
@@ -34,21 +33,18 @@ QString lastOf(const QStringList &lines, const QString &speaker) {
 
 void CallMemory::add(const QString &text) {
     additions.append(text.left(longestAddition));
-    if (additions.size() > mostAdditions) {
+    if (additions.size() > mostAdditions)
         additions.removeFirst();
-    }
 }
 
 QString CallMemory::recall(const QString &question) const {
-    if (!asksForThePast(question)) {
+    if (!asksForThePast(question))
         return {};
-    }
     const QStringList lines =
         (digest.isEmpty() ? additions.join(u'\n') : digest).split(u'\n', Qt::SkipEmptyParts);
     const QString asked = lastOf(lines, u"You: "_s);
-    if (asked.isEmpty()) {
+    if (asked.isEmpty())
         return u"I have nothing from before this call."_s;
-    }
     const QString answered = lastOf(lines, u"Agent: "_s);
     return answered.isEmpty() ? u"Before this call you wrote: %1"_s.arg(asked)
                               : u"Before this call you wrote: %1 And the answer was: %2"_s.arg(

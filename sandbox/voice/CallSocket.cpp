@@ -63,9 +63,8 @@ void CallSocket::send(const QJsonObject &message) {
     }
     ++m_sent;
     m_socket->sendTextMessage(QString::fromUtf8(text));
-    if (m_socket->bytesToWrite() > mostUnread) {
+    if (m_socket->bytesToWrite() > mostUnread)
         breakOff();
-    }
 }
 
 void CallSocket::measure() {
@@ -84,9 +83,8 @@ void CallSocket::breakOff() {
 }
 
 void CallSocket::receive(const QString &text) {
-    if (m_closing) {
+    if (m_closing)
         return;
-    }
     if (isFlooding()) {
         close(QWebSocketProtocol::CloseCodePolicyViolated, u"Too many messages."_s);
         return;

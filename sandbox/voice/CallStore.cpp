@@ -83,9 +83,8 @@ MintedCall CallStore::mint(const QString &account, const QString &agent, const C
         settle(sql);
         if (sql.row(u"SELECT 1 FROM calls WHERE account = ?"
                     u" AND state IN ('waiting', 'live', 'dropped')"_s,
-                    {account})) {
+                    {account}))
             throw Refusal(409, u"A call is already in progress."_s, u"call_in_progress"_s);
-        }
         sql.exec(u"INSERT INTO calls (id, account, agent, token, origin, host, longest, state,"
                  u" created_at, free_at) VALUES (?, ?, ?, ?, ?, ?, ?, 'waiting', ?, ?)"_s,
                  {call.id, account, agent, tokenHash(call.token), door.origin, door.host,
@@ -101,9 +100,8 @@ std::optional<OpenCall> CallStore::open(const QByteArray &token, const CallDoor 
                                  u" WHERE token = ? AND origin = ? AND host = ?"
                                  u" AND state IN ('waiting', 'dropped')"_s,
                                  {tokenHash(token), door.origin, door.host});
-        if (!row) {
+        if (!row)
             return std::nullopt;
-        }
         sql.exec(u"UPDATE calls SET state = 'live', ended_at = NULL,"
                  u" started_at = COALESCE(started_at, ?) WHERE id = ?"_s,
                  {now(), row->text(0)});
@@ -131,9 +129,8 @@ void CallStore::finish(const QString &call) {
 
 void CallStore::end(const QString &account, const QString &call) {
     m_database.run([&](Sql &sql) {
-        if (!sql.row(u"SELECT 1 FROM calls WHERE account = ? AND id = ?"_s, {account, call})) {
+        if (!sql.row(u"SELECT 1 FROM calls WHERE account = ? AND id = ?"_s, {account, call}))
             throw noSuchCall();
-        }
         finishIn(sql, call);
     });
 }
@@ -161,9 +158,8 @@ QJsonArray CallStore::list(const QString &account, const QString &agent, int lim
                         {account, agent, limit});
     });
     QJsonArray list;
-    for (const Row &row : rows) {
+    for (const Row &row : rows)
         list.append(callObject(row));
-    }
     return list;
 }
 
@@ -171,9 +167,8 @@ QJsonObject CallStore::detail(const QString &account, const QString &call) {
     return m_database.run([&](Sql &sql) {
         const auto row =
             sql.row(callColumns + u" AND id = ? AND started_at IS NOT NULL"_s, {account, call});
-        if (!row) {
+        if (!row)
             throw noSuchCall();
-        }
         QJsonArray transcript;
         for (const Row &line :
              sql.rows(u"SELECT role, second, text FROM call_lines WHERE call = ? ORDER BY id"_s,

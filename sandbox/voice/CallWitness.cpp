@@ -8,9 +8,8 @@ namespace kiv::sandbox {
 
 void CallWitness::begin(const QString &call, const QString &agent) {
     const std::lock_guard lock(m_mutex);
-    if (m_report[u"call_id"_s] != call) {
+    if (m_report[u"call_id"_s] != call)
         m_report = {{u"call_id"_s, call}, {u"agent_id"_s, agent}};
-    }
 }
 
 void CallWitness::note(const QString &key, const QJsonValue &value) {

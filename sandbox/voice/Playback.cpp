@@ -56,9 +56,8 @@ void Playback::sendDue() {
         m_piece(m_samples.sliced(m_sent, size));
         m_sent += size;
     }
-    if (m_sent >= m_samples.size()) {
+    if (m_sent >= m_samples.size())
         m_timer.stop();
-    }
 }
 
 } // namespace kiv::sandbox

@@ -55,9 +55,8 @@ void Speaker::speak(const QString &text, Spoken spoken) {
     connect(
         m_process, &QProcess::errorOccurred, this,
         [done](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart) {
+            if (error == QProcess::FailedToStart)
                 done();
-            }
         },
         Qt::QueuedConnection);
     QTimer::singleShot(patienceMs, m_process, &QProcess::kill);

@@ -46,9 +46,8 @@ SpeechEar::~SpeechEar() {
 void SpeechEar::hear(const QByteArray &samples) {
     m_pending += samples;
     m_gap.start();
-    if (m_pending.size() >= pieceBytes) {
+    if (m_pending.size() >= pieceBytes)
         sendPending();
-    }
 }
 
 void SpeechEar::sendPending() {
@@ -59,9 +58,8 @@ void SpeechEar::sendPending() {
 }
 
 void SpeechEar::send(const QJsonObject &request) {
-    if (m_failed) {
+    if (m_failed)
         return;
-    }
     if (m_process.bytesToWrite() > mostUnread) {
         QMetaObject::invokeMethod(
             this, [this] { fail(u"the recogniser does not keep up"_s); }, Qt::QueuedConnection);

@@ -23,9 +23,8 @@ struct Rule {
 };
 
 QString applied(QString text, const QList<Rule> &rules) {
-    for (const Rule &rule : rules) {
+    for (const Rule &rule : rules)
         text.replace(rule.pattern, rule.words);
-    }
     return text;
 }
 
@@ -48,9 +47,8 @@ Parts partsOf(const QString &answer) {
     static const QRegularExpression fence(u"```[^\\n]*\\n(.*?)(```|$)"_s,
                                           QRegularExpression::DotMatchesEverythingOption);
     const auto block = fence.match(answer);
-    if (!block.hasMatch()) {
+    if (!block.hasMatch())
         return {answer, {}};
-    }
     const QString before = answer.first(block.capturedStart());
     return {before.trimmed().isEmpty() ? QString(answer).remove(fence) : before,
             QJsonDocument::fromJson(block.captured(1).toUtf8())};
@@ -58,9 +56,8 @@ Parts partsOf(const QString &answer) {
 
 /// One thing of a drawing with its figure, state or first card; empty when it has none.
 QString spokenEntry(const QJsonValue &entry) {
-    if (entry.isString()) {
+    if (entry.isString())
         return entry.toString();
-    }
     const QString card = entry[u"points"_s][0][u"label"_s].toString();
     for (const QString &figure :
          {entry[u"display"_s].toString(), entry[u"status"_s].toString(), card}) {
@@ -76,16 +73,14 @@ QString spokenEntry(const QJsonValue &entry) {
 QString figuresOf(const QJsonDocument &drawing) {
     QJsonArray entries = drawing.array();
     for (const QString &key : {u"items"_s, u"points"_s, u"columns"_s}) {
-        if (entries.isEmpty() && drawing[u"rows"_s].isUndefined()) {
+        if (entries.isEmpty() && drawing[u"rows"_s].isUndefined())
             entries = drawing[key].toArray();
-        }
     }
     QStringList said;
     for (const QJsonValue &entry : entries) {
         const QString text = spokenEntry(entry);
-        if (!text.isEmpty() && said.size() < mostFigures) {
+        if (!text.isEmpty() && said.size() < mostFigures)
             said.append(text);
-        }
     }
     return said.isEmpty() ? QString() : said.join(u"; "_s) + u'.';
 }
@@ -109,15 +104,12 @@ QStringList sentencesOf(const QString &text) {
     QStringList sentences;
     for (const QString &line : text.split(u'\n', Qt::SkipEmptyParts)) {
         for (QString sentence : line.simplified().split(stop, Qt::SkipEmptyParts)) {
-            if (sentence.endsWith(u';') || sentence.endsWith(u',')) {
+            if (sentence.endsWith(u';') || sentence.endsWith(u','))
                 sentence.chop(1);
-            }
-            if (!sentence.isEmpty() && sentence.back().isLetterOrNumber()) {
+            if (!sentence.isEmpty() && sentence.back().isLetterOrNumber())
                 sentence += u'.';
-            }
-            if (!sentence.isEmpty()) {
+            if (!sentence.isEmpty())
                 sentences.append(sentence);
-            }
         }
     }
     return sentences;
@@ -191,9 +183,8 @@ QString spokenText(const QString &answer) {
                                       : u"The details are in the chat."_s);
     }
     QString text = spokenFigures(said.join(u' '));
-    if (text.endsWith(u':')) {
+    if (text.endsWith(u':'))
         text.back() = u'.';
-    }
     return text;
 }
 

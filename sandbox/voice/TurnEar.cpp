@@ -33,9 +33,8 @@ double loudness(const char *frame) {
 void TurnEar::hear(const QByteArray &samples) {
     m_pending += samples;
     qsizetype done = 0;
-    for (; done + frameBytes <= m_pending.size(); done += frameBytes) {
+    for (; done + frameBytes <= m_pending.size(); done += frameBytes)
         hearFrame(m_pending.constData() + done);
-    }
     m_pending.remove(0, done);
 }
 
@@ -53,9 +52,8 @@ void TurnEar::hearFrame(const char *frame) {
     m_floor += (here - m_floor) * roomFollows;
     m_quiet += frameMs;
     if (m_quiet >= turnSilenceMs) {
-        if (m_speaking) {
+        if (m_speaking)
             later([said = m_handlers.said] { said(wordless); });
-        }
         m_speaking = false;
         m_loud = 0;
     }

@@ -63,13 +63,11 @@ VoiceCall::VoiceCall(const OpenCall &call, const CallSetting &setting,
     m_longest.start(
         std::chrono::seconds(m_call.longestSeconds - m_call.secondsSoFar + graceSeconds));
     QTimer::singleShot(beginPatience, this, [this] {
-        if (!m_begun) {
+        if (!m_begun)
             close(QWebSocketProtocol::CloseCodePolicyViolated, u"The conversation never began."_s);
-        }
     });
-    if (m_setting.breakAfterMs) {
+    if (m_setting.breakAfterMs)
         QTimer::singleShot(*m_setting.breakAfterMs, this, [this] { m_socket->breakOff(); });
-    }
     m_setting.witness.begin(m_call.id, m_call.agent);
     m_setting.witness.count(u"sockets"_s);
     m_setting.witness.note(u"state"_s, u"open"_s);
@@ -105,9 +103,8 @@ void VoiceCall::take(const QJsonObject &message) {
 }
 
 void VoiceCall::begin(const QJsonObject &data) {
-    if (m_begun) {
+    if (m_begun)
         return;
-    }
     m_begun = true;
     const QJsonObject extra = data[u"custom_llm_extra_body"_s].toObject();
     m_memory.digest = extra[u"chat_digest"_s].toString();
@@ -180,13 +177,11 @@ EarHandlers VoiceCall::earHandlers() {
 }
 
 QString VoiceCall::answerTo(const QString &question) {
-    if (question == wordless) {
+    if (question == wordless)
         return unheard;
-    }
     const QString recalled = m_memory.recall(question);
-    if (!recalled.isEmpty()) {
+    if (!recalled.isEmpty())
         return recalled;
-    }
     try {
         const Question asked{question, m_setting.scope, {}};
         return spokenText(
@@ -214,9 +209,8 @@ void VoiceCall::say(const QString &text) {
 void VoiceCall::interrupt() {
     m_thought.stop();
     m_speaker.stop();
-    if (!m_playback.isPlaying()) {
+    if (!m_playback.isPlaying())
         return;
-    }
     const QString heard = upToWord(m_saying, m_playback.heard());
     m_playback.stop();
     m_setting.calls.correctLine(m_sayingLine, heard);
@@ -247,11 +241,10 @@ void VoiceCall::ended(bool goodbye) {
     m_thought.stop();
     m_pings.stop();
     m_longest.stop();
-    if (goodbye) {
+    if (goodbye)
         m_setting.calls.finish(m_call.id);
-    } else {
+    else
         m_setting.calls.drop(m_call.id);
-    }
     m_setting.witness.note(u"state"_s, goodbye ? u"ended"_s : u"dropped"_s);
     m_over(this);
 }

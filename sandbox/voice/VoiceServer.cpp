@@ -45,15 +45,13 @@ VoiceServer::VoiceServer(Services &services, int httpPort)
             [this](QWebSocketCorsAuthenticator *page) {
                 page->setAllowed(m_origins.contains(page->origin()));
             });
-    if (m_listener.listen(QHostAddress::LocalHost)) {
+    if (m_listener.listen(QHostAddress::LocalHost))
         m_port = m_listener.serverPort();
-    }
 }
 
 VoiceServer::~VoiceServer() {
-    for (const auto &[key, call] : m_calls) {
+    for (const auto &[key, call] : m_calls)
         m_services.calls.finish(call->id());
-    }
 }
 
 bool VoiceServer::isAvailable() const {
@@ -79,9 +77,8 @@ void VoiceServer::hangUp(const QString &call) {
         this,
         [this, call] {
             for (const auto &[key, held] : m_calls) {
-                if (held->id() == call) {
+                if (held->id() == call)
                     held->close(QWebSocketProtocol::CloseCodeNormal, u"The call was ended."_s);
-                }
             }
         },
         Qt::QueuedConnection);
@@ -100,9 +97,8 @@ void VoiceServer::accept() {
         const auto late = faults.take(method, socketPath, {Fault::Latency});
         const std::chrono::milliseconds wait(late ? late->value : 0);
         QTimer::singleShot(handshakePatience + wait, connection, [this, peer] {
-            if (m_shaking.contains(peer)) {
+            if (m_shaking.contains(peer))
                 m_shaking.value(peer)->abort();
-            }
         });
         if (m_shaking.size() + static_cast<qsizetype>(m_calls.size()) > mostConnections ||
             mayBeOfAnotherUser(peer, m_port) || faults.take(method, socketPath, {Fault::Close})) {

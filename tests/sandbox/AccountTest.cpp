@@ -61,16 +61,14 @@ private Q_SLOTS:
                                 "tools_md",
                                 "goals_md",
                                 "glossary_md",
-                                "owner_learned_md"}) {
+                                "owner_learned_md"})
             changes.insert(QLatin1StringView(key), u"Текст "_s + QLatin1StringView(key));
-        }
         const Response patched = m_client->patch(u"/api/v2/user/profile"_s, changes);
         QCOMPARE(patched.status, 200);
         const QJsonObject profile = m_client->get(u"/api/v2/user/profile"_s).json();
         QCOMPARE(profile, patched.json());
-        for (auto change = changes.begin(); change != changes.end(); ++change) {
+        for (auto change = changes.begin(); change != changes.end(); ++change)
             QCOMPARE(profile.value(change.key()), change.value());
-        }
         QCOMPARE(profile.value(u"email"_s).toString(), m_email);
         QCOMPARE(m_client->get(u"/api/v2/auth/me"_s).json().value(u"name"_s),
                  changes.value(u"full_name"_s));

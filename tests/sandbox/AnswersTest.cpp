@@ -170,9 +170,8 @@ private Q_SLOTS:
         QCOMPARE(sumOf(ask(u"Where does the money go?"_s).points()), actual);
         QCOMPARE(qRound(actual / plan * 100), figure(3).toInt());
         double stacked = 0;
-        for (const QJsonValue &line : ask(u"Spend by project"_s).block()[u"series"_s].toArray()) {
+        for (const QJsonValue &line : ask(u"Spend by project"_s).block()[u"series"_s].toArray())
             stacked += sumOf(line.toObject().value(u"points"_s).toArray());
-        }
         QCOMPARE(stacked, actual);
     }
 
@@ -243,15 +242,13 @@ private:
             answers.clear();
             for (const QJsonValue &row :
                  client.get(chat + u"?limit=4"_s).json()[u"messages"_s].toArray()) {
-                if (row[u"id"_s].toInteger() > asked && row[u"role"_s] == u"assistant"_s) {
+                if (row[u"id"_s].toInteger() > asked && row[u"role"_s] == u"assistant"_s)
                     answers.append(row.toObject());
-                }
             }
             return answers.size() == 2;
         };
-        if (!QTest::qWaitFor(bothCame, 10'000)) {
+        if (!QTest::qWaitFor(bothCame, 10'000))
             return {};
-        }
         return {answers.at(0)[u"content"_s].toString(), answers.at(0)[u"metadata"_s].toObject()};
     }
 

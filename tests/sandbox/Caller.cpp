@@ -27,19 +27,17 @@ Caller::Caller(const QString &origin) : m_socket(origin) {
                 return;
             }
             m_messages.append(message);
-            if (m_answersPings && message[u"type"_s] == u"ping"_s) {
+            if (m_answersPings && message[u"type"_s] == u"ping"_s)
                 send({{u"type"_s, u"pong"_s},
                       {u"event_id"_s, message[u"ping_event"_s][u"event_id"_s]}});
-            }
         });
     QObject::connect(&m_socket, &QWebSocket::disconnected, &m_socket, [this] { m_closed = true; });
 }
 
 void Caller::dial(const QString &signedUrl, const QString &protocol) {
     QWebSocketHandshakeOptions options;
-    if (!protocol.isEmpty()) {
+    if (!protocol.isEmpty())
         options.setSubprotocols({protocol});
-    }
     m_socket.open(QUrl(signedUrl), options);
 }
 
@@ -69,9 +67,8 @@ void Caller::sound(int ms, int loudness) {
 
 bool Caller::play(const QString &wav) {
     QFile file(wav);
-    if (!file.open(QIODevice::ReadOnly) || !file.seek(wavHeader)) {
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(wavHeader))
         return false;
-    }
     while (!file.atEnd()) {
         sendSamples(file.read(rate * pieceMs / 1000 * 2));
         QTest::qWait(pieceMs);

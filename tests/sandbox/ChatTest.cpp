@@ -54,9 +54,8 @@ private Q_SLOTS:
 
     void historyIsTheNewestRowsOldestFirst() {
         const QString chat = u"/api/v2/projects/orchard/chat"_s;
-        for (int i = 1; i <= 3; ++i) {
+        for (int i = 1; i <= 3; ++i)
             m_client->post(chat, {{u"text"_s, u"note %1"_s.arg(i)}});
-        }
         QTRY_COMPARE(history(chat, 10).size(), 6);
         const QJsonArray last = history(chat, 4);
         QCOMPARE(last.size(), 4);
@@ -90,9 +89,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("code");
         const QJsonObject hello{{u"text"_s, u"Hello"_s}};
         QJsonArray six;
-        for (int i = 0; i < 6; ++i) {
+        for (int i = 0; i < 6; ++i)
             six.append(QJsonObject{{u"name"_s, u"a"_s}});
-        }
         QTest::newRow("empty") << room << QJsonObject{{u"text"_s, u" \n"_s}} << 400
                                << u"empty_message"_s;
         QTest::newRow("no text") << room << QJsonObject() << 400 << u"empty_message"_s;
@@ -176,9 +174,8 @@ private Q_SLOTS:
         other.post(room, {{u"text"_s, u"My own words"_s}});
         QVERIFY(stream.waitForRows(2));
         QVERIFY(!stream.bytes().contains("Between us"));
-        for (const QJsonValue &row : other.get(room).json().value(u"messages"_s).toArray()) {
+        for (const QJsonValue &row : other.get(room).json().value(u"messages"_s).toArray())
             QVERIFY(content(row.toObject()) != u"Between us"_s);
-        }
     }
 
     void attachedFilesComeBack() {

@@ -22,9 +22,8 @@ Client::Client(int port)
 }
 
 Response Client::take(const httplib::Result &result) {
-    if (!result) {
+    if (!result)
         return {};
-    }
     return {result->status, QByteArray::fromStdString(result->body),
             QByteArray::fromStdString(result->get_header_value("Set-Cookie"))};
 }
@@ -48,9 +47,8 @@ Response Client::postRaw(const QString &path, const QByteArray &body, const QByt
 Response Client::upload(const QString &path,
                         const QList<std::tuple<QString, QString, QByteArray>> &files) {
     httplib::MultipartFormDataItems items;
-    for (const auto &[name, mime, content] : files) {
+    for (const auto &[name, mime, content] : files)
         items.push_back({"file", content.toStdString(), name.toStdString(), mime.toStdString()});
-    }
     return take(m_client.Post(path.toStdString(), headers, items));
 }
 

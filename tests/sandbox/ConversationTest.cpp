@@ -96,9 +96,8 @@ private Q_SLOTS:
             QVERIFY2(!answer.isEmpty() && answer.size() < 500, qPrintable(question));
             QVERIFY2(!answer.contains(unspeakable), qPrintable(answer));
             answers.append(answer);
-            if (qEnvironmentVariableIsSet("KIV_SHOW_ANSWERS")) {
+            if (qEnvironmentVariableIsSet("KIV_SHOW_ANSWERS"))
                 qInfo("%s\n    %s", qPrintable(question), qPrintable(answer));
-            }
         }
         QVERIFY2(answers[0].contains(u" euros"_s), qPrintable(answers[0]));
         QVERIFY2(answers[19].contains(u" процентов"_s), qPrintable(answers[19]));
@@ -144,9 +143,8 @@ private Q_SLOTS:
         Caller caller(m_voice->sandbox().url());
         caller.begin(address);
         QVERIFY(!caller.next(u"conversation_initiation_metadata"_s).isEmpty());
-        if (!byServer) {
+        if (!byServer)
             caller.socket().abort();
-        }
         QVERIFY(caller.waitForClose());
         QTRY_COMPARE(m_voice->seen()[u"state"_s].toString(), u"dropped"_s);
         QCOMPARE(m_voice->tryMint().code(), u"call_in_progress"_s);

@@ -28,17 +28,15 @@ QByteArray answerTo(int port, const QByteArray &bytes) {
         }
     }
     QByteArray answer;
-    while (!answer.contains("\r\n\r\n") && socket.waitForReadyRead(5000)) {
+    while (!answer.contains("\r\n\r\n") && socket.waitForReadyRead(5000))
         answer += socket.readAll();
-    }
     return answer;
 }
 
 qint64 kilobytesOf(const QProcess &process) {
     QFile status(u"/proc/%1/status"_s.arg(process.processId()));
-    if (!status.open(QIODevice::ReadOnly)) {
+    if (!status.open(QIODevice::ReadOnly))
         return 0;
-    }
     const QByteArray text = status.readAll();
     return text.mid(text.indexOf("VmRSS:") + 6, 20).simplified().split(' ').first().toLongLong();
 }
@@ -95,10 +93,9 @@ private Q_SLOTS:
             << "GET /" + QByteArray(10'000'000, 'x') << QByteArray() << 400;
         for (const char *path : {"/files/../workspace.sqlite", "/files/..%2fworkspace.sqlite",
                                  "/files/%2e%2e%2fsample-password", "/vendor/../../lock",
-                                 "/files//etc/passwd", "/files/%00"}) {
+                                 "/files//etc/passwd", "/files/%00"})
             QTest::newRow(path) << "GET " + QByteArray(path) + " HTTP/1.1\r\n"
                                 << QByteArray() << 404;
-        }
     }
 
     /// Refused before anything of it is kept, and without waiting for what was only announced.
@@ -191,9 +188,8 @@ private Q_SLOTS:
     void otherUsersAreNotServed() {
         QFETCH(uint, user);
         QFETCH(bool, served);
-        if (user != geteuid() && geteuid() != 0) {
+        if (user != geteuid() && geteuid() != 0)
             QSKIP("Only root can be somebody else");
-        }
         const int socket = connectionOf(user);
         const QByteArray request = "GET /downloads/ HTTP/1.1\r\nHost: " + host() + "\r\n\r\n";
         ::send(socket, request.constData(), static_cast<size_t>(request.size()), MSG_NOSIGNAL);
@@ -220,23 +216,20 @@ private Q_SLOTS:
         for (int i = 0; i < 12; ++i) {
             const int socket = connectionOf(geteuid());
             ::send(socket, request.constData(), static_cast<size_t>(request.size()), MSG_NOSIGNAL);
-            if (reset) {
+            if (reset)
                 ::setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
-            }
             ::close(socket);
         }
         Client client(m_sandbox->port());
-        for (int i = 0; i < 50; ++i) {
+        for (int i = 0; i < 50; ++i)
             QCOMPARE(client.get(u"/downloads/"_s).status, 200);
-        }
         QCOMPARE(client.postRaw(u"/api/v2/auth/login"_s, body).status, 401);
     }
 
     void onlyThisComputerIsServed() {
         for (const QHostAddress &address : QNetworkInterface::allAddresses()) {
-            if (address.isLoopback() || address.protocol() != QAbstractSocket::IPv4Protocol) {
+            if (address.isLoopback() || address.protocol() != QAbstractSocket::IPv4Protocol)
                 continue;
-            }
             QTcpSocket socket;
             socket.connectToHost(address, static_cast<quint16>(m_sandbox->port()));
             QVERIFY2(!socket.waitForConnected(2000), qPrintable(address.toString()));
@@ -257,9 +250,8 @@ private:
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         const bool isOwnAgain = seteuid(own) == 0;
         if (!isUser || !isOwnAgain ||
-            ::connect(socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0) {
+            ::connect(socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0)
             qFatal("There is no connection to the server");
-        }
         return socket;
     }
 

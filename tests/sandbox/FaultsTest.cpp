@@ -125,9 +125,8 @@ private Q_SLOTS:
     void badOrders_data() {
         QTest::addColumn<QString>("fault");
         for (const char *fault : {"", "nothing", "status", "status=abc", "status=42", "latency=-1",
-                                  "stream-drop=x", "close,when=now", "status=500,times=many"}) {
+                                  "stream-drop=x", "close,when=now", "status=500,times=many"})
             QTest::addRow("'%s'", fault) << QString::fromLatin1(fault);
-        }
     }
 
     void badOrders() {

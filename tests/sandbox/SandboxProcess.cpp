@@ -15,9 +15,8 @@ constexpr int patience = 10'000;
 
 SandboxProcess::SandboxProcess(const QString &dataDir, const QStringList &arguments) {
     QStringList all{u"--data-dir"_s, dataDir, u"--control"_s};
-    if (!arguments.contains(u"--answer-speed"_s)) {
+    if (!arguments.contains(u"--answer-speed"_s))
         all += {u"--answer-speed"_s, u"0"_s};
-    }
     m_process.start(QStringLiteral(KIV_SANDBOX), all + arguments);
     while (!m_process.canReadLine() && m_process.waitForReadyRead(patience)) {
     }

@@ -46,10 +46,9 @@ private Q_SLOTS:
     void routes_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<QJsonObject>("body"); // of a POST; a GET without
-        for (const auto &[path, body] : cases()) {
+        for (const auto &[path, body] : cases())
             QTest::addRow("%s %s", body.isEmpty() ? "GET" : "POST", qPrintable(path))
                 << path << body;
-        }
     }
 
     /// To somebody else it is as if it were not there; without a session nothing is said at all.
@@ -60,16 +59,14 @@ private Q_SLOTS:
             return text.replace(u"AGENT"_s, m_voice->agentId(u"Scout"_s))
                 .replace(u"CALL"_s, m_call);
         };
-        for (auto member = body.begin(); member != body.end(); ++member) {
+        for (auto member = body.begin(); member != body.end(); ++member)
             member.value() = inserted(member.value().toString());
-        }
         const auto ask = [&](Client &client) {
             const QString at = inserted(path);
             return body.isEmpty() ? client.get(at).status : client.post(at, body).status;
         };
-        if (body.isEmpty() && !path.endsWith(u"stream"_s)) {
+        if (body.isEmpty() && !path.endsWith(u"stream"_s))
             QCOMPARE(ask(m_voice->client()), 200);
-        }
         Client other(m_voice->sandbox().port());
         other.signUp(u"%1@example.com"_s.arg(QRandomGenerator::global()->generate()));
         QCOMPARE(ask(other), 404);
@@ -105,9 +102,8 @@ private Q_SLOTS:
     void statementsAreNotWrittenByStrangers_data() {
         QTest::addColumn<QString>("text");
         for (const char *text : {"' OR '1'='1", "x'; DROP TABLE accounts; --", "' UNION SELECT id",
-                                 "\\' OR 1=1 --", "%", "only-mine' --"}) {
+                                 "\\' OR 1=1 --", "%", "only-mine' --"})
             QTest::newRow(text) << QString::fromLatin1(text);
-        }
     }
 
     void statementsAreNotWrittenByStrangers() {
@@ -187,9 +183,8 @@ private Q_SLOTS:
             }));
         }
         QMap<int, int> statuses;
-        for (std::future<int> &guess : guesses) {
+        for (std::future<int> &guess : guesses)
             ++statuses[guess.get()];
-        }
         QCOMPARE(statuses.value(429), 20);
         QVERIFY(!statuses.contains(200));
     }
@@ -237,9 +232,8 @@ private Q_SLOTS:
             const QString path = every.next();
             QVERIFY2((QFile::permissions(path) & others) == QFile::Permissions(), qPrintable(path));
             QFile file(path);
-            if (every.fileInfo().isFile() && file.open(QIODevice::ReadOnly)) {
+            if (every.fileInfo().isFile() && file.open(QIODevice::ReadOnly))
                 all += file.readAll();
-            }
         }
         QVERIFY(all.contains("kept@example.com"));
         QVERIFY(all.contains("$argon2id$v=19$m=65536,t=2,p=1$"));
@@ -269,9 +263,8 @@ private:
               project + u"chat/stream"_s, agent + u"chat"_s, agent + u"chat/stream"_s,
               u"/api/v2/voice/calls?agent_id=AGENT"_s, u"/api/v2/voice/calls/CALL"_s,
               u"/project/only-mine"_s, u"/dashboard/only-mine"_s, u"/team/only-mine"_s,
-              u"/p/only-mine"_s}) {
+              u"/p/only-mine"_s})
             all.append({path, {}});
-        }
         return all;
     }
 

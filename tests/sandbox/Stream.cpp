@@ -11,16 +11,14 @@ constexpr auto patience = 10s;
 QList<QJsonObject> rowsIn(const QByteArray &bytes) {
     QList<QJsonObject> rows;
     const qsizetype whole = bytes.lastIndexOf("\n\n");
-    if (whole < 0) {
+    if (whole < 0)
         return rows;
-    }
     QByteArray event;
     for (const QByteArray &line : bytes.first(whole).split('\n')) {
-        if (line.startsWith("event: ")) {
+        if (line.startsWith("event: "))
             event = line.sliced(7);
-        } else if (line.startsWith("data: ") && event == "message-insert") {
+        else if (line.startsWith("data: ") && event == "message-insert")
             rows.append(QJsonDocument::fromJson(line.sliced(6)).object());
-        }
     }
     return rows;
 }

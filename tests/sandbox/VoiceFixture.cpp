@@ -10,16 +10,14 @@ VoiceFixture::VoiceFixture() {
     // What is in the script does not matter here, only that it is there.
     QDir(m_share.path()).mkpath(u"vendor"_s);
     QFile script(scriptPath());
-    if (!script.open(QIODevice::WriteOnly) || script.write("window.here = 1;") < 0) {
+    if (!script.open(QIODevice::WriteOnly) || script.write("window.here = 1;") < 0)
         qFatal("No script can be written.");
-    }
     script.close();
     restart();
     m_client->signUp(u"caller@example.com"_s);
     for (const QJsonValue agent :
-         m_client->get(u"/api/v2/custom-agents"_s).json()[u"agents"_s].toArray()) {
+         m_client->get(u"/api/v2/custom-agents"_s).json()[u"agents"_s].toArray())
         m_agents.insert(agent[u"name"_s].toString(), agent[u"id"_s].toString());
-    }
     m_agents.insert(u"KIV"_s,
                     m_client->get(u"/api/v2/orchestrator"_s).json()[u"agent_id"_s].toString());
 }
@@ -29,9 +27,8 @@ void VoiceFixture::restart() {
     m_sandbox = std::make_unique<SandboxProcess>(m_folder.path(),
                                                  QStringList{u"--share-dir"_s, m_share.path()});
     auto client = std::make_unique<Client>(m_sandbox->port());
-    if (m_client) {
+    if (m_client)
         client->headers.emplace("Cookie", m_client->headers.find("Cookie")->second);
-    }
     m_client = std::move(client);
 }
 

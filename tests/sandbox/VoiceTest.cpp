@@ -82,9 +82,8 @@ private Q_SLOTS:
         Caller caller(m_voice->sandbox().url());
         caller.begin(m_voice->mintAddress());
         QVERIFY(!caller.next(u"conversation_initiation_metadata"_s).isEmpty());
-        for (int i = 0; i < times; ++i) {
+        for (int i = 0; i < times; ++i)
             caller.socket().sendTextMessage(QString::fromLatin1(text));
-        }
         QVERIFY(caller.waitForClose());
         QCOMPARE(static_cast<int>(caller.socket().closeCode()), code);
     }
