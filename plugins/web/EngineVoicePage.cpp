@@ -1,5 +1,6 @@
 #include "EngineVoicePage.h"
 
+#include "base/BaseUrl.h"
 #include "voice/VoicePageText.h"
 
 #include <QFile>

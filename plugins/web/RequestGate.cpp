@@ -8,21 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int portOf(const QUrl &url) {
-    const bool isSecure = url.scheme() == u"https"_s || url.scheme() == u"wss"_s;
-    return url.port(isSecure ? 443 : 80);
-}
-
 bool isSameHost(const QUrl &one, const QUrl &other) {
-    return one.host().compare(other.host(), Qt::CaseInsensitive) == 0 &&
-           portOf(one) == portOf(other);
+    return one.host() == other.host() && portOf(one) == portOf(other);
 }
 
 } // namespace
-
-bool isSameOrigin(const QUrl &one, const QUrl &other) {
-    return one.scheme() == other.scheme() && isSameHost(one, other);
-}
 
 void RequestGate::interceptRequest(QWebEngineUrlRequestInfo &request) {
     if (!admits(request.requestUrl()))

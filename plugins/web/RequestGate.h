@@ -5,9 +5,6 @@
 
 namespace kiv::web {
 
-/// Whether two addresses have scheme, host and port in common.
-bool isSameOrigin(const QUrl &one, const QUrl &other);
-
 /// Lets a page fetch from its own server and over https, and no file of this computer. A server on
 /// this computer may have its sockets on another port.
 class RequestGate : public QWebEngineUrlRequestInterceptor {

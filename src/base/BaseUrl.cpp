@@ -65,6 +65,16 @@ QString pathSegment(const QString &text) {
     return QString::fromLatin1(QUrl::toPercentEncoding(text));
 }
 
+int portOf(const QUrl &url) {
+    const bool isSecure = url.scheme() == "https"_L1 || url.scheme() == "wss"_L1;
+    return url.port(isSecure ? 443 : 80);
+}
+
+bool isSameOrigin(const QUrl &one, const QUrl &other) {
+    return one.scheme() == other.scheme() && one.host() == other.host() &&
+           portOf(one) == portOf(other);
+}
+
 QString originOf(const QUrl &url) {
     return url.toString(QUrl::FullyEncoded | QUrl::RemovePath | QUrl::RemoveQuery |
                         QUrl::RemoveFragment | QUrl::RemoveUserInfo);

@@ -35,6 +35,13 @@ QUrl appendPath(const QUrl &base, const QString &path);
 /// One path component, percent-encoded so that it can neither climb nor add a query.
 QString pathSegment(const QString &text);
 
+/// The port that a URL leads to: where it names none, that of its scheme (the web's, or a
+/// socket's).
+int portOf(const QUrl &url);
+
+/// Whether two URLs have scheme, host and port in common.
+bool isSameOrigin(const QUrl &one, const QUrl &other);
+
 /// The origin of a URL as the Origin header writes it: scheme, host and an explicit port.
 QString originOf(const QUrl &url);
 

@@ -6,8 +6,6 @@
 
 namespace kiv::net {
 
-using namespace Qt::StringLiterals;
-
 bool Connectivity::reaches(const QUrl &url) const {
     if (m_serverDown)
         return false;
@@ -22,8 +20,7 @@ void Connectivity::probe(const QUrl &url) {
         m_probe.release()->deleteLater();
         Q_EMIT changed();
     });
-    const int standardPort = url.scheme() == u"https"_s ? 443 : 80;
-    m_probe->connectToHost(url.host(), static_cast<quint16>(url.port(standardPort)));
+    m_probe->connectToHost(url.host(), static_cast<quint16>(portOf(url)));
 }
 
 void Connectivity::setServerDown(bool down) {

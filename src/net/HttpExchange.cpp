@@ -1,6 +1,7 @@
 #include "net/HttpExchange.h"
 
 #include "base/Await.h"
+#include "base/BaseUrl.h"
 
 #include <utility>
 
@@ -11,13 +12,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int redirectLimit = 10;
-
-bool sameOrigin(const QUrl &a, const QUrl &b) {
-    const auto port = [](const QUrl &url) {
-        return url.port(url.scheme() == u"https"_s ? 443 : 80);
-    };
-    return a.scheme() == b.scheme() && a.host() == b.host() && port(a) == port(b);
-}
 
 bool isRedirect(int status) {
     return status == 301 || status == 302 || status == 303 || status == 307 || status == 308;
@@ -180,7 +174,7 @@ void HttpExchange::redirect(const QUrl &target) {
     const bool secured = target.scheme() == u"https"_s;
     if (!secured && (target.scheme() != u"http"_s || m_origin.scheme() == u"https"_s))
         throw APIError::transport(tr("The server redirected the request to an unsafe address."));
-    if (!sameOrigin(m_origin, target))
+    if (!isSameOrigin(m_origin, target))
         m_credentials = HttpSession::Credentials::Omit;
     const bool repeats =
         status() == 307 || status() == 308 || (status() != 303 && m_request.method != "POST");
