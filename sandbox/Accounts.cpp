@@ -59,7 +59,7 @@ QJsonObject readProfile(Sql &sql, const QString &account) {
 
 } // namespace
 
-QString normalizedEmail(const QString &email) {
+QString normalisedEmail(const QString &email) {
     return email.trimmed().toLower();
 }
 
@@ -72,7 +72,7 @@ void Accounts::checkNewPassword(const QString &password) {
 
 QString Accounts::create(const QString &email, const QString &password,
                          const QJsonObject &profile) {
-    const QString address = normalizedEmail(email);
+    const QString address = normalisedEmail(email);
     checkEmail(address);
     checkNewPassword(password);
     if (exists(address))
@@ -96,7 +96,7 @@ QString Accounts::create(const QString &email, const QString &password,
 QString Accounts::authenticate(const QString &email, const QString &password) {
     const auto found = m_database.run([&](Sql &sql) {
         return sql.row(u"SELECT id, password FROM accounts WHERE email = ?"_s,
-                       {normalizedEmail(email)});
+                       {normalisedEmail(email)});
     });
     if (!found)
         verifyNobody(password);
@@ -107,7 +107,7 @@ QString Accounts::authenticate(const QString &email, const QString &password) {
 
 bool Accounts::exists(const QString &email) {
     return m_database.run([&](Sql &sql) {
-        return sql.row(u"SELECT 1 FROM accounts WHERE email = ?"_s, {normalizedEmail(email)})
+        return sql.row(u"SELECT 1 FROM accounts WHERE email = ?"_s, {normalisedEmail(email)})
             .has_value();
     });
 }
@@ -116,7 +116,7 @@ void Accounts::setPassword(const QString &email, const QString &password) {
     const QString hash = QString::fromLatin1(hashPassword(password));
     m_database.run([&](Sql &sql) {
         sql.exec(u"UPDATE accounts SET password = ? WHERE email = ?"_s,
-                 {hash, normalizedEmail(email)});
+                 {hash, normalisedEmail(email)});
     });
 }
 

@@ -42,7 +42,7 @@ private:
 };
 
 /// Trimmed and lower-cased: what tells accounts apart.
-QString normalizedEmail(const QString &email);
+QString normalisedEmail(const QString &email);
 
 /// Throws Refusal when a field is of the wrong type or out of bounds. Unknown keys are left out of
 /// the result.

@@ -49,7 +49,7 @@ QString SampleAccount::email() const {
 }
 
 void SampleAccount::ensure(const QString &address) {
-    if (normalizedEmail(address) != email())
+    if (normalisedEmail(address) != email())
         return;
     const std::lock_guard lock(m_mutex);
     const bool isThere = m_made || m_accounts.exists(email());

@@ -36,7 +36,7 @@ Reply signedIn(Services &services, const Call &call, const QString &account) {
 Reply login(Services &services, const Call &call) {
     const QJsonObject body = call.json();
     const QString email = stringMember(body, "email"_L1);
-    const QString address = normalizedEmail(email);
+    const QString address = normalisedEmail(email);
     services.attempts.begin(address);
     services.sample.ensure(email);
     const QString account =
