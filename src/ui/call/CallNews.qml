@@ -4,8 +4,6 @@ import Kiv.Store
 
 // Says once what has become of a call, to those who do not see it.
 Announcement {
-    id: news
-
     required property CallRoom call
 
     objectName: "callNews"

@@ -3,8 +3,6 @@ import QtQuick.Templates as T
 
 // Where a popup opens: it is made, and its file read, when it is shown for the first time.
 Loader {
-    id: place
-
     /// Whether the popup shows, for one that a state of the window opens.
     property bool shown: false
     /// The most height that it takes.

@@ -3,8 +3,6 @@ import Kiv.Tokens
 
 // The shadow of a floating thing: fills the thing's parent and reaches beyond it.
 BorderImage {
-    id: shadow
-
     enum Level { Floating, High }
 
     property int level: Shadow.Floating

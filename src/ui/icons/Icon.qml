@@ -3,8 +3,6 @@ import Kiv.Icons
 
 // A line icon of our own set, by the name of its file, in any colour.
 Image {
-    id: icon
-
     required property string name
     property int size: 20
     property color color: "black"

@@ -4,8 +4,6 @@ import Kiv.Store
 
 // The page of the program that the canvas shows; nothing while it shows none.
 Loader {
-    id: place
-
     required property AppStore store
 
     readonly property string page: store.canvas.panel === "agents" ? "AgentsPage.qml"

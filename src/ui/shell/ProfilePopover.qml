@@ -41,8 +41,6 @@ Popover {
                 height: Math.max(60, words.height + 20)
 
                 Avatar {
-                    id: avatar
-
                     x: 10
                     anchors.verticalCenter: parent.verticalCenter
                     size: 40

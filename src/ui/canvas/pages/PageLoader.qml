@@ -3,8 +3,6 @@ import Kiv.Store
 
 // The page of the platform that the canvas shows, made when there is one.
 Loader {
-    id: place
-
     required property AppStore store
     required property int reserved
 
