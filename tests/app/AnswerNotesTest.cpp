@@ -39,8 +39,7 @@ private Q_SLOTS:
         m_f.reset();
         m_notifier.reset();
         m_server.reset();
-        QDBusConnection::disconnectFromBus(u"desktop"_s);
-        QDBusConnection::disconnectFromBus(u"program"_s);
+        m_bus.disconnectAll();
     }
 
     void firstLines_data() {

@@ -24,10 +24,7 @@ private Q_SLOTS:
         if (!m_bus.isThere())
             QSKIP("There is no dbus-daemon");
     }
-    void cleanup() {
-        for (const QString &name : {u"first"_s, u"second"_s, u"desktop"_s})
-            QDBusConnection::disconnectFromBus(name);
-    }
+    void cleanup() { m_bus.disconnectAll(); }
 
     void aSecondStartHandsOver_data() {
         QTest::addColumn<QStringList>("links");

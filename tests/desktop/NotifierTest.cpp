@@ -18,10 +18,7 @@ private Q_SLOTS:
         if (!m_bus.isThere())
             QSKIP("There is no dbus-daemon");
     }
-    void cleanup() {
-        QDBusConnection::disconnectFromBus(u"desktop"_s);
-        QDBusConnection::disconnectFromBus(u"program"_s);
-    }
+    void cleanup() { m_bus.disconnectAll(); }
 
     void markupIsText_data() {
         QTest::addColumn<QStringList>("abilities");

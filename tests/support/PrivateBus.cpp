@@ -2,6 +2,8 @@
 
 #include <QStandardPaths>
 
+#include <utility>
+
 namespace kiv::test {
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,17 @@ PrivateBus::PrivateBus() {
 PrivateBus::~PrivateBus() {
     m_daemon.kill();
     m_daemon.waitForFinished();
+}
+
+QDBusConnection PrivateBus::connection(const QString &name) {
+    if (!m_names.contains(name))
+        m_names.append(name);
+    return QDBusConnection::connectToBus(m_address, name);
+}
+
+void PrivateBus::disconnectAll() {
+    for (const QString &name : std::exchange(m_names, {}))
+        QDBusConnection::disconnectFromBus(name);
 }
 
 QDBusConnection PrivateBus::noConnection() {
