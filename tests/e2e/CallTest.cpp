@@ -257,10 +257,7 @@ private:
 
 int main(int argc, char **argv) {
     app::Application::prepareProcess();
-    if (geteuid() == 0) {
-        std::fputs("Running as root: the web engine's sandbox is off for these tests.\n", stderr);
-        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    }
+    kiv::test::letEngineRunAsRoot();
     const QTemporaryDir folder;
     const QString microphone = spokenFile(folder);
     // Nothing here may reach another computer.

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <cstdio>
 #include <unistd.h>
 
 namespace kiv::test {
@@ -47,6 +48,13 @@ QList<qint64> renderers() {
             found += family(child).sliced(1);
     }
     return found;
+}
+
+void letEngineRunAsRoot() {
+    if (geteuid() != 0)
+        return;
+    std::fputs("Running as root: the web engine's sandbox is off for these tests.\n", stderr);
+    qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 }
 
 } // namespace kiv::test

@@ -16,5 +16,8 @@ QList<qint64> children(qint64 process);
 QList<qint64> family(qint64 root);
 /// The processes that this one's web engine runs pages in: what its children have started.
 QList<qint64> renderers();
+/// Where root runs the test, the web engine can shut nothing in: it is told not to try, and the
+/// test says so. Before the engine starts.
+void letEngineRunAsRoot();
 
 } // namespace kiv::test

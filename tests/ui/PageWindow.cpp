@@ -1,10 +1,10 @@
 #include "ui/PageWindow.h"
 
+#include "support/Processes.h"
+
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QtTest>
-
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -66,10 +66,7 @@ void PageWindow::clickRow(int row) {
 
 int runPageTest(QObject &test, int argc, char **argv) {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    if (geteuid() == 0) {
-        std::fputs("Running as root: the web engine's sandbox is off for these tests.\n", stderr);
-        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    }
+    test::letEngineRunAsRoot();
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QGuiApplication application(argc, argv);
     return QTest::qExec(&test, argc, argv);

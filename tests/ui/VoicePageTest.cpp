@@ -8,7 +8,6 @@
 #include <QtTest>
 
 #include <csignal>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -129,10 +128,7 @@ private Q_SLOTS:
 
 int main(int argc, char **argv) {
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    if (geteuid() == 0) {
-        std::fputs("Running as root: the web engine's sandbox is off for these tests.\n", stderr);
-        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
-    }
+    kiv::test::letEngineRunAsRoot();
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QGuiApplication application(argc, argv);
     kiv::web::VoicePageTest test;
