@@ -54,7 +54,3 @@ private:
 };
 
 } // namespace kiv::test
-
-namespace kiv {
-namespace testing = test; // of tests/soak
-}

@@ -9,8 +9,8 @@ namespace kiv::soak {
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-using testing::Client;
-using testing::Response;
+using test::Client;
+using test::Response;
 
 namespace {
 
