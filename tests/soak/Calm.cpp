@@ -49,11 +49,14 @@ const User &userOf(const Stage &stage, const QString &email) {
     return *user;
 }
 
-/// The stored rows of the screen and those of the server end alike; empty when they do.
+/// The stored rows of the screen and those of the server end alike; empty when they do. Until the
+/// conversation is entered anew a message stays where it was typed, though the server may have got
+/// another one first.
 QString difference(const QList<Msg> &messages, const QList<Stored> &stored) {
     QList<Msg> shown;
     std::ranges::copy_if(messages, std::back_inserter(shown),
                          [](const Msg &message) { return message.serverID.has_value(); });
+    std::ranges::sort(shown, {}, &Msg::serverID);
     if (shown.size() < std::min(pageSize, stored.size()))
         return u"%1 rows are shown of %2"_s.arg(shown.size()).arg(stored.size());
     for (qsizetype back = 1; back <= std::min(shown.size(), stored.size()); ++back) {

@@ -2,6 +2,8 @@
 
 #include "soak/Screen.h"
 
+#include <malloc.h>
+
 namespace kiv::soak {
 
 using namespace Qt::StringLiterals;
@@ -37,6 +39,8 @@ void Stage::close() {
         takeLeave();
     screen.reset();
     program.reset();
+    // As the end of its process would: what the allocator keeps of it is not the next one's.
+    ::malloc_trim(0);
     entered.reset();
     isCleared = false;
 }
