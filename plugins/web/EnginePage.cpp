@@ -48,7 +48,10 @@ EnginePage::EnginePage(QQmlEngine &engine, const PageWish &wish, PageWatcher &wa
     QQmlEngine::setObjectOwnership(m_view.get(), QQmlEngine::CppOwnership);
 }
 
-EnginePage::~EnginePage() = default;
+/// The profile tells of cookies as it goes, when there is no view any more.
+EnginePage::~EnginePage() {
+    disconnect(m_profile.cookieStore(), nullptr, this, nullptr);
+}
 
 void EnginePage::open(const QUrl &url, const QList<QNetworkCookie> &session) {
     m_wanted = url;

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void failures_data();
     void failures();
     void endedProcess();
+    void goesBeforeItIsThere();
     void refusals_data();
     void refusals();
     void keys();
@@ -109,6 +110,17 @@ void PageTest::endedProcess() {
     QVERIFY2(failure().contains(u"stopped"_s), qPrintable(failure()));
     m_gallery->click(u"canvasChip:0"_s);
     QTRY_COMPARE(state(), int(Shown));
+}
+
+/// The session's cookies may still be on their way into the engine.
+void PageTest::goesBeforeItIsThere() {
+    open("<a>x</a>");
+    QVERIFY(m_workspace->store->canvas()->openLink(u"/team/ferry"_s).isEmpty());
+    QTRY_COMPARE(state(), int(Loading));
+    QCoreApplication::processEvents();
+    m_gallery.reset();
+    QTest::qWait(50);
+    QCOMPARE(m_workspace->backend.count(u"GET team/ferry"_s), 0);
 }
 
 void PageTest::refusals_data() {
