@@ -59,6 +59,9 @@ private Q_SLOTS:
             foreign.dial(QString(address).replace(change, into), protocol);
             QVERIFY(foreign.waitForClose());
             QCOMPARE(foreign.count(u"conversation_initiation_metadata"_s), 0);
+            // To pages of others there is not even a socket.
+            QCOMPARE(foreign.socket().closeCode() == QWebSocketProtocol::CloseCodePolicyViolated,
+                     origin == m_voice->sandbox().url());
         }
         Caller caller(m_voice->sandbox().url()); // and the token is still good
         caller.begin(address);
