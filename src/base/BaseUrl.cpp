@@ -60,8 +60,10 @@ QUrl appendPath(const QUrl &base, const QString &path) {
 }
 
 QString pathSegment(const QString &text) {
+    // A point or two climb even when they are encoded, which QUrl takes back: they are encoded
+    // twice, to ask for what nobody has.
     if (text == u"."_s || text == u".."_s)
-        return u"%2E"_s.repeated(text.size());
+        return u"%252E"_s.repeated(text.size());
     return QString::fromLatin1(QUrl::toPercentEncoding(text));
 }
 

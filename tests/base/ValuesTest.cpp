@@ -77,19 +77,21 @@ private Q_SLOTS:
 
     void pathSegment_data() {
         QTest::addColumn<QString>("id");
-        QTest::newRow("climbing") << u".."_s;
-        QTest::newRow("slash") << u"a/../b"_s;
-        QTest::newRow("query") << u"a?b=c#d"_s;
-        QTest::newRow("percent") << u"100%2F"_s;
-        QTest::newRow("Cyrillic") << u"план"_s;
+        QTest::addColumn<QString>("asked");
+        QTest::newRow("climbing") << u".."_s << u"%2E%2E"_s;
+        QTest::newRow("staying") << u"."_s << u"%2E"_s;
+        for (const QString &id : {u"a/../b"_s, u"a?b=c#d"_s, u"100%2F"_s, u"план"_s, u"..."_s})
+            QTest::newRow(qPrintable(id)) << id << id;
     }
     void pathSegment() {
         QFETCH(QString, id);
+        // As servers read it.
         const QUrl url = appendPath(QUrl(u"https://kiv.example/base"_s),
-                                    u"api/"_s + kiv::pathSegment(id) + u"/chat"_s);
+                                    u"api/"_s + kiv::pathSegment(id) + u"/chat"_s)
+                             .adjusted(QUrl::NormalizePathSegments);
         const QStringList parts = url.path(QUrl::FullyEncoded).split(u'/');
         QCOMPARE(parts.size(), 5);
-        QCOMPARE(QUrl::fromPercentEncoding(parts.at(3).toLatin1()), id);
+        QTEST(QUrl::fromPercentEncoding(parts.at(3).toLatin1()), "asked");
         QVERIFY(!url.hasQuery() && !url.hasFragment());
     }
 
