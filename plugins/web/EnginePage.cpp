@@ -19,9 +19,6 @@ namespace {
 const QByteArray lastCookieName = "kiv-last";
 const QUrl nowhere = u"https://kiv.invalid/"_s;
 
-/// A page that sends the person to the browser more often than anybody clicks is not followed.
-constexpr int betweenVisitsMs = 500;
-
 constexpr int aborted = -3;
 constexpr int serverError = 500;
 
@@ -46,6 +43,12 @@ EnginePage::EnginePage(QQmlEngine &engine, const PageWish &wish, PageWatcher &wa
     if (!m_view)
         qFatal("The view of pages cannot be made: %s", qPrintable(component.errorString()));
     QQmlEngine::setObjectOwnership(m_view.get(), QQmlEngine::CppOwnership);
+    // The engine has an item in the view that takes what the person does, and now and then a new
+    // one.
+    connect(m_view.get(), &QQuickItem::childrenChanged, this, [this] {
+        for (QQuickItem *item : m_view->childItems())
+            item->installEventFilter(this);
+    });
 }
 
 /// The profile tells of cookies as it goes, when there is no view any more.
@@ -53,10 +56,19 @@ EnginePage::~EnginePage() {
     disconnect(m_profile.cookieStore(), nullptr, this, nullptr);
 }
 
+/// A page that sends the person to the browser more often than they do anything is not followed.
+bool EnginePage::eventFilter(QObject *item, QEvent *event) {
+    const QEvent::Type type = event->type();
+    m_mayLeave |=
+        type == QEvent::MouseButtonPress || type == QEvent::TouchBegin || type == QEvent::KeyPress;
+    return QObject::eventFilter(item, event);
+}
+
 void EnginePage::open(const QUrl &url, const QList<QNetworkCookie> &session) {
     m_wanted = url;
     m_lastCookie = QUuid::createUuid().toByteArray(QUuid::Id128);
     m_hasContent = false;
+    m_mayLeave = true;
     m_status.url = url;
     setState(PageState::Loading);
     QWebEngineCookieStore *cookies = m_profile.cookieStore();
@@ -82,10 +94,12 @@ void EnginePage::load(const QUrl &url) {
 }
 
 void EnginePage::back() {
+    m_mayLeave = true;
     QMetaObject::invokeMethod(m_view.get(), "goBack");
 }
 
 void EnginePage::reload() {
+    m_mayLeave = true;
     QMetaObject::invokeMethod(m_view.get(), "reload");
 }
 
@@ -104,9 +118,8 @@ void EnginePage::follow(const QUrl &url) {
 }
 
 void EnginePage::handOver(const QUrl &url) {
-    if (!isWebAddress(url) || (m_sinceVisit.isValid() && m_sinceVisit.elapsed() < betweenVisitsMs))
+    if (!isWebAddress(url) || !std::exchange(m_mayLeave, false))
         return;
-    m_sinceVisit.start();
     m_leftForBrowser = true;
     m_watcher.pageLeft(url);
 }

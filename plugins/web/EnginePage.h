@@ -3,7 +3,6 @@
 #include "RequestGate.h"
 #include "web/WebPlugin.h"
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QQuickItem>
 #include <QQuickWebEngineProfile>
@@ -39,6 +38,9 @@ public:
     Q_INVOKABLE void noteEnd();
     Q_INVOKABLE void notePlace(const QUrl &url, int progress, bool canGoBack);
 
+protected:
+    bool eventFilter(QObject *item, QEvent *event) override;
+
 private:
     void noteCookie(const QNetworkCookie &cookie);
     void load(const QUrl &url);
@@ -47,9 +49,9 @@ private:
     QUrl m_home;
     PageWatcher &m_watcher;
     PageStatus m_status;
-    QUrl m_wanted;              ///< what is loaded once the cookies are in
-    QByteArray m_lastCookie;    ///< the one whose arrival says so
-    QElapsedTimer m_sinceVisit; ///< of the browser
+    QUrl m_wanted;           ///< what is loaded once the cookies are in
+    QByteArray m_lastCookie; ///< the one whose arrival says so
+    bool m_mayLeave = false; ///< for the browser: the person has done something since it last did
     bool m_leftForBrowser = false;
     bool m_hasContent = false;
     RequestGate m_gate;

@@ -23,6 +23,7 @@ WebEngineView {
     settings.fullScreenSupportEnabled: false
     settings.hyperlinkAuditingEnabled: false
     settings.javascriptCanAccessClipboard: false
+    settings.javascriptCanOpenWindows: false // but after a click
     settings.javascriptCanPaste: false
     settings.localContentCanAccessFileUrls: false
     settings.localContentCanAccessRemoteUrls: false
@@ -57,6 +58,15 @@ WebEngineView {
         request.dialogReject()
     }
     onFeaturePermissionRequested: (origin, feature) => grantFeaturePermission(origin, feature, false)
+    // A window with words of the page would pass for one of the program's, and there would be no end of
+    // them. What asks whether to stay is answered: whoever leaves, leaves.
+    onJavaScriptDialogRequested: request => {
+        request.accepted = true
+        if (request.type === JavaScriptDialogRequest.DialogTypeBeforeUnload)
+            request.dialogAccept()
+        else
+            request.dialogReject()
+    }
     onFullScreenRequested: request => request.reject()
     onRegisterProtocolHandlerRequested: request => request.reject()
     onFileSystemAccessRequested: request => request.reject()

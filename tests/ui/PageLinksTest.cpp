@@ -35,6 +35,8 @@ private Q_SLOTS:
     void linkInMessage();
     void leadsElsewhere_data();
     void leadsElsewhere();
+    void staysInItsPlace_data();
+    void staysInItsPlace();
 };
 
 /// A link in a message opens the page in the canvas, as who is signed in; only then is the engine
@@ -98,6 +100,13 @@ void PageLinksTest::leadsElsewhere_data() {
     QTest::newRow("elsewhere, again and again")
         << QByteArray("<a onclick=\"setInterval(() => location = 'ELSEWHERE/x', 20)\">x</a>")
         << u"ELSEWHERE/x"_s << here;
+    QTest::newRow("elsewhere, in windows again and again")
+        << QByteArray("<a onclick=\"setInterval(() => window.open('ELSEWHERE/x'), 20)\">x</a>")
+        << u"ELSEWHERE/x"_s << here;
+    QTest::newRow("a file to keep, again and again")
+        << QByteArray("<a onclick='setInterval(() => file.click(), 20)'>x</a>"
+                      "<a id=file download href='/team/ferry'></a>")
+        << u"HERE/team/ferry"_s << here;
     QTest::newRow("a frame from elsewhere")
         << QByteArray("<a onclick=\"document.body.innerHTML="
                       "'<iframe src=ELSEWHERE/x></iframe>'\">x</a>")
@@ -108,6 +117,10 @@ void PageLinksTest::leadsElsewhere() {
     QFETCH(QByteArray, row);
     QFETCH(QString, browser);
     QFETCH(QString, path);
+    const QTemporaryDir home; // where the engine would keep files
+    const QByteArray before = qgetenv("HOME");
+    const auto restore = qScopeGuard([&] { qputenv("HOME", before); });
+    qputenv("HOME", QFile::encodeName(home.path()));
     test::ScriptedBackend &backend = m_workspace->backend;
     const QString elsewhere = m_elsewhere->url().toString();
     browser.replace(u"ELSEWHERE"_s, elsewhere).replace(u"HERE"_s, at({}));
@@ -127,6 +140,39 @@ void PageLinksTest::leadsElsewhere() {
     QCOMPARE(m_browser, browser.isEmpty() ? QStringList() : QStringList{browser});
     QCOMPARE(m_elsewhere->count(u"GET x"_s), 0);
     QCOMPARE(address(), at(path));
+    QVERIFY(!QFile::exists(home.filePath(u"Downloads"_s)));
+}
+
+void PageLinksTest::staysInItsPlace_data() {
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("words") << "[alert('KIV'), confirm('Stay?'), prompt('Your password?')]"_ba
+                           << u",false,"_s;
+    QTest::newRow("words again and again")
+        << "'x'.repeat(100).replace(/x/g, () => alert('KIV')).length"_ba << u"900"_s;
+    QTest::newRow("a print") << "print() + ''"_ba << u"undefined"_s;
+    QTest::newRow("what keeps from leaving")
+        << "(onbeforeunload = e => { e.preventDefault(); return e.returnValue = 'no' }) && 1"_ba
+        << u"1"_s;
+}
+
+/// A page has no window for what it says, and whoever leaves it leaves.
+void PageLinksTest::staysInItsPlace() {
+    QFETCH(QByteArray, script);
+    QTest::failOnWarning(QRegularExpression(u"dialog"_s));
+    m_workspace->backend.answerPage(u"GET told"_s, {});
+    open("<a onclick=\"fetch('/told?' + (" + script + "))\">x</a>");
+    const qsizetype windows = QGuiApplication::allWindows().size();
+    const qsizetype overlays = m_gallery->window().contentItem()->childItems().size();
+    clickRow(0);
+    QTRY_COMPARE(m_workspace->backend.count(u"GET told"_s), 1);
+    const QString told = m_workspace->backend.requests(u"GET told"_s).first().query;
+    QTEST(QUrl::fromPercentEncoding(told.toUtf8()), "told");
+    QCOMPARE(QGuiApplication::allWindows().size(), windows);
+    QCOMPARE(m_gallery->window().contentItem()->childItems().size(), overlays);
+    m_gallery->click(u"pageReload"_s);
+    QTRY_COMPARE(m_workspace->backend.count(workPage), 2);
+    QTRY_COMPARE(state(), int(Shown));
 }
 
 } // namespace kiv::ui

@@ -13,6 +13,7 @@ class PageRightsTest : public PageWindow {
 
 private Q_SLOTS:
     void certificates();
+    void framesFromElsewhere();
     void rights_data();
     void rights();
 };
@@ -25,6 +26,14 @@ void PageRightsTest::certificates() {
     QTRY_COMPARE_WITH_TIMEOUT(state(), int(Failed), 15000);
     QVERIFY(stranger.contacts > 0);
     QCOMPARE(stranger.received, QByteArray());
+}
+
+/// Not even encrypted ones are asked for.
+void PageRightsTest::framesFromElsewhere() {
+    test::TlsServer stranger(test::makeIdentity("IP:127.0.0.1", 30, nullptr));
+    open("<a>x</a><iframe src='" + stranger.url().toEncoded() + "'></iframe>");
+    QTest::qWait(300); // for what must not happen
+    QCOMPARE(stranger.contacts, 0);
 }
 
 /// What a page may not do, said by the page itself.
