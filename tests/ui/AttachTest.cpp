@@ -174,6 +174,7 @@ void AttachTest::pastedPicture() {
 void AttachTest::pastedTextStaysText() {
     auto *cells = new QMimeData; // as a spreadsheet copies them
     cells->setText(u"a\tb"_s);
+    cells->setHtml(u"<b>a</b> <img src='file:///etc/passwd'>"_s);
     cells->setImageData(QImage(4, 4, QImage::Format_RGB32));
     QGuiApplication::clipboard()->setMimeData(cells);
     m_gallery->click(u"askField"_s);
