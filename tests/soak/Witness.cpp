@@ -37,22 +37,22 @@ bool Witness::signUp(const QString &email, const QString &password) {
 }
 
 QJsonObject Witness::get(const QString &email, const QString &password, const QString &path) {
-    const auto [body, cookie] =
+    const auto [body, kept] =
         inBackground([port = m_port, cookie = m_cookies.value(email), email, password, path] {
             Client client(port);
             client.headers.emplace("Cookie", cookie);
             Response response = client.get(path);
-            std::string kept = cookie;
+            std::string current = cookie;
             if (response.status == 401) {
                 const Response login = client.post(
                     u"/api/v2/auth/login"_s, {{u"email"_s, email}, {u"password"_s, password}});
                 client.keepSession(login);
-                kept = client.headers.find("Cookie")->second;
+                current = client.headers.find("Cookie")->second;
                 response = client.get(path);
             }
-            return std::pair(response.status == 200 ? response.json() : QJsonObject(), kept);
+            return std::pair(response.status == 200 ? response.json() : QJsonObject(), current);
         });
-    m_cookies.insert(email, cookie);
+    m_cookies.insert(email, kept);
     return body;
 }
 
