@@ -22,9 +22,9 @@ QByteArray take(BIO *out) {
     return bytes;
 }
 
-void extend(const Identity &of, int kind, const char *value) {
+void extend(X509 *certificate, int kind, const char *value) {
     X509_EXTENSION *extension = X509V3_EXT_conf_nid(nullptr, nullptr, kind, value);
-    X509_add_ext(of.certificate, extension, -1);
+    X509_add_ext(certificate, extension, -1);
     X509_EXTENSION_free(extension);
 }
 
@@ -32,35 +32,36 @@ void extend(const Identity &of, int kind, const char *value) {
 
 QSslCertificate Identity::shown() const {
     BIO *out = BIO_new(BIO_s_mem());
-    PEM_write_bio_X509(out, certificate);
+    PEM_write_bio_X509(out, certificate.get());
     return QSslCertificate(take(out));
 }
 
 QSslKey Identity::secret() const {
     BIO *out = BIO_new(BIO_s_mem());
-    PEM_write_bio_PrivateKey(out, key, nullptr, nullptr, 0, nullptr, nullptr);
+    PEM_write_bio_PrivateKey(out, key.get(), nullptr, nullptr, 0, nullptr, nullptr);
     return QSslKey(take(out), QSsl::Ec);
 }
 
 Identity makeIdentity(const char *names, long days, const Identity *issuer) {
     static long serial = 0;
-    Identity identity{X509_new(), EVP_EC_gen("P-256")};
-    X509_set_version(identity.certificate, 2);
-    ASN1_INTEGER_set(X509_get_serialNumber(identity.certificate), ++serial);
-    X509_gmtime_adj(X509_getm_notBefore(identity.certificate), -30 * day);
-    X509_gmtime_adj(X509_getm_notAfter(identity.certificate), days * day);
-    X509_set_pubkey(identity.certificate, identity.key);
-    X509_NAME *subject = X509_get_subject_name(identity.certificate);
+    const Identity identity{{X509_new(), X509_free}, {EVP_EC_gen("P-256"), EVP_PKEY_free}};
+    X509 *certificate = identity.certificate.get();
+    X509_set_version(certificate, 2);
+    ASN1_INTEGER_set(X509_get_serialNumber(certificate), ++serial);
+    X509_gmtime_adj(X509_getm_notBefore(certificate), -30 * day);
+    X509_gmtime_adj(X509_getm_notAfter(certificate), days * day);
+    X509_set_pubkey(certificate, identity.key.get());
+    X509_NAME *subject = X509_get_subject_name(certificate);
     const QByteArray name = "kiv test " + QByteArray::number(serial);
     X509_NAME_add_entry_by_txt(subject, "CN", MBSTRING_ASC,
                                reinterpret_cast<const unsigned char *>(name.constData()), -1, -1,
                                0);
     const Identity &voucher = issuer ? *issuer : identity;
-    X509_set_issuer_name(identity.certificate, X509_get_subject_name(voucher.certificate));
-    extend(identity, NID_basic_constraints, names ? "CA:FALSE" : "critical,CA:TRUE");
+    X509_set_issuer_name(certificate, X509_get_subject_name(voucher.certificate.get()));
+    extend(certificate, NID_basic_constraints, names ? "CA:FALSE" : "critical,CA:TRUE");
     if (names)
-        extend(identity, NID_subject_alt_name, names);
-    X509_sign(identity.certificate, voucher.key, EVP_sha256());
+        extend(certificate, NID_subject_alt_name, names);
+    X509_sign(certificate, voucher.key.get(), EVP_sha256());
     return identity;
 }
 

@@ -8,12 +8,14 @@
 #include <openssl/evp.h>
 #include <openssl/x509.h>
 
+#include <memory>
+
 namespace kiv::test {
 
-/// A certificate and its key, for as long as the test runs.
+/// A certificate and its key.
 struct Identity {
-    X509 *certificate = nullptr;
-    EVP_PKEY *key = nullptr;
+    std::shared_ptr<X509> certificate;
+    std::shared_ptr<EVP_PKEY> key;
 
     QSslCertificate shown() const;
     QSslKey secret() const;
