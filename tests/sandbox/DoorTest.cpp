@@ -27,7 +27,7 @@ QByteArray answerTo(int port, const QByteArray &bytes) {
         while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(5000)) {
         }
     }
-    QByteArray answer;
+    QByteArray answer = socket.readAll(); // may have come, with the end, while more was written
     while (!answer.contains("\r\n\r\n") && socket.waitForReadyRead(5000))
         answer += socket.readAll();
     return answer;
