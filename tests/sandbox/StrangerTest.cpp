@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <future>
+#include <time.h>
 
 using namespace Qt::StringLiterals;
 using namespace kiv::test;
@@ -189,22 +190,29 @@ private Q_SLOTS:
         QVERIFY(!statuses.contains(200));
     }
 
-    /// How long an answer takes does not tell whether there is an account.
+    /// How long an answer takes does not tell whether there is an account. The server's work is
+    /// measured: others on the computer take time, and no work.
     void unknownAddressesTakeAsLong() {
         const int port = m_voice->sandbox().port();
         Client(port).signUp(u"there@example.com"_s);
-        const auto time = [&](const QString &email) {
-            qint64 shortest = std::numeric_limits<qint64>::max();
-            for (int i = 0; i < 4; ++i) {
-                Client client(port);
-                QElapsedTimer timer;
-                timer.start();
-                client.post(login, form(email, u"wrong-one"_s));
-                shortest = std::min(shortest, timer.nsecsElapsed());
-            }
-            return static_cast<double>(shortest);
+        clockid_t clock{};
+        const auto server = static_cast<pid_t>(m_voice->sandbox().process().processId());
+        QCOMPARE(::clock_getcpuclockid(server, &clock), 0);
+        const auto worked = [&] {
+            timespec time{};
+            ::clock_gettime(clock, &time);
+            return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e9;
         };
-        const double ratio = time(u"there@example.com"_s) / time(u"nowhere@example.com"_s);
+        const auto work = [&](const QString &email) {
+            double least = std::numeric_limits<double>::max();
+            for (int i = 0; i < 4; ++i) {
+                const double before = worked();
+                Client(port).post(login, form(email, u"wrong-one"_s));
+                least = std::min(least, worked() - before);
+            }
+            return least;
+        };
+        const double ratio = work(u"there@example.com"_s) / work(u"nowhere@example.com"_s);
         QVERIFY2(ratio > 0.6 && ratio < 1.7, qPrintable(QString::number(ratio)));
     }
 
