@@ -3,10 +3,14 @@
 #include "base/Version.h"
 #include "desktop/DesktopId.h"
 #include "desktop/Instance.h"
+#include "desktop/LogText.h"
 
 #include <QGuiApplication>
 
+#include <fontconfig/fontconfig.h>
+
 #include <cstdio>
+#include <thread>
 
 using namespace std::chrono_literals;
 
@@ -52,6 +56,12 @@ int run(const kiv::app::Options &options, const QString &token) {
 } // namespace
 
 int main(int argc, char **argv) {
+    // What the first text and the first line of the log need, while the platform's plugin is
+    // loaded.
+    const std::jthread ahead([] {
+        FcInit();
+        kiv::desktop::LogText::prepare();
+    });
     kiv::app::Application::prepareProcess();
     const QString token = startToken();
     QGuiApplication application(argc, argv);

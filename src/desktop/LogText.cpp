@@ -47,6 +47,10 @@ std::span<const Rule> rules() {
 
 } // namespace
 
+void LogText::prepare() {
+    rules();
+}
+
 QString LogText::redacted(const QString &line) {
     QString text = line.simplified().left(4 * mostCharacters);
     for (const Rule &rule : rules())

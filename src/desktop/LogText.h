@@ -9,4 +9,7 @@ namespace kiv::desktop::LogText {
 /// web, the name of the home folder and long quotations; on one line and not endless.
 QString redacted(const QString &line);
 
+/// Makes the patterns ready, which takes longer than a line does. Any thread may.
+void prepare();
+
 } // namespace kiv::desktop::LogText
