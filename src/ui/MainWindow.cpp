@@ -4,6 +4,7 @@
 #include "store/AppStore.h"
 #include "ui/Modules.h"
 #include "ui/shell/Commands.h"
+#include "ui/tokens/Typefaces.h"
 
 using namespace Qt::StringLiterals;
 
@@ -71,6 +72,7 @@ void MainWindow::open(store::AppStore &store, Commands &commands, const WindowLo
     }
     if (look.maximized)
         properties.insert(u"visibility"_s, QWindow::Maximized);
+    findFirstFonts(store.appearance()->textScale());
     // Waits for what is being read.
     QQmlComponent views(&m_engine, file);
     m_window.reset(qobject_cast<QQuickWindow *>(views.createWithInitialProperties(properties)));

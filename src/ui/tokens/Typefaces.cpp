@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 
 namespace kiv::ui {
@@ -43,6 +44,22 @@ void useTypefaces() {
     QFont font(u"Inter"_s);
     font.setPixelSize(14);
     QGuiApplication::setFont(font);
+}
+
+void findFirstFonts(qreal scale) {
+    struct Style {
+        int size;
+        QFont::Weight weight;
+    };
+    constexpr Style styles[] = {{11, QFont::Normal}, {11, QFont::DemiBold}, {12, QFont::Normal},
+                                {12, QFont::Medium}, {12, QFont::DemiBold}, {13, QFont::Normal},
+                                {13, QFont::Medium}, {13, QFont::DemiBold}, {14, QFont::Normal},
+                                {14, QFont::Medium}, {14, QFont::DemiBold}};
+    for (const Style &style : styles) {
+        QFont font(u"Inter"_s, -1, style.weight);
+        font.setPixelSize(qRound(style.size * scale));
+        QFontMetricsF(font).height();
+    }
 }
 
 QString codeFamily() {
