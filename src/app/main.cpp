@@ -56,14 +56,14 @@ int run(const kiv::app::Options &options, const QString &token) {
 } // namespace
 
 int main(int argc, char **argv) {
+    kiv::app::Application::prepareProcess();
+    const QString token = startToken();
     // What the first text and the first line of the log need, while the platform's plugin is
-    // loaded.
+    // loaded. It reads the environment, which is written above.
     const std::jthread ahead([] {
         FcInit();
         kiv::desktop::LogText::prepare();
     });
-    kiv::app::Application::prepareProcess();
-    const QString token = startToken();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("kiv"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("KIV"));
