@@ -47,28 +47,28 @@ void DictationEngine::start() {
 
 void DictationEngine::beginRunning() {
     const QLocale locale;
-    std::unique_ptr<SpeechRecogniser> recognizer = m_service->recogniser(locale);
-    if (!recognizer)
-        recognizer = m_service->defaultRecogniser();
-    if (!recognizer || !recognizer->available()) {
+    std::unique_ptr<SpeechRecogniser> recogniser = m_service->recogniser(locale);
+    if (!recogniser)
+        recogniser = m_service->defaultRecogniser();
+    if (!recogniser || !recogniser->available()) {
         tell(onError, u"Speech recognition is not available for "_s + locale.name() + u"."_s);
         return;
     }
-    m_recognizer = std::move(recognizer);
+    m_recogniser = std::move(recogniser);
     m_running = true;
     startRequestCycle();
 }
 
 void DictationEngine::startRequestCycle() {
-    if (!m_running || !m_recognizer)
+    if (!m_running || !m_recogniser)
         return;
     m_task.reset();
     if (!m_audio->running() && !openAudio()) {
         fail(noMicrophone);
         return;
     }
-    m_task = m_recognizer->startTask(
-        m_recognizer->supportsOnDevice(),
+    m_task = m_recogniser->startTask(
+        m_recogniser->supportsOnDevice(),
         [this](const std::variant<SpeechResult, SpeechError> &outcome) {
             if (m_running)
                 std::visit([this](const auto &news) { take(news); }, outcome);

@@ -42,7 +42,7 @@ private:
 
     SpeechService *m_service = nullptr;
     std::unique_ptr<AudioInput> m_audio;
-    std::unique_ptr<SpeechRecogniser> m_recognizer;
+    std::unique_ptr<SpeechRecogniser> m_recogniser;
     std::unique_ptr<SpeechTask> m_task; ///< the request of the current cycle
     bool m_running = false;
     int m_start = 0; ///< counts starts and stops: an answer to an earlier start is dropped
