@@ -1,7 +1,6 @@
 #pragma once
 
 #include "net/VoiceRecords.h"
-#include "store/Enums.h"
 
 #include <QAbstractListModel>
 #include <QDateTime>

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "base/Work.h"
-#include "store/Msg.h"
+#include "store/Enums.h"
 #include "text/SearchText.h"
 
 #include <QHash>
 #include <QObject>
 #include <QProperty>
+#include <QUuid>
 
 #include <memory>
 

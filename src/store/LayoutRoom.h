@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/Clock.h"
-#include "store/Enums.h"
 
 #include <QObject>
 #include <QProperty>
+#include <QtQmlIntegration/qqmlintegration.h>
 
 #include <map>
 
