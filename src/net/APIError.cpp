@@ -109,6 +109,11 @@ bool isCancellation(const std::exception_ptr &error) {
     return judge(error, [](const std::exception &known) { return isCancellation(known); });
 }
 
+bool isUnauthorized(const std::exception &error) {
+    const auto *api = dynamic_cast<const APIError *>(&error);
+    return api && api->kind() == APIError::Kind::Unauthorized;
+}
+
 QString errorText(const std::exception &error) {
     return QString::fromUtf8(error.what());
 }

@@ -53,6 +53,9 @@ void throwIfError(int status, QByteArrayView body);
 bool isCancellation(const std::exception &error);
 bool isCancellation(const std::exception_ptr &error);
 
+/// Whether the backend knows no session of whoever called.
+bool isUnauthorized(const std::exception &error);
+
 /// The text that the person sees for a failed call, whatever it threw.
 QString errorText(const std::exception &error);
 QString errorText(const std::exception_ptr &error);

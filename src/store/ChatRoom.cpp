@@ -28,11 +28,6 @@ QString liveSendNote(const std::exception &error) {
     return net::errorText(error);
 }
 
-bool isUnauthorized(const std::exception &error) {
-    const auto *api = dynamic_cast<const net::APIError *>(&error);
-    return api && api->kind() == net::APIError::Kind::Unauthorized;
-}
-
 } // namespace
 
 ChatRoom::ChatRoom(AppStore &store, const QString &draftsFile)
@@ -230,10 +225,8 @@ void ChatRoom::confirmPost(const Post &post, const net::ChatSendResult &result) 
 }
 
 void ChatRoom::failPost(const Post &post, const std::exception &error) {
-    if (isUnauthorized(error)) {
-        keepUnsent();
-        m_store.session()->resetToAnon();
-        m_store.session()->openAuthSheet(AuthSheetMode::Login);
+    if (net::isUnauthorized(error)) {
+        m_store.session()->expire();
         return;
     }
     const qsizetype row = m_msgs.rowOf(post.message);

@@ -89,7 +89,8 @@ public:
     void answerSettled(const QUuid &answer);
     /// The person leaves for good: nothing of what they typed is kept.
     void forgetTyped();
-    /// The program ends: what is not known to be sent is a draft when it starts again.
+    /// The program or the session ends: what is not known to be sent is a draft when the person is
+    /// back.
     void end();
 
 Q_SIGNALS:
@@ -138,7 +139,6 @@ private:
     void setFeedWindow(int window);
     void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
-    void keepUnsent();
     void keepFiles();
     void enterChat(const std::optional<net::ChatTarget> &target);
     std::optional<Msg> newestAnswer() const;

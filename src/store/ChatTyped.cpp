@@ -43,12 +43,6 @@ void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
 
 void ChatRoom::end() {
     m_posts.cancel();
-    keepUnsent();
-}
-
-/// Messages that were kept from being sent become what is being typed in their chat, and their
-/// files those of the next message.
-void ChatRoom::keepUnsent() {
     const QString user = m_store.scope()->userEmail();
     setUnsentAside();
     for (auto chat = m_unsent.cbegin(); chat != m_unsent.cend(); ++chat) {

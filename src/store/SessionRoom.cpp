@@ -19,11 +19,6 @@ constexpr qsizetype leastPassword = 8;
 constexpr Clock::Milliseconds firstPause = 2s;
 constexpr Clock::Milliseconds longestPause = 30s;
 
-bool isUnauthorized(const std::exception &error) {
-    const auto *refusal = dynamic_cast<const net::APIError *>(&error);
-    return refusal && refusal->kind() == net::APIError::Kind::Unauthorized;
-}
-
 /// What of the workspace has not been loaded.
 struct Missing {
     bool rail = true;
@@ -41,7 +36,7 @@ QCoro::Task<Missing> loadWorkspace(ScopeRoom *scope, Missing missing, Cancel can
     } catch (const std::exception &error) {
         // The rail of before stays.
         cancel.throwIfRequested();
-        missing.isRefused = isUnauthorized(error);
+        missing.isRefused = net::isUnauthorized(error);
     }
     try {
         if (missing.kiv)
@@ -50,7 +45,7 @@ QCoro::Task<Missing> loadWorkspace(ScopeRoom *scope, Missing missing, Cancel can
     } catch (const std::exception &error) {
         // Without it the global scope has nobody to talk to; everything else works.
         cancel.throwIfRequested();
-        missing.isRefused |= isUnauthorized(error);
+        missing.isRefused |= net::isUnauthorized(error);
     }
     co_return missing;
 }
@@ -60,7 +55,7 @@ QCoro::Task<bool> isSessionOver(net::APIClient *client, Cancel cancel) {
         co_await net::KivAPI::currentUser(client, cancel);
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
-        co_return isUnauthorized(error);
+        co_return net::isUnauthorized(error);
     }
     co_return false;
 }
@@ -125,9 +120,7 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
          pause = std::min(2 * pause, longestPause)) {
         // The session may have ended after it was asked for, as by a sign-out that came late.
         if (missing.isRefused && co_await isSessionOver(&m_store.net(), cancel)) {
-            m_store.chat()->end();
-            resetToAnon();
-            openAuthSheet(AuthSheetMode::Login);
+            expire();
             co_return;
         }
         co_await m_store.clock().sleep(pause, cancel);
@@ -222,6 +215,12 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
     }
     m_store.chat()->forgetTyped();
     resetToAnon();
+}
+
+void SessionRoom::expire() {
+    m_store.chat()->end();
+    resetToAnon();
+    openAuthSheet(AuthSheetMode::Login);
 }
 
 void SessionRoom::resetToAnon() {

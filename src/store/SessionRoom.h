@@ -54,6 +54,8 @@ public:
     void boot();
     void enterLive(const net::MeUser &user);
     void resetToAnon();
+    /// The backend has ended the session: what is not sent is kept, and the person signs in again.
+    void expire();
     void offerSample(const SampleAccount &account);
     /// There is no backend to talk to, and why.
     void reportUnavailable(const QString &why);
