@@ -29,6 +29,7 @@ Q_SIGNALS:
 protected:
     /// What is known without asking.
     virtual bool isKnownToReach(const QUrl &url) const = 0;
+    /// The system tells something else: what was found out by asking counts no more.
     void takeNews();
 
 private:

@@ -25,7 +25,6 @@
 #include "store/UpdateRoom.h"
 
 #include <QObject>
-#include <QTimeZone>
 
 class QSettings;
 

@@ -76,7 +76,8 @@ public:
     QString sourceMessageId() const { return m_sourceMessageId; }
     /// The page of the platform that the canvas shows; without an address for none.
     canvas::SurfaceLink pageView() const { return m_pageView; }
-    /// The page of the program itself that the canvas shows, "agents" or "events"; empty for none.
+    /// The page of the program itself that the canvas shows, "agents", "calls" or "events";
+    /// empty for none.
     QString panel() const { return m_panel; }
     HistoryModel *history() { return &m_history; }
     /// Whether the history holds something older than what the canvas shows, or newer.
