@@ -93,7 +93,7 @@ private Q_SLOTS:
         StoreFixture f;
         f.backend.answer(u"GET api/v2/orchestrator"_s, "{}", 500);
         f.store->boot();
-        SOON_COMPARE(f.msgs().messages().last().text, kivGreeting);
+        SOON_COMPARE(f.texts().value(f.texts().size() - 1), kivGreeting);
         f.store->chat()->send(u"hello"_s);
         QCOMPARE(f.texts().last(), u"This one exists only in the prototype so far — pick a real "
                                    "project or agent to chat."_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
         StoreFixture f;
         f.backend.answer(route, "{}", 503);
         f.store->boot();
-        SOON_COMPARE(f.msgs().messages().last().text, kivGreeting);
+        SOON_COMPARE(f.texts().value(f.texts().size() - 1), kivGreeting);
         f.backend.answer(route, answer);
         const auto isWhole = [&] {
             return f.store->chat()->connected() && !f.store->scope()->projects().isEmpty();
