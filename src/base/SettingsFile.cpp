@@ -92,7 +92,8 @@ bool SettingsFile::event(QEvent *event) {
 
 void SettingsFile::save() {
     Values now = values();
-    if (m_written == now)
+    m_isAskedAgain = m_written == now;
+    if (m_isAskedAgain)
         return;
     m_writer.write([path = m_path, now] { return write(path, now); });
     m_written = std::move(now);
@@ -112,8 +113,11 @@ SettingsFile::Values SettingsFile::values() const {
 }
 
 void SettingsFile::settle(const QString &failure) {
-    if (!failure.isEmpty())
+    if (!failure.isEmpty()) {
         m_written.reset();
+        if (std::exchange(m_isAskedAgain, false))
+            save();
+    }
     if (std::exchange(m_failure, failure) == failure)
         return;
     if (!failure.isEmpty())

@@ -24,7 +24,7 @@ public:
     const QString &setAside() const { return m_setAside; }
     /// Why the disk does not take the settings; empty when it does.
     const QString &failure() const { return m_failure; }
-    /// Begins to write what is not written.
+    /// Begins to write what is not written. What is being written and fails is tried once more.
     void save();
     /// Writes it before this returns; false when the disk does not take it.
     bool finish();
@@ -47,6 +47,7 @@ private:
     QString m_setAside;
     QString m_failure;
     std::optional<Values> m_written; ///< what the file holds, as far as is known
+    bool m_isAskedAgain = false;     ///< for what is written, or is being written
     FileWriter m_writer;
 };
 
