@@ -13,8 +13,9 @@ void Memory::sample(std::chrono::seconds at) {
     if (!sums.open(QIODevice::ReadOnly))
         return;
     for (const QByteArray &line : sums.readAll().split('\n')) {
-        if (line.startsWith("Pss:"))
-            m_readings.append({at, line.mid(4).simplified().split(' ').constFirst().toLongLong()});
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words.constFirst() == "Pss_Anon:")
+            m_readings.append({at, words.at(1).toLongLong()});
     }
 }
 

@@ -6,7 +6,8 @@
 
 namespace kiv::soak {
 
-/// The memory of this process over a run: the part of it that counts as its own (PSS), in KiB.
+/// The memory that belongs to this process alone over a run (anonymous PSS), in KiB: what libraries
+/// and other files take depends on who else has them open at the moment.
 class Memory {
 public:
     void sample(std::chrono::seconds at);

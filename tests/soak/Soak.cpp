@@ -119,7 +119,7 @@ void Soak::print() const {
                 static_cast<long long>(elapsed().count()), m_stage.steps, m_calms);
     for (const auto &[name, count] : m_stage.tally)
         std::printf("  %-20s %6d\n", qPrintable(name), count);
-    std::printf("memory (PSS): %lld KiB in the second minute, %lld KiB in the last\n",
+    std::printf("memory (its own): %lld KiB in the second minute, %lld KiB in the last\n",
                 static_cast<long long>(m_memory.median(warmUp, warmUp + 60s)),
                 static_cast<long long>(m_memory.median(elapsed() - 60s, elapsed())));
     std::printf("main thread: worked for %.1f ms at most, held for %.1f ms at worst (%.1f ms of it "
