@@ -23,13 +23,15 @@ void checkAddress(const QString &text) {
     mustHold(kiv::appendPath(url, u"a/b"_s).host() == url.host());
 }
 
-/// What is put into a path stays one piece of it, and comes out as it was.
+/// What is put into a path stays one piece of it, and comes out as it was, but that points alone,
+/// which would climb, come out as something else.
 void checkSegment(const QString &text) {
     const QString segment = kiv::pathSegment(text);
     for (const char16_t cut : {u'/', u'?', u'#', u'\\'})
         mustHold(!segment.contains(cut));
-    mustHold(segment != u"."_s && segment != u".."_s);
-    mustHold(QUrl::fromPercentEncoding(segment.toLatin1()) == text);
+    const QString read = QUrl::fromPercentEncoding(segment.toLatin1());
+    mustHold(read != u"."_s && read != u".."_s);
+    mustHold(read == text || text == u"."_s || text == u".."_s);
 }
 
 } // namespace
