@@ -65,9 +65,10 @@ void Pauses::watchProcessor(const std::stop_token &stop, int processor) {
     while (!stop.stop_requested()) {
         due += beat;
         std::this_thread::sleep_until(due);
-        const auto now = SteadyClock::now();
+        auto now = SteadyClock::now();
         if (now - due > lateness) {
             const std::lock_guard lock(m_mutex);
+            now = SteadyClock::now(); // the ends stay in their order
             m_pauses.removeIf([&](const Pause &pause) { return now - pause.end > kept; });
             m_pauses.append({due, now});
         }
@@ -82,16 +83,19 @@ void Pauses::watchPools(const std::stop_token &stop) {
     }
 }
 
+/// Only what is changed is locked: the main thread reads it in every pass.
 void Pauses::lookAtThreads() {
     const QDir folder(u"/proc/self/task"_s);
     const QStringList threads = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    const std::lock_guard lock(m_mutex);
-    m_pooled.removeIf([&](const auto &pooled) {
-        const bool isGone = !threads.contains(pooled.key());
-        if (isGone)
-            ::close(pooled.value().file);
-        return isGone;
-    });
+    {
+        const std::lock_guard lock(m_mutex);
+        m_pooled.removeIf([&](const auto &pooled) {
+            const bool isGone = !threads.contains(pooled.key());
+            if (isGone)
+                ::close(pooled.value().file);
+            return isGone;
+        });
+    }
     for (const QString &thread : threads) {
         QFile name(folder.filePath(thread + u"/comm"_s));
         if (m_pooled.contains(thread) || !name.open(QIODevice::ReadOnly) ||
@@ -99,8 +103,10 @@ void Pauses::lookAtThreads() {
             continue;
         const QByteArray counts = QFile::encodeName(folder.filePath(thread + u"/schedstat"_s));
         const int file = ::open(counts.constData(), O_RDONLY | O_CLOEXEC);
-        if (file >= 0)
-            m_pooled.insert(thread, {file, queuedOf(file)});
+        if (file < 0)
+            continue;
+        const std::lock_guard lock(m_mutex);
+        m_pooled.insert(thread, {file, queuedOf(file)});
     }
 }
 
@@ -115,8 +121,16 @@ Pauses::Nanoseconds Pauses::pooledQueued() const {
 Pauses::Nanoseconds Pauses::stoodStill(SteadyClock::time_point since) const {
     const std::lock_guard lock(m_mutex);
     Nanoseconds sum{0};
-    for (const Pause &pause : m_pauses)
-        sum += std::max(pause.end - std::max(pause.begin, since), Nanoseconds(0));
+    // From the last one back, so that what several processors lost together counts once.
+    auto until = SteadyClock::time_point::max();
+    for (auto pause = m_pauses.crbegin(); pause != m_pauses.crend(); ++pause) {
+        const auto begin = std::max(pause->begin, since);
+        const auto end = std::min(pause->end, until);
+        if (begin < end) {
+            sum += end - begin;
+            until = begin;
+        }
+    }
     return sum;
 }
 

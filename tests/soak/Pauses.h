@@ -26,7 +26,7 @@ public:
 
     /// How long the threads of the pools that are there have stood in the queue, all together.
     Nanoseconds pooledQueued() const;
-    /// For how much of the time from then to now a processor stood still.
+    /// For how much of the time from then to now one processor or several stood still.
     Nanoseconds stoodStill(SteadyClock::time_point since) const;
 
 private:
@@ -44,7 +44,7 @@ private:
     void lookAtThreads();
 
     mutable std::mutex m_mutex;
-    QList<Pause> m_pauses;           ///< of the last seconds
+    QList<Pause> m_pauses;           ///< of the last seconds, by their ends
     QHash<QString, Pooled> m_pooled; ///< by the kernel's number
     std::vector<std::jthread> m_watchers;
 };
