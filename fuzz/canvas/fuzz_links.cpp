@@ -47,7 +47,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size) {
         mustHold(!link->title.isEmpty());
         // The page is one of its own accord too, and stays what it is when it is written out.
         const auto again = SurfaceMatcher::page(link->url.toString(QUrl::FullyEncoded), base);
-        mustHold(again && *again == *link);
+        mustHold(again && again->title == link->title);
+        mustHold(again->url.toEncoded() == link->url.toEncoded());
     }
     return 0;
 }
