@@ -62,8 +62,7 @@ Application::Ground::Ground(const Options &options) : log(options.places.logFile
 }
 
 void Application::prepareProcess() {
-    // A web engine that is loaded later draws with what the window draws with.
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    Graphics::choose();
     // Icons share one texture. By itself that is as large as the window: 8 MiB, a tenth of it used.
     qputenv("QSG_ATLAS_WIDTH", "1024");
     qputenv("QSG_ATLAS_HEIGHT", "512");

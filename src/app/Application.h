@@ -3,8 +3,8 @@
 #include "app/AnswerNotes.h"
 #include "app/AppDelegate.h"
 #include "app/EmbeddedServer.h"
+#include "app/Graphics.h"
 #include "app/Options.h"
-#include "app/SharedContext.h"
 #include "app/SystemLook.h"
 #include "app/WindowFrame.h"
 #include "base/SettingsFile.h"
@@ -72,7 +72,7 @@ private:
     Options m_options;
     Ground m_ground;
     std::unique_ptr<ui::MainWindow> m_window; ///< its views are read while the rest is made
-    SharedContext m_sharedContext;
+    Graphics m_graphics;
     SystemClock m_clock;
     SettingsFile m_settings;
     SettingsFile m_state;

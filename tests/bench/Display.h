@@ -7,7 +7,7 @@
 namespace kiv::bench {
 
 /// Where a program that is measured shows its window: an X display and a session bus that nobody
-/// else is on, with OpenGL drawn in software. Where there is no Xvfb the window is off screen.
+/// else is on, without a graphics card. Where there is no Xvfb the window is off screen.
 class Display {
 public:
     Display();

@@ -16,25 +16,28 @@ constexpr int settling = 4000;  ///< milliseconds until a program is at rest
 constexpr int watching = 10000; ///< milliseconds
 constexpr double target = 0.3;  ///< per cent of one core
 
-double idleOf(const Display &display, const QString &program, const QStringList &arguments) {
+ShownFigure idleOf(const Display &display, const QString &program, const QStringList &arguments) {
     const ShownProgram shown(display, program, arguments);
     QTest::qWait(settling);
     const double before = shown.worked();
     QTest::qWait(watching);
-    return (shown.worked() - before) / (watching * 1e6) * 100;
+    return {(shown.worked() - before) / (watching * 1e6) * 100, shown.renderer()};
 }
 
 } // namespace
 
 QList<Row> idle() {
     const Display display;
+    const ShownFigure program =
+        idleOf(display, QStringLiteral(KIV_PROGRAM), {u"--profile"_s, signedInProfile()});
+    const ShownFigure window = idleOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
     return {{.name = u"idle"_s,
-             .figure =
-                 idleOf(display, QStringLiteral(KIV_PROGRAM), {u"--profile"_s, signedInProfile()}),
+             .figure = program.value,
              .peer = u"empty window"_s,
-             .peerFigure = idleOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s}),
+             .peerFigure = window.value,
              .target = target,
-             .unit = Unit::Percent}};
+             .unit = Unit::Percent,
+             .how = drawnBy(program, window)}};
 }
 
 } // namespace kiv::bench

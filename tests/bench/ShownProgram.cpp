@@ -75,7 +75,9 @@ ShownProgram::~ShownProgram() {
 QString ShownProgram::renderer() const {
     static const QRegularExpression name(u"OpenGL .*RENDERER: (.*) VERSION:"_s);
     const QRegularExpressionMatch found = name.match(QString::fromUtf8(m_said));
-    return found.hasMatch() ? u"OpenGL, "_s + found.captured(1) : u"Qt's software renderer"_s;
+    if (found.hasMatch())
+        return u"OpenGL, "_s + found.captured(1);
+    return m_said.contains("'software' renderloop") ? u"Qt's painter"_s : u"not known"_s;
 }
 
 double ShownProgram::memory() const {

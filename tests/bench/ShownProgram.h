@@ -26,6 +26,17 @@ private:
     double m_firstFrame = 0;
 };
 
+/// A figure of a program, and what drew it meanwhile.
+struct ShownFigure {
+    double value = 0;
+    QString renderer;
+};
+
+/// Says of a row what drew the program and the empty window.
+inline QString drawnBy(const ShownFigure &program, const ShownFigure &window) {
+    return QStringLiteral("%1; the empty window: %2").arg(program.renderer, window.renderer);
+}
+
 /// The folder of a profile where somebody is signed in and has asked a question.
 const QString &signedInProfile();
 

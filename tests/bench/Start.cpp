@@ -21,21 +21,16 @@ QStringList programArguments() {
     return {u"--profile"_s, signedInProfile()};
 }
 
-struct Start {
-    double firstFrame = 0;
-    QString renderer;
-};
-
 /// The program has gone before another one is measured.
-Start startOf(const Display &display, const QString &program, const QStringList &arguments) {
+ShownFigure startOf(const Display &display, const QString &program, const QStringList &arguments) {
     const ShownProgram shown(display, program, arguments);
     return {shown.firstFrame(), shown.renderer()};
 }
 
-double memoryOf(const Display &display, const QString &program, const QStringList &arguments) {
+ShownFigure memoryOf(const Display &display, const QString &program, const QStringList &arguments) {
     const ShownProgram shown(display, program, arguments);
     QTest::qWait(settling);
-    return shown.memory();
+    return {shown.memory(), shown.renderer()};
 }
 
 } // namespace
@@ -44,33 +39,35 @@ QList<Row> start() {
     const Display display;
     QList<double> program;
     QList<double> window;
-    QString renderer;
+    QString how;
     for (int run = 0; run <= runs; ++run) {
-        const Start shown = startOf(display, QStringLiteral(KIV_PROGRAM), programArguments());
-        const Start empty = startOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
+        const ShownFigure shown = startOf(display, QStringLiteral(KIV_PROGRAM), programArguments());
+        const ShownFigure empty = startOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
         if (run == 0) // warms the disk's cache
             continue;
-        program.append(shown.firstFrame);
-        window.append(empty.firstFrame);
-        renderer = empty.renderer;
+        program.append(shown.value);
+        window.append(empty.value);
+        how = drawnBy(shown, empty);
     }
     return {{.name = u"start"_s,
              .figure = median(program),
              .peer = u"empty window"_s,
              .peerFigure = median(window),
              .target = startTarget * median(window),
-             .how = renderer}};
+             .how = how}};
 }
 
 QList<Row> memory() {
     const Display display;
-    const double window = memoryOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
+    const ShownFigure window = memoryOf(display, QStringLiteral(KIV_EMPTY_WINDOW), {u"--stay"_s});
+    const ShownFigure program = memoryOf(display, QStringLiteral(KIV_PROGRAM), programArguments());
     return {{.name = u"memory"_s,
-             .figure = memoryOf(display, QStringLiteral(KIV_PROGRAM), programArguments()),
+             .figure = program.value,
              .peer = u"empty window"_s,
-             .peerFigure = window,
-             .target = memoryTarget * window,
-             .unit = Unit::Memory}};
+             .peerFigure = window.value,
+             .target = memoryTarget * window.value,
+             .unit = Unit::Memory,
+             .how = drawnBy(program, window)}};
 }
 
 } // namespace kiv::bench

@@ -1,5 +1,6 @@
 #include "ui/PageWindow.h"
 
+#include "app/Graphics.h"
 #include "support/Processes.h"
 
 #include <QDesktopServices>
@@ -65,10 +66,11 @@ void PageWindow::clickRow(int row) {
 }
 
 int runPageTest(QObject &test, int argc, char **argv) {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    app::Graphics::choose();
     test::letEngineRunAsRoot();
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QGuiApplication application(argc, argv);
+    const app::Graphics graphics;
     return QTest::qExec(&test, argc, argv);
 }
 

@@ -1,5 +1,6 @@
 // The page of calls in a real web engine, without a window: what it may use, and what it may not.
 
+#include "app/Graphics.h"
 #include "store/ScriptedBackend.h"
 #include "support/Processes.h"
 #include "web/WebHost.h"
@@ -127,10 +128,11 @@ private Q_SLOTS:
 } // namespace kiv::web
 
 int main(int argc, char **argv) {
-    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    kiv::app::Graphics::choose();
     kiv::test::letEngineRunAsRoot();
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--use-fake-device-for-media-stream");
     QGuiApplication application(argc, argv);
+    const kiv::app::Graphics graphics;
     kiv::web::VoicePageTest test;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);
