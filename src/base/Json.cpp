@@ -2,11 +2,39 @@
 
 #include <QJsonDocument>
 
+#include <array>
+#include <string>
+
 namespace kiv {
 
 namespace {
 
+/// Short texts of this thread's documents: keys, roles and states come again and again, and each is
+/// made once. One takes the place of another with the same ends and size.
+class ShortTexts {
+public:
+    static constexpr std::size_t longest = 12; ///< bytes; a std::string holds so many in itself
+
+    const QString &text(std::string_view utf8) {
+        const auto ends = static_cast<unsigned char>(utf8.front() + 4 * utf8.back());
+        Entry &entry = m_entries[(ends + utf8.size()) % m_entries.size()];
+        if (entry.utf8 != utf8)
+            entry = {std::string(utf8), QString::fromUtf8(utf8.data(), qsizetype(utf8.size()))};
+        return entry.text;
+    }
+
+private:
+    struct Entry {
+        std::string utf8;
+        QString text;
+    };
+    std::array<Entry, 64> m_entries;
+};
+
 QString fromUtf8(std::string_view text) {
+    thread_local ShortTexts shortTexts;
+    if (!text.empty() && text.size() <= ShortTexts::longest)
+        return shortTexts.text(text);
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
@@ -159,23 +187,19 @@ JVal JsonValue::toJVal() const {
     case simdjson::dom::element_type::BOOL:
         return JVal::num(*boolean() ? 1 : 0);
     case simdjson::dom::element_type::ARRAY: {
+        const JsonArray array = *this->array();
         JVal::Array values;
-        simdjson::dom::array array;
-        if (m_element.get_array().get(array) == simdjson::SUCCESS) {
-            for (const auto element : array)
-                values.append(JsonValue(element).toJVal());
-        }
+        for (const JsonValue value : array)
+            values.append(value.toJVal());
         return JVal::arr(std::move(values));
     }
     case simdjson::dom::element_type::OBJECT: {
+        const JsonObject object = *this->object();
         JVal::Object members;
-        simdjson::dom::object object;
-        if (m_element.get_object().get(object) == simdjson::SUCCESS) {
-            for (const auto member : object) {
-                const QString key = fromUtf8(member.key);
-                if (!members.contains(key))
-                    members.insert(key, JsonValue(member.value).toJVal());
-            }
+        for (const JsonMember member : object) {
+            const QString key = fromUtf8(member.key);
+            if (!members.contains(key))
+                members.insert(key, member.value.toJVal());
         }
         return JVal::obj(std::move(members));
     }

@@ -45,10 +45,33 @@ private:
     simdjson::dom::element m_element;
 };
 
-/// Members of an object, found by key; of a key that stands twice the first counts.
+/// One member of an object.
+struct JsonMember {
+    std::string_view key; ///< plain UTF-8
+    JsonValue value;
+};
+
+/// Members of an object, found by key or iterated as they stand there:
+/// for (JsonMember member : object). A key can stand twice; the first counts.
 class JsonObject {
 public:
+    class Iterator {
+    public:
+        explicit Iterator(simdjson::dom::object::iterator at) : m_at(at) {}
+        JsonMember operator*() const { return {m_at.key(), JsonValue(m_at.value())}; }
+        Iterator &operator++() {
+            ++m_at;
+            return *this;
+        }
+        bool operator!=(const Iterator &other) const { return m_at != other.m_at; }
+
+    private:
+        simdjson::dom::object::iterator m_at;
+    };
+
     explicit JsonObject(simdjson::dom::object object) : m_object(object) {}
+    Iterator begin() const { return Iterator(m_object.begin()); }
+    Iterator end() const { return Iterator(m_object.end()); }
     /// The member under `key` (plain UTF-8), null included; nothing when it is missing.
     std::optional<JsonValue> find(std::string_view key) const;
 

@@ -4,6 +4,9 @@
 
 #include <QList>
 
+#include <algorithm>
+#include <bitset>
+
 namespace kiv::net {
 
 template <typename T>
@@ -17,6 +20,11 @@ concept DecodesItself = requires(JsonValue value, Place place) {
     { T::decode(value, place) } -> std::same_as<T>;
 };
 
+/// A record that its table tells everything about.
+template <typename T>
+concept FilledByTable =
+    !DecodesItself<T> && !std::is_same_v<decltype(tableOf<T>), const std::nullptr_t>;
+
 template <typename T>
 T decodeValue(JsonValue value, Place place);
 
@@ -27,32 +35,52 @@ T wanted(std::optional<T> value, Place place, std::string_view expected) {
     return *std::move(value);
 }
 
-template <typename Member>
-Member decodeMember(const JsonObject &object, Place place) {
-    const std::optional<JsonValue> found = object.find(place.key);
-    if constexpr (isOptional<Member>) {
-        if (!found || found->isNull())
-            return std::nullopt;
-        return decodeValue<typename Member::value_type>(*found, place);
-    } else {
-        if (!found)
-            throwMissing(place);
-        return decodeValue<Member>(*found, place);
+template <typename Record, typename Member>
+void readMember(Record &record, const Field<Record, Member> &field, JsonValue value) {
+    const Place place{tableOf<Record>.name, field.key};
+    if constexpr (!isOptional<Member>)
+        record.*field.member = decodeValue<Member>(value, place);
+    else if (!value.isNull())
+        record.*field.member = decodeValue<typename Member::value_type>(value, place);
+}
+
+/// Fills a new record in one pass over its object. Of a key that stands twice the first counts.
+template <typename Record>
+void fillByTable(Record &record, JsonValue value, Place place) {
+    constexpr const auto &fields = tableOf<Record>.fields;
+    std::bitset<std::tuple_size_v<decltype(tableOf<Record>.fields)>> seen;
+    for (const JsonMember member : wanted(value.object(), place, "an object")) {
+        std::size_t number = 0;
+        [[maybe_unused]] const auto takes = [&](const auto &field) {
+            const bool isIt = member.key == field.key;
+            if (isIt && !seen[number]) {
+                readMember(record, field, member.value);
+                seen.set(number);
+            }
+            ++number;
+            return isIt;
+        };
+        std::apply([&](const auto &...field) { (void)(takes(field) || ...); }, fields);
     }
+    std::size_t number = 0;
+    [[maybe_unused]] const auto checkRequired = [&](const auto &field) {
+        if (field.required && !seen[number])
+            throwMissing({tableOf<Record>.name, field.key});
+        ++number;
+    };
+    std::apply([&](const auto &...field) { (checkRequired(field), ...); }, fields);
 }
 
 template <typename Record>
 Record decodeByTable(JsonValue value, Place place) {
-    const JsonObject object = wanted(value.object(), place, "an object");
     Record record;
-    const auto fill = [&]<typename... Fields>(const Fields &...fields) {
-        ((record.*fields.member =
-              decodeMember<typename Fields::Type>(object, {tableOf<Record>.name, fields.key})),
-         ...);
-    };
-    std::apply(fill, tableOf<Record>.fields);
+    fillByTable(record, value, place);
     return record;
 }
+
+/// Elements that a list has room for before any of them has been read: a body can hold millions
+/// that are refused.
+inline constexpr qsizetype mostReserved = 1000;
 
 /// The typing rules, the same for every record: no type is turned into another, unknown keys are
 /// skipped, and one wrong value fails the whole body. Throws DecodingError.
@@ -71,9 +99,14 @@ T decodeValue(JsonValue value, Place place) {
     } else if constexpr (isList<T>) {
         const JsonArray array = wanted(value.array(), place, "a list");
         T list;
-        list.reserve(array.size());
-        for (const JsonValue element : array)
-            list.append(decodeValue<typename T::value_type>(element, place));
+        list.reserve(std::min(array.size(), mostReserved));
+        using Element = typename T::value_type;
+        for (const JsonValue element : array) {
+            if constexpr (FilledByTable<Element>)
+                fillByTable(list.emplaceBack(), element, place);
+            else
+                list.append(decodeValue<Element>(element, place));
+        }
         return list;
     } else if constexpr (DecodesItself<T>) {
         return T::decode(value, place);

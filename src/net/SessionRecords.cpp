@@ -12,8 +12,10 @@ std::optional<QString> MeUser::displayName() const {
 MeUser MeUser::decode(JsonValue value, Place place) {
     MeUser user = decodeByTable<MeUser>(value, place);
     if (!user.avatarUrl) {
-        const Place picture{tableOf<MeUser>.name, "picture"};
-        user.avatarUrl = decodeMember<std::optional<QString>>(*value.object(), picture);
+        constexpr std::string_view key = "picture";
+        const auto picture = value.object()->find(key);
+        if (picture && !picture->isNull())
+            user.avatarUrl = decodeValue<QString>(*picture, {tableOf<MeUser>.name, key});
     }
     return user;
 }
