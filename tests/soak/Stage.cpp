@@ -37,6 +37,7 @@ void Stage::close() {
     const MainThread::OwnDoing ending(thread);
     if (program)
         takeLeave();
+    leaving.clear();
     screen.reset();
     program.reset();
     // As the end of its process would: what the allocator keeps of it is not the next one's.
@@ -47,9 +48,10 @@ void Stage::close() {
 
 /// Signing out by oneself drops what was typed; a session that expires opens the sheet.
 void Stage::takeLeave() {
+    if (store().scope()->auth() != store::AuthPhase::Anon)
+        return;
     const QString user = std::exchange(leaving, QString());
-    const bool isOut = store().scope()->auth() == store::AuthPhase::Anon;
-    if (isOut && !user.isEmpty() && store().session()->authSheet() == store::AuthSheetMode::Closed)
+    if (!user.isEmpty() && store().session()->authSheet() == store::AuthSheetMode::Closed)
         ledger.dropAll(user);
 }
 

@@ -37,7 +37,7 @@ struct Stage {
     void open();
     void close();
 
-    /// Whoever has asked to sign out is out, or stays.
+    /// What was typed by whoever has asked to sign out is dropped once they are out.
     void takeLeave();
 
     void note(const QString &step);
