@@ -44,6 +44,7 @@ void Stage::close() {
     ::malloc_trim(0);
     entered.reset();
     isCleared = false;
+    ledger.messages.clear(); // no other program shows any of them
 }
 
 /// Signing out by oneself drops what was typed; a session that expires opens the sheet.
