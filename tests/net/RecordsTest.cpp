@@ -242,6 +242,14 @@ private Q_SLOTS:
         QVERIFY(!decodeBody<KivAPI::ProjectEventsPage>("{}").events);
     }
 
+    void ofAKeyThatStandsTwiceTheFirstCounts() {
+        const auto user = decodeBody<MeUser>(R"({"name":"Ann","email":null,"name":7,"email":"x"})");
+        QCOMPARE(user.name, u"Ann"_s);
+        QVERIFY(!user.email);
+        QCOMPARE(errorOf<ChatRow>(R"({"role":null,"role":"user","content":""})"),
+                 u"The reply cannot be read: ChatRow.role is not a text."_s);
+    }
+
     void aNewAgentIsKnownByEitherId() {
         const auto idIn = [](const char *body) {
             return decodeBody<AgentCreateResult>(body).agentID().value_or(u"none"_s);
