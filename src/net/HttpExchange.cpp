@@ -3,6 +3,8 @@
 #include "base/Await.h"
 #include "base/BaseUrl.h"
 
+#include <QCoreApplication>
+
 #include <utility>
 
 namespace kiv::net {
@@ -215,6 +217,9 @@ void HttpExchange::dropReply() {
         return;
     m_reply->disconnect(&m_context);
     m_reply->abort();
+    // What the network layer's own thread has told it meanwhile would still be taken in; a second
+    // error is warned of.
+    QCoreApplication::removePostedEvents(m_reply, QEvent::MetaCall);
     m_reply->deleteLater();
     m_reply.clear();
 }

@@ -21,6 +21,8 @@ public:
     void reply(int status, QByteArray body = {}, QByteArrayList headers = {});
     /// The head of an answer whose body has `length` bytes, or (-1) ends with the connection.
     void replyHead(int status, qsizetype length = -1, QByteArrayList headers = {});
+    /// Sends at once what was said, without the event loop.
+    void flush() { m_socket->flush(); }
     void close() { m_socket->disconnectFromHost(); }
     /// Whether either side has ended the connection.
     bool isClosed() const { return m_socket->state() == QAbstractSocket::UnconnectedState; }

@@ -296,6 +296,19 @@ private Q_SLOTS:
         QCOMPARE(at.clock.pending(), 0);
     }
 
+    /// The network layer's own thread has read it, this one not yet.
+    void anErrorThatComesAfterGivingUpIsNone() {
+        ClientFixture at;
+        auto call = get(at);
+        QTRY_COMPARE(at.server.count(), 1);
+        at.server.last().peer->reply(404, "{}");
+        at.server.last().peer->flush();
+        QTest::qSleep(100);
+        call.cancel();
+        QVERIFY(call.failedWith(Kind::Cancelled));
+        QTest::qWait(20); // a warning fails the test
+    }
+
     void whatWasGivenUpBeforeItBeganAsksNothing() {
         ClientFixture at;
         at.server.answer(200, "{}");
