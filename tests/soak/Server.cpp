@@ -83,18 +83,23 @@ void Server::thaw() {
 
 bool Server::heal() {
     thaw();
-    bool healed = false;
+    // It has to say twice that there are none: what was ordered while it was frozen may be taken in
+    // only after its first answer.
+    int timesNone = 0;
     return waitUntil(patience, [&] {
         start();
-        // Asked until it says that there are none.
         const std::unique_ptr<QNetworkReply> reply(
             m_control.get(QNetworkRequest(m_url.resolved(QUrl(u"/_control/faults"_s)))));
         waitUntil(500ms, [&] { return reply->isFinished(); });
         const QJsonObject said = QJsonDocument::fromJson(reply->readAll()).object();
-        healed = said.contains(u"faults"_s) && said.value(u"faults"_s).toArray().isEmpty();
-        if (!healed)
+        if (said.contains(u"faults"_s) && said.value(u"faults"_s).toArray().isEmpty()) {
+            ++timesNone;
+            letRun(200ms);
+        } else {
+            timesNone = 0;
             setFaults({});
-        return healed;
+        }
+        return timesNone == 2;
     });
 }
 
