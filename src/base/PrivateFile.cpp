@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+
 namespace kiv {
 
 using namespace Qt::StringLiterals;
@@ -37,7 +39,8 @@ std::optional<QByteArray> PrivateFile::read(const QString &path, qint64 most) {
     // A pipe would be waited for.
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray bytes = file.read(most + 1);
+    // As much as is asked for is taken from the memory, also for a small file.
+    const QByteArray bytes = file.read(std::min(file.size(), most) + 1);
     if (bytes.size() > most || file.error() != QFileDevice::NoError)
         return std::nullopt;
     return bytes;

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace kiv::store {
 
 namespace {
@@ -14,8 +16,9 @@ std::optional<QByteArray> contentOf(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    // A byte more than allowed tells a file that has grown since it was looked at.
-    const QByteArray content = file.read(PickedFile::largest + 1);
+    // A byte more than allowed tells a file that has grown since it was looked at. As much as is
+    // asked for is taken from the memory, also for a small file.
+    const QByteArray content = file.read(std::min(file.size(), PickedFile::largest) + 1);
     return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
 }
 
