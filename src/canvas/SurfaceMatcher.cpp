@@ -57,6 +57,8 @@ std::optional<SurfaceLink> SurfaceMatcher::page(const QString &link, const QUrl 
         !url.host().isEmpty() && url.host().compare(baseUrl.host(), Qt::CaseInsensitive) == 0;
     if (!isOurs || !isSurfacePath(url.path(QUrl::FullyEncoded)))
         return std::nullopt;
+    // As it is written out: QUrl tells addresses apart that are written alike ("#" in a fragment).
+    url = QUrl::fromEncoded(url.toEncoded());
     return SurfaceLink{url, title(url)};
 }
 
