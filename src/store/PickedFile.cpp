@@ -16,9 +16,12 @@ std::optional<QByteArray> contentOf(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    // A byte more than allowed tells a file that has grown since it was looked at. As much as is
-    // asked for is taken from the memory, also for a small file.
-    const QByteArray content = file.read(std::min(file.size(), PickedFile::largest) + 1);
+    // As much as is asked for is taken from the memory, also for a small file. A byte more than
+    // there should be tells one that has grown, or one that does not know its size.
+    const qint64 size = std::min(file.size(), PickedFile::largest);
+    QByteArray content = file.read(size + 1);
+    if (content.size() > size && size < PickedFile::largest)
+        content += file.read(PickedFile::largest + 1 - content.size());
     return file.error() == QFileDevice::NoError ? std::optional(content) : std::nullopt;
 }
 
