@@ -72,6 +72,24 @@ QString difference(const QList<Msg> &messages, const QList<Stored> &stored) {
     return {};
 }
 
+/// The last rows of both sides, with what the program is at: what to look at when they differ.
+QString lastRows(store::ChatRoom &room, const QList<Stored> &stored) {
+    constexpr qsizetype told = 6;
+    QStringList here;
+    for (const Msg &message :
+         room.msgs()->messages().last(std::min<qsizetype>(told, room.msgs()->count()))) {
+        const QString row = message.serverID ? QString::number(*message.serverID) : u"-"_s;
+        here.append(row + u' ' + message.text.left(20).simplified());
+    }
+    QStringList there;
+    for (const Stored &row : stored.last(std::min(told, stored.size())))
+        there.append(QString::number(row.id) + u' ' + row.text.left(20).simplified());
+    return u"\n  shown:  %1\n  stored: %2\n  waiting %3, connection %4"_s.arg(here.join(u" | "_s))
+        .arg(there.join(u" | "_s))
+        .arg(room.liveWaiting())
+        .arg(room.chatGen());
+}
+
 /// What was sent to this chat is on the server as often as it may be; what is not there is on the
 /// screen as not sent, or in the draft.
 QString accountFor(Stage &stage, const Chat &chat, const QList<Stored> &stored) {
@@ -211,7 +229,8 @@ void Calm::checkOpenChat() {
     if (m_stage.chat() != chat)
         return;
     if (!isAgreed) {
-        m_stage.fail(u"the screen does not come to agree with the server: "_s + apart);
+        m_stage.fail(u"the screen does not come to agree with the server: "_s + apart +
+                     lastRows(*m_stage.store().chat(), stored));
         return;
     }
     QString fault = accountFor(m_stage, chat, stored);

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype keptSteps = 50;
+constexpr qsizetype keptSteps = 200;
 
 } // namespace
 
