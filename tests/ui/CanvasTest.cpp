@@ -55,7 +55,7 @@ void CanvasTest::fillsTheWindow() {
     open();
     if (dockOpen)
         m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    QTRY_COMPARE(layout()->dockOpen(), dockOpen);
+    QTRY_COMPARE(m_gallery->find(u"dockFeed"_s) != nullptr, dockOpen);
     const QRectF before = sheet();
     m_gallery->item(focused)->forceActiveFocus(Qt::TabFocusReason);
     m_gallery->press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
