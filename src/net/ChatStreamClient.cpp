@@ -37,6 +37,7 @@ struct Stream {
     QString path;
     ChatStreamClient::OnMessage onMessage;
     ChatStreamClient::OnReconnect onReconnect;
+    ChatStreamClient::OnOpen onOpen;
 };
 
 /// Reads one connection to its end.
@@ -54,6 +55,8 @@ QCoro::Task<void> connectOnce(const Stream *stream, Cancel cancel) {
     if (status < 200 || status > 299)
         throw APIError::server(status, u"stream HTTP %1"_s.arg(status));
 
+    stream->onOpen();
+    cancel.throwIfRequested();
     LineSplitter lines;
     SSEFrameParser frames;
     for (;;) {
@@ -95,9 +98,11 @@ QCoro::Task<void> keepConnected(Stream stream, Clock *clock, Cancel cancel) {
 ChatStreamClient::ChatStreamClient(APIClient &client, QObject *parent)
     : QObject(parent), m_client(client), m_session(client.environment()) {}
 
-void ChatStreamClient::start(QString path, OnMessage onMessage, OnReconnect onReconnect) {
-    Stream stream{&m_client, &m_session, std::move(path), std::move(onMessage),
-                  std::move(onReconnect)};
+void ChatStreamClient::start(QString path, OnMessage onMessage, OnReconnect onReconnect,
+                             OnOpen onOpen) {
+    Stream stream{
+        &m_client,        &m_session, std::move(path), std::move(onMessage), std::move(onReconnect),
+        std::move(onOpen)};
     m_loop.restart([&](Cancel cancel) {
         return keepConnected(std::move(stream), &m_client.clock(), std::move(cancel));
     });

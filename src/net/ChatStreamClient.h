@@ -16,13 +16,15 @@ class ChatStreamClient : public QObject {
 public:
     using OnMessage = std::function<void(const ChatRow &)>;
     using OnReconnect = std::function<void()>;
+    using OnOpen = std::function<void()>;
 
     /// Reads from the client's backend with its cookies, over connections of its own. The client
     /// outlives the stream.
     explicit ChatStreamClient(APIClient &client, QObject *parent = nullptr);
 
-    /// Replaces the running stream. `onReconnect` is called before every attempt but the first.
-    void start(QString path, OnMessage onMessage, OnReconnect onReconnect);
+    /// Replaces the running stream. `onReconnect` is called before every attempt but the first,
+    /// `onOpen` when one has succeeded: from then on no row is missed.
+    void start(QString path, OnMessage onMessage, OnReconnect onReconnect, OnOpen onOpen);
     void stop() { m_loop.cancel(); }
     bool running() const { return m_loop.running(); }
 

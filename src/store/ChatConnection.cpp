@@ -56,26 +56,31 @@ void ChatRoom::connectChat() {
     }
     ++m_chatGen;
     if (target)
-        openLine(*target, Opening::First);
+        openLine(*target, Reason::Entered);
 }
 
 void ChatRoom::refresh() {
     if (m_connected)
-        openLine(*m_connected, Opening::Again);
+        openLine(*m_connected, Reason::LineLost);
 }
 
-void ChatRoom::openLine(const net::ChatTarget &target, Opening opening) {
+void ChatRoom::openLine(const net::ChatTarget &target, Reason reason) {
     const int gen = m_chatGen;
-    auto load = [this, gen, target](Opening now) {
+    auto load = [this, gen, target](Reason now) {
         m_live.clear();
         m_connection.restart([this, gen, target, now](Cancel cancel) {
             return loadHistory(gen, target, now, std::move(cancel));
         });
     };
-    load(opening);
+    load(reason);
     m_store.chatStream().start(
         target.streamPath(), [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
-        [load] { load(Opening::Again); });
+        [load] { load(Reason::LineLost); },
+        [this, load] {
+            m_isPageEarly = true;
+            if (!m_connection.running())
+                load(Reason::LineStands);
+        });
 }
 
 void ChatRoom::disconnectChat() {
@@ -101,17 +106,20 @@ void ChatRoom::setUnsentAside() {
         m_unsent[m_connected->streamPath()] += unsent;
 }
 
-/// A page that does not come is asked for again: the stream alone does not bring what was missed.
-QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Opening opening,
+/// A page that does not come is asked for again, and so is one that was asked for before the line
+/// stood: the stream alone does not bring what was missed.
+QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Reason reason,
                                         Cancel cancel) {
     for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
         m_historyLoading = true;
+        m_isPageEarly = false;
         bool hasCome = false;
         try {
             const net::ChatPage page = co_await newestPage(&m_store.net(), target, cancel);
             hasCome = true;
-            if (gen == m_chatGen) {
-                showHistory(page.messages, opening);
+            const bool bringsNothing = reason == Reason::LineStands && showsAll(page.messages);
+            if (gen == m_chatGen && !bringsNothing) {
+                showHistory(page.messages, reason);
                 m_store.call()->attachSharedVoiceHistory(target);
             }
         } catch (const std::exception &) {
@@ -121,13 +129,25 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Opening
                 m_msgs.append(liveGreeting());
         }
         m_historyLoading = false;
-        if (hasCome)
+        if (hasCome && !m_isPageEarly)
             co_return;
-        co_await m_store.clock().sleep(pause, cancel);
+        if (hasCome)
+            reason = Reason::LineStands;
+        else
+            co_await m_store.clock().sleep(pause, cancel);
     }
 }
 
-void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
+bool ChatRoom::showsAll(const QList<net::ChatRow> &rows) const {
+    return std::ranges::all_of(rows, [this](const net::ChatRow &row) {
+        const qsizetype at = row.id ? m_msgs.rowOfServerID(*row.id) : -1;
+        if (at >= 0)
+            return m_msgs.messages().at(at).text.size() >= row.content.size();
+        return !rowToMsg(row);
+    });
+}
+
+void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
     CanvasRoom *canvas = m_store.canvas();
     const auto answerBefore = newestAnswer();
     QList<Msg> unsent = m_unsent.take(m_connected->streamPath());
@@ -155,7 +175,7 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Opening opening) {
     const auto answer = newestAnswer();
     const bool missedNothing = answer && answerBefore && answer->text == answerBefore->text &&
                                answer->serverID == answerBefore->serverID;
-    if (opening == Opening::Again && missedNothing)
+    if (reason != Reason::Entered && missedNothing)
         return; // what the person looks at stays
     using canvas::ConversationLine;
     QList<ConversationLine> lines;

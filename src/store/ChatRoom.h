@@ -110,8 +110,9 @@ Q_SIGNALS:
     void lastPromptChanged();
 
 private:
-    /// Whether a chat is entered, or the line to the one that shows was lost and is back.
-    enum class Opening { First, Again };
+    /// Why the rows of a chat are loaded: it is entered, its line was lost, or its line stands now
+    /// and what came before that may be missing.
+    enum class Reason { Entered, LineLost, LineStands };
     struct Post {
         net::ChatTarget target;
         QUuid message;
@@ -126,9 +127,11 @@ private:
     void confirmPost(const Post &post, const net::ChatSendResult &result);
     void failPost(const Post &post, const std::exception &error);
     QCoro::Task<void> watchAnswer(Cancel cancel);
-    void openLine(const net::ChatTarget &target, Opening opening);
-    QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Opening opening, Cancel cancel);
-    void showHistory(const QList<net::ChatRow> &rows, Opening opening);
+    void openLine(const net::ChatTarget &target, Reason reason);
+    QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Reason reason, Cancel cancel);
+    /// Whether the screen lacks nothing of these rows.
+    bool showsAll(const QList<net::ChatRow> &rows) const;
+    void showHistory(const QList<net::ChatRow> &rows, Reason reason);
     void resumeTurn();
     QCoro::Task<void> stopAnswer(QString agentID, Cancel cancel);
     bool isStoppable() const { return m_connected && m_connected->isAgent(); }
@@ -156,6 +159,9 @@ private:
     QHash<QString, QList<Msg>> m_unsent;
     /// Rows that came since the last history page was asked for; the page may not hold them.
     QHash<qint64, Msg> m_live;
+    /// The line was opened after the last history page was asked for: what came before is on the
+    /// page, what came after on the line, and what came between on neither.
+    bool m_isPageEarly = false;
     /// The rows of the connected chat have been loaded.
     bool m_rowsKnown = false;
     bool m_hasOlderRows = false; ///< the server has rows before the first that was loaded

@@ -74,6 +74,8 @@ void MessageModel::update(qsizetype row, Msg message) {
     message.id = shown.id;
     if (!message.chipsChosen)
         message.chipsChosen = shown.chipsChosen;
+    if (shown == message)
+        return;
     shown = std::move(message);
     const QModelIndex changed = index(static_cast<int>(row));
     Q_EMIT dataChanged(changed, changed,

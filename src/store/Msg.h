@@ -72,6 +72,7 @@ struct Msg {
             files = sent.files;
     }
     bool isUnsent() const { return !pendingID.isEmpty() && !serverID; }
+    friend bool operator==(const Msg &, const Msg &) = default;
 };
 
 /// A line of our own making: a greeting, a note, what the person typed.

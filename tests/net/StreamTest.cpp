@@ -31,6 +31,11 @@ struct StreamFixture : ClientFixture {
                 ++reconnects;
                 if (const auto act = std::exchange(onReconnect, nullptr))
                     act();
+            },
+            [this] {
+                ++opened;
+                if (const auto act = std::exchange(onOpen, nullptr))
+                    act();
             });
     }
     /// Answers the request that waits with the head of a stream.
@@ -55,8 +60,10 @@ struct StreamFixture : ClientFixture {
     std::unique_ptr<ChatStreamClient> stream = std::make_unique<ChatStreamClient>(*client);
     QList<ChatRow> rows;
     int reconnects = 0;
+    int opened = 0;
     std::function<void()> onRow; ///< called once, as is the next
     std::function<void()> onReconnect;
+    std::function<void()> onOpen;
 };
 
 } // namespace
@@ -208,15 +215,15 @@ private Q_SLOTS:
 
     void callbacksMayEndTheStream_data() {
         QTest::addColumn<QString>("action");
-        QTest::addColumn<bool>("inReconnect");
+        QTest::addColumn<QString>("callback");
         for (const QString &action : {u"stop"_s, u"destroy"_s, u"destroy all"_s, u"restart"_s}) {
-            QTest::newRow(qPrintable(action + u" in onMessage"_s)) << action << false;
-            QTest::newRow(qPrintable(action + u" in onReconnect"_s)) << action << true;
+            for (const QString &callback : {u"onMessage"_s, u"onReconnect"_s, u"onOpen"_s})
+                QTest::newRow(qPrintable(action + u" in "_s + callback)) << action << callback;
         }
     }
     void callbacksMayEndTheStream() {
         QFETCH(QString, action);
-        QFETCH(bool, inReconnect);
+        QFETCH(QString, callback);
         StreamFixture at;
         Peer *peer = at.connect();
         QVERIFY(peer);
@@ -230,17 +237,23 @@ private Q_SLOTS:
             if (action == u"destroy all"_s)
                 at.client.reset();
         };
-        (inReconnect ? at.onReconnect : at.onRow) = act;
+        const bool inMessage = callback == u"onMessage"_s;
+        (inMessage ? at.onRow : callback == u"onReconnect"_s ? at.onReconnect : at.onOpen) = act;
         peer->send(insertOf(1) + insertOf(2) + insertOf(3));
-        if (inReconnect) {
+        if (!inMessage) {
             QTRY_COMPARE(at.rows.size(), 4);
             peer->close();
             QTRY_COMPARE(at.clock.nextDue(), 1s);
             at.clock.advance(1s);
             QCOMPARE(at.reconnects, 1);
         }
+        if (callback == u"onOpen"_s) {
+            QTRY_COMPARE(at.server.count(), 2);
+            peer = at.greet();
+            peer->send(insertOf(4));
+        }
         QTRY_VERIFY(peer->isClosed());
-        QCOMPARE(at.rows.size(), inReconnect ? 4 : 2);
+        QCOMPARE(at.rows.size(), inMessage ? 2 : 4);
         if (action == u"restart"_s) {
             QTRY_COMPARE(at.server.last().target, "/another"_ba);
             at.greet()->send(insertOf(9));

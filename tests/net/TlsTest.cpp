@@ -70,7 +70,7 @@ private Q_SLOTS:
         const int before = server.contacts;
         ChatStreamClient stream(*at.client);
         stream.start(
-            ChatTarget::agent(u"7"_s).streamPath(), [](const ChatRow &) {}, [] {});
+            ChatTarget::agent(u"7"_s).streamPath(), [](const ChatRow &) {}, [] {}, [] {});
         QTRY_VERIFY(server.contacts > before);
         if (trusted)
             QTRY_VERIFY(server.received.contains("/stream"));

@@ -261,6 +261,41 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->history()->count(), 1);
     }
 
+    /// Neither on the page, which was asked for before, nor on the line, which stood after.
+    void comesBetweenThePageAndTheLine_data() {
+        QTest::addColumn<bool>("again");
+        QTest::newRow("at first") << false;
+        QTest::newRow("when the line comes back") << true;
+    }
+    void comesBetweenThePageAndTheLine() {
+        QFETCH(bool, again);
+        StoreFixture f;
+        const QString stream = u"GET "_s + kivChat + u"/stream"_s;
+        const QString page = u"GET "_s + kivChat;
+        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"Weekly report"_s) + "]");
+        if (again)
+            QVERIFY(f.signIn());
+        f.backend.hold(stream);
+        if (again)
+            f.backend.dropStream(kivChat + u"/stream"_s);
+        else
+            f.store->boot();
+        const int streams = again ? 2 : 1;
+        QVERIFY(QTest::qWaitFor([&] {
+            if (f.backend.count(stream) < streams)
+                f.clock.advance(again ? 50ms : 0ms);
+            return f.backend.count(stream) == streams;
+        }));
+        SOON_COMPARE(f.texts(), QStringList{u"Weekly report"_s});
+        SOON_VERIFY(!f.store->chat()->historyLoading());
+        const int pages = f.backend.count(page);
+        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"Weekly report"_s) + "," +
+                               rowJson(8, u"assistant"_s, u"All went well."_s) + "]");
+        f.backend.release(stream);
+        SOON_COMPARE(f.texts(), (QStringList{u"Weekly report"_s, u"All went well."_s}));
+        QCOMPARE(f.backend.count(page), pages + 1);
+    }
+
     void unseen() {
         StoreFixture f;
         f.store->layout()->toggleRail();

@@ -8,6 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr auto streamEnd = "/chat/stream"_L1;
+
 QString routeOf(const ScriptedBackend::Request &request) {
     return request.method + u' ' + request.path;
 }
@@ -47,10 +49,15 @@ void ScriptedBackend::hold(const QString &route) {
 void ScriptedBackend::release(const QString &route) {
     Answer &answer = m_answers[route];
     answer.held = false;
+    const bool isStream = route.endsWith(streamEnd);
     for (const auto &socket : m_held.take(route)) {
-        if (socket)
+        if (socket && isStream)
+            openStream(socket, route.section(u' ', 1));
+        else if (socket)
             reply(socket, answer);
     }
+    if (isStream)
+        m_answers.remove(route);
 }
 
 void ScriptedBackend::breakOff(const QString &route) {
@@ -120,14 +127,18 @@ void ScriptedBackend::serve(QTcpSocket *socket, const Request &request) {
         socket->abort();
     } else if (answer.held) {
         m_held[route].append(socket);
-    } else if (request.path.endsWith(u"/chat/stream"_s) && !m_answers.contains(route)) {
-        m_streams[request.path] = socket;
-        socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/event-stream\r\n\r\n"
-                      "event: ready\ndata: {}\n\n");
-        socket->flush();
+    } else if (request.path.endsWith(streamEnd) && !m_answers.contains(route)) {
+        openStream(socket, request.path);
     } else {
         reply(socket, answer);
     }
+}
+
+void ScriptedBackend::openStream(QTcpSocket *socket, const QString &path) {
+    m_streams[path] = socket;
+    socket->write("HTTP/1.1 200 OK\r\nContent-Type: text/event-stream\r\n\r\n"
+                  "event: ready\ndata: {}\n\n");
+    socket->flush();
 }
 
 void ScriptedBackend::reply(QTcpSocket *socket, const Answer &answer) {

@@ -30,7 +30,7 @@ public:
     /// The same for a page; `headers` are whole lines, each with its end.
     void answerPage(const QString &route, const QByteArray &html, int status = 200,
                     const QByteArray &headers = {});
-    /// Requests of the route wait until release().
+    /// Requests of the route wait until release(), which opens a stream.
     void hold(const QString &route);
     void release(const QString &route);
     /// The connection is closed without an answer.
@@ -54,6 +54,7 @@ private:
     };
     void read(QTcpSocket *socket);
     void serve(QTcpSocket *socket, const Request &request);
+    void openStream(QTcpSocket *socket, const QString &path);
     static void reply(QTcpSocket *socket, const Answer &answer);
 
     QHash<QString, Answer> m_answers;
