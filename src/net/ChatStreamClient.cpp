@@ -35,9 +35,7 @@ struct Stream {
     APIClient *client;
     HttpSession *session;
     QString path;
-    ChatStreamClient::OnMessage onMessage;
-    ChatStreamClient::OnReconnect onReconnect;
-    ChatStreamClient::OnOpen onOpen;
+    ChatStreamClient::Callbacks callbacks;
 };
 
 /// Reads one connection to its end.
@@ -55,7 +53,7 @@ QCoro::Task<void> connectOnce(const Stream *stream, Cancel cancel) {
     if (status < 200 || status > 299)
         throw APIError::server(status, u"stream HTTP %1"_s.arg(status));
 
-    stream->onOpen();
+    stream->callbacks.onOpen();
     cancel.throwIfRequested();
     LineSplitter lines;
     SSEFrameParser frames;
@@ -67,7 +65,7 @@ QCoro::Task<void> connectOnce(const Stream *stream, Cancel cancel) {
             const auto event = frames.feed(line);
             const auto row = event ? rowOf(*event) : std::nullopt;
             if (row) {
-                stream->onMessage(*row);
+                stream->callbacks.onMessage(*row);
                 cancel.throwIfRequested();
             }
         });
@@ -83,12 +81,16 @@ QCoro::Task<void> keepConnected(Stream stream, Clock *clock, Cancel cancel) {
             co_await connectOnce(&stream, cancel);
         } catch (const APIError &error) {
             cancel.throwIfRequested();
-            if (error.kind() == APIError::Kind::Unauthorized || isCancellation(error))
+            if (isCancellation(error))
                 co_return;
+            if (error.kind() == APIError::Kind::Unauthorized) {
+                stream.callbacks.onRefused();
+                co_return;
+            }
             pause = delay;
         }
         co_await clock->sleep(pause, cancel);
-        stream.onReconnect();
+        stream.callbacks.onReconnect();
         cancel.throwIfRequested();
     }
 }
@@ -98,11 +100,8 @@ QCoro::Task<void> keepConnected(Stream stream, Clock *clock, Cancel cancel) {
 ChatStreamClient::ChatStreamClient(APIClient &client, QObject *parent)
     : QObject(parent), m_client(client), m_session(client.environment()) {}
 
-void ChatStreamClient::start(QString path, OnMessage onMessage, OnReconnect onReconnect,
-                             OnOpen onOpen) {
-    Stream stream{
-        &m_client,        &m_session, std::move(path), std::move(onMessage), std::move(onReconnect),
-        std::move(onOpen)};
+void ChatStreamClient::start(QString path, Callbacks callbacks) {
+    Stream stream{&m_client, &m_session, std::move(path), std::move(callbacks)};
     m_loop.restart([&](Cancel cancel) {
         return keepConnected(std::move(stream), &m_client.clock(), std::move(cancel));
     });

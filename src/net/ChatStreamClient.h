@@ -14,17 +14,22 @@ namespace kiv::net {
 class ChatStreamClient : public QObject {
     Q_OBJECT
 public:
-    using OnMessage = std::function<void(const ChatRow &)>;
-    using OnReconnect = std::function<void()>;
-    using OnOpen = std::function<void()>;
+    struct Callbacks {
+        std::function<void(const ChatRow &)> onMessage;
+        /// Before every attempt but the first.
+        std::function<void()> onReconnect = [] {};
+        /// An attempt has succeeded: from now on no row is missed.
+        std::function<void()> onOpen = [] {};
+        /// The backend says that nobody is signed in; the stream has ended.
+        std::function<void()> onRefused = [] {};
+    };
 
     /// Reads from the client's backend with its cookies, over connections of its own. The client
     /// outlives the stream.
     explicit ChatStreamClient(APIClient &client, QObject *parent = nullptr);
 
-    /// Replaces the running stream. `onReconnect` is called before every attempt but the first,
-    /// `onOpen` when one has succeeded: from then on no row is missed.
-    void start(QString path, OnMessage onMessage, OnReconnect onReconnect, OnOpen onOpen);
+    /// Replaces the running stream.
+    void start(QString path, Callbacks callbacks);
     void stop() { m_loop.cancel(); }
     bool running() const { return m_loop.running(); }
 

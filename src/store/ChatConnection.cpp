@@ -14,8 +14,6 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int historyLimit = 80;
-/// How soon a page that did not come is asked for again, and how seldom at last.
-constexpr Clock::Milliseconds firstPause = 2s;
 constexpr Clock::Milliseconds longestPause = 30s;
 
 /// The page of history that shows when a chat is opened.
@@ -36,6 +34,7 @@ QList<Msg> unsentOf(const QList<Msg> &messages) {
 
 void ChatRoom::connectChat() {
     m_store.chatStream().stop();
+    m_refusal.cancel();
     m_connection.cancel();
     endWaiting();
     m_store.canvas()->resetTurn();
@@ -73,19 +72,42 @@ void ChatRoom::openLine(const net::ChatTarget &target, Reason reason) {
         });
     };
     load(reason);
+    m_refusal.cancel();
     m_store.chatStream().start(
-        target.streamPath(), [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
-        [load] { load(Reason::LineLost); },
-        [this, load] {
-            m_isPageEarly = true;
-            if (!m_connection.running())
-                load(Reason::LineStands);
-        });
+        target.streamPath(),
+        {.onMessage = [this, gen](const net::ChatRow &row) { onLiveInsert(gen, row); },
+         .onReconnect = [load] { load(Reason::LineLost); },
+         .onOpen =
+             [this, load] {
+                 m_refusedPause = firstPause;
+                 m_isPageEarly = true;
+                 if (!m_connection.running())
+                     load(Reason::LineStands);
+             },
+         .onRefused =
+             [this] {
+                 m_refusal.restart(
+                     [this](Cancel cancel) { return afterRefusal(std::move(cancel)); });
+             }});
+}
+
+/// Either the session is over, or the line was refused without a reason: then it is asked for anew,
+/// later each time.
+QCoro::Task<void> ChatRoom::afterRefusal(Cancel cancel) {
+    if (co_await m_store.session()->isOver(cancel)) {
+        m_store.session()->expire();
+        co_return;
+    }
+    const auto pause = m_refusedPause;
+    m_refusedPause = std::min(2 * pause, longestPause);
+    co_await m_store.clock().sleep(pause, cancel);
+    refresh();
 }
 
 void ChatRoom::disconnectChat() {
     m_store.dictation()->stop();
     m_store.chatStream().stop();
+    m_refusal.cancel();
     ++m_chatGen;
     m_connection.cancel();
     m_historyLoading = false;

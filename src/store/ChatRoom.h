@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Cancel.h"
+#include "base/Clock.h"
 #include "base/Work.h"
 #include "canvas/ReplyOptions.h"
 #include "net/ChatTarget.h"
@@ -113,6 +114,8 @@ private:
     /// Why the rows of a chat are loaded: it is entered, its line was lost, or its line stands now
     /// and what came before that may be missing.
     enum class Reason { Entered, LineLost, LineStands };
+    /// How soon a page that did not come is asked for again, or a line that was refused.
+    static constexpr Clock::Milliseconds firstPause{2000};
     struct Post {
         net::ChatTarget target;
         QUuid message;
@@ -128,6 +131,7 @@ private:
     void failPost(const Post &post, const std::exception &error);
     QCoro::Task<void> watchAnswer(Cancel cancel);
     void openLine(const net::ChatTarget &target, Reason reason);
+    QCoro::Task<void> afterRefusal(Cancel cancel);
     QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Reason reason, Cancel cancel);
     /// Whether the screen lacks nothing of these rows.
     bool showsAll(const QList<net::ChatRow> &rows) const;
@@ -181,7 +185,10 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_chatNote, &ChatRoom::chatNoteChanged)
     Q_OBJECT_BINDABLE_PROPERTY(ChatRoom, QString, m_lastPrompt, &ChatRoom::lastPromptChanged)
 
+    Clock::Milliseconds m_refusedPause = firstPause;
+
     Work m_connection;
+    Work m_refusal;
     Work m_posts;
     Work m_watchdog;
 };

@@ -50,16 +50,6 @@ QCoro::Task<Missing> loadWorkspace(ScopeRoom *scope, Missing missing, Cancel can
     co_return missing;
 }
 
-QCoro::Task<bool> isSessionOver(net::APIClient *client, Cancel cancel) {
-    try {
-        co_await net::KivAPI::currentUser(client, cancel);
-    } catch (const std::exception &error) {
-        cancel.throwIfRequested();
-        co_return net::isUnauthorized(error);
-    }
-    co_return false;
-}
-
 /// What the person can change so that a refused attempt succeeds.
 AuthField fieldOf(const std::exception &error, bool signup) {
     const auto *refusal = dynamic_cast<const net::APIError *>(&error);
@@ -119,7 +109,7 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
     for (auto pause = firstPause; missing.rail || missing.kiv;
          pause = std::min(2 * pause, longestPause)) {
         // The session may have ended after it was asked for, as by a sign-out that came late.
-        if (missing.isRefused && co_await isSessionOver(&m_store.net(), cancel)) {
+        if (missing.isRefused && co_await isOver(cancel)) {
             expire();
             co_return;
         }
@@ -131,6 +121,16 @@ QCoro::Task<void> SessionRoom::bootLive(Cancel cancel) {
             m_store.chat()->connectChat();
         }
     }
+}
+
+QCoro::Task<bool> SessionRoom::isOver(Cancel cancel) {
+    try {
+        co_await net::KivAPI::currentUser(&m_store.net(), cancel);
+    } catch (const std::exception &error) {
+        cancel.throwIfRequested();
+        co_return net::isUnauthorized(error);
+    }
+    co_return false;
 }
 
 void SessionRoom::submitAuth(const QString &email, const QString &password, bool signup) {

@@ -54,6 +54,8 @@ public:
     void boot();
     void enterLive(const net::MeUser &user);
     void resetToAnon();
+    /// Whether the backend says that nobody is signed in any more; not when it cannot be asked.
+    QCoro::Task<bool> isOver(Cancel cancel);
     /// The backend has ended the session: what is not sent is kept, and the person signs in again.
     void expire();
     void offerSample(const SampleAccount &account);

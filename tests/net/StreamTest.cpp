@@ -20,23 +20,19 @@ QByteArray insertOf(int id, QByteArray content = "x") {
 
 struct StreamFixture : ClientFixture {
     void start(QString path = ChatTarget::agent(u"7"_s).streamPath()) {
-        stream->start(
-            path,
-            [this](const ChatRow &row) {
-                rows.append(row);
-                if (const auto act = std::exchange(onRow, nullptr))
-                    act();
-            },
-            [this] {
-                ++reconnects;
-                if (const auto act = std::exchange(onReconnect, nullptr))
-                    act();
-            },
-            [this] {
-                ++opened;
-                if (const auto act = std::exchange(onOpen, nullptr))
-                    act();
-            });
+        stream->start(path, {.onMessage =
+                                 [this](const ChatRow &row) {
+                                     rows.append(row);
+                                     called(u"onMessage"_s);
+                                 },
+                             .onReconnect = [this] { called(u"onReconnect"_s); },
+                             .onOpen = [this] { called(u"onOpen"_s); },
+                             .onRefused = [this] { called(u"onRefused"_s); }});
+    }
+    void called(const QString &callback) {
+        ++calls[callback];
+        if (const auto act = acts.take(callback))
+            act();
     }
     /// Answers the request that waits with the head of a stream.
     Peer *greet() {
@@ -59,11 +55,8 @@ struct StreamFixture : ClientFixture {
 
     std::unique_ptr<ChatStreamClient> stream = std::make_unique<ChatStreamClient>(*client);
     QList<ChatRow> rows;
-    int reconnects = 0;
-    int opened = 0;
-    std::function<void()> onRow; ///< called once, as is the next
-    std::function<void()> onReconnect;
-    std::function<void()> onOpen;
+    QHash<QString, int> calls;
+    QHash<QString, std::function<void()>> acts; ///< what a callback does the next time
 };
 
 } // namespace
@@ -90,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(at.server.last().headers["accept-encoding"], "identity"_ba);
         QCOMPARE(at.server.last().headers["origin"], at.server.url().toEncoded());
         QCOMPARE(at.server.last().headers["cookie"], "sid=1"_ba);
-        QCOMPARE(at.reconnects, 0);
+        QCOMPARE(at.calls[u"onReconnect"_s], 0);
     }
 
     void rowsArriveAsTheyAreSent() {
@@ -152,16 +145,16 @@ private Q_SLOTS:
         at.start();
         for (qsizetype attempt = 0; attempt < ends.size(); ++attempt) {
             QTRY_COMPARE(at.server.count(), attempt + 1);
-            QCOMPARE(at.reconnects, attempt);
+            QCOMPARE(at.calls[u"onReconnect"_s], attempt);
             at.server.last().peer->send(ends[attempt]);
             at.server.last().peer->close();
             const std::chrono::seconds wait(waits[attempt]);
             QTRY_VERIFY(at.clock.nextDue() && *at.clock.nextDue() <= 30s);
             QCOMPARE(at.clock.nextDue(), wait);
             at.clock.advance(wait - 1ms);
-            QCOMPARE(at.reconnects, attempt);
+            QCOMPARE(at.calls[u"onReconnect"_s], attempt);
             at.clock.advance(1ms);
-            QCOMPARE(at.reconnects, attempt + 1);
+            QCOMPARE(at.calls[u"onReconnect"_s], attempt + 1);
         }
     }
 
@@ -172,7 +165,8 @@ private Q_SLOTS:
         at.server.last().peer->reply(401);
         QTRY_VERIFY(!at.stream->running());
         QCOMPARE(at.clock.pending(), 0);
-        QCOMPARE(at.reconnects, 0);
+        QCOMPARE(at.calls[u"onReconnect"_s], 0);
+        QCOMPARE(at.calls[u"onRefused"_s], 1);
         QVERIFY(at.connect());
     }
 
@@ -197,7 +191,7 @@ private Q_SLOTS:
         at.clock.advance(34s);
         at.connectivity.setOnline(true);
         QTRY_COMPARE(at.server.count(), 1);
-        QCOMPARE(at.reconnects, 0);
+        QCOMPARE(at.calls[u"onReconnect"_s], 0);
     }
 
     void aLineWithoutEndReconnects() {
@@ -217,7 +211,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("action");
         QTest::addColumn<QString>("callback");
         for (const QString &action : {u"stop"_s, u"destroy"_s, u"destroy all"_s, u"restart"_s}) {
-            for (const QString &callback : {u"onMessage"_s, u"onReconnect"_s, u"onOpen"_s})
+            for (const QString &callback :
+                 {u"onMessage"_s, u"onReconnect"_s, u"onOpen"_s, u"onRefused"_s})
                 QTest::newRow(qPrintable(action + u" in "_s + callback)) << action << callback;
         }
     }
@@ -238,19 +233,23 @@ private Q_SLOTS:
                 at.client.reset();
         };
         const bool inMessage = callback == u"onMessage"_s;
-        (inMessage ? at.onRow : callback == u"onReconnect"_s ? at.onReconnect : at.onOpen) = act;
+        at.acts[callback] = act;
         peer->send(insertOf(1) + insertOf(2) + insertOf(3));
         if (!inMessage) {
             QTRY_COMPARE(at.rows.size(), 4);
             peer->close();
             QTRY_COMPARE(at.clock.nextDue(), 1s);
             at.clock.advance(1s);
-            QCOMPARE(at.reconnects, 1);
+            QCOMPARE(at.calls[u"onReconnect"_s], 1);
         }
         if (callback == u"onOpen"_s) {
             QTRY_COMPARE(at.server.count(), 2);
             peer = at.greet();
             peer->send(insertOf(4));
+        } else if (callback == u"onRefused"_s) {
+            QTRY_COMPARE(at.server.count(), 2);
+            at.server.last().peer->reply(401);
+            QTRY_COMPARE(at.calls[callback], 1);
         }
         QTRY_VERIFY(peer->isClosed());
         QCOMPARE(at.rows.size(), inMessage ? 2 : 4);
@@ -292,7 +291,7 @@ private Q_SLOTS:
             QTRY_VERIFY(peer->isClosed());
         at.clock.advance(60s);
         QCOMPARE(at.rows.size(), had);
-        QCOMPARE(at.reconnects, 0);
+        QCOMPARE(at.calls[u"onReconnect"_s], 0);
     }
 };
 

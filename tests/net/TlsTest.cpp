@@ -69,8 +69,7 @@ private Q_SLOTS:
         QVERIFY(update.finish());
         const int before = server.contacts;
         ChatStreamClient stream(*at.client);
-        stream.start(
-            ChatTarget::agent(u"7"_s).streamPath(), [](const ChatRow &) {}, [] {}, [] {});
+        stream.start(ChatTarget::agent(u"7"_s).streamPath(), {.onMessage = [](const ChatRow &) {}});
         QTRY_VERIFY(server.contacts > before);
         if (trusted)
             QTRY_VERIFY(server.received.contains("/stream"));

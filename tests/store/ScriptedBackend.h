@@ -30,7 +30,8 @@ public:
     /// The same for a page; `headers` are whole lines, each with its end.
     void answerPage(const QString &route, const QByteArray &html, int status = 200,
                     const QByteArray &headers = {});
-    /// Requests of the route wait until release(), which opens a stream.
+    /// Requests of the route wait until release(). A stream opens then, whatever was answered
+    /// before.
     void hold(const QString &route);
     void release(const QString &route);
     /// The connection is closed without an answer.

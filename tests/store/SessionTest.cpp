@@ -3,6 +3,7 @@
 #include "StoreFixture.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace kiv;
 using namespace kiv::store;
 using test::StoreFixture;
@@ -184,6 +185,44 @@ private Q_SLOTS:
         SOON_COMPARE(f.store->session()->authSheet(),
                      status == 401 ? AuthSheetMode::Login : AuthSheetMode::Closed);
         QCOMPARE(f.backend.count(projects), 1);
+    }
+
+    /// The stream of a chat is refused while everything else is not asked for.
+    void endsBehindALine_data() { endsWhileTheWorkspaceLoads_data(); }
+    void endsBehindALine() {
+        QFETCH(int, status);
+        QFETCH(AuthPhase, phase);
+        const QString me = u"GET api/v2/auth/me"_s;
+        const QString stream = u"GET "_s + test::kivChat + u"/stream"_s;
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.store->chat()->setDraft(u"half a question"_s);
+        f.backend.answer(stream, R"({"error":"Signed out"})", 401);
+        if (status == 401)
+            f.backend.answer(me, R"({"error":"Signed out"})", 401);
+        f.backend.dropStream(test::kivChat + u"/stream"_s);
+        QVERIFY(QTest::qWaitFor([&] {
+            if (f.backend.count(stream) < 2)
+                f.clock.advance(50ms);
+            return f.backend.count(me) == 2;
+        }));
+        SOON_COMPARE(f.store->scope()->auth(), phase);
+        SOON_COMPARE(f.store->session()->authSheet(),
+                     status == 401 ? AuthSheetMode::Login : AuthSheetMode::Closed);
+        if (phase == AuthPhase::Anon) {
+            f.clock.advance(60s);
+            QCOMPARE(f.backend.count(stream), 2);
+            return;
+        }
+        // Refused again, it is asked for later.
+        SOON_COMPARE(f.clock.nextDue(), 2s);
+        f.clock.advance(2s);
+        SOON_COMPARE(f.clock.nextDue(), 4s);
+        f.history(test::kivChat, "[" + test::rowJson(8, u"assistant"_s, u"missed"_s) + "]");
+        f.backend.release(stream);
+        f.clock.advance(4s);
+        SOON_COMPARE(f.texts(), QStringList{u"missed"_s});
+        QCOMPARE(f.store->chat()->draft(), u"half a question"_s);
     }
 
     void goneInTheMiddle() {
