@@ -74,6 +74,9 @@ int run(QCoreApplication &application) {
     if (!QDir().mkpath(options.dataDir))
         return fail("the data folder cannot be made");
     QLockFile lock(options.dataDir + u"/lock"_s);
+    // Who has it holds the system's lock on it, too. What a killed server has left is no obstacle,
+    // even where another one has its process id by now.
+    lock.setStaleLockTime(1000);
     if (!lock.tryLock(2000))
         return fail(lock.error() == QLockFile::LockFailedError
                         ? "another server works in this data folder"

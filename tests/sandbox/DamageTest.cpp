@@ -125,10 +125,10 @@ private Q_SLOTS:
                         QDir(path).removeRecursively();
                     putContent(path, "x");
                     damage.strike(path);
-                    // Left behind long ago.
+                    // Left behind a moment ago.
                     QFile file(path);
                     if (name == u"lock"_s && file.open(QIODevice::Append))
-                        file.setFileTime(QDateTime::currentDateTime().addSecs(-120),
+                        file.setFileTime(QDateTime::currentDateTime().addSecs(-2),
                                          QFileDevice::FileModificationTime);
                 };
                 QTest::addRow("%s, %s", qPrintable(name), damage.name.constData())

@@ -8,6 +8,12 @@ namespace kiv::test {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
+namespace {
+
+constexpr auto streamEnd = "/stream"_L1;
+
+} // namespace
+
 QByteArray rowJson(qint64 id, const QString &role, const QString &text) {
     return QJsonDocument(QJsonObject{{u"id"_s, id},
                                      {u"role"_s, role},
@@ -79,9 +85,17 @@ bool StoreFixture::signIn() {
     store->boot();
     return soon([this] {
         const auto target = store->scope()->chatTarget();
-        return target && backend.isStreaming(target->streamPath()) &&
-               !store->chat()->historyLoading() && store->chat()->msgs()->count() > 0;
+        if (!target || store->chat()->msgs()->count() == 0)
+            return false;
+        const QString path = target->streamPath();
+        return isQuiet(path.chopped(streamEnd.size()), backend.count(u"GET "_s + path));
     });
+}
+
+/// The rows have been loaded twice for each line: before it stood, and when it did.
+bool StoreFixture::isQuiet(const QString &chat, int connections) const {
+    return connections > 0 && backend.isStreaming(chat + streamEnd) &&
+           backend.count(u"GET "_s + chat) >= 2 * connections && !store->chat()->historyLoading();
 }
 
 bool StoreFixture::bootSignedOut() {
@@ -91,15 +105,14 @@ bool StoreFixture::bootSignedOut() {
 }
 
 bool StoreFixture::streaming(const QString &chat, int connections) {
-    const QString path = chat + u"/stream"_s;
     return soon([&] {
-        return backend.count(u"GET "_s + path) == connections && backend.isStreaming(path) &&
-               !store->chat()->historyLoading();
+        return backend.count(u"GET "_s + chat + streamEnd) == connections &&
+               isQuiet(chat, connections);
     });
 }
 
 bool StoreFixture::reconnect(const QString &chat) {
-    const QString path = chat + u"/stream"_s;
+    const QString path = chat + streamEnd;
     int connections = 0;
     auto droppedAt = clock.elapsed();
     const auto drop = [&] {

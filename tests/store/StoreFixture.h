@@ -64,6 +64,8 @@ public:
     }
     static QStringList textsOf(const store::MessageModel &model);
 
+    bool isQuiet(const QString &chat, int connections) const;
+
     ScriptedBackend backend;
     ManualClock clock;
     QTemporaryDir folder;

@@ -79,10 +79,14 @@ void FeedTest::wheelUp() {
         QGuiApplication::sendEvent(&m_gallery->window(), &notch);
     }
     QTRY_COMPARE_GT(distanceToEnd(feed), 60.0);
-    // The movement has come to its end when two looks find the same.
+    // The movement has come to its end when two frames find the same.
     double place = -1;
-    QTRY_VERIFY(std::exchange(place, number(feed, "contentY")) == number(feed, "contentY") &&
-                !feed->property("moving").toBool());
+    const auto hasStopped = [&] {
+        m_gallery->window().grabWindow();
+        const double now = number(feed, "contentY");
+        return std::exchange(place, now) == now && !feed->property("moving").toBool();
+    };
+    QTRY_VERIFY(hasStopped());
 }
 
 void FeedTest::savePictures(const QString &name) {
