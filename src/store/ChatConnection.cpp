@@ -258,6 +258,20 @@ void ChatRoom::confirm(qsizetype row, Msg stored) {
     m_msgs.update(row, std::move(stored));
 }
 
+/// A message of ours that a new chat has taken off the screen is stored now: this row is it.
+void ChatRoom::takeFromAside(Msg &stored) {
+    QList<Msg> &unsent = m_unsent[m_connected->streamPath()];
+    const auto sent = std::ranges::find_if(unsent, [&](const Msg &message) {
+        return message.isUnsent() && message.text == stored.text;
+    });
+    if (sent == unsent.end())
+        return;
+    stored.id = sent->id;
+    stored.keepFilesOf(*sent);
+    m_store.attachments()->withdraw(sent->attachments);
+    unsent.erase(sent);
+}
+
 QString ChatRoom::newestQuestion() const {
     const QList<Msg> &messages = m_msgs.messages();
     const auto found = std::find_if(messages.crbegin(), messages.crend(), [](const Msg &message) {
@@ -283,10 +297,12 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
         const qsizetype pending = m_msgs.find([&](const Msg &message) {
             return message.isUnsent() && message.text == received->text;
         });
-        if (pending >= 0)
+        if (pending >= 0) {
             confirm(pending, std::move(*received));
-        else
+        } else {
+            takeFromAside(*received);
             m_msgs.append(std::move(*received));
+        }
         return;
     }
 

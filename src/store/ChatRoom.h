@@ -146,6 +146,7 @@ private:
     void setFeedWindow(int window);
     void confirm(qsizetype row, Msg stored);
     void setUnsentAside();
+    void takeFromAside(Msg &stored);
     void keepFiles();
     void enterChat(const std::optional<net::ChatTarget> &target);
     std::optional<Msg> newestAnswer() const;

@@ -102,6 +102,25 @@ private Q_SLOTS:
         QCOMPARE(f.texts().last(), stored);
     }
 
+    /// A new chat takes the message off the screen while it is on its way.
+    void streamIsFasterThanANewChat() {
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.backend.answer(kivPost, R"({"message":)" + rowJson(7, u"user"_s, u"hello"_s) + "}");
+        f.backend.hold(kivPost);
+        f.store->chat()->send(u"hello"_s);
+        SOON_COMPARE(f.backend.count(kivPost), 1);
+        f.store->chat()->newChat();
+        f.row(7, u"hello"_s, u"user"_s);
+        SOON_COMPARE(f.texts(), (QStringList{kivGreeting, u"hello"_s}));
+        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"hello"_s) + "]");
+        QVERIFY(f.reconnect(kivChat));
+        QCOMPARE(f.texts(), QStringList{u"hello"_s});
+        f.backend.release(kivPost);
+        f.row(8, u"Good morning"_s);
+        SOON_COMPARE(f.texts(), (QStringList{u"hello"_s, u"Good morning"_s}));
+    }
+
     void fromAnotherDevice() {
         StoreFixture f;
         QVERIFY(f.signIn());
