@@ -30,6 +30,10 @@ QList<Msg> unsentOf(const QList<Msg> &messages) {
     return unsent;
 }
 
+bool isEarlierPiece(const Msg &piece, const Msg &answer) {
+    return piece.text.size() < answer.text.size() && answer.text.startsWith(piece.text);
+}
+
 } // namespace
 
 void ChatRoom::connectChat() {
@@ -287,9 +291,12 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     auto received = rowToMsg(row);
     if (!received)
         return;
+    const qsizetype shown = received->serverID ? m_msgs.rowOfServerID(*received->serverID) : -1;
+    // A page of history that was asked for later has overtaken this piece on a slow line.
+    if (shown >= 0 && isEarlierPiece(*received, m_msgs.messages().at(shown)))
+        return;
     if (received->serverID)
         m_live.insert(*received->serverID, *received);
-    const qsizetype shown = received->serverID ? m_msgs.rowOfServerID(*received->serverID) : -1;
 
     if (received->who == Who::You) {
         if (shown >= 0)

@@ -315,6 +315,21 @@ private Q_SLOTS:
         QCOMPARE(f.backend.count(page), pages + 1);
     }
 
+    void pageOvertakesTheLine() {
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.row(8, u"All went"_s);
+        SOON_COMPARE(f.texts(), (QStringList{kivGreeting, u"All went"_s}));
+        f.history(kivChat, "[" + rowJson(8, u"assistant"_s, u"All went well this week."_s) + "]");
+        QVERIFY(f.reconnect(kivChat));
+        QCOMPARE(f.texts(), QStringList{u"All went well this week."_s});
+        QSignalSpy changed(&f.msgs(), &MessageModel::dataChanged);
+        f.row(8, u"All went well"_s);
+        f.row(8, u"All went well this week. Next?"_s);
+        SOON_COMPARE(f.texts(), QStringList{u"All went well this week. Next?"_s});
+        QCOMPARE(changed.count(), 1);
+    }
+
     void unseen() {
         StoreFixture f;
         f.store->layout()->toggleRail();
