@@ -38,6 +38,16 @@ QString failureText(const QNetworkReply &reply) {
     return reply.errorString();
 }
 
+/// Keeps what the network layer's own thread still tells from a reply that was given up: a second
+/// error is warned of.
+class Deafness : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *, QEvent *event) override {
+        return event->type() == QEvent::MetaCall;
+    }
+};
+
 } // namespace
 
 struct HttpExchange::Arrival {
@@ -217,9 +227,7 @@ void HttpExchange::dropReply() {
         return;
     m_reply->disconnect(&m_context);
     m_reply->abort();
-    // What the network layer's own thread has told it meanwhile would still be taken in; a second
-    // error is warned of.
-    QCoreApplication::removePostedEvents(m_reply, QEvent::MetaCall);
+    m_reply->installEventFilter(new Deafness(m_reply));
     m_reply->deleteLater();
     m_reply.clear();
 }

@@ -30,8 +30,12 @@ QList<Msg> unsentOf(const QList<Msg> &messages) {
     return unsent;
 }
 
-bool isEarlierPiece(const Msg &piece, const Msg &answer) {
-    return piece.text.size() < answer.text.size() && answer.text.startsWith(piece.text);
+/// An answer only grows: a piece of it that a page of history has overtaken on a slow line leaves
+/// the text as it is shown, and brings what else has come with it.
+std::optional<Msg> readPiece(net::ChatRow row, const QString &shown) {
+    if (row.content.size() < shown.size() && shown.startsWith(row.content))
+        row.content = shown;
+    return rowToMsg(row);
 }
 
 } // namespace
@@ -45,6 +49,7 @@ void ChatRoom::connectChat() {
     m_chatNote = QString();
     m_store.attachments()->clear();
     m_historyLoading = false;
+    m_refusedPause = firstPause;
     m_store.events()->loadEvents();
 
     const auto target = m_store.scope()->chatTarget();
@@ -166,10 +171,16 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Reason 
 
 bool ChatRoom::showsAll(const QList<net::ChatRow> &rows) const {
     return std::ranges::all_of(rows, [this](const net::ChatRow &row) {
-        const qsizetype at = row.id ? m_msgs.rowOfServerID(*row.id) : -1;
-        if (at >= 0)
-            return m_msgs.messages().at(at).text.size() >= row.content.size();
-        return !rowToMsg(row);
+        const auto stored = rowToMsg(row);
+        if (!stored)
+            return true;
+        const qsizetype at = stored->serverID ? m_msgs.rowOfServerID(*stored->serverID) : -1;
+        if (at < 0)
+            return false;
+        const Msg &shown = m_msgs.messages().at(at);
+        const bool isAhead = shown.text.size() > stored->text.size();
+        return isAhead || (shown.text == stored->text && shown.view == stored->view &&
+                           shown.chips == stored->chips);
     });
 }
 
@@ -203,6 +214,11 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
                                answer->serverID == answerBefore->serverID;
     if (reason != Reason::Entered && missedNothing)
         return; // what the person looks at stays
+    if (reason != Reason::Entered && answer && canvas->isAnswer(*answer)) {
+        // It had settled too early: the line was lost in the midst of it.
+        canvas->scheduleScenario(m_chatGen, *answer);
+        return;
+    }
     using canvas::ConversationLine;
     QList<ConversationLine> lines;
     for (const Msg &message : m_msgs.messages()) {
@@ -288,12 +304,9 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     if (gen != m_chatGen || m_store.scope()->auth() != AuthPhase::SignedIn ||
         !m_store.scope()->chatTarget())
         return;
-    auto received = rowToMsg(row);
+    const qsizetype shown = row.id ? m_msgs.rowOfServerID(*row.id) : -1;
+    auto received = readPiece(row, shown < 0 ? QString() : m_msgs.messages().at(shown).text);
     if (!received)
-        return;
-    const qsizetype shown = received->serverID ? m_msgs.rowOfServerID(*received->serverID) : -1;
-    // A page of history that was asked for later has overtaken this piece on a slow line.
-    if (shown >= 0 && isEarlierPiece(*received, m_msgs.messages().at(shown)))
         return;
     if (received->serverID)
         m_live.insert(*received->serverID, *received);

@@ -206,6 +206,8 @@ void SessionRoom::logout() {
 }
 
 QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
+    // A line that ends with the session is no reason to ask for another sign-in.
+    m_store.chatStream().stop();
     co_await m_store.call()->endCall(cancel);
     try {
         co_await net::KivAPI::logout(&m_store.net(), cancel);

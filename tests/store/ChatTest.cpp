@@ -315,6 +315,34 @@ private Q_SLOTS:
         QCOMPARE(f.backend.count(page), pages + 1);
     }
 
+    /// It settles on what a page brought of it, and the rest comes with the next page.
+    void answerGoesOnWhileTheLineIsLost() {
+        StoreFixture f;
+        QVERIFY(f.ask(u"Weekly report"_s));
+        const QString stream = u"GET "_s + kivChat + u"/stream"_s;
+        const QByteArray question = rowJson(7, u"user"_s, u"Weekly report"_s);
+        const auto answered = [&](const QString &answer) {
+            f.history(kivChat, "[" + question + "," + rowJson(8, u"assistant"_s, answer) + "]");
+        };
+        answered(u"The week."_s);
+        f.backend.hold(stream);
+        f.backend.dropStream(kivChat + u"/stream"_s);
+        QVERIFY(QTest::qWaitFor([&] {
+            if (f.backend.count(stream) < 2)
+                f.clock.advance(50ms);
+            return f.backend.count(stream) == 2 && f.texts().last() == u"The week."_s;
+        }));
+        f.clock.advance(1200ms);
+        QVERIFY(!f.store->canvas()->awaitingAnswer());
+        answered(u"The week.\n\n"_s + test::reportBlock);
+        f.backend.release(stream);
+        SOON_VERIFY(f.texts().last() != u"The week."_s);
+        f.clock.advance(1200ms);
+        f.clock.advance(500ms);
+        QCOMPARE(f.store->canvas()->art(), u"report"_s);
+        QCOMPARE(f.store->canvas()->history()->count(), 1);
+    }
+
     void pageOvertakesTheLine() {
         StoreFixture f;
         QVERIFY(f.signIn());

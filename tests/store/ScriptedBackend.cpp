@@ -73,6 +73,13 @@ QList<ScriptedBackend::Request> ScriptedBackend::requests(const QString &route) 
     return found;
 }
 
+QHash<QString, int> ScriptedBackend::counts() const {
+    QHash<QString, int> counts;
+    for (const Request &request : m_requests)
+        ++counts[routeOf(request)];
+    return counts;
+}
+
 bool ScriptedBackend::isStreaming(const QString &path) const {
     const auto stream = m_streams.value(path);
     return stream && stream->state() == QAbstractSocket::ConnectedState;

@@ -39,6 +39,8 @@ public:
 
     QList<Request> requests(const QString &route) const;
     int count(const QString &route) const { return static_cast<int>(requests(route).size()); }
+    /// How often each route was asked for.
+    QHash<QString, int> counts() const;
 
     /// Streams are opened by GET …/chat/stream and stay open.
     bool isStreaming(const QString &path) const;

@@ -11,6 +11,8 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto streamEnd = "/stream"_L1;
+/// Before it stands, and when it does.
+constexpr int pagesOfALine = 2;
 
 } // namespace
 
@@ -82,20 +84,21 @@ void StoreFixture::restart(store::AppStore::Mode mode, const QString &draftsFile
 }
 
 bool StoreFixture::signIn() {
+    const QHash<QString, int> asked = backend.counts();
     store->boot();
-    return soon([this] {
+    return soon([&] {
         const auto target = store->scope()->chatTarget();
         if (!target || store->chat()->msgs()->count() == 0)
             return false;
-        const QString path = target->streamPath();
-        return isQuiet(path.chopped(streamEnd.size()), backend.count(u"GET "_s + path));
+        const QString chat = target->streamPath().chopped(streamEnd.size());
+        return isLoaded(chat, asked.value(u"GET "_s + chat) + pagesOfALine);
     });
 }
 
-/// The rows have been loaded twice for each line: before it stood, and when it did.
-bool StoreFixture::isQuiet(const QString &chat, int connections) const {
-    return connections > 0 && backend.isStreaming(chat + streamEnd) &&
-           backend.count(u"GET "_s + chat) >= 2 * connections && !store->chat()->historyLoading();
+/// The line of the chat stands, and that many pages have been asked for and are here.
+bool StoreFixture::isLoaded(const QString &chat, int pages) const {
+    return backend.isStreaming(chat + streamEnd) && backend.count(u"GET "_s + chat) >= pages &&
+           !store->chat()->historyLoading();
 }
 
 bool StoreFixture::bootSignedOut() {
@@ -107,15 +110,17 @@ bool StoreFixture::bootSignedOut() {
 bool StoreFixture::streaming(const QString &chat, int connections) {
     return soon([&] {
         return backend.count(u"GET "_s + chat + streamEnd) == connections &&
-               isQuiet(chat, connections);
+               isLoaded(chat, pagesOfALine * connections);
     });
 }
 
 bool StoreFixture::reconnect(const QString &chat) {
     const QString path = chat + streamEnd;
     int connections = 0;
+    int pages = 0;
     auto droppedAt = clock.elapsed();
     const auto drop = [&] {
+        pages = backend.count(u"GET "_s + chat);
         connections = backend.count(u"GET "_s + path);
         droppedAt = clock.elapsed();
         backend.dropStream(path);
@@ -131,7 +136,7 @@ bool StoreFixture::reconnect(const QString &chat) {
                    clock.advance(50ms);
                return isBack;
            }) &&
-           streaming(chat, connections + 1);
+           soon([&] { return isLoaded(chat, pages + pagesOfALine); });
 }
 
 void StoreFixture::row(qint64 id, const QString &text, const QString &role) {

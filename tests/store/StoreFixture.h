@@ -64,7 +64,7 @@ public:
     }
     static QStringList textsOf(const store::MessageModel &model);
 
-    bool isQuiet(const QString &chat, int connections) const;
+    bool isLoaded(const QString &chat, int pages) const;
 
     ScriptedBackend backend;
     ManualClock clock;
