@@ -206,8 +206,6 @@ void SessionRoom::logout() {
 }
 
 QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
-    // A line that ends with the session is no reason to ask for another sign-in.
-    m_store.chatStream().stop();
     co_await m_store.call()->endCall(cancel);
     try {
         co_await net::KivAPI::logout(&m_store.net(), cancel);
@@ -220,6 +218,8 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
 }
 
 void SessionRoom::expire() {
+    if (m_auth.running())
+        return; // the person signs out: what is refused meanwhile is refused for that
     m_store.chat()->end();
     resetToAnon();
     openAuthSheet(AuthSheetMode::Login);
