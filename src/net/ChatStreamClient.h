@@ -18,9 +18,9 @@ public:
         std::function<void(const ChatRow &)> onMessage;
         /// Before every attempt but the first.
         std::function<void()> onReconnect = [] {};
-        /// An attempt has succeeded: from now on no row is missed.
+        /// An attempt has succeeded: rows come from now on.
         std::function<void()> onOpen = [] {};
-        /// The backend says that nobody is signed in; the stream has ended.
+        /// The backend has answered 401, as when nobody is signed in; the stream has ended.
         std::function<void()> onRefused = [] {};
     };
 

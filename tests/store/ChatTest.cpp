@@ -296,15 +296,10 @@ private Q_SLOTS:
             QVERIFY(f.signIn());
         f.backend.hold(stream);
         if (again)
-            f.backend.dropStream(kivChat + u"/stream"_s);
+            QVERIFY(f.loseLine(kivChat));
         else
             f.store->boot();
-        const int streams = again ? 2 : 1;
-        QVERIFY(QTest::qWaitFor([&] {
-            if (f.backend.count(stream) < streams)
-                f.clock.advance(again ? 50ms : 0ms);
-            return f.backend.count(stream) == streams;
-        }));
+        SOON_COMPARE(f.backend.count(stream), again ? 2 : 1);
         SOON_COMPARE(f.texts(), QStringList{u"Weekly report"_s});
         SOON_VERIFY(!f.store->chat()->historyLoading());
         const int pages = f.backend.count(page);
@@ -326,12 +321,8 @@ private Q_SLOTS:
         };
         answered(u"The week."_s);
         f.backend.hold(stream);
-        f.backend.dropStream(kivChat + u"/stream"_s);
-        QVERIFY(QTest::qWaitFor([&] {
-            if (f.backend.count(stream) < 2)
-                f.clock.advance(50ms);
-            return f.backend.count(stream) == 2 && f.texts().last() == u"The week."_s;
-        }));
+        QVERIFY(f.loseLine(kivChat));
+        SOON_COMPARE(f.texts().last(), u"The week."_s);
         f.clock.advance(1200ms);
         QVERIFY(!f.store->canvas()->awaitingAnswer());
         answered(u"The week.\n\n"_s + test::reportBlock);

@@ -200,12 +200,8 @@ private Q_SLOTS:
         f.backend.answer(stream, R"({"error":"Signed out"})", 401);
         if (status == 401)
             f.backend.answer(me, R"({"error":"Signed out"})", 401);
-        f.backend.dropStream(test::kivChat + u"/stream"_s);
-        QVERIFY(QTest::qWaitFor([&] {
-            if (f.backend.count(stream) < 2)
-                f.clock.advance(50ms);
-            return f.backend.count(me) == 2;
-        }));
+        QVERIFY(f.loseLine(test::kivChat));
+        SOON_COMPARE(f.backend.count(me), 2);
         SOON_COMPARE(f.store->scope()->auth(), phase);
         SOON_COMPARE(f.store->session()->authSheet(),
                      status == 401 ? AuthSheetMode::Login : AuthSheetMode::Closed);

@@ -139,6 +139,17 @@ bool StoreFixture::reconnect(const QString &chat) {
            soon([&] { return isLoaded(chat, pages + pagesOfALine); });
 }
 
+bool StoreFixture::loseLine(const QString &chat) {
+    const QString stream = u"GET "_s + chat + streamEnd;
+    const int before = backend.count(stream);
+    backend.dropStream(chat + streamEnd);
+    return QTest::qWaitFor([&] {
+        if (backend.count(stream) == before)
+            clock.advance(50ms);
+        return backend.count(stream) > before;
+    });
+}
+
 void StoreFixture::row(qint64 id, const QString &text, const QString &role) {
     backend.sendRow(store->scope()->chatTarget()->streamPath(), rowJson(id, role, text));
 }

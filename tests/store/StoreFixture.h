@@ -45,6 +45,8 @@ public:
     bool streaming(const QString &chat, int connections);
     /// Drops the stream of a chat and lets time pass until it is back.
     bool reconnect(const QString &chat);
+    /// Drops the stream of a chat and lets time pass until it is asked for again.
+    bool loseLine(const QString &chat);
 
     /// The stream of the current chat sends this row: an answer, or what `role` says.
     void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
@@ -64,8 +66,6 @@ public:
     }
     static QStringList textsOf(const store::MessageModel &model);
 
-    bool isLoaded(const QString &chat, int pages) const;
-
     ScriptedBackend backend;
     ManualClock clock;
     QTemporaryDir folder;
@@ -73,6 +73,9 @@ public:
     std::unique_ptr<QSettings> settings;
     std::unique_ptr<net::APIClient> client;
     std::unique_ptr<store::AppStore> store;
+
+private:
+    bool isLoaded(const QString &chat, int pages) const;
 };
 
 /// A chat row as JSON.
