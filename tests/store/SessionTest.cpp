@@ -220,6 +220,27 @@ private Q_SLOTS:
         QCOMPARE(f.store->chat()->draft(), u"half a question"_s);
     }
 
+    /// The session is over before the reply to the sign-out is here, and the stream notices.
+    void signingOutTakesLong() {
+        const QString me = u"GET api/v2/auth/me"_s;
+        const QString logout = u"POST api/v2/auth/logout"_s;
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.backend.answer(logout, "{}");
+        f.backend.hold(logout);
+        f.store->session()->logout();
+        SOON_COMPARE(f.backend.count(logout), 1);
+        f.backend.answer(me, "{}", 401);
+        f.backend.answer(u"GET "_s + test::kivChat + u"/stream"_s, "{}", 401);
+        QVERIFY(f.loseLine(test::kivChat));
+        SOON_COMPARE(f.backend.count(me), 2);
+        QTest::qWait(50);
+        QCOMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        f.backend.release(logout);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+        QCOMPARE(f.store->session()->authSheet(), AuthSheetMode::Closed);
+    }
+
     void goneInTheMiddle() {
         StoreFixture f;
         QVERIFY(f.bootSignedOut());
