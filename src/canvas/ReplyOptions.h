@@ -22,7 +22,10 @@ public:
     QUuid id = QUuid::createUuid(); ///< tells chips of a list apart, nothing else
     QString label;
     QString send; ///< what is sent as the person's message
-    friend bool operator==(const ReplyChip &, const ReplyChip &) = default;
+    /// Equal chips offer the same.
+    friend bool operator==(const ReplyChip &a, const ReplyChip &b) {
+        return a.label == b.label && a.send == b.send;
+    }
 };
 
 /// A conversation starter as the backend gives it.

@@ -200,7 +200,7 @@ private:
     std::optional<QString> m_drawnSpecKey;
     canvas::ViewSpec m_artSpec;
     std::optional<QString> m_lastIntent;
-    std::optional<QDateTime> m_sourceAt; ///< the message that the scene came from
+    std::optional<QDateTime> m_sourceAt; ///< when the message that the scene came from was sent
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
                                          &CanvasRoom::phaseChanged)

@@ -30,14 +30,6 @@ QList<Msg> unsentOf(const QList<Msg> &messages) {
     return unsent;
 }
 
-/// An answer only grows: a piece of it that a page of history has overtaken on a slow line leaves
-/// the text as it is shown, and brings what else has come with it.
-std::optional<Msg> readPiece(net::ChatRow row, const QString &shown) {
-    if (row.content.size() < shown.size() && shown.startsWith(row.content))
-        row.content = shown;
-    return rowToMsg(row);
-}
-
 } // namespace
 
 void ChatRoom::connectChat() {
@@ -57,12 +49,12 @@ void ChatRoom::connectChat() {
         // Nothing of the chat before may be read as this one's.
         setUnsentAside();
         enterChat(target);
-        m_rowsKnown = false;
         m_store.canvas()->clearCanvas();
         m_msgs.replaceAll(target ? m_unsent.take(target->streamPath())
                                  : QList<Msg>{liveGreeting()});
     }
     ++m_chatGen;
+    m_clearedTo.reset();
     if (target)
         openLine(*target, Reason::Entered);
 }
@@ -146,10 +138,14 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Reason 
         m_isPageEarly = false;
         bool hasCome = false;
         try {
-            const net::ChatPage page = co_await newestPage(&m_store.net(), target, cancel);
+            net::ChatPage page = co_await newestPage(&m_store.net(), target, cancel);
             hasCome = true;
+            const bool hasOlder = page.messages.size() >= historyLimit;
+            const auto cleared = page.messages.removeIf(
+                [this](const net::ChatRow &row) { return row.id && isCleared(*row.id); });
             const bool bringsNothing = reason == Reason::LineStands && showsAll(page.messages);
             if (gen == m_chatGen && !bringsNothing) {
+                m_hasOlderRows = hasOlder || cleared > 0;
                 showHistory(page.messages, reason);
                 m_store.call()->attachSharedVoiceHistory(target);
             }
@@ -192,14 +188,13 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
     QList<Msg> merged = HistoryMerge(m_msgs.messages(), m_live).merge(rows, unsent);
     if (merged.isEmpty())
         merged.append(liveGreeting());
-    m_hasOlderRows = rows.size() >= historyLimit;
     m_msgs.replaceAll(m_store.call()->withCalls(*m_connected, merged, m_hasOlderRows));
     for (const Msg &message : unsent) {
         const qsizetype row = m_msgs.rowOf(message.id);
         if (row >= 0 && !m_msgs.messages().at(row).isUnsent())
             m_store.attachments()->withdraw(message.attachments);
     }
-    m_rowsKnown = true;
+    m_clearedTo = m_clearedTo.value_or(0);
     markSeen();
     if (m_lastPrompt.value().isEmpty())
         m_lastPrompt = newestQuestion();
@@ -210,8 +205,10 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
     }
     m_liveWaiting = false;
     const auto answer = newestAnswer();
-    const bool missedNothing = answer && answerBefore && answer->text == answerBefore->text &&
-                               answer->serverID == answerBefore->serverID;
+    const bool missedNothing =
+        answer && answerBefore
+            ? answer->text == answerBefore->text && answer->serverID == answerBefore->serverID
+            : !answer && !answerBefore;
     if (reason != Reason::Entered && missedNothing)
         return; // what the person looks at stays
     if (reason != Reason::Entered && answer && canvas->isAnswer(*answer)) {
@@ -305,10 +302,20 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
         !m_store.scope()->chatTarget())
         return;
     const qsizetype shown = row.id ? m_msgs.rowOfServerID(*row.id) : -1;
-    auto received = readPiece(row, shown < 0 ? QString() : m_msgs.messages().at(shown).text);
+    if (shown < 0 && row.id && isCleared(*row.id))
+        return;
+    // A piece that a page of history has overtaken leaves the text as it is shown, and brings what
+    // else has come with it.
+    const QString text = shown < 0 ? QString() : m_msgs.messages().at(shown).text;
+    const bool isOvertaken = shown >= 0 && !m_live.contains(*row.id) &&
+                             row.content.size() < text.size() && text.startsWith(row.content);
+    net::ChatRow piece = row;
+    if (isOvertaken)
+        piece.content = text;
+    auto received = rowToMsg(piece);
     if (!received)
         return;
-    if (received->serverID)
+    if (received->serverID && !isOvertaken)
         m_live.insert(*received->serverID, *received);
 
     if (received->who == Who::You) {

@@ -158,6 +158,8 @@ void ChatRoom::startTurn(const Post &post) {
     m_chatNote = QString();
     m_liveWaiting = true;
     m_canStop = isStoppable();
+    // What an earlier answer still brings is not what this question waits for.
+    m_msgs.setGrowing({});
     m_store.account()->leave();
     m_store.layout()->closeProfile();
     QSet<qint64> known;
@@ -229,13 +231,20 @@ void ChatRoom::failPost(const Post &post, const std::exception &error) {
         m_store.session()->expire();
         return;
     }
-    const qsizetype row = m_msgs.rowOf(post.message);
+    qsizetype row = m_msgs.rowOf(post.message);
     if (row < 0) {
-        for (Msg &message : m_unsent[post.target.streamPath()]) {
-            if (message.id == post.message)
-                message.failed = true;
+        QList<Msg> &aside = m_unsent[post.target.streamPath()];
+        const auto sent = std::ranges::find(aside, post.message, &Msg::id);
+        if (sent == aside.end())
+            return;
+        if (post.target != m_connected) {
+            sent->failed = true;
+            return;
         }
-        return;
+        // A new chat has taken it off the screen: there it is again, to be sent anew.
+        row = m_msgs.count();
+        m_msgs.append(*sent);
+        aside.erase(sent);
     }
     Msg failed = m_msgs.messages().at(row);
     if (failed.serverID)
@@ -292,12 +301,13 @@ void ChatRoom::newChat() {
     m_store.dictation()->stop();
     m_chatNote = QString();
     setUnsentAside();
+    endWaiting();
+    m_store.canvas()->abandonTurn();
     m_store.canvas()->clearCanvas();
     m_store.account()->leave();
     m_store.layout()->closeHistory();
     m_store.layout()->closeDock();
-    m_liveWaiting = false;
-    m_canStop = false;
+    m_clearedTo = newestRow();
     const bool signedIn = m_store.scope()->auth() == AuthPhase::SignedIn;
     m_msgs.replaceAll({signedIn ? liveGreeting() : localMsg(Who::Agent, signedOutGreeting)});
     setFeedWindow(feedStep);
@@ -324,9 +334,7 @@ std::optional<qint64> ChatRoom::newestRow() const {
     const auto found = std::find_if(messages.crbegin(), messages.crend(), [](const Msg &message) {
         return message.serverID.has_value();
     });
-    if (found != messages.crend())
-        return found->serverID;
-    return m_rowsKnown ? std::optional<qint64>(0) : std::nullopt;
+    return found != messages.crend() ? found->serverID : m_clearedTo;
 }
 
 } // namespace kiv::store

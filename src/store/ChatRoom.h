@@ -79,7 +79,8 @@ public:
     /// Loads and streams the connected chat anew, leaving the turn as it is.
     void refresh();
     void onLiveInsert(int gen, const net::ChatRow &row);
-    /// Drops the connection for good: later rows and loads of it are ignored.
+    /// The session ends: the connection, what is on its way in either direction and what could not
+    /// be sent are dropped; files that were not sent wait for their person.
     void disconnectChat();
     void markSeen();
     /// The calls of a conversation are other ones: where it shows, they are put at their places.
@@ -133,6 +134,8 @@ private:
     void openLine(const net::ChatTarget &target, Reason reason);
     QCoro::Task<void> afterRefusal(Cancel cancel);
     QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Reason reason, Cancel cancel);
+    /// Whether a new chat has taken this row off the screen.
+    bool isCleared(qint64 row) const { return m_clearedTo && row <= *m_clearedTo; }
     /// Whether the screen lacks nothing of these rows.
     bool showsAll(const QList<net::ChatRow> &rows) const;
     void showHistory(const QList<net::ChatRow> &rows, Reason reason);
@@ -167,8 +170,9 @@ private:
     /// The line was opened after the last history page was asked for: what came before is on the
     /// page, what came after on the line, and what came between on neither.
     bool m_isPageEarly = false;
-    /// The rows of the connected chat have been loaded.
-    bool m_rowsKnown = false;
+    /// The last row that a new chat has taken off the screen, until the chat is entered anew; 0 for
+    /// none, nothing while the rows of the chat are not here.
+    std::optional<qint64> m_clearedTo;
     bool m_hasOlderRows = false; ///< the server has rows before the first that was loaded
     Drafts m_drafts;
     /// Of an expired session: files that wait for their person, by who it is and the chat's path.

@@ -42,6 +42,7 @@ void ChatRoom::enterChat(const std::optional<net::ChatTarget> &target) {
 }
 
 void ChatRoom::end() {
+    m_store.dictation()->stop();
     m_posts.cancel();
     const QString user = m_store.scope()->userEmail();
     setUnsentAside();

@@ -28,7 +28,10 @@ public:
     QString url; ///< http or https
 
     FileKind kind() const { return fileKind(name); }
-    friend bool operator==(const MsgFile &, const MsgFile &) = default;
+    /// Equal files are shown alike.
+    friend bool operator==(const MsgFile &a, const MsgFile &b) {
+        return a.name == b.name && a.url == b.url;
+    }
 };
 
 /// One line of the conversation.

@@ -183,6 +183,20 @@ private Q_SLOTS:
         QCOMPARE(f.draft(), u"How many tasks are open today?"_s);
     }
 
+    void expiringWithSomethingUnsent() {
+        DictationFixture f;
+        QVERIFY(f.signIn());
+        f.backend.answer(kivPost, "{}", 500);
+        f.store->chat()->send(u"failed"_s);
+        SOON_VERIFY(!f.store->chat()->liveWaiting());
+        f.dictate();
+        f.speech.interim(u"are open"_s);
+        f.store->session()->expire();
+        f.backend.answer(u"POST api/v2/auth/login"_s, R"({"email":"ada@example.org"})");
+        f.store->session()->submitAuth(u"ada@example.org"_s, u"12345678"_s, false);
+        SOON_COMPARE(f.draft(), u"failed\nare open"_s);
+    }
+
     void sendingInMidSentence() {
         DictationFixture f;
         QVERIFY(f.signIn());
