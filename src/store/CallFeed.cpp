@@ -68,26 +68,35 @@ void CallFeed::add(const QString &chat, const QString &callID, const QDateTime &
     call.head.callHasLines = call.hasTranscript;
     call.head.callOpen = call.hasTranscript;
     call.lines = messagesOf(call.head, lines);
-    m_calls[chat].append(std::move(call));
+    put(chat, std::move(call));
 }
 
 void CallFeed::addPast(const QString &chat, const QList<net::KivAPI::VoiceCallEntry> &calls) {
-    QList<Call> &known = m_calls[chat];
     for (const net::KivAPI::VoiceCallEntry &entry : calls) {
         const auto at = parseDate(entry.startedAt);
-        if (!at || find(chat, entry.id))
+        const Call *listed = std::as_const(*this).find(chat, entry.id);
+        if (!at || (listed && listed->lines))
             continue;
         std::optional<int> seconds;
         if (entry.durationSecs && *entry.durationSecs > 0)
             seconds = static_cast<int>(*entry.durationSecs);
-        known.append(
-            {.head = headOf(entry.id, *at,
-                            CallTexts::callLine(seconds, entry.status.value_or(QString()))),
-             .hasTranscript = entry.hasTranscript.value_or(false),
-             .lines = {}});
-        known.last().head.callHasLines = known.last().hasTranscript;
+        Call call{.head = headOf(entry.id, *at,
+                                 CallTexts::callLine(seconds, entry.status.value_or(QString()))),
+                  .hasTranscript = entry.hasTranscript.value_or(false),
+                  .lines = {}};
+        call.head.callHasLines = call.hasTranscript;
+        put(chat, std::move(call));
     }
-    std::ranges::stable_sort(known, {}, [](const Call &call) { return *call.head.at; });
+    std::ranges::stable_sort(m_calls[chat], {}, [](const Call &call) { return *call.head.at; });
+}
+
+void CallFeed::put(const QString &chat, Call call) {
+    if (Call *listed = find(chat, call.head.callID)) {
+        call.head.id = listed->head.id;
+        *listed = std::move(call);
+    } else {
+        m_calls[chat].append(std::move(call));
+    }
 }
 
 bool CallFeed::needsLines(const QString &chat, const QString &callID) const {

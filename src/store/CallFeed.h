@@ -12,10 +12,11 @@ namespace kiv::store {
 /// was said while it is open.
 class CallFeed {
 public:
-    /// A call that has just ended; what was said stays open. `chat` is the path of its chat.
+    /// A call that has just ended, listed or not; what was said stays open. `chat` is the path of
+    /// its chat.
     void add(const QString &chat, const QString &callID, const QDateTime &startedAt, int seconds,
              const QList<PastLine> &lines);
-    /// Past calls; those that are here already are left as they are.
+    /// The calls that the server lists; those whose lines are here are left as they are.
     void addPast(const QString &chat, const QList<net::KivAPI::VoiceCallEntry> &calls);
     void clear() { m_calls.clear(); }
 
@@ -35,6 +36,8 @@ private:
         bool hasTranscript = false;
         std::optional<QList<Msg>> lines; ///< nothing until they are here
     };
+    /// In the place of what is known of this call, else behind the others.
+    void put(const QString &chat, Call call);
     Call *find(const QString &chat, const QString &callID);
     const Call *find(const QString &chat, const QString &callID) const;
 

@@ -16,9 +16,8 @@ struct CallLine {
     CallLineKind kind = CallLineKind::Speech;
     QString who; ///< of a spoken line: "user" is the owner, anything else the agent
     QString text;
-    /// "partial" while a sentence is still being heard, "typed" for one that was written
-    /// until the service has it, of an
-    /// event "running" until it is over; else empty.
+    /// "partial" while a sentence is still being heard, "typed" for one that was written until the
+    /// service has it, of an event "running" until it is over; else empty.
     QString state;
     std::optional<QString> action; ///< of an event: what can be done about it
     int at = 0;                    ///< whole seconds from the start of the call

@@ -71,6 +71,11 @@ private Q_SLOTS:
         f.history(test::kivChat, "[" + rowAt(1, "09:20:00") + "]");
         QVERIFY(f.signIn());
         QVERIFY(f.connect());
+        // The backend lists it while it goes on.
+        f.backend.answer(calls, R"({"calls":[{"id":"c1","status":"in_progress",
+            "started_at":"2026-03-02T09:42:00Z"}]})");
+        f.store->scope()->pickGlobal();
+        SOON_COMPARE(f.texts().size(), 2);
         f.clock.advance(2s);
         f.say(u"user"_s, u"Hello"_s);
         f.call()->toggleHold();
