@@ -6,14 +6,6 @@
 
 namespace kiv::store {
 
-namespace {
-
-bool has(const QList<Agent> &agents, const QString &id) {
-    return std::ranges::find(agents, id, &Agent::id) != agents.end();
-}
-
-} // namespace
-
 ChatDoor::ChatDoor(AppStore &store) : m_store(store) {
     connect(store.scope(), &ScopeRoom::authChanged, this, [this] {
         m_look.cancel();
@@ -74,17 +66,9 @@ bool ChatDoor::pick(const ChatLink &link) {
         scope->enterProject(link.id);
         return true;
     case ScopeKind::Agent:
-        break;
+        return scope->enterAgent(link.id);
     }
-    const auto home = std::ranges::find_if(
-        projects, [&](const Project &project) { return has(project.agents, link.id); });
-    if (home != projects.end())
-        scope->pickAgent(home->id, link.id);
-    else if (has(scope->standaloneAgents(), link.id))
-        scope->pickStandaloneAgent(link.id);
-    else
-        return false;
-    return true;
+    return false;
 }
 
 /// The chat may be newer than the rail.

@@ -82,14 +82,8 @@ void CreateRoom::enterCreated() {
     ScopeRoom *scope = m_store.scope();
     if (kind == CreateKind::Project)
         return scope->enterProject(id);
-    const QList<Project> projects = scope->projects();
-    const auto home = std::ranges::find_if(projects, [&](const Project &project) {
-        return std::ranges::find(project.agents, id, &Agent::id) != project.agents.end();
-    });
-    if (home == projects.end())
+    if (!scope->enterAgent(id))
         scope->pickStandaloneAgent(id);
-    else
-        scope->pickAgent(home->id, id);
 }
 
 } // namespace kiv::store

@@ -170,6 +170,24 @@ void ScopeRoom::pickStandaloneAgent(const QString &id) {
     select({}, id);
 }
 
+bool ScopeRoom::enterAgent(const QString &id) {
+    const auto home = homeOf(id);
+    if (home)
+        select(*home, id);
+    return home.has_value();
+}
+
+std::optional<QString> ScopeRoom::homeOf(const QString &agentID) const {
+    const QList<Project> projects = m_projects;
+    for (const Project &project : projects) {
+        if (findAgent(project.agents, agentID))
+            return project.id;
+    }
+    if (findAgent(m_standaloneAgents, agentID))
+        return QString();
+    return std::nullopt;
+}
+
 void ScopeRoom::select(const QString &project, const QString &agent) {
     if (project == m_project.value() && agent == m_agent.value())
         m_store.canvas()->keepScene();
@@ -178,6 +196,8 @@ void ScopeRoom::select(const QString &project, const QString &agent) {
     m_project = project;
     m_agent = agent;
     Qt::endPropertyUpdateGroup();
+    // Also what was chosen before the saved scope was restored takes its place.
+    saveScope();
     m_rail.select(project, agent);
     if (m_auth.value() == AuthPhase::SignedIn)
         m_store.chat()->connectChat();
@@ -217,15 +237,30 @@ QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
     for (const net::ProjectSummary &summary : list.projects)
         rosters.push_back(net::KivAPI::projectRoster(client, summary.slug, cancel));
 
+    const auto agentsBefore = [before = m_projects.value()](const QString &id) {
+        const auto found = std::ranges::find(before, id, &Project::id);
+        return found == before.end() ? QList<Agent>() : found->agents;
+    };
     QList<Project> projects;
     QSet<QString> placed;
+    std::exception_ptr failure;
     for (size_t position = 0; position < rosters.size(); ++position) {
-        const QList<net::ProjectMember> roster = co_await rosters[position];
         const auto &summary = list.projects.at(static_cast<qsizetype>(position));
         Project project;
         project.id = summary.slug;
         project.name = summary.label.value_or(summary.name.value_or(summary.slug));
-        project.agents = visibleMembers(roster, placed);
+        try {
+            project.agents = visibleMembers(co_await rosters[position], placed);
+        } catch (const std::exception &error) {
+            cancel.throwIfRequested();
+            if (net::isUnauthorized(error))
+                throw;
+            // One project does not hide the others.
+            failure = std::current_exception();
+            project.agents = agentsBefore(summary.slug);
+            for (const Agent &agent : std::as_const(project.agents))
+                placed.insert(agent.id);
+        }
         project.meta = QString::number(project.agents.size()) + u" agents · active"_s;
         project.colorHex = railColor(static_cast<qsizetype>(position));
         projects.append(project);
@@ -242,6 +277,8 @@ QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
     m_standaloneAgents = standalone;
     Qt::endPropertyUpdateGroup();
     m_rail.setEntries(projects, standalone);
+    if (failure)
+        std::rethrow_exception(failure);
 }
 
 QCoro::Task<void> ScopeRoom::resolveKiv(Cancel cancel) {
@@ -272,39 +309,35 @@ void ScopeRoom::restoreScope() {
         return;
     const QString storedProject = m_store.settings().value(projectKey).toString();
     const QString storedAgent = m_store.settings().value(agentKey).toString();
-    QString project;
-    QString agent;
     const QList<Project> projects = m_projects;
-    if (!storedAgent.isEmpty()) {
-        for (const Project &candidate : projects) {
-            if (findAgent(candidate.agents, storedAgent)) {
-                project = candidate.id;
-                agent = storedAgent;
-                break;
-            }
-        }
-        if (agent.isEmpty() && findAgent(m_standaloneAgents, storedAgent))
-            agent = storedAgent;
+    if (const auto home = homeOf(storedAgent)) {
+        m_project = *home;
+        m_agent = storedAgent;
+    } else {
+        const bool isThere =
+            std::ranges::find(projects, storedProject, &Project::id) != projects.end();
+        m_project = isThere ? storedProject : QString();
+        m_agent = QString();
     }
-    if (agent.isEmpty() &&
-        std::ranges::find(projects, storedProject, &Project::id) != projects.end())
-        project = storedProject;
-    m_project = project;
-    m_agent = agent;
-    m_rail.select(project, agent);
+    m_rail.select(m_project, m_agent);
 }
 
 void ScopeRoom::startPersisting() {
-    auto save = [this](const QString &key, const QString &value) {
-        if (m_auth.value() != AuthPhase::SignedIn)
-            return;
+    m_isPersisting = true;
+    connect(this, &ScopeRoom::projectChanged, this, &ScopeRoom::saveScope);
+    connect(this, &ScopeRoom::agentChanged, this, &ScopeRoom::saveScope);
+}
+
+void ScopeRoom::saveScope() {
+    if (!m_isPersisting || m_auth.value() != AuthPhase::SignedIn)
+        return;
+    for (const auto &[key, value] :
+         {std::pair(projectKey, m_project.value()), std::pair(agentKey, m_agent.value())}) {
         if (value.isEmpty())
             m_store.settings().remove(key);
         else
             m_store.settings().setValue(key, value);
-    };
-    connect(this, &ScopeRoom::projectChanged, this, [this, save] { save(projectKey, m_project); });
-    connect(this, &ScopeRoom::agentChanged, this, [this, save] { save(agentKey, m_agent); });
+    }
 }
 
 void ScopeRoom::setSignedOut() {

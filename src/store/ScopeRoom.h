@@ -81,6 +81,8 @@ public:
     Q_INVOKABLE void enterProject(const QString &id);
     Q_INVOKABLE void pickAgent(const QString &projectID, const QString &agentID);
     Q_INVOKABLE void pickStandaloneAgent(const QString &id);
+    /// Selects an agent where the rail has it; false when it is nowhere there.
+    bool enterAgent(const QString &id);
     /// Selects what a row of the rail stands for.
     Q_INVOKABLE void pickEntry(kiv::store::RailRow kind, const QString &projectID,
                                const QString &entryID);
@@ -88,6 +90,8 @@ public:
 
     /// Takes the user over and empties the rail of the one before.
     void adopt(const net::MeUser &user);
+    /// A project whose members do not come keeps those of before; the rail is published all the
+    /// same, and the failure thrown then.
     QCoro::Task<void> reloadRail(Cancel cancel);
     QCoro::Task<void> resolveKiv(Cancel cancel);
     QCoro::Task<void> refreshUserAvatarIfNeeded(Cancel cancel);
@@ -126,9 +130,14 @@ Q_SIGNALS:
 
 private:
     void select(const QString &project, const QString &agent);
+    void saveScope();
+    /// The project that has this agent, empty for one that stands alone; nothing when the rail has
+    /// no such agent.
+    std::optional<QString> homeOf(const QString &agentID) const;
     QString describeScope() const;
 
     AppStore &m_store;
+    bool m_isPersisting = false;
     RailModel m_rail;
     RailView m_railView;
     ScopeChoices m_choices;

@@ -75,16 +75,26 @@ void SessionRoom::boot() {
 }
 
 QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
-    std::optional<net::MeUser> user;
-    try {
-        user = co_await net::KivAPI::currentUser(&m_store.net(), cancel);
-    } catch (const std::exception &) {
-        cancel.throwIfRequested();
-    }
-    if (user)
-        enterLive(*user);
-    else
+    for (auto pause = firstPause;; pause = std::min(2 * pause, longestPause)) {
+        std::optional<net::MeUser> user;
+        bool hasAnswered = true;
+        try {
+            user = co_await net::KivAPI::currentUser(&m_store.net(), cancel);
+        } catch (const std::exception &error) {
+            cancel.throwIfRequested();
+            hasAnswered = net::isUnauthorized(error);
+        }
+        if (user && !m_busy) {
+            closeAuthSheet();
+            enterLive(*user);
+            co_return;
+        }
         m_store.scope()->setSignedOut();
+        if (hasAnswered)
+            co_return;
+        // There may be a session all the same: who started before the network need not sign in.
+        co_await m_store.clock().sleep(pause, cancel);
+    }
 }
 
 void SessionRoom::enterLive(const net::MeUser &user) {
@@ -212,6 +222,7 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
     } catch (const std::exception &) {
         // Signing out here does not depend on the server.
         cancel.throwIfRequested();
+        m_store.net().cookies().clear();
     }
     m_store.chat()->forgetTyped();
     resetToAnon();

@@ -58,15 +58,24 @@ private Q_SLOTS:
         QCOMPARE(f.store->scope()->userAvatarURL(), shown ? address : QString());
     }
 
+    void failedRailKeepsTheOld_data() {
+        QTest::addColumn<QString>("route");
+        QTest::newRow("projects") << u"GET api/v2/projects"_s;
+        QTest::newRow("members of a project") << u"GET api/v2/projects/ferry/members"_s;
+        QTest::newRow("agents") << u"GET api/v2/custom-agents"_s;
+    }
     void failedRailKeepsTheOld() {
+        QFETCH(QString, route);
         StoreFixture f;
         QVERIFY(f.signIn());
-        f.backend.answer(u"GET api/v2/projects/lantern/members"_s, "{}");
+        f.backend.answer(route, "<html>");
         Work work;
         work.start([&](Cancel cancel) { return f.store->scope()->reloadRail(cancel); });
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"background task"_s));
         SOON_VERIFY(!work.running());
         QCOMPARE(f.store->scope()->projects().size(), 2);
+        QCOMPARE(f.store->scope()->projects().first().agents.size(), 2);
+        QCOMPARE(f.store->scope()->standaloneAgents().size(), 1);
     }
 
     void targets() {
@@ -107,6 +116,9 @@ private Q_SLOTS:
         QTest::newRow("orchestrator") << u"GET api/v2/orchestrator"_s << R"({"agent_id":"kiv"})"_ba;
         QTest::newRow("projects") << u"GET api/v2/projects"_s
                                   << R"({"projects":[{"slug":"ferry","label":"Night Ferry"}]})"_ba;
+        QTest::newRow("members of a project")
+            << u"GET api/v2/projects/ferry/members"_s
+            << R"([{"member_kind":"agent","agent":{"id":"scout"}}])"_ba;
     }
     void workspaceComesLate() {
         QFETCH(QString, route);
@@ -115,9 +127,13 @@ private Q_SLOTS:
         f.backend.answer(route, "{}", 503);
         f.store->boot();
         SOON_COMPARE(f.texts().value(f.texts().size() - 1), kivGreeting);
+        // The rest does not wait for it.
+        QCOMPARE(f.store->scope()->projects().isEmpty(), route == u"GET api/v2/projects"_s);
         f.backend.answer(route, answer);
         const auto isWhole = [&] {
-            return f.store->chat()->connected() && !f.store->scope()->projects().isEmpty();
+            const QList<Project> projects = f.store->scope()->projects();
+            return f.store->chat()->connected() && !projects.isEmpty() &&
+                   !projects.first().agents.isEmpty();
         };
         QVERIFY(QTest::qWaitFor([&] {
             f.clock.advance(50ms);
@@ -148,6 +164,26 @@ private Q_SLOTS:
         QVERIFY(f.signIn());
         const ScopeRoom *scope = f.store->scope();
         QTEST(QString(scope->project() + u'/' + scope->agent()), "restored");
+    }
+
+    void chosenBeforeTheSavedOneIsBack_data() {
+        QTest::addColumn<QString>("project");
+        QTest::newRow("a project") << u"lantern"_s;
+        QTest::newRow("the orchestrator") << QString();
+    }
+    void chosenBeforeTheSavedOneIsBack() {
+        QFETCH(QString, project);
+        StoreFixture f;
+        f.settings->setValue(u"zandor.agent"_s, u"loom"_s);
+        f.backend.hold(u"GET api/v2/orchestrator"_s);
+        f.store->boot();
+        ScopeRoom *scope = f.store->scope();
+        SOON_COMPARE(scope->projects().size(), 2);
+        project.isEmpty() ? scope->pickGlobal() : scope->enterProject(project);
+        f.backend.release(u"GET api/v2/orchestrator"_s);
+        SOON_VERIFY(!f.store->session()->isEntering());
+        QCOMPARE(scope->project(), project);
+        QCOMPARE(scope->agent(), QString());
     }
 
     void scopeIsSavedOnlyWhileSignedIn() {

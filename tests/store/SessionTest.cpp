@@ -91,6 +91,20 @@ private Q_SLOTS:
         QCOMPARE(f.store->canvas()->state(), CanvasState::SignedOut);
     }
 
+    /// Who has a session need not sign in because the network came later than the program.
+    void startedBeforeTheNetwork() {
+        StoreFixture f;
+        const QString check = u"GET api/v2/auth/me"_s;
+        f.backend.answer(check, "<html>", 502);
+        f.store->boot();
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::Anon);
+        f.store->session()->openAuthSheet(AuthSheetMode::Login);
+        f.backend.answer(check, R"({"email":"ada@example.org"})");
+        f.clock.advance(2s);
+        SOON_COMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
+        QCOMPARE(f.store->session()->authSheet(), AuthSheetMode::Closed);
+    }
+
     void unreadableReply() {
         StoreFixture f;
         QVERIFY(f.bootSignedOut());
@@ -126,6 +140,8 @@ private Q_SLOTS:
         f.history(test::kivChat, "[" + test::rowJson(1, u"user"_s, u"Weekly report"_s) + "," +
                                      test::rowJson(2, u"assistant"_s, test::reportBlock) + "]");
         QVERIFY(f.signIn());
+        f.client->cookies().setCookiesFromUrl({QNetworkCookie("session", "s")},
+                                              f.client->baseUrl());
         QCOMPARE(f.store->canvas()->state(), CanvasState::Scene);
         f.store->chat()->setDraft(u"half a thought"_s);
         const int gen = f.store->chat()->chatGen();
@@ -140,6 +156,9 @@ private Q_SLOTS:
         QVERIFY(f.store->scope()->kivID().isEmpty());
         QCOMPARE(f.store->canvas()->state(), CanvasState::SignedOut);
         QCOMPARE(f.store->canvas()->art(), QString());
+        // What the server did not revoke is not sent again.
+        const auto cookies = f.client->cookies().cookiesForUrl(f.client->baseUrl());
+        QCOMPARE(cookies.isEmpty(), status != 200);
         // A row of the old session comes too late.
         net::ChatRow late;
         late.role = u"assistant"_s;
