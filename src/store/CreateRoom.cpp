@@ -264,6 +264,11 @@ void CreateRoom::requestClose() {
         close();
 }
 
+void CreateRoom::giveWay() {
+    if (m_phase.value() == CreatePhase::Created || !isEdited())
+        close();
+}
+
 void CreateRoom::close() {
     m_work.cancel();
     m_asking = false;

@@ -113,6 +113,8 @@ public:
     Q_INVOKABLE void keepEditing() { m_asking = false; }
     /// The language has changed: the catalogue is another one, what was filled in stays.
     void retranslate();
+    /// Something else is to show: the wizard closes unless something was filled in.
+    void giveWay();
     /// Closes the wizard and forgets what was filled in.
     Q_INVOKABLE void close();
 

@@ -188,7 +188,7 @@ void LayoutRoom::closeSurfaces() {
 
 void LayoutRoom::closePages() {
     m_store.account()->leave();
-    m_store.create()->close();
+    m_store.create()->giveWay();
 }
 
 void LayoutRoom::closeAccount() {

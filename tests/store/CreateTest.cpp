@@ -309,9 +309,15 @@ private Q_SLOTS:
         room.requestClose(); // nothing typed
         QVERIFY(!room.isOpen());
         f.store->layout()->startCreate(u"agent"_s);
+        // A page that an answer brings takes an untouched wizard away.
+        f.store->canvas()->openLink(u"/team/ferry"_s);
+        QVERIFY(!room.isOpen());
+        f.store->layout()->startCreate(u"agent"_s);
         QCOMPARE(room.name(), QString());
         room.setName(u"Heron"_s);
         f.store->layout()->startCreate(u"project"_s); // one wizard at a time
+        f.store->canvas()->openLink(u"/team/ferry"_s);
+        QVERIFY(room.isOpen());
         QCOMPARE(room.name(), u"Heron"_s);
         room.requestClose();
         QVERIFY(room.isOpen() && room.isAsking());
