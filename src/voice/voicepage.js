@@ -9,8 +9,17 @@
 
     // The one live conversation.
     var conv = null;
+    // Counts the starts and the ends. A call whose number is another one by now is stale.
+    var turn = 0;
 
-    function handlers(s, d) {
+    function end(conversation) {
+        try {
+            if (conversation)
+                conversation.endSession();
+        } catch (e) {}
+    }
+
+    function handlers(s, d, post) {
         var body = { tamrix_call_id: s.call_id };
         if (d)
             body.chat_digest = String(d).slice(0, 1600);
@@ -50,35 +59,46 @@
         };
     }
 
-    function attempt(options, transport) {
-        options.connectionType = transport;
-        return window.__ElevenConversation.startSession(options).then(function (c) {
-            conv = c;
-            if (conv)
-                post('connected', { transport: transport });
-        });
-    }
-
     window.__nativeStart = function (sessionJson, chatDigest) {
         var s = JSON.parse(sessionJson);
         var d = chatDigest ? String(chatDigest) : '';
         var last = null;
+        window.__nativeEnd();
+        var number = turn;
+        function isStale() {
+            return number !== turn;
+        }
+        function postOwn(t, d) {
+            if (!isStale())
+                post(t, d);
+        }
+        function attempt(address, transport) {
+            var options = Object.assign(handlers(s, d, postOwn), address);
+            options.connectionType = transport;
+            return window.__ElevenConversation.startSession(options).then(function (c) {
+                if (isStale())
+                    return end(c);
+                conv = c;
+                if (conv)
+                    post('connected', { transport: transport });
+            });
+        }
         function failed(e) {
             last = e;
-            conv = null;
+            if (!isStale())
+                conv = null;
         }
-        window.__nativeEnd();
         Promise.resolve().then(function () {
-            if (s.signed_url)
-                return attempt(Object.assign(handlers(s, d), { signedUrl: s.signed_url }), 'websocket');
+            if (!isStale() && s.signed_url)
+                return attempt({ signedUrl: s.signed_url }, 'websocket');
         }).catch(failed).then(function () {
-            if (!conv && s.token)
-                return attempt(Object.assign(handlers(s, d), { conversationToken: s.token }), 'webrtc');
+            if (!isStale() && !conv && s.token)
+                return attempt({ conversationToken: s.token }, 'webrtc');
         }).catch(failed).then(function () {
             if (!conv)
                 throw last || new Error('no voice transport');
         }).catch(function (e) {
-            post('connectFail', { message: e && e.message ? String(e.message) : '' });
+            postOwn('connectFail', { message: e && e.message ? String(e.message) : '' });
         });
         return true;
     };
@@ -92,10 +112,8 @@
     };
 
     window.__nativeEnd = function () {
-        try {
-            if (conv)
-                conv.endSession();
-        } catch (e) {}
+        ++turn;
+        end(conv);
         conv = null;
         return true;
     };

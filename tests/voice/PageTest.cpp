@@ -10,10 +10,10 @@ using namespace kiv::voice;
 
 namespace {
 
-/// A browser as far as the page needs one. `conversation` answers every attempt: "ok", or the
-/// message of what it throws, by its transport.
+/// A browser as far as the page needs one. `answers` holds what comes of an attempt, by its
+/// transport: "ok", "later" (by `pending`), or the message of what it throws.
 const QString browser = uR"(
-    var posts = [], attempts = [], told = [], answers = {}, element = {};
+    var posts = [], attempts = [], told = [], answers = {}, element = {}, pending = null;
     var window = this;
     window.webkit = { messageHandlers: { vcall: { postMessage: function (m) {
         posts.push(m.t + ' ' + JSON.stringify(Object.keys(m).filter(function (k) { return k !== 't'; })
@@ -27,13 +27,19 @@ const QString browser = uR"(
         options = o;
         attempts.push(o.connectionType + ' ' + (o.signedUrl || '') + (o.conversationToken || ''));
         var answer = answers[o.connectionType];
-        if (answer !== 'ok')
-            return Promise.reject(answer === '' ? {} : new Error(answer));
-        return Promise.resolve({
+        var conversation = {
             sendContextualUpdate: function (text) { told.push('context ' + text); throw new Error('x'); },
             sendUserMessage: function (text) { told.push('say ' + text); },
             setMicMuted: function (m) { told.push('mute ' + JSON.stringify(m)); },
-            endSession: function () { told.push('end'); throw new Error('x'); }
+            endSession: function () { told.push('end ' + o.signedUrl); throw new Error('x'); }
+        };
+        return new Promise(function (resolve, reject) {
+            if (answer === 'ok')
+                resolve(conversation);
+            else if (answer === 'later')
+                pending = { comes: function () { resolve(conversation); }, fails: reject };
+            else
+                reject(answer === '' ? {} : new Error(answer));
         });
     } };
 )"_s;
@@ -194,6 +200,43 @@ private Q_SLOTS:
         QCOMPARE(page.list(u"posts"_s), QStringList{post});
     }
 
+    /// A first attempt that is still under way when the call is over, or another has begun.
+    void staleAttempts_data() {
+        QTest::addColumn<QString>("meanwhile");
+        QTest::addColumn<QString>("outcome");
+        QTest::addColumn<QStringList>("told");
+        const QString next = u"__nativeStart('{\"signed_url\":\"2\"}', '')"_s;
+        const QString late = u"pending.comes()"_s;
+        const QString fails = u"pending.fails(new Error('x'))"_s;
+        const QString event = u"first.onDisconnect()"_s;
+        QTest::newRow("connects after the end")
+            << u"__nativeEnd()"_s << late << QStringList{u"end 1"_s};
+        QTest::newRow("fails after the end") << u"__nativeEnd()"_s << fails << QStringList();
+        QTest::newRow("connects beside another") << next << late << QStringList{u"end 1"_s};
+        QTest::newRow("fails beside another") << next << fails << QStringList();
+        QTest::newRow("tells of itself") << next << event << QStringList();
+    }
+    void staleAttempts() {
+        QFETCH(QString, meanwhile);
+        QFETCH(QString, outcome);
+        QFETCH(QStringList, told);
+        Page page;
+        page.loadClient();
+        page.run(u"answers = {websocket:'later',webrtc:'ok'}"_s);
+        page.start(u"{\"signed_url\":\"1\",\"token\":\"t\"}"_s);
+        page.run(u"var first = options; answers.websocket = 'ok'"_s);
+        page.run(meanwhile);
+        page.run(u"posts = []; attempts = []"_s);
+        page.run(outcome);
+        QCOMPARE(page.list(u"posts"_s), QStringList());
+        QCOMPARE(page.list(u"attempts"_s), QStringList());
+        // Whatever became of the first, the second is the one that is held.
+        if (meanwhile != u"__nativeEnd()"_s)
+            told.append(u"end 2"_s);
+        page.run(u"__nativeEnd()"_s);
+        QCOMPARE(page.list(u"told"_s), told);
+    }
+
     void oneConversationAtATime() {
         Page page;
         page.loadClient();
@@ -205,7 +248,7 @@ private Q_SLOTS:
         page.start(u"{\"signed_url\":\"w\"}"_s);
         page.run(u"__nativeEnd(); __nativeEnd()"_s);
         QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"say b"_s, u"mute true"_s,
-                                                    u"mute false"_s, u"end"_s, u"end"_s}));
+                                                    u"mute false"_s, u"end w"_s, u"end w"_s}));
         // A page that nobody listens to does not break.
         page.run(u"window.webkit = undefined; element.onload()"_s);
         QVERIFY(page.engine.evaluate(u"__nativeStart('no json', '')"_s).isError());
