@@ -3,7 +3,8 @@
 
 # fetch_set NAME: takes the files of packaging/NAME-files.txt, checks each, and puts them into
 # share/kiv/NAME of the build tree, all or none. Does nothing when they are there from this list.
-# A function make_NAME adds what has to be made of them; it gets the folder where they are.
+# A function make_NAME adds what has to be made of them; it gets the folder where they are. Nothing that
+# was fetched is read or run before its sum is checked.
 fetch_set() {
     local list="$root/packaging/$1-files.txt" log="$root/build/fetch-$1.log"
     ! fetched "$1" || return 0
@@ -19,16 +20,23 @@ fetched() { cmp -s "$root/packaging/$1-files.txt" "$build/share/kiv/$1/files.txt
 lay_out() {
     local name=$1 list="$root/packaging/$1-files.txt" work="$root/build/fetching-$1"
     command -v npm || install_packages fetch
-    rm -rf "$work" && mkdir -p "$work/$name" && take_files "$list" "$work" || return 1
-    if declare -F "make_$name"; then "make_$name" "$work" || return 1; fi
-    awk '!/^#/ && NF { print $2 "  " $1 }' "$list" | (cd "$work" && sha256sum --check --quiet) ||
-        return 1
+    rm -rf "$work" && mkdir -p "$work/$name" && take_files "$list" "$work" &&
+        check_sums "$list" "$work" 4 || return 1
+    if declare -F "make_$name"; then
+        "make_$name" "$work" && check_sums "$list" "$work" 2 || return 1
+    fi
     if [ -d "$work/include" ]; then
         mkdir -p "$build/fetched" && rm -rf "$build/fetched/$name" &&
             mv "$work/include" "$build/fetched/$name" || return 1
     fi
     cp "$list" "$work/$name/files.txt" && mkdir -p "$build/share/kiv" &&
         rm -rf "$build/share/kiv/$name" && mv "$work/$name" "$build/share/kiv/" && rm -rf "$work"
+}
+
+# check_sums LIST WORK FIELDS: the files whose lines have so many fields.
+check_sums() {
+    awk -v fields="$3" '!/^#/ && NF == fields { print $2 "  " $1 }' "$1" |
+        (cd "$2" && sha256sum --check --quiet)
 }
 
 # take_files LIST WORK: each package of the list is fetched once, each of its files put in its place.
