@@ -134,6 +134,15 @@ void VoiceCall::takeSound(const QByteArray &samples) {
     m_ear->hear(samples);
 }
 
+void VoiceCall::takeWords(const QString &text) {
+    if (!text.isEmpty()) {
+        interrupt(); // of something short no beginning is told
+        takeQuestion(text);
+    } else if (!m_question.isEmpty()) {
+        think(); // a noise came into it
+    }
+}
+
 void VoiceCall::takeQuestion(const QString &text) {
     ++m_turn;
     m_socket->send({{u"type"_s, u"user_transcript"_s},
@@ -167,7 +176,7 @@ std::unique_ptr<Ear> VoiceCall::turnEar() {
 }
 
 EarHandlers VoiceCall::earHandlers() {
-    return {[this] { interrupt(); }, [this](const QString &text) { takeQuestion(text); },
+    return {[this] { interrupt(); }, [this](const QString &text) { takeWords(text); },
             [this](const QString &why) {
                 qWarning("The caller's words cannot be read: %s", qUtf8Printable(why));
                 // Not at once: it is the ear that is to go which says so.

@@ -44,6 +44,7 @@ private:
     void take(const QJsonObject &message);
     void begin(const QJsonObject &data);
     void takeSound(const QByteArray &samples);
+    void takeWords(const QString &text);
     void takeQuestion(const QString &text);
     void think();
     void listen(std::unique_ptr<Ear> ear);

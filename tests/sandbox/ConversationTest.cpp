@@ -130,6 +130,33 @@ private Q_SLOTS:
                  correction[u"corrected_agent_response"_s]);
     }
 
+    void aWordInterruptsAndANoiseDoesNot() {
+        // Tells at the end of every sound what the test has put down.
+        VoiceFixture voice("#!/bin/sh\nwhile read -r line; do case \"$line\" in\n"
+                           "*'\"end\"'*) cat \"$2/hears\" ;; esac; done\n",
+                           u"3"_s);
+        const auto hear = [&voice](Caller &caller, const char *lines) {
+            QFile hears(voice.recogniserFolder() + u"/hears"_s);
+            QVERIFY(hears.open(QIODevice::WriteOnly) && hears.write(lines) > 0);
+            hears.close();
+            caller.sound(50, 500);
+        };
+        Caller caller(voice.sandbox().url());
+        caller.begin(voice.mintAddress());
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        hear(caller, "{\"final\":\"Wait\"}\n");
+        QVERIFY(!caller.next(u"interruption"_s).isEmpty());
+        QCOMPARE(heardIn(caller.next(u"user_transcript"_s)), u"Wait"_s);
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        // The answer is still to come when the noise does.
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"What is blocked?"_s}});
+        QCOMPARE(heardIn(caller.next(u"user_transcript"_s)), u"What is blocked?"_s);
+        hear(caller, "{\"interim\":\"Hm\"}\n{\"final\":\"\"}\n");
+        QVERIFY(!saidIn(caller.next(u"agent_response"_s)).isEmpty());
+        QCOMPARE(caller.count(u"user_transcript"_s), 2);
+        QVERIFY(voice.stop());
+    }
+
     void droppedCallIsTakenUpAgain_data() {
         QTest::addColumn<bool>("byServer");
         QTest::newRow("the server's end breaks") << true;

@@ -13,11 +13,12 @@ constexpr int patience = 10'000;
 
 } // namespace
 
-SandboxProcess::SandboxProcess(const QString &dataDir, const QStringList &arguments) {
+SandboxProcess::SandboxProcess(const QString &dataDir, const QStringList &arguments,
+                               const QString &program) {
     QStringList all{u"--data-dir"_s, dataDir, u"--control"_s};
     if (!arguments.contains(u"--answer-speed"_s))
         all += {u"--answer-speed"_s, u"0"_s};
-    m_process.start(QStringLiteral(KIV_SANDBOX), all + arguments);
+    m_process.start(program, all + arguments);
     while (!m_process.canReadLine() && m_process.waitForReadyRead(patience)) {
     }
     m_first = QJsonDocument::fromJson(m_process.readLine()).object();

@@ -10,7 +10,8 @@ namespace kiv::test {
 /// unless `arguments` say otherwise.
 class SandboxProcess {
 public:
-    explicit SandboxProcess(const QString &dataDir, const QStringList &arguments = {});
+    explicit SandboxProcess(const QString &dataDir, const QStringList &arguments = {},
+                            const QString &program = QStringLiteral(KIV_SANDBOX));
     ~SandboxProcess();
 
     /// Whether the first line came and is what it has to be.

@@ -6,13 +6,29 @@ using namespace Qt::StringLiterals;
 
 namespace kiv::test {
 
-VoiceFixture::VoiceFixture() {
+namespace {
+
+void write(const QString &path, const QByteArray &text) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) < 0)
+        qFatal("No script can be written.");
+    file.setPermissions(file.permissions() | QFileDevice::ExeOwner);
+}
+
+} // namespace
+
+VoiceFixture::VoiceFixture(const QByteArray &recogniser, const QString &answerSpeed)
+    : m_answerSpeed(answerSpeed) {
     // What is in the script does not matter here, only that it is there.
     QDir(m_share.path()).mkpath(u"vendor"_s);
-    QFile script(scriptPath());
-    if (!script.open(QIODevice::WriteOnly) || script.write("window.here = 1;") < 0)
-        qFatal("No script can be written.");
-    script.close();
+    write(scriptPath(), "window.here = 1;");
+    if (!recogniser.isEmpty()) {
+        // The server takes the recogniser that is beside it.
+        m_program = m_share.filePath(u"kiv-sandbox"_s);
+        QFile::copy(QStringLiteral(KIV_SANDBOX), m_program);
+        write(m_share.filePath(u"kiv-speech"_s), recogniser);
+        QDir().mkpath(recogniserFolder());
+    }
     restart();
     m_client->signUp(u"caller@example.com"_s);
     for (const QJsonValue agent :
@@ -24,8 +40,10 @@ VoiceFixture::VoiceFixture() {
 
 void VoiceFixture::restart() {
     m_sandbox = nullptr; // one server works in a data folder
-    m_sandbox = std::make_unique<SandboxProcess>(m_folder.path(),
-                                                 QStringList{u"--share-dir"_s, m_share.path()});
+    m_sandbox = std::make_unique<SandboxProcess>(
+        m_folder.path(),
+        QStringList{u"--share-dir"_s, m_share.path(), u"--answer-speed"_s, m_answerSpeed},
+        m_program);
     auto client = std::make_unique<Client>(m_sandbox->port());
     if (m_client)
         client->headers.emplace("Cookie", m_client->headers.find("Cookie")->second);

@@ -7,10 +7,12 @@
 namespace kiv::test {
 
 /// A server that can be called, and somebody signed in there who calls. It has a voice client's
-/// script of its own and no recogniser.
+/// script of its own.
 class VoiceFixture {
 public:
-    VoiceFixture();
+    /// With `recogniser`, a shell script, each call has that one.
+    explicit VoiceFixture(const QByteArray &recogniser = {},
+                          const QString &answerSpeed = QStringLiteral("0"));
 
     /// Starts the server anew in the same data folder; the session stays.
     void restart();
@@ -34,9 +36,12 @@ public:
     SandboxProcess &sandbox() { return *m_sandbox; }
     QString agentId(const QString &name) const { return m_agents.value(name); }
     QString scriptPath() const;
+    QString recogniserFolder() const { return m_share.filePath(QStringLiteral("speech")); }
 
 private:
     QTemporaryDir m_share;
+    QString m_program = QStringLiteral(KIV_SANDBOX);
+    const QString m_answerSpeed;
     QTemporaryDir m_folder;
     std::unique_ptr<SandboxProcess> m_sandbox;
     std::unique_ptr<Client> m_client;
