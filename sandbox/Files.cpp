@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QScopeGuard>
 #include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
@@ -36,12 +37,14 @@ StoredFile Files::store(const QString &account, const QString &name, const QStri
         throw DatabaseError("An upload cannot be written: " + file.errorString().toStdString(),
                             isFull ? DatabaseError::Kind::Full : DatabaseError::Kind::Other);
     }
+    auto forget = qScopeGuard([&file] { QFile::remove(file.fileName()); }); // nobody else would
     m_database.run([&](Sql &sql) {
         sql.exec(u"INSERT INTO files (key, account, name, mime, size, created_at)"
                  u" VALUES (?, ?, ?, ?, ?, ?)"_s,
                  {stored.key, account, name, mime, stored.size,
                   QDateTime::currentDateTimeUtc().toString(Qt::ISODateWithMs)});
     });
+    forget.dismiss();
     return stored;
 }
 

@@ -25,13 +25,6 @@ QString now() {
     return inSeconds(0);
 }
 
-/// Calls that have waited long enough are over, at the time at which their socket was last there.
-void settle(Sql &sql) {
-    sql.exec(u"UPDATE calls SET state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
-             u" WHERE state IN ('waiting', 'dropped') AND free_at < ?"_s,
-             {now()});
-}
-
 void finishIn(Sql &sql, const QString &call) {
     sql.exec(u"UPDATE calls SET ended_at = CASE state WHEN 'live' THEN ? ELSE ended_at END,"
              u" state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
@@ -76,6 +69,31 @@ CallStore::CallStore(Database &database) : m_database(database) {
     });
 }
 
+bool CallStore::attempt(const std::function<void(Sql &)> &job) {
+    try {
+        m_database.run(job);
+        return true;
+    } catch (const DatabaseError &error) {
+        qCritical("A call cannot be written down: %s", error.what());
+        return false;
+    }
+}
+
+/// Calls that have waited long enough are over, at the time at which their socket was last there.
+void CallStore::settle(Sql &sql) {
+    sql.exec(u"UPDATE calls SET state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
+             u" WHERE state IN ('waiting', 'dropped') AND free_at < ?"_s,
+             {now()});
+    const std::lock_guard lock(m_mutex);
+    for (const QString &call : m_owed)
+        finishIn(sql, call);
+}
+
+void CallStore::owe(const QString &call) {
+    const std::lock_guard lock(m_mutex);
+    m_owed.append(call);
+}
+
 MintedCall CallStore::mint(const QString &account, const QString &agent, const CallDoor &door,
                            int longestSeconds) {
     const MintedCall call{QUuid::createUuid().toString(QUuid::WithoutBraces), randomToken()};
@@ -94,14 +112,15 @@ MintedCall CallStore::mint(const QString &account, const QString &agent, const C
 }
 
 std::optional<OpenCall> CallStore::open(const QByteArray &token, const CallDoor &door) {
-    return m_database.run([&](Sql &sql) -> std::optional<OpenCall> {
+    std::optional<OpenCall> opened;
+    const bool isWritten = attempt([&](Sql &sql) {
         settle(sql);
         const auto row = sql.row(u"SELECT id, account, agent, longest, state, started_at FROM calls"
                                  u" WHERE token = ? AND origin = ? AND host = ?"
                                  u" AND state IN ('waiting', 'dropped')"_s,
                                  {tokenHash(token), door.origin, door.host});
         if (!row)
-            return std::nullopt;
+            return;
         sql.exec(u"UPDATE calls SET state = 'live', ended_at = NULL,"
                  u" started_at = COALESCE(started_at, ?) WHERE id = ?"_s,
                  {now(), row->text(0)});
@@ -111,20 +130,24 @@ std::optional<OpenCall> CallStore::open(const QByteArray &token, const CallDoor 
             call.secondsSoFar = static_cast<int>(started.secsTo(QDateTime::currentDateTimeUtc()));
             call.isResumed = true;
         }
-        return call;
+        opened = call;
     });
+    return isWritten ? opened : std::nullopt;
 }
 
 void CallStore::drop(const QString &call) {
-    m_database.run([&](Sql &sql) {
+    const bool isWritten = attempt([&](Sql &sql) {
         sql.exec(u"UPDATE calls SET state = 'dropped', ended_at = ?, free_at = ?"
                  u" WHERE id = ? AND state = 'live'"_s,
                  {now(), inSeconds(secondsForReturn), call});
     });
+    if (!isWritten)
+        owe(call);
 }
 
 void CallStore::finish(const QString &call) {
-    m_database.run([&](Sql &sql) { finishIn(sql, call); });
+    if (!attempt([&](Sql &sql) { finishIn(sql, call); }))
+        owe(call);
 }
 
 void CallStore::end(const QString &account, const QString &call) {
@@ -137,15 +160,17 @@ void CallStore::end(const QString &account, const QString &call) {
 
 qint64 CallStore::addLine(const QString &call, const QString &role, int second,
                           const QString &text) {
-    return m_database.run([&](Sql &sql) {
-        return sql.insert(u"INSERT INTO call_lines (call, role, second, text)"
+    qint64 line = 0;
+    const bool isWritten = attempt([&](Sql &sql) {
+        line = sql.insert(u"INSERT INTO call_lines (call, role, second, text)"
                           u" VALUES (?, ?, ?, ?)"_s,
                           {call, role, second, text});
     });
+    return isWritten ? line : 0;
 }
 
 void CallStore::correctLine(qint64 line, const QString &text) {
-    m_database.run([&](Sql &sql) {
+    attempt([&](Sql &sql) {
         sql.exec(u"UPDATE call_lines SET text = ? WHERE id = ?"_s, {text, line});
     });
 }

@@ -4,6 +4,10 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <QStringList>
+
+#include <functional>
+#include <mutex>
 #include <optional>
 
 namespace kiv::sandbox {
@@ -35,7 +39,8 @@ struct CallDoor {
 
 /// Calls on disk, past and present. An account has one call at a time. A call waits a minute for
 /// its socket; one whose socket broke can be taken up again for half a minute. Safe on every
-/// thread.
+/// thread. What a call in progress writes is complained about and left out when the disk does not
+/// take it: it comes from an event loop, out of which nothing may be thrown.
 class CallStore {
 public:
     /// Calls that an earlier run of the server left open are over.
@@ -44,15 +49,17 @@ public:
     /// Throws Refusal ("call_in_progress") while another call of the account is open.
     MintedCall mint(const QString &account, const QString &agent, const CallDoor &door,
                     int longestSeconds);
-    /// Nothing for a token that is unknown, in use or used up, or that comes from another door.
+    /// Nothing for a token that is unknown, in use or used up, that comes from another door, or
+    /// when the disk is full.
     std::optional<OpenCall> open(const QByteArray &token, const CallDoor &door);
     /// The socket is gone without a goodbye.
     void drop(const QString &call);
+    /// What cannot be finished now is as soon as it can.
     void finish(const QString &call);
     /// Finishes the account's call; throws Refusal (404) when it has no such call.
     void end(const QString &account, const QString &call);
 
-    /// `role` is "user" or "agent". The result is the line's id.
+    /// `role` is "user" or "agent". The result is the line's id, 0 for none.
     qint64 addLine(const QString &call, const QString &role, int second, const QString &text);
     void correctLine(qint64 line, const QString &text);
 
@@ -62,7 +69,13 @@ public:
     QJsonObject detail(const QString &account, const QString &call);
 
 private:
+    bool attempt(const std::function<void(Sql &)> &job);
+    void settle(Sql &sql);
+    void owe(const QString &call);
+
     Database &m_database;
+    std::mutex m_mutex;
+    QStringList m_owed; ///< calls that are over, but stand otherwise in the database
 };
 
 } // namespace kiv::sandbox

@@ -132,9 +132,9 @@ private Q_SLOTS:
 
     void aWordInterruptsAndANoiseDoesNot() {
         // Tells at the end of every sound what the test has put down.
-        VoiceFixture voice("#!/bin/sh\nwhile read -r line; do case \"$line\" in\n"
-                           "*'\"end\"'*) cat \"$2/hears\" ;; esac; done\n",
-                           u"3"_s);
+        VoiceFixture voice({.recogniser = "#!/bin/sh\nwhile read -r line; do case \"$line\" in\n"
+                                          "*'\"end\"'*) cat \"$2/hears\" ;; esac; done\n",
+                            .answerSpeed = u"3"_s});
         const auto hear = [&voice](Caller &caller, const char *lines) {
             QFile hears(voice.recogniserFolder() + u"/hears"_s);
             QVERIFY(hears.open(QIODevice::WriteOnly) && hears.write(lines) > 0);

@@ -1,9 +1,8 @@
 // A data folder that is not as the server left it, and a disk that is full.
 
 #include "support/Damage.h"
-#include "sandbox/Client.h"
-#include "sandbox/SandboxProcess.h"
 #include "sandbox/Stream.h"
+#include "sandbox/VoiceFixture.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -213,6 +212,39 @@ private Q_SLOTS:
         QCOMPARE(client.post(chat, {{u"text"_s, longText}}).status, 200);
         QCOMPARE(client.upload(chat + u"/files"_s, file).status, 200);
         QVERIFY(sandbox.closeInput());
+    }
+
+    /// A call goes on without being written down, and is not in the way of the next one.
+    void fullDiskDuringACall() {
+        if (smallDisk().isEmpty())
+            QSKIP("This system lets nobody make a disk of their own");
+        VoiceFixture voice({.dataDir = smallDisk() + u"/called"_s});
+        Caller caller(voice.sandbox().url());
+        caller.begin(voice.mintAddress());
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        fillDisk();
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"Blocked? "_s.repeated(400)}});
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        caller.socket().close();
+        QTRY_COMPARE(voice.seen()[u"state"_s].toString(), u"ended"_s);
+        QVERIFY(voice.sandbox().complaints().contains("A call cannot be written down"));
+        clearDisk();
+        QCOMPARE(voice.tryMint().status, 200);
+        QVERIFY(voice.stop());
+    }
+
+    void anUploadThatCannotBeListedLeavesNothing() {
+        const QTemporaryDir folder;
+        QVERIFY(SandboxProcess(folder.path()).closeInput());
+        execute(folder.filePath(u"workspace.sqlite"_s),
+                {u"CREATE TRIGGER refuse BEFORE INSERT ON files"
+                 u" BEGIN SELECT RAISE(ABORT, 'no'); END"_s});
+        SandboxProcess sandbox(folder.path());
+        Client client(sandbox.port());
+        QVERIFY(!client.signUp(u"sender@example.com"_s).isEmpty());
+        QCOMPARE(client.upload(chat + u"/files"_s, {{u"a.txt"_s, u"text/plain"_s, "abc"}}).status,
+                 500);
+        QVERIFY(QDir(folder.filePath(u"files"_s)).isEmpty());
     }
 };
 

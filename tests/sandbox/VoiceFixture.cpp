@@ -17,16 +17,17 @@ void write(const QString &path, const QByteArray &text) {
 
 } // namespace
 
-VoiceFixture::VoiceFixture(const QByteArray &recogniser, const QString &answerSpeed)
-    : m_answerSpeed(answerSpeed) {
+VoiceFixture::VoiceFixture(VoiceSetting setting) : m_setting(std::move(setting)) {
+    if (m_setting.dataDir.isEmpty())
+        m_setting.dataDir = m_folder.path();
     // What is in the script does not matter here, only that it is there.
     QDir(m_share.path()).mkpath(u"vendor"_s);
     write(scriptPath(), "window.here = 1;");
-    if (!recogniser.isEmpty()) {
+    if (!m_setting.recogniser.isEmpty()) {
         // The server takes the recogniser that is beside it.
         m_program = m_share.filePath(u"kiv-sandbox"_s);
         QFile::copy(QStringLiteral(KIV_SANDBOX), m_program);
-        write(m_share.filePath(u"kiv-speech"_s), recogniser);
+        write(m_share.filePath(u"kiv-speech"_s), m_setting.recogniser);
         QDir().mkpath(recogniserFolder());
     }
     restart();
@@ -41,8 +42,8 @@ VoiceFixture::VoiceFixture(const QByteArray &recogniser, const QString &answerSp
 void VoiceFixture::restart() {
     m_sandbox = nullptr; // one server works in a data folder
     m_sandbox = std::make_unique<SandboxProcess>(
-        m_folder.path(),
-        QStringList{u"--share-dir"_s, m_share.path(), u"--answer-speed"_s, m_answerSpeed},
+        m_setting.dataDir,
+        QStringList{u"--share-dir"_s, m_share.path(), u"--answer-speed"_s, m_setting.answerSpeed},
         m_program);
     auto client = std::make_unique<Client>(m_sandbox->port());
     if (m_client)

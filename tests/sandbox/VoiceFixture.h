@@ -6,13 +6,17 @@
 
 namespace kiv::test {
 
+struct VoiceSetting {
+    QByteArray recogniser = {}; ///< a shell script; empty for none
+    QString answerSpeed = QStringLiteral("0");
+    QString dataDir = {}; ///< empty for one of its own
+};
+
 /// A server that can be called, and somebody signed in there who calls. It has a voice client's
 /// script of its own.
 class VoiceFixture {
 public:
-    /// With `recogniser`, a shell script, each call has that one.
-    explicit VoiceFixture(const QByteArray &recogniser = {},
-                          const QString &answerSpeed = QStringLiteral("0"));
+    explicit VoiceFixture(VoiceSetting setting = {});
 
     /// Starts the server anew in the same data folder; the session stays.
     void restart();
@@ -41,8 +45,8 @@ public:
 private:
     QTemporaryDir m_share;
     QString m_program = QStringLiteral(KIV_SANDBOX);
-    const QString m_answerSpeed;
     QTemporaryDir m_folder;
+    VoiceSetting m_setting;
     std::unique_ptr<SandboxProcess> m_sandbox;
     std::unique_ptr<Client> m_client;
     QHash<QString, QString> m_agents;
