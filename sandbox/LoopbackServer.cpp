@@ -23,6 +23,11 @@ constexpr int backlog = 128;
 LoopbackServer::LoopbackServer() {
     set_keep_alive_timeout(keepAlivePatience / std::chrono::seconds(1));
     set_keep_alive_max_count(requestsPerConnection);
+    // A port that was just left can be had again. The library would share one with other servers.
+    set_socket_options([](socket_t socket) {
+        const int on = 1;
+        ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    });
     new_task_queue = [this] { return m_threads = new ConnectionThreads(mostConnections); };
 }
 

@@ -124,13 +124,17 @@ private Q_SLOTS:
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
-    void oneServerToAFolder() {
+    void oneServerToAFolderAndAPort() {
         QTemporaryDir folder;
         SandboxProcess first(folder.path());
         SandboxProcess second(folder.path());
         QVERIFY(first.ready());
         QVERIFY(!second.ready());
         QVERIFY(second.complaints().contains("another server"));
+        QTemporaryDir elsewhere;
+        SandboxProcess third(elsewhere.path(), {u"--port"_s, QString::number(first.port())});
+        QVERIFY(!third.ready());
+        QVERIFY(third.complaints().contains("the port cannot be had"));
     }
 };
 
