@@ -75,7 +75,7 @@ QString Accounts::create(const QString &email, const QString &password,
     const QString address = normalisedEmail(email);
     checkEmail(address);
     checkNewPassword(password);
-    if (exists(address))
+    if (!find(address).isEmpty())
         throw Refusal(409, u"An account with this address already exists."_s, u"email_taken"_s);
     const QString hash = QString::fromLatin1(hashPassword(password));
     const QString id = QUuid::createUuid().toString(QUuid::WithoutBraces);
@@ -105,19 +105,11 @@ QString Accounts::authenticate(const QString &email, const QString &password) {
     return found->text(0);
 }
 
-bool Accounts::exists(const QString &email) {
-    return m_database.run([&](Sql &sql) {
-        return sql.row(u"SELECT 1 FROM accounts WHERE email = ?"_s, {normalisedEmail(email)})
-            .has_value();
+QString Accounts::find(const QString &email) {
+    const auto row = m_database.run([&](Sql &sql) {
+        return sql.row(u"SELECT id FROM accounts WHERE email = ?"_s, {normalisedEmail(email)});
     });
-}
-
-void Accounts::setPassword(const QString &email, const QString &password) {
-    const QString hash = QString::fromLatin1(hashPassword(password));
-    m_database.run([&](Sql &sql) {
-        sql.exec(u"UPDATE accounts SET password = ? WHERE email = ?"_s,
-                 {hash, normalisedEmail(email)});
-    });
+    return row ? row->text(0) : QString();
 }
 
 void Accounts::changePassword(const QString &account, const QString &current, const QString &next) {

@@ -19,9 +19,8 @@ public:
     QString create(const QString &email, const QString &password, const QJsonObject &profile);
     /// The account's id; throws Refusal when address and password do not belong together.
     QString authenticate(const QString &email, const QString &password);
-    bool exists(const QString &email);
-    /// Gives the account with this address another password.
-    void setPassword(const QString &email, const QString &password);
+    /// The id of the account with this address; empty when there is none.
+    QString find(const QString &email);
 
     /// Throws Refusal when the password is too short or too long to be taken.
     static void checkNewPassword(const QString &password);

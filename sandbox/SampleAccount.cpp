@@ -39,8 +39,7 @@ QString makePassword(const QString &path) {
 SampleAccount::SampleAccount(const QString &dataDir, Accounts &accounts) : m_accounts(accounts) {
     const QString path = dataDir + u"/sample-password"_s;
     m_password = readPassword(path);
-    m_isNew = m_password.isEmpty();
-    if (m_isNew)
+    if (m_password.isEmpty())
         m_password = makePassword(path);
 }
 
@@ -52,10 +51,7 @@ void SampleAccount::ensure(const QString &address) {
     if (normalisedEmail(address) != email())
         return;
     const std::lock_guard lock(m_mutex);
-    const bool isThere = m_made || m_accounts.exists(email());
-    if (!m_made && isThere && m_isNew)
-        m_accounts.setPassword(email(), m_password);
-    if (!isThere) {
+    if (!m_made && m_accounts.find(email()).isEmpty()) {
         const QString zone = QString::fromLatin1(QTimeZone::systemTimeZoneId());
         m_accounts.create(email(), m_password,
                           {{u"full_name"_s, u"Olive Lindqvist"_s},
@@ -64,6 +60,13 @@ void SampleAccount::ensure(const QString &address) {
                            {u"time_zone"_s, zone}});
     }
     m_made = true;
+}
+
+QString SampleAccount::enter(const QString &address, const QString &password) {
+    ensure(address);
+    const bool isOffered = normalisedEmail(address) == email() &&
+                           tokenHash(password.toUtf8()) == tokenHash(m_password.toUtf8());
+    return isOffered ? m_accounts.find(email()) : QString();
 }
 
 } // namespace kiv::sandbox

@@ -18,11 +18,13 @@ public:
     QString password() const { return m_password; }
     /// Makes the account when `email` is its address and it is not there yet.
     void ensure(const QString &email);
+    /// The account's id when these are its address and the password above, which opens it also when
+    /// somebody has given it another one; otherwise empty.
+    QString enter(const QString &email, const QString &password);
 
 private:
     Accounts &m_accounts;
     QString m_password;
-    bool m_isNew = false; ///< the account, if it is there, has another one
     std::mutex m_mutex;
     bool m_made = false;
 };

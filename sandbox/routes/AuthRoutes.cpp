@@ -38,9 +38,10 @@ Reply login(Services &services, const Call &call) {
     const QString email = stringMember(body, "email"_L1);
     const QString address = normalisedEmail(email);
     services.attempts.begin(address);
-    services.sample.ensure(email);
-    const QString account =
-        services.accounts.authenticate(email, stringMember(body, "password"_L1));
+    const QString password = stringMember(body, "password"_L1);
+    QString account = services.sample.enter(email, password);
+    if (account.isEmpty())
+        account = services.accounts.authenticate(email, password);
     services.attempts.succeeded(address);
     return signedIn(services, call, account);
 }

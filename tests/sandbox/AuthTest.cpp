@@ -96,6 +96,17 @@ private Q_SLOTS:
         const QString file = m_folder.filePath(u"sample-password"_s);
         QCOMPARE(QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther),
                  QFile::Permissions());
+        // What is offered goes on opening it.
+        QJsonObject form = m_sandbox->sample();
+        QCOMPARE(
+            client
+                .post(u"/api/v2/user/password"_s, {{u"current_password"_s, form[u"password"_s]},
+                                                   {u"new_password"_s, u"harbour-17"_s}})
+                .status,
+            200);
+        QCOMPARE(client.post(u"/api/v2/auth/login"_s, form).status, 200);
+        form[u"password"_s] = u"harbour-17"_s;
+        QCOMPARE(client.post(u"/api/v2/auth/login"_s, form).status, 200);
     }
 
     void passwordChangeSignsOthersOut() {
