@@ -18,6 +18,8 @@ namespace {
 constexpr auto loadPatience = 30s;
 constexpr int killPatienceMs = 2000;
 constexpr qint64 longestLine = 1 << 20;
+/// Of what is sent, in bytes: three quarters of a minute, more than comes while it loads.
+constexpr qint64 mostUnread = 2 << 20;
 
 QByteArray littleEndian(const QByteArray &samples) {
     if constexpr (Q_BYTE_ORDER == Q_LITTLE_ENDIAN)
@@ -57,7 +59,7 @@ void SpeechProcess::start() {
     // Queued: a program that cannot be started says so within start().
     const auto gone = [this, process = m_process] {
         if (process == m_process && process->state() == QProcess::NotRunning)
-            fail(tr("Speech recognition has stopped unexpectedly. Start it again."));
+            failAsStopped();
     };
     connect(m_process, &QProcess::finished, this, gone, Qt::QueuedConnection);
     connect(m_process, &QProcess::errorOccurred, this, gone, Qt::QueuedConnection);
@@ -81,7 +83,15 @@ void SpeechProcess::sendCancel() {
 
 void SpeechProcess::send(const QByteArray &line) {
     start();
-    m_process->write(line);
+    if (m_process->bytesToWrite() <= mostUnread) {
+        m_process->write(line);
+        return;
+    }
+    const auto hangs = [this, process = m_process] {
+        if (process == m_process)
+            failAsStopped();
+    };
+    QMetaObject::invokeMethod(this, hangs, Qt::QueuedConnection); // not to whoever is sending
 }
 
 void SpeechProcess::readLines() {
@@ -107,6 +117,10 @@ void SpeechProcess::readLine(const QByteArray &line) {
         m_patience.stop();
     else if (object.contains("error"_L1))
         fail(object.value("error"_L1).toString());
+}
+
+void SpeechProcess::failAsStopped() {
+    fail(tr("Speech recognition has stopped unexpectedly. Start it again."));
 }
 
 void SpeechProcess::fail(const QString &why) {

@@ -49,6 +49,7 @@ private:
     void send(const QByteArray &line);
     void readLines();
     void readLine(const QByteArray &line);
+    void failAsStopped();
     void fail(const QString &why);
 
     Clock &m_clock;

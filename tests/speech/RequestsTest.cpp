@@ -245,6 +245,18 @@ private Q_SLOTS:
                      u"1 error 1 Speech recognition has not started in time. Start it again."_s});
     }
 
+    void hangs() {
+        LocalSpeech service(m_clock, standIn());
+        Dictating person(service);
+        person.start();
+        person.hear({"interim:so far"});
+        QTRY_COMPARE(person.log.size(), 1);
+        person.hear({"hang"});
+        QTRY_VERIFY((person.hear({QByteArray(100'000, 'x')}), person.log.size() > 1));
+        QCOMPARE(person.log.last(),
+                 u"1 error 1 Speech recognition has stopped unexpectedly. Start it again."_s);
+    }
+
     /// The program stays for another request and goes a minute after the last.
     void rest() {
         LocalSpeech service(m_clock, standIn());

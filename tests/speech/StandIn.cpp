@@ -1,5 +1,5 @@
 // Stands in for kiv-speech. The "sound" it gets is a word and a text: "interim:so far",
-// "final:text", "keep:text" (to be finished by the end), "die", "babble", "flood" or "id".
+// "final:text", "keep:text" (to be finished by the end), "die", "hang", "babble", "flood" or "id".
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -29,6 +29,8 @@ void hear(const QString &sound) {
         say(u"final"_s, QString::number(::getpid()));
     else if (word == "die"_L1)
         ::raise(SIGKILL);
+    else if (word == "hang"_L1)
+        ::raise(SIGSTOP);
     else if (word == "babble"_L1)
         std::cout << "no JSON" << std::endl;
     else if (word == "flood"_L1)
