@@ -44,7 +44,7 @@ take_files() {
     local list=$1 work=$2 package archive place of path
     for package in $(awk '!/^#/ && NF == 4 { print $3 }' "$list" | sort -u); do
         archive=$(npm pack --loglevel=error --fetch-retries=1 \
-            --fetch-retry-mintimeout=1000 --pack-destination="$work" \
+            --fetch-retry-mintimeout=1000 --fetch-timeout=30000 --pack-destination="$work" \
             "$package" | tail -n 1) || return 1
         mkdir "$work/package" && tar -xzf "$work/$archive" -C "$work/package" --strip-components=1 ||
             return 1
