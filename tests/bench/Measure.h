@@ -18,7 +18,8 @@ struct Row {
     double peerFigure = 0;
     double target = 0; ///< the most that the figure may be
     Unit unit = Unit::Time;
-    QString how = {}; ///< under which circumstances both were measured
+    QString how = {};     ///< under which circumstances both were measured
+    QString missing = {}; ///< what there would have to be to measure it; empty when it was
 
     double ratio() const { return figure / peerFigure; }
     bool isShort() const { return figure > target; }

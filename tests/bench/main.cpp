@@ -76,6 +76,10 @@ int main(int argc, char **argv) {
         if (!wanted.isEmpty() && !wanted.contains(bench.name))
             continue;
         for (const Row &row : bench.run()) {
+            if (!row.missing.isEmpty()) {
+                print({row.name, u"not measured: %1 missing"_s.arg(row.missing)});
+                continue;
+            }
             print({row.name, shown(row.figure, row.unit),
                    row.peer + u": "_s + shown(row.peerFigure, row.unit),
                    QString::number(row.ratio(), 'f', 2), u"≤ "_s + shown(row.target, row.unit),
