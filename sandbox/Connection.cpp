@@ -72,6 +72,7 @@ bool Connection::waitForRequest(Milliseconds patience) {
 }
 
 void Connection::beginHead() {
+    m_pause = {};
     m_mayRead = largestHead;
     m_deadline = std::chrono::steady_clock::now() + headPatience;
 }

@@ -36,7 +36,7 @@ public:
     void drain();
     /// Whether the peer has closed its end.
     bool peerGone() const;
-    /// Everything written from now on goes out in small pieces with this pause between them.
+    /// The reply to the request under way goes out in small pieces with this pause between them.
     void slowDown(Milliseconds pause) { m_pause = pause; }
     /// Closes the socket both ways: what is written afterwards goes nowhere.
     void abort();
