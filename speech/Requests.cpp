@@ -50,8 +50,9 @@ void RequestQueue::put(Request request) {
         m_changed.wait(lock, [this] { return m_samples < mostWaiting; });
         m_samples += sound->samples.size();
     } else if (std::holds_alternative<Close>(request)) {
-        m_requests.clear();
-        m_dropping = true;
+        while (!m_requests.empty() && !std::holds_alternative<End>(m_requests.back()))
+            m_requests.pop_back();
+        m_dropping = m_dropping || (m_requests.empty() && !m_ending);
     } else if (std::holds_alternative<Drop>(request)) {
         // An end is answered whatever becomes of its sound.
         std::erase_if(m_requests, [](const Request &waiting) {
@@ -69,6 +70,7 @@ Request RequestQueue::take() {
     m_changed.wait(lock, [this] { return !m_requests.empty(); });
     Request request = std::move(m_requests.front());
     m_requests.pop_front();
+    m_ending = std::holds_alternative<End>(request);
     if (const auto *sound = std::get_if<Sound>(&request))
         m_samples -= sound->samples.size();
     else if (std::holds_alternative<Drop>(request))

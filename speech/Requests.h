@@ -37,7 +37,7 @@ std::optional<Request> parseRequest(const QByteArray &line);
 class RequestQueue {
 public:
     /// Waits while a minute of sound lies here already. A Drop takes the sound before it away, and
-    /// a Close everything.
+    /// a Close what no End asks to be finished.
     void put(Request request);
     /// Waits for a request.
     Request take();
@@ -51,6 +51,7 @@ private:
     std::deque<Request> m_requests;
     size_t m_samples = 0;
     bool m_dropping = false;
+    bool m_ending = false; ///< an End is being worked on
 };
 
 } // namespace kiv::speech

@@ -325,6 +325,29 @@ private Q_SLOTS:
         QVERIFY(queue.empty());
     }
 
+    /// What was asked to be finished is, also when nothing more comes.
+    void closedQueue() {
+        RequestQueue queue;
+        for (const Request &request : {Request(Sound{{1}}), Request(End{}), Request(Sound{{2}})})
+            queue.put(request);
+        queue.put(Close{});
+        QVERIFY(std::holds_alternative<Sound>(queue.take()));
+        QVERIFY(std::holds_alternative<End>(queue.take()));
+        QVERIFY(!queue.dropping());
+        QVERIFY(std::holds_alternative<Close>(queue.take()));
+
+        RequestQueue other;
+        other.put(End{});
+        other.take();
+        other.put(Close{});
+        QVERIFY(!other.dropping());
+        other.take();
+        other.put(Sound{{1}});
+        other.put(Close{});
+        QVERIFY(other.dropping());
+        QVERIFY(std::holds_alternative<Close>(other.take()));
+    }
+
     /// Whoever feeds a whole file waits for the recogniser instead of filling the memory.
     void fullQueue() {
         RequestQueue queue;
