@@ -67,6 +67,11 @@ void Answerer::begin(const ChatKey &key, const QString &origin, Compose compose)
     m_wake.notify_one();
 }
 
+bool Answerer::isAnswering(const ChatKey &key) {
+    const std::lock_guard lock(m_mutex);
+    return m_growing.contains(key);
+}
+
 bool Answerer::stop(const ChatKey &key) {
     const std::lock_guard lock(m_mutex);
     return m_growing.erase(key) > 0;

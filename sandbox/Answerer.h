@@ -29,6 +29,8 @@ public:
 
     /// `compose` runs on this object's thread when the answer's turn comes.
     void begin(const ChatKey &key, const QString &origin, Compose compose);
+    /// Whether an answer is under way in the conversation.
+    bool isAnswering(const ChatKey &key);
     /// Ends what is under way in the conversation where it stands; false when nothing was.
     bool stop(const ChatKey &key);
     /// Ends everything; what was published stays.

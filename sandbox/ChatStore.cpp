@@ -82,6 +82,16 @@ std::pair<ChatMessage, bool> ChatStore::appendOnce(const ChatKey &key, const QSt
     });
 }
 
+bool ChatStore::isAnswered(const ChatKey &key, const ChatMessage &message) {
+    return m_database.run([&](Sql &sql) {
+        return sql
+            .row(u"SELECT 1 FROM messages WHERE account = ? AND chat = ? AND id > ?"
+                 u" AND role <> 'user' LIMIT 1"_s,
+                 {key.account, key.chat, message.id})
+            .has_value();
+    });
+}
+
 void ChatStore::update(const ChatMessage &message) {
     m_database.run([&](Sql &sql) {
         sql.exec(u"UPDATE messages SET content = ?, metadata = ? WHERE id = ?"_s,

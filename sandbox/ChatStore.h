@@ -45,6 +45,8 @@ public:
     /// The result is the stored message, and whether it is new.
     std::pair<ChatMessage, bool> appendOnce(const ChatKey &key, const QString &content,
                                             const QJsonObject &metadata, const QString &requestId);
+    /// Whether somebody else has said something after the message.
+    bool isAnswered(const ChatKey &key, const ChatMessage &message);
     /// Replaces what an answer says so far.
     void update(const ChatMessage &message);
     /// How many characters the account's conversations hold.

@@ -15,6 +15,8 @@
 #include "voice/CallStore.h"
 #include "voice/CallWitness.h"
 
+#include <mutex>
+
 namespace kiv::sandbox {
 
 /// Everything the routes work with, in the order in which one builds on the other.
@@ -47,6 +49,7 @@ struct Services {
     ChatHub hub;
     Faults faults;
     Answerer answerer;
+    std::mutex asking; ///< of who stores a question and begins its answer
 };
 
 } // namespace kiv::sandbox

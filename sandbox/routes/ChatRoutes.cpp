@@ -85,10 +85,14 @@ Reply send(Services &services, const Call &call, FindTarget find) {
     QJsonObject metadata;
     if (!attachments.isEmpty())
         metadata.insert(u"attachments"_s, attachments);
+    const std::lock_guard asking(services.asking);
     const auto [message, isNew] = services.chats.appendOnce(target.key, text, metadata, requestId);
-    if (!isNew)
+    // One that comes again is answered when the server ended before it was.
+    if (!isNew && (services.answerer.isAnswering(target.key) ||
+                   services.chats.isAnswered(target.key, message)))
         return sent(message, call);
-    services.hub.publish(target.key, rowEvent(message.rowObject(call.origin)));
+    if (isNew)
+        services.hub.publish(target.key, rowEvent(message.rowObject(call.origin)));
     QStringList files;
     for (const QJsonValue &attachment : attachments)
         files.append(attachment[u"name"_s].toString());

@@ -102,6 +102,34 @@ private Q_SLOTS:
         QVERIFY(rows.last().toObject().value(u"content"_s).toString().startsWith(shown));
     }
 
+    /// Killed before an answer began. Who sends the question again gets one, and only one.
+    void anUnansweredQuestionIsAnsweredWhenItComesAgain() {
+        QTemporaryDir folder;
+        const QString chat = u"/api/v2/projects/orchard/chat"_s;
+        const QJsonObject question{{u"text"_s, u"status?"_s}, {u"client_request_id"_s, u"r-1"_s}};
+        httplib::Headers headers;
+        QJsonObject sent;
+        {
+            SandboxProcess sandbox(folder.path(), {u"--answer-speed"_s, u"60"_s});
+            Client client(sandbox.port());
+            client.signUp(u"lost@example.com"_s);
+            headers = client.headers;
+            sent = client.post(chat, question).json()[u"message"_s].toObject();
+            sandbox.process().kill();
+            QVERIFY(sandbox.process().waitForFinished(10'000));
+        }
+        SandboxProcess sandbox(folder.path());
+        Client client(sandbox.port());
+        client.headers.emplace("Cookie", headers.find("Cookie")->second);
+        const auto count = [&] { return client.get(chat).json()[u"messages"_s].toArray().size(); };
+        QCOMPARE(count(), 1);
+        for (int again = 0; again < 2; ++again)
+            QCOMPARE(client.post(chat, question).json()[u"message"_s][u"id"_s], sent[u"id"_s]);
+        QTRY_COMPARE(count(), 2);
+        client.post(chat, {{u"text"_s, u"And now?"_s}});
+        QTRY_COMPARE(count(), 4);
+    }
+
     void refusesToStart_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("no folder") << QStringList();
