@@ -54,15 +54,18 @@ AnswerTable boardTable(const ViewSpec &spec, const QString &unit) {
 
 /// Whether a cell for each label and series holds all that the series tell.
 bool isGrid(const QList<ViewSpec::Series> &series) {
-    return std::ranges::all_of(series, [](const ViewSpec::Series &one) {
+    QSet<QString> all;
+    const bool fits = std::ranges::all_of(series, [&all](const ViewSpec::Series &one) {
         QSet<QString> labels;
         for (const ViewSpec::Point &point : one.points)
             labels.insert(point.label);
+        all += labels;
         return labels.size() == one.points.size() &&
                std::ranges::none_of(one.points, [](const ViewSpec::Point &point) {
                    return point.target || point.status || point.hint;
                });
     });
+    return fits && all.size() * series.size() <= mostCells;
 }
 
 /// A row for each label, in the order in which the series bring them up.

@@ -4,6 +4,10 @@
 
 namespace kiv::canvas {
 
+/// How many cells a table may be filled up to: a short answer may name thousands of columns and
+/// have as many rows, and say next to nothing in them.
+constexpr qsizetype mostCells = 100'000;
+
 /// Figures of an answer in rows and columns, as texts that read as the answer has them. Cells where
 /// it says nothing are empty; a row may be shorter or longer than the columns are many.
 struct AnswerTable {

@@ -23,16 +23,27 @@ std::optional<double> valueOf(const QString &cell) {
     return figure ? std::optional(figure->value) : std::nullopt;
 }
 
-/// At least half of the filled cells are figures.
-bool isNumeric(const QList<QStringList> &rows, qsizetype column) {
-    qsizetype filled = 0;
-    qsizetype figures = 0;
+/// Behind the names, the columns of which at least half of the filled cells are figures. Rows may
+/// be of very unlike length, so their cells are counted row by row.
+QList<qsizetype> figureColumns(const QList<QStringList> &rows) {
+    struct Count {
+        qsizetype filled = 0;
+        qsizetype figures = 0;
+    };
+    QList<Count> counts;
     for (const QStringList &row : rows) {
-        const QString cell = row.value(column).trimmed();
-        filled += cell.isEmpty() ? 0 : 1;
-        figures += proseFigure(cell) ? 1 : 0;
+        counts.resize(std::max(counts.size(), row.size()));
+        for (qsizetype i = 1; i < row.size(); ++i) {
+            counts[i].filled += row.at(i).trimmed().isEmpty() ? 0 : 1;
+            counts[i].figures += proseFigure(row.at(i)) ? 1 : 0;
+        }
     }
-    return figures > 0 && figures * 2 >= filled;
+    QList<qsizetype> columns;
+    for (qsizetype i = 1; i < counts.size(); ++i) {
+        if (counts.at(i).figures > 0 && counts.at(i).figures * 2 >= counts.at(i).filled)
+            columns.append(i);
+    }
+    return columns;
 }
 
 } // namespace
@@ -50,14 +61,8 @@ PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
     m_actual = columnNamed(spec.columns, actual, m_plan);
     m_owner = columnNamed(spec.columns, owner);
 
-    qsizetype width = spec.columns.size();
-    for (const QStringList &row : spec.rows)
-        width = std::max(width, row.size());
-    QList<qsizetype> figures;
-    for (qsizetype i = 1; i < width; ++i) {
-        if (i != m_plan && i != m_actual && i != m_owner && isNumeric(spec.rows, i))
-            figures.append(i);
-    }
+    QList<qsizetype> figures = figureColumns(spec.rows);
+    figures.removeIf([this](qsizetype i) { return i == m_plan || i == m_actual || i == m_owner; });
     const bool actualNamed = m_actual > 0;
     const bool planFirst = order == Order::PlanFirst && figures.size() > 1 && !actualNamed;
     if (m_plan < 0 && planFirst)

@@ -1,5 +1,6 @@
 #include "base/JVal.h"
 #include "base/Regex.h"
+#include "canvas/AnswerTable.h"
 #include "canvas/ProseFigure.h"
 #include "canvas/ProseLifts.h"
 #include "canvas/ProseLines.h"
@@ -52,6 +53,10 @@ bool isDivider(const QString &cell) {
            std::all_of(bare.begin(), bare.end(), [](QChar c) { return c == u'-'; });
 }
 
+bool isRow(const ProseLine &line) {
+    return !line.isCode && line.text.contains(u'|');
+}
+
 /// A header and the divider under it with as many cells.
 std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype index) {
     static const Regex dividerStart(u"^\\s*\\|?\\s*:?-{3,}");
@@ -68,27 +73,32 @@ std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype ind
 }
 
 /// Rows take the header's width: missing cells are empty, those beyond it are dropped.
-std::optional<Table> tableAt(const QList<ProseLine> &lines, qsizetype index) {
-    const auto columns = headerAt(lines, index);
-    if (!columns)
-        return std::nullopt;
-    Table table{*columns, {}, index, index + 2};
-    for (; table.last < lines.size(); ++table.last) {
-        const ProseLine &line = lines.at(table.last);
-        if (line.isCode || line.isBlank() || !line.text.contains(u'|'))
-            break;
-        QStringList row = cellsOf(line.text).mid(0, columns->size());
-        while (row.size() < columns->size())
+Table tableOf(const QStringList &columns, const QList<ProseLine> &lines, qsizetype first,
+              qsizetype last) {
+    Table table{columns, {}, first, last};
+    for (qsizetype i = first + 2; i < last; ++i) {
+        QStringList row = cellsOf(lines.at(i).text).mid(0, columns.size());
+        while (row.size() < columns.size())
             row.append(QString());
         table.rows.append(row);
     }
-    return table.rows.isEmpty() ? std::nullopt : std::optional(table);
+    return table;
 }
 
+/// The first table with rows. One of very many cells, most of which may not even be written, stays
+/// in the chat.
 std::optional<Table> firstTable(const QList<ProseLine> &lines) {
     for (qsizetype i = 0; i + 1 < lines.size(); ++i) {
-        if (auto table = tableAt(lines, i))
-            return table;
+        const auto columns = headerAt(lines, i);
+        if (!columns)
+            continue;
+        const qsizetype rows = i + 2;
+        qsizetype end = rows;
+        while (end < lines.size() && isRow(lines.at(end)))
+            ++end;
+        if (end > rows && (end - rows) * columns->size() <= mostCells)
+            return tableOf(*columns, lines, i, end);
+        i = end - 1;
     }
     return std::nullopt;
 }

@@ -30,21 +30,24 @@ QString written(const QString &cell, QChar separator) {
     return isPlain ? cell : u'"' + QString(cell).replace(u'"', u"\"\""_s) + u'"';
 }
 
+/// Of all rows; 0 where filling them up to it would take too many cells.
 qsizetype widthOf(const QList<AnswerTable> &tables) {
     qsizetype width = 0;
+    qsizetype rows = 0;
     for (const AnswerTable &table : tables) {
         width = std::max(width, table.columns.size());
+        rows += table.rows.size();
         for (const QStringList &row : table.rows)
             width = std::max(width, row.size());
     }
-    return width;
+    return width * rows <= mostCells ? width : 0;
 }
 
 QString delimited(const QList<AnswerTable> &tables, QChar separator, const QString &lineEnd) {
     const qsizetype width = widthOf(tables);
     QString text;
     const auto writeRow = [&](const QStringList &row) {
-        for (qsizetype cell = 0; cell < width; ++cell) {
+        for (qsizetype cell = 0; cell < std::max(width, row.size()); ++cell) {
             if (cell > 0)
                 text += separator;
             text += written(guarded(row.value(cell)), separator);

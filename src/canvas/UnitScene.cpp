@@ -68,7 +68,8 @@ std::optional<SceneOut> buildUnit(const ViewSpec &spec) {
     else if (!parts.isEmpty())
         return std::nullopt;
     scene.ueKpis = kpiCardsOf(spec);
-    if (scene.ueRows.isEmpty() && scene.ueKpis.isEmpty())
+    const bool isNothing = scene.ueRows.isEmpty() && scene.ueKpis.isEmpty();
+    if (isNothing || scene.ueKpis.size() > mostCards)
         return std::nullopt;
     if (scene.ueRows.isEmpty()) {
         scene.countLine = QString::number(scene.ueKpis.size()) + u" · from the answer"_s;

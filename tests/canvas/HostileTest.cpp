@@ -6,6 +6,7 @@
 #include "canvas/SceneAdapter.h"
 #include "canvas/SpecReader.h"
 #include "canvas/SurfaceMatcher.h"
+#include "canvas/TableText.h"
 #include "canvas/TextCues.h"
 #include "support/HostileAnswers.h"
 #include "support/WorkingTime.h"
@@ -31,6 +32,7 @@ void readAnswer(const QString &text) {
     if (answer.spec) {
         for (const QString &art : CanvasEngine::knownArts())
             SceneAdapter::build(*answer.spec, std::nullopt, art);
+        csvText(answerTables(*answer.spec));
     }
     CanvasEngine::closedFenceRe().contains(text);
     SurfaceMatcher::match(text, QUrl(u"https://kiv.example"_s));

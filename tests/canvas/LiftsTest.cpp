@@ -165,6 +165,9 @@ private Q_SLOTS:
         row("widths differ", u"a | b\n---\nx | 1"_s, QString(), u"a | b\n---\nx | 1"_s);
         row("underlined heading", u"Heading\n---\nx | 1"_s, QString(), u"Heading\n---\nx | 1"_s);
         row("one column", u"| a |\n|---|\n| x |"_s, QString(), u"| a |\n|---|\n| x |"_s);
+        const QString hollow = u"|a"_s.repeated(500) + u'\n' + u"|---"_s.repeated(500) + u"\n|"_s +
+                               u"\n|"_s.repeated(300);
+        row("next to nothing in very many cells", hollow, QString(), hollow);
         row("bars in prose", u"a | b or c --- who knows"_s, QString(),
             u"a | b or c --- who knows"_s);
     }

@@ -45,6 +45,14 @@ private Q_SLOTS:
         QCOMPARE(scene->kpiCards.at(2).tone(), Tone::Neutral);
         QCOMPARE(scene->highlights,
                  (QStringList{u"All on track"_s, u"Best week · of May"_s, u"Ads: 5"_s}));
+
+        ViewSpec many{.kind = u"kpi"_s, .items = {61, {.label = u"a"_s, .value = 1}}};
+        many.items.last() = {.label = u"z"_s, .value = 2, .delta = u"+1"_s};
+        const auto bounded = SceneAdapter::vals(many, std::nullopt);
+        QCOMPARE(bounded->kpiCards.size(), 60);
+        QCOMPARE(bounded->highlights, QStringList{u"z: 2 (+1)"_s});
+        QCOMPARE(bounded->countLine, u"61 · from the answer"_s);
+        QVERIFY(!SceneAdapter::build(many, std::nullopt, u"unit"_s));
     }
 
     void tones_data() {

@@ -47,6 +47,19 @@ QList<std::pair<QByteArray, QString>> hostileAnswers() {
     add("long table", u"| a | b |\n|---|---|\n"_s + repeated(u"| x | 1 |\n"_s));
     add("wide table",
         repeated(u"|a"_s).first(length / 2) + u'\n' + repeated(u"|---"_s).first(length / 2));
+    add("wide and long table", u"|a"_s.repeated(5000) + u'\n' + u"|---"_s.repeated(5000) + u'\n' +
+                                   u"|\n"_s.repeated(5000));
+    add("many wide tables", repeated(u"|a"_s.repeated(200) + u'\n' + u"|---"_s.repeated(200) +
+                                     u'\n' + u"|\n"_s.repeated(600) + u'\n'));
+    add("rows of unlike length", u"```view\n{\"kind\":\"table\",\"columns\":[\"a\"],\"rows\":[["_s +
+                                     u"\"\","_s.repeated(20'000) + u"\"\"]"_s +
+                                     u",[]"_s.repeated(20'000) + u"]}\n```"_s);
+    add("series of unlike labels", [] {
+        QString series;
+        for (int i = 0; i < 5000; ++i)
+            series += u"{\"points\":[\"%1\"]},"_s.arg(i);
+        return u"```view\n{\"kind\":\"line\",\"series\":["_s + series.chopped(1) + u"]}\n```"_s;
+    }());
     add("long list item", u"- a: 1\n- b: "_s + repeated(u"1"_s));
     add("long item of marks", u"- [a: 1](b\n- "_s + repeated(u"[a]"_s));
     add("many owners", [] {

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qsizetype mostColumns = 60; ///< each row shows all of them at once
 constexpr double nameShare = 0.3;
 constexpr double nameLeast = 120;
 constexpr double narrow = 600;
@@ -51,6 +52,7 @@ void CompareColumns::measure() {
     qsizetype cells = std::max<qsizetype>(0, scene().cpCols.size() - 1);
     for (const canvas::CpRow &row : scene().cpRows)
         cells = std::max(cells, row.cells.size());
+    cells = std::min(cells, mostColumns);
     for (qsizetype cell = 0; cell < cells; ++cell) {
         CompareColumn column;
         column.cell = static_cast<int>(cell);
