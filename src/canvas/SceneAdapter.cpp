@@ -39,14 +39,9 @@ std::optional<SceneOut> SceneAdapter::build(const ViewSpec &spec,
     const auto art = forceArt ? forceArt : CanvasEngine::artForSpec(spec, intent);
     const Builder builder = art ? builders().value(*art) : nullptr;
     auto scene = builder ? builder(spec) : std::nullopt;
-    if (!scene && !forceArt) {
-        // Asked what was spent, an answer without a plan is drawn as it would be unasked.
-        if (intent && art == u"budget")
-            return build(spec, std::nullopt);
-        // What is no choice of two is still a table.
-        if (art == u"decision")
-            return build(spec, intent, u"compare"_s);
-    }
+    // What is no choice of two is still a table.
+    if (!scene && !forceArt && art == u"decision")
+        return build(spec, intent, u"compare"_s);
     if (scene) {
         scene->art = *art;
         scene->title = sceneTitle(spec, *art);
@@ -56,7 +51,8 @@ std::optional<SceneOut> SceneAdapter::build(const ViewSpec &spec,
 
 std::optional<SceneOut> SceneAdapter::vals(const ViewSpec &spec,
                                            const std::optional<QString> &intent) {
-    return build(spec, intent);
+    const auto scene = build(spec, intent);
+    return scene || !intent ? scene : build(spec, std::nullopt);
 }
 
 } // namespace kiv::canvas

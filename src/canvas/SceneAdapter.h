@@ -13,12 +13,12 @@ namespace kiv::canvas::SceneAdapter {
 const QList<SceneColor> &palette();
 
 /// The scene of `forceArt`, or of the art that fits the view and the question's intent.
-/// Nothing when there is no such art or the view lacks what the art needs. Two arts give way when
-/// they are not forced: a budget that the question asked for to the view's own art, a decision that
-/// is no choice of two to the table.
+/// Nothing when there is no such art or the view lacks what the art needs. Only a decision that is
+/// no choice of two gives way to the table when it is not forced.
 std::optional<SceneOut> build(const ViewSpec &spec, const std::optional<QString> &intent,
                               const std::optional<QString> &forceArt = {});
 
+/// What is drawn of an answer: where it lacks what the question asks for, the view's own art.
 std::optional<SceneOut> vals(const ViewSpec &spec, const std::optional<QString> &intent);
 
 } // namespace kiv::canvas::SceneAdapter

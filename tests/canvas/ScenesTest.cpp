@@ -100,14 +100,29 @@ private Q_SLOTS:
         QCOMPARE(scene->cpRows.at(0).cells.first(2), (QStringList{u"0"_s, u"Ann"_s}));
     }
 
-    /// "What did we spend?" asks for a budget; without a plan the answer's own art tells more.
-    void spendingWithoutAPlan() {
-        const auto spec = CanvasEngine::spec(
-            *JVal::parse(R"({"kind":"stacked","series":[{"name":"Ads","points":["May: $5"]},
-                {"name":"Tools","points":["May: $7"]}]})"),
-            QString());
-        QCOMPARE(SceneAdapter::vals(*spec, u"budget"_s)->art, u"costs"_s);
-        QVERIFY(!SceneAdapter::build(*spec, u"budget"_s, u"budget"_s));
+    /// An answer that lacks what the question asks for is drawn as it would be unasked: its figures
+    /// have left the chat.
+    void lessThanAskedFor_data() {
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QString>("intent");
+        QTest::addColumn<QString>("art");
+        QTest::newRow("spending without a plan")
+            << QByteArray(R"({"kind":"stacked","series":[{"name":"Ads","points":["May: $5"]},
+                {"name":"Tools","points":["May: $7"]}]})")
+            << u"budget"_s << u"costs"_s;
+        QTest::newRow("the load of one")
+            << QByteArray(R"({"kind":"hbar","points":["Ann: 50"]})") << u"workload"_s << u"costs"_s;
+        QTest::newRow("costs without figures")
+            << QByteArray(R"({"kind":"kpi","items":["All is well"]})") << u"costs"_s << u"report"_s;
+    }
+    void lessThanAskedFor() {
+        QFETCH(QByteArray, json);
+        QFETCH(QString, intent);
+        const auto spec = CanvasEngine::spec(*JVal::parse(json), QString());
+        const auto scene = SceneAdapter::vals(*spec, intent);
+        QVERIFY(scene);
+        QTEST(scene->art, "art");
+        QVERIFY(!SceneAdapter::build(*spec, intent));
     }
 
     void noChoiceOfTwoIsATable() {
