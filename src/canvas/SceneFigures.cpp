@@ -40,6 +40,16 @@ QString unitWord(const QString &display) {
     return unitStem(word);
 }
 
+/// Whether the figure that a text shows is a percentage; one in an aside, "$640 (64%)" or "18 of 20
+/// (90%)", does not make it one.
+bool showsPercentage(const QString &display) {
+    static const Regex firstNumber(u"^\\D*\\d[\\d.,\\s]*%");
+    if (!display.contains(u'%'))
+        return false;
+    const auto figure = proseFigure(display);
+    return figure ? figure->unit.startsWith(u'%') : firstNumber.contains(display);
+}
+
 int decimalsOf(double value) {
     const QString text = CanvasNum::decimal(value);
     const qsizetype point = text.indexOf(u'.');
@@ -95,8 +105,10 @@ QString unitOf(const ViewSpec &spec, const QList<ViewSpec::Point> &points) {
         return spec.unit->trimmed();
     QString common;
     for (const ViewSpec::Point &point : points) {
-        const QString sign = CanvasEngine::unitToken(point.display.value_or(QString()));
-        if (sign.isEmpty() || (!common.isEmpty() && sign != common))
+        const QString display = point.display.value_or(QString());
+        const QString sign = CanvasEngine::unitToken(display);
+        const bool isAside = sign == u"%" && !showsPercentage(display);
+        if (sign.isEmpty() || isAside || (!common.isEmpty() && sign != common))
             return {};
         common = sign;
     }
@@ -104,7 +116,7 @@ QString unitOf(const ViewSpec &spec, const QList<ViewSpec::Point> &points) {
 }
 
 bool isPercentage(const ViewSpec::Point &point, const QString &unit) {
-    return unit == u"%" || point.display.value_or(QString()).contains(u'%');
+    return unit == u"%" || showsPercentage(point.display.value_or(QString()));
 }
 
 double percentageOf(const ViewSpec::Point &point) {

@@ -1,7 +1,10 @@
+#include "canvas/CanvasNum.h"
 #include "canvas/Progress.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
 #include "canvas/SceneText.h"
+
+#include <algorithm>
 
 namespace kiv::canvas {
 
@@ -9,12 +12,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// "18 of 20".
+bool tellsTarget(const ViewSpec::Point &point) {
+    const auto numbers = CanvasNum::numsIn(point.display.value_or(QString())).mid(1);
+    return std::ranges::any_of(
+        numbers, [&](const CanvasNum::Found &number) { return number.value == point.target; });
+}
+
 QString noteOf(const ViewSpec::Point &point, const QString &unit) {
     QStringList parts;
     const QString hint = point.hint.value_or(QString()).trimmed();
     if (!hint.isEmpty())
         parts.append(hint);
-    if (!isPercentage(point, unit) && isDrawable(point.target))
+    if (!isPercentage(point, unit) && isDrawable(point.target) && !tellsTarget(point))
         parts.append(valueText(point, unit) + u" of "_s + figureText(*point.target, unit));
     else if (!isPercentage(point, unit) && point.display)
         parts.append(valueText(point, unit));

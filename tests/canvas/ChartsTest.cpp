@@ -37,6 +37,9 @@ private Q_SLOTS:
         row("amounts",
             R"([{"label":"a","value":30,"display":"$30"},{"label":"b","value":10,"display":"$10"}])",
             u"75 25 = $40"_s);
+        row("shares beside amounts", R"j([{"label":"a","value":640,"display":"$640 (64%)"},
+            {"label":"b","value":360,"display":"$360 (36%)"}])j",
+            u"64 36 = $1\u202f000"_s);
         row("percentages leave a rest", R"(["a: 50%","b: 30%"])", u"50 30 = "_s);
         row("stated total", R"(["a: 3","b: 1","Total: 4"])", u"75 25 = 4"_s);
         row("more than a whole", R"(["a: 80%","b: 70%"])", QString());

@@ -24,6 +24,9 @@ private Q_SLOTS:
         row(R"({"label":"a","value":0,"display":"0%","target":0.7})", u"0 70 0 "_s);
         row(R"({"label":"a","value":0.62,"display":"0.62%"})", u"1 -1 1 "_s);
         row(R"({"label":"a","value":42,"target":60})", u"70 100 0 42 of 60"_s);
+        row(R"j({"label":"a","value":18,"target":20,"display":"18 of 20 (90%)"})j",
+            u"90 100 0 18 of 20 (90%)"_s);
+        row(R"({"label":"a","value":62,"display":"about 62% of all"})", u"62 -1 1 "_s);
         row(R"({"label":"a","value":60,"target":60})", u"100 100 1 60 of 60"_s);
         row(R"({"label":"a","value":0.5,"target":0.8})", u"50 80 0 0.5 of 0.8"_s);
         row(R"({"label":"a","value":0.955})", u"96 -1 1 "_s);
