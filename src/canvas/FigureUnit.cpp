@@ -1,5 +1,6 @@
 #include "canvas/FigureUnit.h"
 
+#include <QHash>
 #include <QSet>
 #include <QStringList>
 
@@ -20,7 +21,7 @@ bool isCurrency(QChar c) {
 struct Multiplier {
     QString word;
     double factor;
-    bool attached; ///< counts only directly behind the digits: "5 k" are not 5000
+    bool attached; ///< counts only directly behind the digits, but for amounts: "5 k" are not 5000
     bool ofMoney;  ///< counts only for amounts: "90m" are minutes or metres, "512B" bytes
 };
 
@@ -98,7 +99,7 @@ double takeMultiplier(FigureReader &reader, bool isMoney) {
     const QString written = rest.sliced(from, to - from).toString();
     const QString word = written.size() == 1 ? written : written.toLower();
     for (const Multiplier &multiplier : multipliers()) {
-        if (word == multiplier.word && (attached || !multiplier.attached) &&
+        if (word == multiplier.word && (attached || isMoney || !multiplier.attached) &&
             (isMoney || !multiplier.ofMoney)) {
             reader.skip(to);
             return multiplier.factor;
@@ -144,6 +145,13 @@ bool isMoney(const QString &unit) {
     const bool signedUnit = std::any_of(unit.begin(), unit.end(), isCurrency);
     return signedUnit || names.contains(unit.toLower()) ||
            unit.startsWith(u"рубл", Qt::CaseInsensitive);
+}
+
+QString currencySign(const QString &unit) {
+    static const QHash<QString, QString> signs{{u"usd"_s, u"$"_s},   {u"eur"_s, u"€"_s},
+                                               {u"gbp"_s, u"£"_s},   {u"rub"_s, u"₽"_s},
+                                               {u"руб"_s, u"₽"_s}, {u"руб."_s, u"₽"_s}};
+    return signs.value(unit.toLower(), unit);
 }
 
 } // namespace kiv::canvas

@@ -1,7 +1,9 @@
 #include "canvas/PlanColumns.h"
 
 #include "base/Regex.h"
+#include "canvas/FigureUnit.h"
 #include "canvas/ProseFigure.h"
+#include "canvas/UnitStem.h"
 
 #include <algorithm>
 
@@ -17,10 +19,26 @@ qsizetype columnNamed(const QStringList &columns, const Regex &name, qsizetype e
     return -1;
 }
 
-/// A cell says what it means in words and signs, so it is read as prose is.
-std::optional<double> valueOf(const QString &cell) {
+struct Amount {
+    double value;
+    QString unit;
+};
+
+/// A cell says what it means in words and signs, so it is read as prose is. Beside another figure a
+/// letter apart is no unit: "1.2 M" and "900 K".
+std::optional<Amount> amountOf(const QString &cell) {
     const auto figure = proseFigure(cell);
-    return figure ? std::optional(figure->value) : std::nullopt;
+    if (!figure)
+        return std::nullopt;
+    FigureReader unit(figure->unit);
+    const double factor = takeMultiplier(unit, unit.peek().isUpper());
+    return Amount{figure->value * factor, unitStem(currencySign(unit.rest().trimmed().toString()))};
+}
+
+/// Amounts of unlike units cannot be measured against each other; one without any may take the
+/// other's.
+bool areUnlike(const Amount &a, const Amount &b) {
+    return !a.unit.isEmpty() && !b.unit.isEmpty() && a.unit != b.unit;
 }
 
 /// Behind the names, the columns of which at least half of the filled cells are figures. Rows may
@@ -80,10 +98,14 @@ PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
 ViewSpec::Point PlanColumns::measured(const QStringList &row) const {
     ViewSpec::Point point{.label = row.value(m_title).trimmed()};
     const QString actual = actualText(row);
-    point.value = valueOf(actual);
+    const auto spent = amountOf(actual);
+    if (spent)
+        point.value = spent->value;
     if (!actual.isEmpty())
         point.display = actual;
-    point.target = valueOf(planText(row));
+    const auto planned = amountOf(planText(row));
+    if (planned && !(spent && areUnlike(*spent, *planned)))
+        point.target = planned->value;
     return point;
 }
 

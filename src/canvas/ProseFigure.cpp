@@ -70,7 +70,9 @@ std::optional<ProseFigure> bareFigure(QStringView text) {
         figure.value = (*number * factor + *end * endFactor) / 2 / factor;
     }
     figure.value *= negative ? -factor : factor;
-    const auto unit = unitOfRest(reader.rest());
+    auto unit = unitOfRest(reader.rest());
+    if (leadingMoney && unit && currencySign(*unit) == currencySign(figure.unit))
+        unit->clear(); // "$1,000 USD"
     if (!unit || (leadingMoney && !unit->isEmpty() && !isRate(*unit)))
         return std::nullopt;
     if (leadingMoney && !unit->isEmpty() && !unit->startsWith(u'/'))

@@ -153,6 +153,12 @@ private Q_SLOTS:
         row("Russian figures", R"({"kind":"table","columns":["Статья","План","Факт"],
             "rows":[["Реклама","1,2 млн ₽","1,5 млн ₽"],["Офис","300 тыс. ₽","2 из 3"]]})",
             {u"Реклама 1,2 млн ₽/1,5 млн ₽ +25% 0 80"_s});
+        row("letters apart, and codes beside signs",
+            R"({"kind":"table","columns":["Line","Plan","Actual"],
+            "rows":[["Ads","1.2 M","900 K"],["Tools","$1 M","$1,000,000 USD"],
+                    ["Rent","$600 K","600000 USD"],["Office","1000 €","$900"]]})",
+            {u"Ads 1.2 M/900 K -25% 1 100"_s, u"Tools $1 M/$1,000,000 USD 0% 1 83.3333"_s,
+             u"Rent $600 K/600000 USD 0% 1 50"_s, u"Office 1000 €/$900  1 0"_s});
         row("series", R"({"kind":"stacked","series":[{"name":"Actual","points":["Ads: 3"]},
             {"name":"Plan","points":["Ads: 4"]}]})",
             {u"Ads 4/3 -25% 1 100"_s});
