@@ -107,6 +107,15 @@ AnswerTable itemTable(const QList<ViewSpec::Item> &items, const QString &unit) {
     return withoutEmptyColumns(table);
 }
 
+/// Whether the points say nothing beside the rows, as bars that were lifted from a table.
+bool repeatRows(const ViewSpec &spec) {
+    return std::ranges::equal(
+        spec.points, spec.rows, [](const ViewSpec::Point &point, const QStringList &row) {
+            return row.value(0) == point.label && point.display && row.contains(*point.display) &&
+                   row.contains(point.hint.value_or(point.label)) && !point.target && !point.status;
+        });
+}
+
 } // namespace
 
 AnswerTable pointTable(const QList<ViewSpec::Point> &points, const QString &unit) {
@@ -119,7 +128,7 @@ AnswerTable pointTable(const QList<ViewSpec::Point> &points, const QString &unit
 QList<AnswerTable> answerTables(const ViewSpec &spec) {
     const QString unit = spec.unit.value_or(QString());
     QList<AnswerTable> tables{{spec.columns, spec.rows},
-                              pointTable(spec.points, unit),
+                              repeatRows(spec) ? AnswerTable() : pointTable(spec.points, unit),
                               boardTable(spec, unit),
                               seriesTable(spec.series, unit),
                               itemTable(spec.items, unit)};

@@ -65,6 +65,11 @@ private Q_SLOTS:
             << Lines{{u"Name"_s, u"Plan"_s, u"Actual"_s},
                      {u"Реклама"_s, u"1 000"_s, u"−1,200.50"_s},
                      {u"Hosting"_s, u"15,500"_s, u"17,300"_s}};
+        QTest::newRow("bars of a table, once")
+            << u"| Team | Spend | Note |\n|---|---|---|\n| Ads | $5 | soon |\n| Ops | $3 | |\n"_s
+            << Lines{{u"Team"_s, u"Spend"_s, u"Note"_s},
+                     {u"Ads"_s, u"$5"_s, u"soon"_s},
+                     {u"Ops"_s, u"$3"_s, QString()}};
         QTest::newRow("quotes, commas, tabs and lines")
             << view(R"({"kind":"table","columns":["Name, place","Said"],"rows":[
                 ["Ann \u0022Annie\u0022 Lee","yes,\nthen no"],["\u0022Bo\u0022","a\tb"],["Кот, «Мурка»",""]]})")
