@@ -55,6 +55,14 @@ private Q_SLOTS:
         QVERIFY(reply[u"reply"_s][u"text"_s].toString().endsWith(u"(/team/x)"));
     }
 
+    /// The art that is chosen, and that of the scene, which may be another.
+    void artAndScene() {
+        const QJsonObject reply = explained(QByteArray(
+            R"({"view":{"kind":"hbar","points":["Ann: 5"]},"question":"who is busy?"})"));
+        QCOMPARE(reply.value(u"art"_s), u"workload"_s);
+        QCOMPARE(reply[u"scene"_s][u"art"_s], u"costs"_s);
+    }
+
     void everyFieldOfAScene() {
         const QJsonObject reply = explained(QByteArray(R"({"view":{"kind":"line","series":[
             {"name":"Balance","points":[1,2]}]}})")

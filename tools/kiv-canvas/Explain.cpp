@@ -132,8 +132,7 @@ void writeCanvas(JsonText &json, const canvas::ViewSpec &spec,
     json.key(u"spec");
     writeSpec(json, spec);
     const auto scene = canvas::SceneAdapter::vals(spec, intent);
-    json.member(u"art",
-                scene ? std::optional(scene->art) : canvas::CanvasEngine::artForSpec(spec, intent));
+    json.member(u"art", canvas::CanvasEngine::artForSpec(spec, intent));
     json.key(u"scene");
     if (scene)
         writeScene(json, *scene);
