@@ -74,7 +74,9 @@ private Q_SLOTS:
         QCOMPARE(reply[u"spec"_s][u"title"_s], QJsonValue());
         const QJsonObject bars = explained(QByteArray(R"({"text":"- a: 1\n- b: 2"})"));
         QCOMPARE(bars[u"scene"_s][u"coRows"_s][1][u"color"_s], u"blue"_s);
-        const QJsonObject table = explained(QByteArray(R"({"text":"a|b\n---|---\nx|1"})"));
+        const QJsonObject table =
+            explained(QByteArray(R"({"text":"a|b\n---|---\nx|1\nOPTIONS: y | z"})"));
+        QCOMPARE(table[u"scene"_s][u"cpRows"_s].toArray().size(), 1);
         QCOMPARE(table[u"scene"_s][u"cpRows"_s][0][u"numeric"_s],
                  (QJsonArray{true, false, false, false}));
     }

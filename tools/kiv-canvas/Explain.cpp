@@ -5,6 +5,7 @@
 #include "SpecJson.h"
 #include "base/Json.h"
 #include "canvas/AnswerBlock.h"
+#include "canvas/AnswerReading.h"
 #include "canvas/ArtChoice.h"
 #include "canvas/CanvasIntents.h"
 #include "canvas/ReplyOptions.h"
@@ -144,11 +145,13 @@ void writeAnswer(JsonText &json, const Request &request, const QUrl &baseUrl) {
     const auto intent =
         request.question ? canvas::CanvasIntents::classify(*request.question) : std::nullopt;
     const auto answer = canvas::CanvasEngine::extractViewSpec(request.text, request.view);
+    // An options line below a table is no row of it.
+    const auto spec = canvas::readAnswer(request.text, request.view, request.replies).spec;
     json.beginObject();
     json.member(u"intent", intent);
     json.member(u"text", answer.text);
-    if (answer.spec) {
-        writeCanvas(json, *answer.spec, intent);
+    if (spec) {
+        writeCanvas(json, *spec, intent);
     } else {
         for (const QStringView name : {u"spec", u"art", u"scene"}) {
             json.key(name);
