@@ -16,9 +16,10 @@ namespace {
 
 using Points = QList<ViewSpec::Point>;
 
+/// "Cash in", not "Balance in $".
 const Regex &inName() {
     static const Regex words(
-        u"\\bin\\b|inflow|income|revenue|receipt|earn|приход|поступ|доход|выруч",
+        u"^in\\b|\\bin\\s*(?:$|[,(])|inflow|income|revenue|receipt|earn|приход|поступ|доход|выруч",
         Regex::CaseInsensitive);
     return words;
 }
@@ -83,10 +84,10 @@ CashflowSeries::CashflowSeries(const ViewSpec &spec) : m_unit(spec.unit.value_or
         series.append({QString(), spec.points});
     const bool severalGiven = series.size() > 1;
     if (severalGiven) {
+        if (const auto out = take(series, outName())) // "Cost of revenue"
+            m_out = out->points;
         if (const auto in = take(series, inName()))
             m_in = in->points;
-        if (const auto out = take(series, outName()))
-            m_out = out->points;
     }
     if (const auto balance = take(series, balanceName())) {
         m_balance = balance->points;

@@ -138,8 +138,9 @@ private Q_SLOTS:
 
     void cashflow() {
         const auto scene = drawn("cashflow", R"({"kind":"line","series":[
-            {"name":"Costs","points":[{"label":"Jan","value":-50},{"label":"Feb","value":30}]},
-            {"name":"Balance","points":[{"label":"Jan","value":100,"display":"$100"},
+            {"name":"Cost of income in $",
+                "points":[{"label":"Jan","value":-50},{"label":"Feb","value":30}]},
+            {"name":"Balance in $","points":[{"label":"Jan","value":100,"display":"$100"},
                 {"label":"Mar","value":-20}]},
             {"name":"Income","points":[{"label":"Jan","value":80},{"label":"Feb","value":80}]}]})");
         QVERIFY(scene);
