@@ -57,6 +57,13 @@ bool isRow(const ProseLine &line) {
     return !line.isCode && line.text.contains(u'|');
 }
 
+/// A line that only draws, such as a further divider among the rows.
+bool isRule(const ProseLine &line) {
+    return line.text.contains(u"---") && std::ranges::all_of(line.text, [](QChar c) {
+               return c.isSpace() || c == u'|' || c == u'-' || c == u':';
+           });
+}
+
 /// A header and the divider under it with as many cells.
 std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype index) {
     static const Regex dividerStart(u"^\\s*\\|?\\s*:?-{3,}");
@@ -77,6 +84,8 @@ Table tableOf(const QStringList &columns, const QList<ProseLine> &lines, qsizety
               qsizetype last) {
     Table table{columns, {}, first, last};
     for (qsizetype i = first + 2; i < last; ++i) {
+        if (isRule(lines.at(i)))
+            continue;
         QStringList row = cellsOf(lines.at(i).text).mid(0, columns.size());
         while (row.size() < columns.size())
             row.append(QString());
@@ -96,8 +105,11 @@ std::optional<Table> firstTable(const QList<ProseLine> &lines) {
         qsizetype end = rows;
         while (end < lines.size() && isRow(lines.at(end)))
             ++end;
-        if (end > rows && (end - rows) * columns->size() <= mostCells)
-            return tableOf(*columns, lines, i, end);
+        if ((end - rows) * columns->size() <= mostCells) {
+            Table table = tableOf(*columns, lines, i, end);
+            if (!table.rows.isEmpty())
+                return table;
+        }
         i = end - 1;
     }
     return std::nullopt;

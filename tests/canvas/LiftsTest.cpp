@@ -163,7 +163,12 @@ private Q_SLOTS:
         row("second table when the first is code",
             u"~~~\n| a | b |\n|---|---|\n| x | 7 |\n~~~\n| c | d |\n|---|---|\n| x | y |"_s,
             u"table"_s, u"~~~\n| a | b |\n|---|---|\n| x | 7 |\n~~~"_s);
+        row("rules between rows",
+            u"| a | b |\n|---|---|\n| x | 7 |\n| --- | :-: |\n|---|\n| y | 9 |"_s,
+            u"hbar “b” x=7 y=9"_s, QString());
         row("no rows", u"| a | b |\n|---|---|\n"_s, QString(), u"| a | b |\n|---|---|"_s);
+        row("rules alone", u"| a | b |\n|---|---|\n|---|---|"_s, QString(),
+            u"| a | b |\n|---|---|\n|---|---|"_s);
         row("widths differ", u"a | b\n---\nx | 1"_s, QString(), u"a | b\n---\nx | 1"_s);
         row("underlined heading", u"Heading\n---\nx | 1"_s, QString(), u"Heading\n---\nx | 1"_s);
         row("one column", u"| a |\n|---|\n| x |"_s, QString(), u"| a |\n|---|\n| x |"_s);
