@@ -66,11 +66,11 @@ bool isRule(const ProseLine &line) {
 
 /// A header and the divider under it with as many cells.
 std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype index) {
-    static const Regex dividerStart(u"^\\s*\\|?\\s*:?-{3,}");
+    static const Regex dividerStart(u"^\\|?\\s*:?-{3,}");
     const ProseLine &header = lines.at(index);
     const ProseLine &divider = lines.at(index + 1);
     if (header.isCode || divider.isCode || header.indent() > deepestIndent ||
-        !header.text.contains(u'|') || !dividerStart.contains(divider.text))
+        !header.text.contains(u'|') || !dividerStart.contains(divider.text.trimmed()))
         return std::nullopt;
     const QStringList marks = cellsOf(divider.text);
     if (!std::all_of(marks.begin(), marks.end(), isDivider))

@@ -49,6 +49,7 @@ QList<std::pair<QByteArray, QString>> hostileAnswers() {
         repeated(u"|a"_s).first(length / 2) + u'\n' + repeated(u"|---"_s).first(length / 2));
     add("wide and long table", u"|a"_s.repeated(5000) + u'\n' + u"|---"_s.repeated(5000) + u'\n' +
                                    u"|\n"_s.repeated(5000));
+    add("blank divider", u"a|b --- c\n"_s + QString(100'000, u' ') + u'x');
     add("many wide tables", repeated(u"|a"_s.repeated(200) + u'\n' + u"|---"_s.repeated(200) +
                                      u'\n' + u"|\n"_s.repeated(600) + u'\n'));
     add("rows of unlike length", u"```view\n{\"kind\":\"table\",\"columns\":[\"a\"],\"rows\":[["_s +
