@@ -82,14 +82,12 @@ QList<Line> linesOf(const ViewSpec &spec) {
     return lines;
 }
 
-std::optional<BgRow> rowOf(const Line &line, double scale) {
+BgRow rowOf(const Line &line, double scale) {
     const double plan = line.plan.value_or(0);
-    const auto deviation = wholePercent(plan > 0 ? (line.actual - plan) / plan * 100 : 0);
-    if (!deviation)
-        return std::nullopt;
+    const double deviation = plan > 0 ? std::round((line.actual - plan) / plan * 100) : 0;
     const bool over = line.plan && line.actual > plan * tolerance;
-    const QString delta =
-        (*deviation >= 1 ? u"+"_s : QString()) + QString::number(*deviation) + u'%';
+    const QString size = QString::number(deviation == 0 ? 0 : deviation, 'f', 0); // never "-0"
+    const QString delta = (deviation >= 1 ? u"+"_s : QString()) + size + u'%';
     return BgRow{.name = line.name,
                  .plan = line.planText,
                  .actual = line.actualText,
@@ -111,12 +109,8 @@ std::optional<SceneOut> buildBudget(const ViewSpec &spec) {
     for (const Line &line : lines)
         scale = std::max({scale, line.plan.value_or(0), line.actual});
     SceneOut scene;
-    for (const Line &line : lines) {
-        if (const auto row = rowOf(line, scale))
-            scene.bgRows.append(*row);
-    }
-    if (scene.bgRows.isEmpty())
-        return std::nullopt;
+    for (const Line &line : lines)
+        scene.bgRows.append(rowOf(line, scale));
     scene.countLine = QString::number(scene.bgRows.size()) + u" lines · from the answer"_s;
     scene.insight = u"Bars follow plan vs actual in the answer."_s;
     return scene;

@@ -1,6 +1,9 @@
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
 
+#include <cmath>
+#include <limits>
+
 namespace kiv::canvas {
 
 using namespace Qt::StringLiterals;
@@ -13,18 +16,19 @@ SceneColor colorOf(int percent) {
     return percent < 90 ? SceneColor::Green : SceneColor::Amber;
 }
 
+/// Everybody with a name and a figure has a row, whatever the figure is.
 std::optional<WlRow> rowOf(const ViewSpec::Point &point) {
     const QString name = point.label.trimmed();
-    if (name.isEmpty() || !isDrawable(point.value) || *point.value < 0)
+    const double value = point.value.value_or(NAN);
+    const double percent = std::round(value > 0 && value <= 1 ? value * 100 : value);
+    constexpr int most = std::numeric_limits<int>::max();
+    if (name.isEmpty() || !(std::abs(percent) <= most))
         return std::nullopt;
-    const bool isFraction = *point.value > 0 && *point.value <= 1;
-    const auto percent = wholePercent(isFraction ? *point.value * 100 : *point.value);
-    if (!percent)
-        return std::nullopt;
+    const int whole = static_cast<int>(percent);
     return WlRow{.name = name,
                  .role = point.hint.value_or(QString()),
-                 .pct = *percent,
-                 .color = colorOf(*percent)};
+                 .pct = whole,
+                 .color = colorOf(whole)};
 }
 
 } // namespace

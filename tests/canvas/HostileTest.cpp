@@ -94,7 +94,7 @@ private Q_SLOTS:
         const auto spec = CanvasEngine::spec(*json, u"k"_s);
         QVERIFY(spec);
         for (const QString &art : {u"status"_s, u"funnel"_s, u"unit"_s, u"costs"_s, u"cashflow"_s,
-                                   u"okr"_s, u"workload"_s, u"budget"_s})
+                                   u"okr"_s, u"budget"_s})
             QVERIFY2(!SceneAdapter::build(*spec, std::nullopt, art), qPrintable(art));
     }
 };

@@ -105,6 +105,9 @@ private Q_SLOTS:
         QTest::newRow("100.4") << 100.4 << 100 << SceneColor::Amber;
         QTest::newRow("130") << 130.0 << 130 << SceneColor::Red;
         QTest::newRow("0") << 0.0 << 0 << SceneColor::Green;
+        QTest::newRow("-5") << -5.0 << -5 << SceneColor::Green;
+        QTest::newRow("1e-12") << 1e-12 << 0 << SceneColor::Green;
+        QTest::newRow("2 million") << 2e6 << 2'000'000 << SceneColor::Red;
     }
     void workload() {
         QFETCH(double, value);
@@ -120,7 +123,8 @@ private Q_SLOTS:
     }
 
     void workloadNeedsTwo() {
-        QVERIFY(!drawn("workload", block("bar", R"(["Ann: 50",{"label":" ","value":5},"Bob"])")));
+        QVERIFY(!drawn("workload", block("bar", R"(["Ann: 50",{"label":" ","value":5},
+            {"label":"Cy","value":1e300},"Bob"])")));
         QCOMPARE(drawn("workload", R"({"kind":"kpi","items":["Ann: 50","Bob: 60"]})")->countLine,
                  u"2 people · from the answer"_s);
     }
@@ -136,6 +140,9 @@ private Q_SLOTS:
             {"label":"d","value":50,"target":200},{"label":"e","value":-1,"target":5}])"),
             {u"a 100/110 +10% 1 50"_s, u"b 100/111 +11% 0 50"_s, u"c 0/5 0% 0 0"_s,
              u"d 200/50 -75% 1 100"_s});
+        row("far over plan", block("bar", R"([{"label":"a","value":1000,"target":0.01},
+                {"label":"b","value":199.9,"target":200}])"),
+            {u"a 0.01/1\u202f000 +9999900% 0 0.001"_s, u"b 200/199.9 0% 1 20"_s});
         row("a line without a plan",
             block("bar", R"([{"label":"a","value":7},{"label":"b","value":2,"target":4}])"),
             {u"a /7  1 0"_s, u"b 4/2 -50% 1 57.1429"_s});

@@ -38,7 +38,7 @@ SceneRow {
         width: load.x - 24 - x
         height: 14
         anchors.verticalCenter: parent.verticalCenter
-        value: row.modelData.pct / 100
+        value: Math.max(0, row.modelData.pct) / 100
         fill: row.colors.base
         grown: row.grown
     }
