@@ -22,6 +22,7 @@ private Q_SLOTS:
     void accountFollowsTheSession();
     void panelsByKeys();
     void keysWinOverTheField();
+    void dialogsKeepTheKeys();
     void editing();
     void newChatAndOverseer();
     void signInByKeys();
@@ -122,6 +123,27 @@ void MenuTest::keysWinOverTheField() {
              u"This Mac cannot make voice calls — check microphone access."_s);
     QVERIFY(!m_gallery->find(u"toast:1"_s));
     QCOMPARE(m_workspace->store->call()->callHint(), QString());
+}
+
+/// What lies behind a dialog is left as it is; the window itself can be dealt with.
+void MenuTest::dialogsKeepTheKeys() {
+    open();
+    m_gallery->click(u"askField"_s);
+    m_gallery->type(u"half a thought"_s);
+    m_gallery->commands().perform(Command::NewAgent);
+    m_gallery->item(u"template:empty"_s);
+    const QQuickItem *focused = m_gallery->window().activeFocusItem();
+    for (const Qt::Key key : {Qt::Key_K, Qt::Key_J, Qt::Key_Backslash, Qt::Key_N})
+        m_gallery->press(key, Qt::ControlModifier);
+    QCOMPARE(m_gallery->window().activeFocusItem(), focused);
+    QVERIFY(!layout().dockOpen() && !layout().railCollapsed());
+    QCOMPARE(m_workspace->store->chat()->draft(), u"half a thought"_s);
+    m_gallery->press(Qt::Key_F11);
+    QTRY_COMPARE(m_gallery->window().visibility(), QWindow::FullScreen);
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(!m_gallery->find(u"template:empty"_s));
+    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
+    QVERIFY(layout().dockOpen());
 }
 
 void MenuTest::editing() {

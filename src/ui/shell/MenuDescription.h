@@ -45,6 +45,23 @@ inline bool isEditing(Command command) {
     return command >= Command::Undo && command <= Command::SelectAll;
 }
 
+/// Whether a command is about the window or the program as a whole, whatever shows in it.
+inline bool isOfWindow(Command command) {
+    switch (command) {
+    case Command::Hide:
+    case Command::HideOthers:
+    case Command::ShowAll:
+    case Command::Quit:
+    case Command::CloseWindow:
+    case Command::FullScreen:
+    case Command::Minimize:
+    case Command::Zoom:
+        return true;
+    default:
+        return false;
+    }
+}
+
 /// One line of a menu; a separator has no title.
 struct MenuEntry {
     Q_GADGET

@@ -2,8 +2,28 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QQuickItem>
 
 namespace kiv::ui {
+
+namespace {
+
+/// Whether a popup shows that everything else in the window waits for.
+bool isWaiting(const QQuickWindow &window) {
+    const QList<QQuickItem *> layers = window.contentItem()->childItems();
+    for (const QQuickItem *layer : layers) {
+        if (!layer->inherits("QQuickOverlay"))
+            continue;
+        const QList<QQuickItem *> popups = layer->childItems();
+        for (const QQuickItem *item : popups) {
+            if (item->isVisible() && item->parent() && item->parent()->property("modal").toBool())
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 MenuKeys::MenuKeys(QObject *parent) : QObject(parent) {
     QCoreApplication::instance()->installEventFilter(this);
@@ -46,7 +66,9 @@ Command MenuKeys::commandOf(const QKeyEvent &event) const {
     if (!m_window || QGuiApplication::focusWindow() != m_window)
         return Command::None;
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    return m_keys.value(QKeyCombination(modifiers, Qt::Key(event.key())), Command::None);
+    const Command command =
+        m_keys.value(QKeyCombination(modifiers, Qt::Key(event.key())), Command::None);
+    return isOfWindow(command) || !isWaiting(*m_window) ? command : Command::None;
 }
 
 } // namespace kiv::ui

@@ -3,20 +3,20 @@
 #include "ui/shell/Commands.h"
 
 #include <QHash>
-#include <QWindow>
+#include <QQuickWindow>
 
 class QKeyEvent;
 
 namespace kiv::ui {
 
 /// The keys of the main menu. They win over fields that know the same keys as editing keys, such
-/// as Ctrl+K.
+/// as Ctrl+K. While a dialog waits for an answer, only those of the window and the program count.
 class MenuKeys : public QObject {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(kiv::ui::Commands *commands READ commands WRITE setCommands REQUIRED)
     /// The window whose keys these are.
-    Q_PROPERTY(QWindow *window MEMBER m_window)
+    Q_PROPERTY(QQuickWindow *window MEMBER m_window)
 public:
     explicit MenuKeys(QObject *parent = nullptr);
 
@@ -33,7 +33,7 @@ private:
 
     Commands *m_commands = nullptr;
     QHash<QKeyCombination, Command> m_keys;
-    QWindow *m_window = nullptr;
+    QQuickWindow *m_window = nullptr;
 };
 
 } // namespace kiv::ui
