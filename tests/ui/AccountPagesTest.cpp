@@ -85,6 +85,9 @@ void AccountPagesTest::document() {
     QTRY_VERIFY(m_gallery->hasFocus(u"documentText"_s));
     m_gallery->type(u"We ship on Thursdays."_s);
     QCOMPARE(text(u"documentLength"_s), u"21 of 20,000 characters"_s);
+    // The tab key leads on to what can be done with it.
+    m_gallery->press(Qt::Key_Tab);
+    QVERIFY(m_gallery->hasFocus(u"discardDocument"_s));
     // Back in the list it is still there, and not saved.
     m_gallery->press(Qt::Key_Escape);
     QTRY_VERIFY(m_gallery->find(u"shared_md"_s));

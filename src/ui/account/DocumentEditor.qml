@@ -27,7 +27,7 @@ Rectangle {
     onVisibleChanged: {
         reading = false
         if (visible)
-            area.forceActiveFocus(Qt.OtherFocusReason)
+            writing.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     IconButton {
@@ -60,11 +60,11 @@ Rectangle {
         onPicked: index => {
             editor.reading = index === 1
             if (!editor.reading)
-                area.forceActiveFocus(Qt.OtherFocusReason)
+                writing.forceActiveFocus(Qt.OtherFocusReason)
         }
     }
-    WritingArea {
-        id: area
+    TextArea {
+        id: writing
 
         x: 24
         y: 64
@@ -73,14 +73,15 @@ Rectangle {
         visible: !editor.reading
         failed: editor.value.state === Store.SaveState.Failed || editor.tooLong
         label: editor.title
-        text: editor.value.text
-        onEdited: text => editor.value.edit(text)
+        area.objectName: "documentText"
+        area.text: editor.value.text
+        area.onTextChanged: if (area.text !== editor.value.text) editor.value.edit(area.text)
     }
     DocumentPreview {
-        x: area.x
-        y: area.y
-        width: area.width
-        height: area.height
+        x: writing.x
+        y: writing.y
+        width: writing.width
+        height: writing.height
         visible: editor.reading
         text: editor.reading ? editor.value.text : ""
         calendar: editor.calendar
@@ -89,16 +90,16 @@ Rectangle {
         id: reason
 
         x: 24
-        y: area.y + area.height + 6
-        width: area.width
+        y: writing.y + writing.height + 6
+        width: writing.width
         text: editor.value.error
     }
     Item {
         id: foot
 
         x: 24
-        y: area.y + area.height + (reason.visible ? reason.height + 6 : 0) + 14
-        width: area.width
+        y: writing.y + writing.height + (reason.visible ? reason.height + 6 : 0) + 14
+        width: writing.width
         height: Tokens.fit(36)
 
         Label {

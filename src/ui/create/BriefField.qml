@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Tokens
 
@@ -8,8 +7,8 @@ Item {
     id: form
 
     required property string label
-    property bool failed: false
-    property alias area: area
+    property alias failed: frame.failed
+    property alias area: frame.area
 
     Label {
         id: heading
@@ -17,43 +16,12 @@ Item {
         style: Tokens.type.smallMedium
         text: form.label
     }
-    Rectangle {
+    TextArea {
+        id: frame
+
         y: heading.height + 6
         width: parent.width
         height: parent.height - y
-        radius: Tokens.radiusControl
-        color: area.enabled ? Tokens.surface : Tokens.sunken
-        border.width: form.failed || area.activeFocus ? 2 : 1
-        border.color: form.failed ? Tokens.danger : area.activeFocus ? Tokens.focus : Tokens.control
-
-        Flickable {
-            anchors.fill: parent
-            anchors.margins: 2
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            flickDeceleration: Tokens.flickDeceleration
-
-            T.ScrollBar.vertical: ScrollBar {}
-
-            T.TextArea.flickable: T.TextArea {
-                id: area
-
-                leftPadding: 10
-                rightPadding: 14
-                topPadding: 8
-                bottomPadding: 8
-                font.family: Tokens.family
-                font.pixelSize: Tokens.type.body.size
-                color: enabled ? Tokens.t1 : Tokens.tDisabled
-                selectionColor: Tokens.selection
-                selectedTextColor: Tokens.t1
-                selectByMouse: true
-                textFormat: TextEdit.PlainText
-                wrapMode: TextEdit.Wrap
-                Accessible.name: form.label
-                Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-                Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-            }
-        }
+        label: form.label
     }
 }
