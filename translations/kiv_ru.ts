@@ -1401,6 +1401,10 @@
         <source>Try again</source>
         <translation>Повторить</translation>
     </message>
+    <message>
+        <source>Open %1, %2</source>
+        <translation>Открыть: %1, %2</translation>
+    </message>
 </context>
 <context>
     <name>MessageTail</name>

@@ -1,5 +1,7 @@
 // Where the links of messages may lead, and what the person sees of it.
 
+#include "text/BlockLinks.h"
+#include "text/MDParser.h"
 #include "text/WebLink.h"
 
 #include <QTest>
@@ -79,6 +81,19 @@ private Q_SLOTS:
     void disguises() {
         QFETCH(QString, link);
         QTEST(linkTarget(link), "target");
+    }
+
+    void ofBlocks() {
+        const QList<MDBlock> blocks = MDParser::parse(
+            u"# [One](https://a.example/1)\n\n- a [**t**wo](https://a.example/2)\n- plain\n\n"
+            "> [again](https://a.example/1)\n\n```\n[code](https://a.example/c)\n```\n\n"
+            "|a|\n|-|\n|[three](/team/ferry)|\n\n1. [no](javascript:x) [four](mailto:a@b.example)"_s);
+        const QList<BlockLink> all{{u"One"_s, u"https://a.example/1"_s},
+                                   {u"two"_s, u"https://a.example/2"_s},
+                                   {u"three"_s, u"/team/ferry"_s},
+                                   {u"four"_s, u"mailto:a@b.example"_s}};
+        QCOMPARE(linksOf(blocks, 8), all);
+        QCOMPARE(linksOf(blocks, 2), all.first(2));
     }
 };
 

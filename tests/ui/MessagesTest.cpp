@@ -20,6 +20,7 @@ private Q_SLOTS:
     void pictures_data();
     void pictures();
     void messagesByKeys();
+    void linksByKeys();
     void sentByKeys();
     void copiedAsBoth();
     void conversationIsSaved_data();
@@ -106,6 +107,23 @@ void MessagesTest::messagesByKeys() {
     m_gallery->press(Qt::Key_Return);
     QTRY_COMPARE(focused(), u"askField"_s);
     QCOMPARE(stateOf(u"askField"_s), u"What is *open*?"_s);
+}
+
+/// A link names where it leads, and the keys follow it.
+void MessagesTest::linksByKeys() {
+    openDock();
+    m_workspace->row(4,
+                     u"The [bank.example](https://evil.example/x) and [the team](/team/ferry)."_s);
+    QTRY_COMPARE(m_workspace->msgs().count(), 5);
+    m_gallery->press(Qt::Key_Down);
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->hasFocus(u"copyMessageRow"_s));
+    QCOMPARE(m_gallery->item(u"messageLink:0"_s)->property("hint").toString(), u"evil.example"_s);
+    QCOMPARE(stateOf(u"messageLink:1"_s), u"the team"_s);
+    m_gallery->press(Qt::Key_Up);
+    QVERIFY(m_gallery->hasFocus(u"messageLink:1"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->find(u"pageBack"_s));
 }
 
 /// A message of ours says how it stands, and a failed one goes out again from its menu.

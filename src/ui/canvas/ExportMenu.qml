@@ -16,7 +16,7 @@ Popover {
         implicitHeight: 4 * Tokens.fit(36)
     }
 
-    Column {
+    MenuColumn {
         MenuRow {
             id: picture
 
@@ -25,46 +25,36 @@ Popover {
             iconName: "download"
             text: qsTr("Picture (PNG)")
             hint: qsTr("Ctrl E")
-            KeyNavigation.down: table
             onClicked: {
                 menu.close()
                 menu.exporter.savePicture()
             }
         }
         MenuRow {
-            id: table
-
             objectName: "saveTableRow"
             width: menu.availableWidth
             iconName: "sheet"
             text: qsTr("Table (CSV)")
-            KeyNavigation.down: copyPicture
             onClicked: {
                 menu.close()
                 menu.exporter.saveTable()
             }
         }
         MenuRow {
-            id: copyPicture
-
             objectName: "copyPictureRow"
             width: menu.availableWidth
             iconName: "image"
             text: qsTr("Copy picture")
-            KeyNavigation.down: copyTable
             onClicked: {
                 menu.close()
                 menu.exporter.copyPicture()
             }
         }
         MenuRow {
-            id: copyTable
-
             objectName: "copyTableRow"
             width: menu.availableWidth
             iconName: "copy"
             text: qsTr("Copy as table")
-            KeyNavigation.down: picture
             onClicked: {
                 menu.close()
                 menu.exporter.copyTable()

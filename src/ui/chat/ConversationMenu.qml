@@ -18,7 +18,7 @@ Popover {
         implicitHeight: 3 * Tokens.fit(36)
     }
 
-    Column {
+    MenuColumn {
         MenuRow {
             id: find
 
@@ -27,33 +27,26 @@ Popover {
             iconName: "search"
             text: qsTr("Find in the conversation")
             hint: qsTr("Ctrl F")
-            KeyNavigation.down: save
             onClicked: {
                 menu.close()
                 menu.store.find.open()
             }
         }
         MenuRow {
-            id: save
-
             objectName: "saveConversationRow"
             width: menu.availableWidth
             iconName: "download"
             text: qsTr("Save as Markdown")
-            KeyNavigation.down: copy
             onClicked: {
                 menu.close()
                 menu.exporter.save()
             }
         }
         MenuRow {
-            id: copy
-
             objectName: "copyConversationRow"
             width: menu.availableWidth
             iconName: "copy"
             text: qsTr("Copy as Markdown")
-            KeyNavigation.down: find
             onClicked: {
                 menu.close()
                 menu.exporter.copy()

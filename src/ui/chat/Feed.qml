@@ -282,7 +282,8 @@ FocusScope {
 
                 function openFor(row: feedRow) {
                     active = true;
-                    (item as MessageMenu).row = row
+                    (item as MessageMenu).row = row;
+                    (item as MessageMenu).links = feedRows.messageLinks(row.messageId)
                     open()
                 }
 

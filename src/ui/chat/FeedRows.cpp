@@ -13,6 +13,8 @@ using text::MDBlock;
 
 namespace {
 
+constexpr int mostLinks = 8;
+
 QString tabbed(const MDBlock::Table &table) {
     QStringList lines{table.header.join(u'\t')};
     for (const QStringList &row : table.rows)
@@ -258,6 +260,13 @@ QString FeedRows::messageText(const QString &messageId) const {
 QString FeedRows::messageBody(const QString &messageId) const {
     const int message = messageOf(messageId);
     return message < 0 ? QString() : field(message, MessageModel::BodyRole).toString();
+}
+
+QList<MessageLink> FeedRows::messageLinks(const QString &messageId) const {
+    if (messageOf(messageId) < 0 || tailOf(messageId).mine)
+        return {};
+    const auto found = text::linksOf(text::MDParser::blocks(messageBody(messageId)), mostLinks);
+    return {found.begin(), found.end()};
 }
 
 QString FeedRows::blockText(const QString &messageId, int block) const {

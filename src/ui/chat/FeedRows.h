@@ -2,6 +2,7 @@
 
 #include "store/Calendar.h"
 #include "store/FindRoom.h"
+#include "ui/chat/MessageLink.h"
 #include "ui/chat/MessageRows.h"
 
 #include <QAbstractListModel>
@@ -59,6 +60,8 @@ public:
     Q_INVOKABLE QString messageText(const QString &messageId) const;
     /// The words of a message as they show.
     Q_INVOKABLE QString messageBody(const QString &messageId) const;
+    /// The first links of an answer; none of what the person wrote, where a link is but words.
+    Q_INVOKABLE QList<kiv::ui::MessageLink> messageLinks(const QString &messageId) const;
     /// What copying one block of a message gives: code as it is, a table with tabs between cells.
     Q_INVOKABLE QString blockText(const QString &messageId, int block) const;
 

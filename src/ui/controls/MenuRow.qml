@@ -49,6 +49,7 @@ T.Button {
 
         anchors.verticalCenter: parent.verticalCenter
         x: row.width - width - 10
+        width: Math.min(implicitWidth, row.width / 2)
         style: Tokens.type.caption
         color: Tokens.t3
         text: row.hint
