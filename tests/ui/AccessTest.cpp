@@ -72,6 +72,8 @@ QStringList faultsOfStop(QQuickItem *stop) {
     QStringList faults;
     if (item->text(QAccessible::Name).trimmed().isEmpty())
         faults.append(u"a stop without a name: "_s + described(item));
+    if (stop->inherits("QQuickButton") && stop->metaObject()->indexOfMethod("activate()") < 0)
+        faults.append(u"a stop that Return does not press: "_s + described(item));
     const QRectF shown =
         shownPart(stop, stop->boundingRect()) & QRectF(QPointF(), stop->window()->size());
     if (!stop->isVisible() || shown.isEmpty())

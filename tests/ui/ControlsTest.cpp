@@ -15,6 +15,7 @@ class ControlsTest : public QObject {
 
 private Q_SLOTS:
     void pictures();
+    void pressedByKeys();
     void iconTakesColour();
     void tabularDigits_data();
     void tabularDigits();
@@ -32,6 +33,23 @@ void ControlsTest::pictures() {
     m_gallery.setDark(true);
     m_gallery.save(u"controls-dark"_s);
     m_gallery.setDark(false);
+}
+
+void ControlsTest::pressedByKeys() {
+    const QQuickItem *page = m_gallery.show(u"ControlsPage.qml"_s, {1120, 760});
+    QSet<QString> kinds;
+    const QList<QQuickItem *> items = page->findChildren<QQuickItem *>();
+    for (QQuickItem *item : items) {
+        if (!item->inherits("QQuickButton") || !item->isEnabled())
+            continue;
+        kinds.insert(QLatin1StringView(item->metaObject()->className()));
+        QSignalSpy clicked(item, SIGNAL(clicked()));
+        item->forceActiveFocus(Qt::TabFocusReason);
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter})
+            m_gallery.press(key);
+        QVERIFY2(clicked.size() == 3, item->metaObject()->className());
+    }
+    QCOMPARE(kinds.size(), 5);
 }
 
 void ControlsTest::iconTakesColour() {

@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // Leads to one of the account pages.
-T.Button {
+BareButton {
     id: tab
 
     required property string iconName
@@ -16,10 +15,7 @@ T.Button {
     implicitWidth: Math.ceil(words.implicitWidth) + 56
     implicitHeight: Tokens.fit(40)
     Accessible.role: Accessible.PageTab
-    Accessible.name: text
     Accessible.selected: chosen
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

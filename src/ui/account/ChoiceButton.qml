@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // Looks like a field and opens a list.
-T.Button {
+BareButton {
     id: button
 
     required property string label
@@ -19,8 +18,6 @@ T.Button {
     Accessible.name: label
     Accessible.description: text
     Keys.onDownPressed: clicked()
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Account
 import Kiv.Controls
 import Kiv.Icons
@@ -7,7 +6,7 @@ import Kiv.Store
 import Kiv.Tokens
 
 // A document of the workspace's memory; it opens its editor.
-T.Button {
+BareButton {
     id: row
 
     required property string name
@@ -21,8 +20,6 @@ T.Button {
     text: name
     Accessible.name: name
     Accessible.description: detail
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Item {
         Rectangle {

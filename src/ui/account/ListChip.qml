@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
@@ -26,7 +25,7 @@ Rectangle {
         color: Tokens.t2
         text: chip.text
     }
-    T.Button {
+    BareButton {
         id: cross
 
         objectName: "dropEntry"

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Call
 import Kiv.Controls
 import Kiv.Icons
@@ -7,7 +6,7 @@ import Kiv.Store
 import Kiv.Tokens
 
 // The call that goes on while the person is back in the window. It leads back to the call.
-T.Button {
+BareButton {
     id: pill
 
     required property CallRoom call
@@ -19,8 +18,6 @@ T.Button {
     Accessible.name: call.callHeld ? qsTr("Back to the call with %1, on hold").arg(call.callName)
         : call.callMuted ? qsTr("Back to the call with %1, muted").arg(call.callName)
         : qsTr("Back to the call with %1").arg(call.callName)
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
     onClicked: call.showCall()
 
     background: Rectangle {

@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // A round button of the call's controls: its text is the tooltip and the accessible name.
-T.Button {
+BareButton {
     id: button
 
     required property string iconName
@@ -19,10 +18,7 @@ T.Button {
 
     implicitWidth: ending ? 76 : 52
     implicitHeight: 52
-    Accessible.name: text
     Accessible.role: leadsOn ? Accessible.ButtonMenu : Accessible.Button
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: 26

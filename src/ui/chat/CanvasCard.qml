@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // Leads from a message to the scene that it carries.
-T.Button {
+BareButton {
     id: card
 
     required property string title
@@ -14,7 +13,6 @@ T.Button {
 
     implicitHeight: Tokens.fit(44)
     text: shown ? qsTr("%1, on the canvas").arg(title) : qsTr("Show %1 on the canvas").arg(title)
-    Accessible.name: text
 
     background: Rectangle {
         radius: Tokens.radiusBlock

@@ -1,12 +1,11 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Store
 import Kiv.Tokens
 
 // A file with its name and a line below it: pressed, where that does something, or taken away.
-T.Button {
+BareButton {
     id: chip
 
     required property string name

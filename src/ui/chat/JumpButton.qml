@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // Leads to the end of a feed, and says how many messages came there unseen.
-T.Button {
+BareButton {
     id: jump
 
     property int unseen: 0

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Icons
@@ -8,7 +7,7 @@ import Kiv.Tokens
 
 // Turns dictation on and off. While it is on, a ring follows how loud the person speaks.
 // A press with the other button, Alt and Down, or the menu key choose the microphone.
-T.Button {
+BareButton {
     id: button
 
     required property DictationRoom dictation
@@ -17,25 +16,17 @@ T.Button {
     readonly property bool listening: dictation.dictating
     readonly property real ring: listening ? 2 + 4 * microphone.level : 0
 
-    /// As a press of the mouse does.
-    function activate() {
-        clicked()
-    }
-
     objectName: "micButton"
     // A press leaves the cursor in the field.
     focusPolicy: Qt.TabFocus
     implicitWidth: 32
     implicitHeight: 32
     text: listening ? qsTr("Stop dictation") : qsTr("Dictate")
-    Accessible.name: text
     Accessible.description: qsTr("Alt and Down choose the microphone")
     Accessible.checkable: true
     Accessible.checked: listening
     Accessible.onPressAction: button.activate()
     Accessible.onToggleAction: button.activate()
-    Keys.onReturnPressed: button.activate()
-    Keys.onEnterPressed: button.activate()
     Keys.onMenuPressed: menu.open()
     Keys.onDownPressed: event => {
         event.accepted = event.modifiers & Qt.AltModifier

@@ -63,8 +63,6 @@ FocusScope {
                 maximumWidth: Math.min(420, replies.width)
                 text: modelData.label
                 onClicked: replies.picked(modelData)
-                Keys.onReturnPressed: clicked()
-                Keys.onEnterPressed: clicked()
             }
         }
     }

@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // The round button of the ask bar: sends what is typed, or stops the answer that is awaited.
-T.Button {
+BareButton {
     id: button
 
     property bool stopping: false
@@ -17,7 +16,6 @@ T.Button {
     implicitWidth: size
     implicitHeight: size
     text: stopping ? qsTr("Stop the answer") : qsTr("Send")
-    Accessible.name: text
 
     background: Rectangle {
         radius: width / 2

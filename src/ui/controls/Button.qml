@@ -1,12 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // A button with a label, in one of five weights.
-T.Button {
+BareButton {
     id: button
 
     enum Kind { Quiet, Secondary, Main, Danger, DangerFilled }
@@ -27,9 +27,6 @@ T.Button {
     implicitWidth: Math.ceil(row.implicitWidth) + leftPadding + rightPadding
     implicitHeight: Tokens.fit(size === Button.Small ? 32 : size === Button.Large ? 44 : 36)
     horizontalPadding: size === Button.Small ? 12 : 14
-    Accessible.name: text
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

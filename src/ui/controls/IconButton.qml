@@ -1,12 +1,12 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // A button that is an icon: its text is the tooltip and the accessible name.
-T.Button {
+BareButton {
     id: button
 
     required property string iconName
@@ -17,18 +17,8 @@ T.Button {
     property int badge: 0
     property color color: !enabled ? Tokens.tDisabled : active ? Tokens.accentText : hovered ? Tokens.t1 : Tokens.t2
 
-    /// As a press of the mouse does.
-    function activate() {
-        if (checkable)
-            toggle()
-        clicked()
-    }
-
     implicitWidth: size
     implicitHeight: size
-    Accessible.name: text
-    Keys.onReturnPressed: button.activate()
-    Keys.onEnterPressed: button.activate()
 
     contentItem: Item {
         Icon {

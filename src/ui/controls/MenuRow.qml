@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // One command of a menu.
-T.Button {
+BareButton {
     id: row
 
     property string iconName: ""
@@ -13,10 +13,7 @@ T.Button {
 
     implicitWidth: 200
     implicitHeight: Tokens.fit(36)
-    Accessible.name: text
     Accessible.role: Accessible.MenuItem
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         radius: Tokens.radiusControl

@@ -1,17 +1,15 @@
 import QtQuick
-import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Tokens
 
 // A question or an answer that one click sends.
-T.Button {
+BareButton {
     id: chip
 
     property int maximumWidth: 420
 
     implicitWidth: Math.min(caption.implicitWidth + 26, maximumWidth)
     implicitHeight: Tokens.fit(32)
-
-    Accessible.name: text
 
     background: Rectangle {
         radius: height / 2

@@ -1,9 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
+import Kiv.Controls
 import Kiv.Tokens
 
 // A command that looks like a link.
-T.Button {
+BareButton {
     id: link
 
     property TypeStyle style: Tokens.type.captionMedium
@@ -12,7 +12,6 @@ T.Button {
 
     implicitWidth: caption.implicitWidth
     implicitHeight: caption.implicitHeight + bottomPadding
-    Accessible.name: text
     Accessible.role: Accessible.Link
 
     Label {

@@ -34,8 +34,6 @@ Item {
         text: form.chosenTitle
         Accessible.name: qsTr("Project: %1").arg(text)
         onClicked: popover.open()
-        Keys.onReturnPressed: popover.open()
-        Keys.onEnterPressed: popover.open()
         Keys.onDownPressed: popover.open()
 
         Popover {

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
@@ -12,7 +11,7 @@ Item {
 
     implicitHeight: 34
 
-    T.Button {
+    BareButton {
         id: button
 
         objectName: "copyCode"
@@ -22,7 +21,6 @@ Item {
         implicitWidth: Math.ceil(words.implicitWidth) + 37
         implicitHeight: 26
         text: timer.running ? qsTr("Copied") : qsTr("Copy")
-        Accessible.name: text
         onClicked: {
             head.copyRequested()
             timer.restart()

@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Shell
 import Kiv.Tokens
 
 // The program's mark and name, which open the main menu.
-T.Button {
+BareButton {
     id: button
 
     required property Commands commands
@@ -19,7 +18,6 @@ T.Button {
     implicitWidth: word.x + word.width + 8
     implicitHeight: 36
     text: qsTr("Main menu")
-    Accessible.name: text
     Accessible.role: Accessible.ButtonMenu
     onClicked: toggle()
 

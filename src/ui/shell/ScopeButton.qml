@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Icons
@@ -7,7 +6,7 @@ import Kiv.Store
 import Kiv.Tokens
 
 // Shows who the conversation is with and opens the list of everybody.
-T.Button {
+BareButton {
     id: button
 
     required property AppStore store
@@ -22,7 +21,6 @@ T.Button {
     implicitHeight: Tokens.fit(36)
     enabled: scope.auth === Store.AuthPhase.SignedIn
     text: scope.scopeDetail === "" ? scope.scopeName : qsTr("%1, %2").arg(scope.scopeName).arg(scope.scopeDetail)
-    Accessible.name: text
     Accessible.role: Accessible.ButtonMenu
     onClicked: store.layout.toggleTopScope()
 

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Call
 import Kiv.Controls
 import Kiv.Shell
@@ -150,7 +149,7 @@ FocusScope {
                 color: Tokens.line
             }
         }
-        T.Button {
+        BareButton {
             id: person
 
             objectName: "profileButton"
@@ -158,7 +157,6 @@ FocusScope {
             implicitWidth: 32
             implicitHeight: 36
             text: qsTr("Profile of %1").arg(bar.store.scope.userName)
-            Accessible.name: text
             onClicked: bar.store.layout.toggleProfile()
 
             background: Item {

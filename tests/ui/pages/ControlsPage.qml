@@ -18,6 +18,7 @@ Rectangle {
             Button { kind: Button.Main; busy: true; text: "Signing in" }
             Button { text: "Refine"; iconName: "refine"; size: Button.Small }
             Button { text: "Focus"; FocusRing {} }
+            TextLink { text: "Show message" }
         }
         Row {
             spacing: 12
