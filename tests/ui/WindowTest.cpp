@@ -168,6 +168,16 @@ void WindowTest::railByKeys() {
     m_gallery->press(Qt::Key_Return);
     QTRY_COMPARE(m_workspace->store->scope()->project(), u"lantern"_s);
     QVERIFY(m_gallery->hasFocus(u"navigator"_s));
+    // Right opens, Left closes, and neither undoes itself.
+    QTRY_VERIFY(m_gallery->item(u"railRow:lantern"_s)->property("selected").toBool());
+    const auto isOpenAfter = [this](Qt::Key key) {
+        m_gallery->press(key);
+        return m_gallery->item(u"railRow:lantern"_s)->property("expanded").toBool();
+    };
+    for (int press = 0; press < 2; ++press)
+        QVERIFY(isOpenAfter(Qt::Key_Right));
+    for (int press = 0; press < 2; ++press)
+        QVERIFY(!isOpenAfter(Qt::Key_Left));
 }
 
 void WindowTest::scopeBySearch() {

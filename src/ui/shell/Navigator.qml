@@ -24,6 +24,13 @@ ListView {
             && (event.modifiers & ~Qt.ShiftModifier) === 0
     }
 
+    /// Opens the project that the keys are at, or closes it.
+    function expand(open: bool) {
+        const row = currentItem as NavigatorRow
+        if (row && row.expanded !== open)
+            row.toggled()
+    }
+
     objectName: "navigator"
     model: scope.rail
     topMargin: 12
@@ -48,8 +55,8 @@ ListView {
     Keys.onReturnPressed: (currentItem as NavigatorRow)?.clicked()
     Keys.onEnterPressed: (currentItem as NavigatorRow)?.clicked()
     Keys.onSpacePressed: (currentItem as NavigatorRow)?.clicked()
-    Keys.onRightPressed: (currentItem as NavigatorRow)?.toggled()
-    Keys.onLeftPressed: (currentItem as NavigatorRow)?.toggled()
+    Keys.onRightPressed: expand(true)
+    Keys.onLeftPressed: expand(false)
 
     T.ScrollBar.vertical: ScrollBar {}
 

@@ -23,6 +23,7 @@ T.ItemDelegate {
     text: name
     Accessible.name: detail === "" ? name : qsTr("%1, %2").arg(name).arg(detail)
     Accessible.role: label ? Accessible.StaticText : Accessible.ListItem
+    Accessible.selected: selected
 
     background: Rectangle {
         visible: !row.label

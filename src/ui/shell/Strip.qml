@@ -74,6 +74,7 @@ FocusScope {
             text: name
             Accessible.name: name
             Accessible.role: label ? Accessible.Separator : Accessible.ListItem
+            Accessible.selected: selected
             onClicked: {
                 list.currentIndex = index
                 strip.scope.pickEntry(kind, projectId, entryId)
