@@ -666,6 +666,10 @@
         <source>Shift+Enter for a new line</source>
         <translation>Shift+Enter — новая строка</translation>
     </message>
+    <message>
+        <source>Open the folder</source>
+        <translation>Открыть папку</translation>
+    </message>
 </context>
 <context>
     <name>ChoiceEntry</name>
@@ -3206,6 +3210,10 @@
     <message>
         <source>Markdown (*.md)</source>
         <translation>Markdown (*.md)</translation>
+    </message>
+    <message>
+        <source>Conversation copied</source>
+        <translation>Разговор скопирован</translation>
     </message>
 </context>
 <context>

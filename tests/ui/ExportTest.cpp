@@ -166,6 +166,15 @@ void ExportTest::menuByKeys() {
     m_gallery->press(Qt::Key_Space);
     QTRY_VERIFY(m_gallery->hasFocus(u"savePictureRow"_s));
     m_gallery->save(u"export-menu"_s);
+    m_gallery->press(Qt::Key_Escape);
+    QTRY_VERIFY(!m_gallery->find(u"savePictureRow"_s));
+    // A second press closes what the first has opened.
+    m_gallery->click(u"exportButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"savePictureRow"_s));
+    m_gallery->click(u"exportButton"_s);
+    QTRY_VERIFY(!m_gallery->find(u"savePictureRow"_s));
+    m_gallery->press(Qt::Key_Return);
+    QTRY_VERIFY(m_gallery->hasFocus(u"savePictureRow"_s));
     m_gallery->press(Qt::Key_Down);
     m_gallery->press(Qt::Key_Down);
     QVERIFY(m_gallery->hasFocus(u"copyPictureRow"_s));

@@ -199,6 +199,13 @@ void MessagesTest::conversationIsSaved() {
     const QString text = QString::fromUtf8(saved.readAll());
     QVERIFY(text.startsWith(u"# KIV\n\n**You** · "_s));
     QVERIFY(text.contains(u"Two **things**: <a> & b."_s));
+    QTRY_VERIFY(m_gallery->find(u"toast:0"_s));
+    QCOMPARE(m_gallery->item(u"toast:0"_s)->property("words").toString(), u"Saved KIV.md"_s);
+    m_gallery->click(u"moreButton"_s);
+    m_gallery->click(u"copyConversationRow"_s);
+    QTRY_COMPARE(m_gallery->item(u"toast:1"_s)->property("words").toString(),
+                 u"Conversation copied"_s);
+    QCOMPARE(QGuiApplication::clipboard()->text(), text);
 }
 
 } // namespace kiv::ui

@@ -65,7 +65,7 @@ Row {
         text: actions.compact ? "" : qsTr("Export")
         labelColor: Tokens.t2
         Accessible.name: qsTr("Export")
-        onClicked: menu.open()
+        onClicked: menu.toggle()
 
         PopupPlace {
             id: menu
@@ -90,7 +90,7 @@ Row {
         iconName: "refine"
         text: actions.compact ? "" : qsTr("Refine")
         Accessible.name: qsTr("Refine")
-        onClicked: refine.open()
+        onClicked: refine.toggle()
 
         PopupPlace {
             id: refine

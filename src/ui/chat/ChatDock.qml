@@ -91,13 +91,15 @@ FocusScope {
             iconName: "more"
             active: menu.visible
             text: qsTr("More")
-            onClicked: menu.open()
+            onClicked: menu.visible ? menu.close() : menu.open()
 
             ConversationExport {
                 id: exporter
 
                 objectName: "conversationExport"
                 store: dock.store
+                onCopied: words => Toasts.show(words)
+                onSaved: (words, folder) => Toasts.show(words, qsTr("Open the folder"), folder)
             }
             ConversationMenu {
                 id: menu

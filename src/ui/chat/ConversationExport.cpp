@@ -15,6 +15,7 @@ ConversationExport::ConversationExport(QObject *parent) : QObject(parent) {
         if (m_store)
             m_store->chat()->showNote(reason);
     });
+    connect(&m_saver, &FileSaver::saved, this, &ConversationExport::saved);
 }
 
 void ConversationExport::save() {
@@ -27,6 +28,7 @@ void ConversationExport::save() {
 
 void ConversationExport::copy() {
     Clipboard::setMarkdown(text(), text());
+    Q_EMIT copied(tr("Conversation copied"));
 }
 
 QString ConversationExport::text() const {

@@ -26,6 +26,11 @@ public:
     Q_INVOKABLE void save();
     Q_INVOKABLE void copy();
 
+Q_SIGNALS:
+    /// Both come with words that tell it.
+    void copied(const QString &words);
+    void saved(const QString &words, const QUrl &folder);
+
 private:
     QString text() const;
 

@@ -33,7 +33,7 @@ Item {
         trailingIcon: "down"
         text: form.chosenTitle
         Accessible.name: qsTr("Project: %1").arg(text)
-        onClicked: popover.open()
+        onClicked: popover.visible ? popover.close() : popover.open()
         Keys.onDownPressed: popover.open()
 
         Popover {
