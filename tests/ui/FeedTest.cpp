@@ -39,6 +39,7 @@ class FeedTest : public GalleryTest {
 private Q_SLOTS:
     void followsItsEnd();
     void staysWhereItIsRead();
+    void restsWhileHidden();
     void jumpsToTheNewest();
     void olderComeInAtTheTop();
     void newIsMarked();
@@ -122,6 +123,37 @@ void FeedTest::staysWhereItIsRead() {
         m_gallery->window().grabWindow();
         QCOMPARE(number(feed, "contentY"), place);
     }
+}
+
+/// What grows while nobody sees it is laid out when it shows again, at the place that was read.
+void FeedTest::restsWhileHidden() {
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    fill(30);
+    wheelUp();
+    m_gallery->window().grabWindow();
+    const QQuickItem *read = driver::findItem(feed, [&](const QQuickItem &item) {
+        const double place = item.mapToItem(feed, QPointF()).y();
+        return item.inherits("QQuickTextEdit") && place >= 0 && place < feed->height() / 2;
+    });
+    QVERIFY(read);
+    const QString words = read->property("text").toString();
+    const double place = read->mapToItem(feed, QPointF()).y();
+    m_workspace->row(50, u"Begun"_s);
+    m_workspace->store->layout()->toggleRail();
+    QTRY_VERIFY(!feed->isVisible());
+    const double height = number(feed, "contentHeight");
+    for (int line = 0; line < 5; ++line) {
+        m_workspace->row(50, u"Begun. And a line more.\n\n"_s.repeated(line + 2));
+        m_gallery->window().grabWindow();
+    }
+    QCOMPARE(number(feed, "contentHeight"), height);
+    m_workspace->store->layout()->toggleRail();
+    QTRY_VERIFY(feed->isVisible());
+    QTRY_COMPARE_GT(number(feed, "contentHeight"), height);
+    m_gallery->window().grabWindow();
+    const QQuickItem *again = findText(feed, words);
+    QVERIFY(again);
+    QCOMPARE(again->mapToItem(feed, QPointF()).y(), place);
 }
 
 void FeedTest::jumpsToTheNewest() {

@@ -166,6 +166,9 @@ void FeedView::changeRows(int first, int last) {
     if (!isComponentComplete())
         return;
     for (int row = first; row <= last; ++row) {
+        // Nobody sees it: it is laid out when the view shows again.
+        if (!isVisible())
+            m_items.put(row);
         if (QQuickItem *item = m_items.find(row))
             item->setProperty("row", QVariant::fromValue(m_rows->shown(row)));
         else
@@ -220,7 +223,18 @@ FeedView::Sight FeedView::layOutSight(double until) {
     return sight;
 }
 
+void FeedView::itemChange(ItemChange change, const ItemChangeData &data) {
+    QQuickItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged && data.boolValue)
+        polish();
+}
+
 void FeedView::updatePolish() {
+    if (isVisible())
+        layOut();
+}
+
+void FeedView::layOut() {
     if (!m_flickable || !m_rows)
         return;
     m_layingOut = true;
@@ -325,7 +339,7 @@ bool FeedView::reveal(const QString &messageId) {
             moveTo(std::min(upper, end()));
         else if (lower > top() + height)
             moveTo(std::min(lower - height, end()));
-        updatePolish();
+        layOut();
     }
     return true;
 }

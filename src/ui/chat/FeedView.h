@@ -87,6 +87,7 @@ Q_SIGNALS:
 protected:
     void componentComplete() override;
     void geometryChange(const QRectF &now, const QRectF &before) override;
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
     void updatePolish() override;
 
 private Q_SLOTS:
@@ -107,6 +108,7 @@ private:
         bool isWhole = true;    ///< none was left for another frame
     };
 
+    void layOut();
     void reset();
     void insertRows(int first, int last);
     void removeRows(int first, int last);
