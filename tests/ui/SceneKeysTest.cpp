@@ -33,6 +33,7 @@ private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(u"qrc:|QML|file:"_s)); }
     void keys_data();
     void keys();
+    void columnsByKeys();
     void click();
     void tip();
     void spoken_data();
@@ -115,6 +116,31 @@ void SceneKeysTest::keys() {
     QCOMPARE(asked.last().first().toString(), chosen);
     m_view.gallery.press(Qt::Key_Tab);
     QVERIFY(m_view.gallery.hasFocus(u"showMessage"_s));
+}
+
+/// Columns beyond the width come into view, and what is cut short is told.
+void SceneKeysTest::columnsByKeys() {
+    canvas::SceneOut scene = sceneOf(answerNamed(u"compare-plain"_s));
+    scene.cpCols.append(u"Remarks"_s);
+    for (canvas::CpRow &row : scene.cpRows) {
+        row.cells.append(u"Words that no column of a table has room for, however wide it is"_s);
+        row.numeric.append(false);
+    }
+    m_view.show(scene, {}, {640, 720});
+    m_view.gallery.press(Qt::Key_Tab);
+    const QQuickItem *row = m_view.gallery.window().activeFocusItem();
+    QVERIFY(row->property("tip").toString().endsWith(u"however wide it is"_s));
+    const auto offset = [row] { return row->property("offset").toDouble(); };
+    QCOMPARE(offset(), 0);
+    m_view.gallery.press(Qt::Key_Right);
+    QVERIFY(offset() > 0);
+    for (int press = 0; press < 20; ++press)
+        m_view.gallery.press(Qt::Key_Right);
+    QVERIFY(m_view.gallery.window().activeFocusItem() == row);
+    m_view.gallery.save(u"compare-columns-end"_s);
+    for (int press = 0; press < 20; ++press)
+        m_view.gallery.press(Qt::Key_Left);
+    QCOMPARE(offset(), 0);
 }
 
 void SceneKeysTest::click() {

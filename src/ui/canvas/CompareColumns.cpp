@@ -45,6 +45,7 @@ QString CompareColumns::spoken(const canvas::CpRow &row) const {
 void CompareColumns::measure() {
     m_columns.clear();
     m_natural.clear();
+    m_isLong = false;
     const QFontMetricsF words(font());
     m_naturalName = words.horizontalAdvance(nameTitle());
     for (const canvas::CpRow &row : scene().cpRows)
@@ -71,6 +72,7 @@ void CompareColumns::measure() {
         if (!filled && column.title.isEmpty())
             continue;
         column.numeric = column.numeric && filled;
+        m_isLong = m_isLong || (!column.numeric && widest > textMost);
         if (!column.numeric)
             widest = std::min(widest, textMost);
         m_natural.append(std::ceil(widest));
@@ -112,6 +114,7 @@ void CompareColumns::layOut() {
     }
     // Shares of the room may add up to a hair more than it is.
     m_cellsWidth = std::abs(x - room) < 0.5 ? room : x;
+    m_isCut = m_isLong || give > 0 || m_cellsWidth > room;
     Q_EMIT changed();
 }
 

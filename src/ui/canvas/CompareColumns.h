@@ -31,6 +31,7 @@ class CompareColumns : public kiv::ui::SceneLayout {
     Q_PROPERTY(QString nameTitle READ nameTitle NOTIFY changed)
     Q_PROPERTY(double nameWidth READ nameWidth NOTIFY changed)
     Q_PROPERTY(double cellsWidth READ cellsWidth NOTIFY changed)
+    Q_PROPERTY(bool cut READ isCut NOTIFY changed)
     Q_PROPERTY(QList<kiv::ui::CompareColumn> columns READ columns NOTIFY changed)
 public:
     using SceneLayout::SceneLayout;
@@ -40,6 +41,8 @@ public:
     double nameWidth() const { return m_nameWidth; }
     /// All columns together; more than what is left beside the name column when they scroll.
     double cellsWidth() const { return m_cellsWidth; }
+    /// Whether words are cut short, or columns out of sight.
+    bool isCut() const { return m_isCut; }
     QList<CompareColumn> columns() const { return m_columns; }
 
     /// A row as a screen reader says it: the name, then each filled cell after its column.
@@ -55,6 +58,8 @@ private:
     double m_naturalName = 0;
     double m_nameWidth = 0;
     double m_cellsWidth = 0;
+    bool m_isLong = false; ///< some words are longer than a column may be
+    bool m_isCut = false;
 };
 
 } // namespace kiv::ui

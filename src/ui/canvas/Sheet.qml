@@ -65,7 +65,7 @@ FocusScope {
         pictured: sheet.pictured
         onPointChosen: label => sheet.pointChosen(label)
     }
-    Label {
+    FullLabel {
         id: note
 
         anchors.bottom: foot.top
@@ -77,6 +77,7 @@ FocusScope {
         wrapMode: Text.Wrap
         maximumLineCount: 2
         text: sheet.scene.insight
+        Accessible.ignored: text === ""
     }
     SheetFoot {
         id: foot

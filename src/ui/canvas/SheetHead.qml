@@ -15,20 +15,22 @@ Column {
     rightPadding: side
     spacing: 4
 
-    Label {
+    FullLabel {
         width: head.width - 2 * head.side
         visible: text !== ""
         style: Tokens.type.title
         wrapMode: Text.Wrap
         maximumLineCount: 2
         text: head.title
+        Accessible.ignored: text === ""
         Accessible.role: Accessible.Heading
     }
-    Label {
+    FullLabel {
         width: head.width - 2 * head.side
         visible: text !== ""
         style: Tokens.type.line
         color: Tokens.t2
         text: head.sub
+        Accessible.ignored: text === ""
     }
 }

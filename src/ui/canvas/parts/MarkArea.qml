@@ -17,6 +17,8 @@ Item {
     property string share: ""
     /// What the colour says, in words.
     property string tone: ""
+    /// What it tells when it is pointed at, beside value and share.
+    property string tip: label
     /// What else is said of it.
     property string note: ""
     property int ringRadius: Tokens.radiusSmall
@@ -61,7 +63,7 @@ Item {
 
         TipLoader {
             active: pointer.hovered || mark.activeFocus
-            text: mark.label
+            text: mark.tip
             keys: Figures.joined([mark.value, mark.share], " · ")
         }
     }

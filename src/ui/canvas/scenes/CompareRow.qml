@@ -14,7 +14,12 @@ SceneRow {
     required property CompareColumns layout
     required property real offset
 
+    /// The cell under the pointer, where it is cut short.
+    property string pointed: ""
+
     label: modelData.name
+    // Who goes by the keys has no pointer to ask for what is cut short.
+    tip: pointed !== "" ? pointed : activeFocus && layout.cut ? layout.spoken(modelData) : label
     Accessible.name: layout.spoken(modelData)
 
     Label {
@@ -36,6 +41,8 @@ SceneRow {
             model: row.layout.columns
 
             Label {
+                id: words
+
                 required property compareColumn modelData
 
                 readonly property string cell: row.modelData.cells[modelData.cell] ?? ""
@@ -49,6 +56,11 @@ SceneRow {
                 color: modelData.numeric ? Tokens.t1 : Tokens.t2
                 text: cell === "" ? "—" : cell
                 Accessible.ignored: true
+
+                HoverHandler {
+                    enabled: words.truncated
+                    onHoveredChanged: row.pointed = hovered ? words.cell : ""
+                }
             }
         }
     }

@@ -12,6 +12,10 @@ ArtScene {
 
     readonly property real offset: sideways.visible ? sideways.position * columns.cellsWidth : 0
 
+    function moveCells(by: real) {
+        sideways.position = Math.max(0, Math.min(1 - sideways.size, sideways.position + by / columns.cellsWidth))
+    }
+
     marks: scene.cpRows.length
 
     CompareColumns {
@@ -36,12 +40,13 @@ ArtScene {
         width: compare.inner
         height: Tokens.fit(36)
 
-        Label {
+        FullLabel {
             anchors.verticalCenter: parent.verticalCenter
             width: columns.nameWidth
             style: Tokens.type.captionStrong
             color: Tokens.t3
             text: columns.nameTitle
+            Accessible.ignored: text === ""
         }
         Item {
             x: columns.nameWidth
@@ -52,7 +57,7 @@ ArtScene {
             Repeater {
                 model: columns.columns
 
-                Label {
+                FullLabel {
                     required property compareColumn modelData
 
                     x: modelData.x - compare.offset
@@ -62,6 +67,7 @@ ArtScene {
                     style: Tokens.type.captionStrong
                     color: Tokens.t3
                     text: modelData.title
+                    Accessible.ignored: text === ""
                 }
             }
         }
@@ -81,6 +87,14 @@ ArtScene {
         art: compare
         leastRow: Tokens.fit(44)
         mostRow: 56
+        Keys.onLeftPressed: event => {
+            event.accepted = sideways.visible
+            compare.moveCells(-Tokens.fit(120))
+        }
+        Keys.onRightPressed: event => {
+            event.accepted = sideways.visible
+            compare.moveCells(Tokens.fit(120))
+        }
         model: SceneModel {
             rows: compare.scene.cpRows
         }
@@ -103,7 +117,6 @@ ArtScene {
     }
     WheelHandler {
         orientation: Qt.Horizontal
-        onWheel: event => sideways.position = Math.max(0, Math.min(1 - sideways.size,
-            sideways.position - event.angleDelta.x / columns.cellsWidth / 2))
+        onWheel: event => compare.moveCells(-event.angleDelta.x / 2)
     }
 }

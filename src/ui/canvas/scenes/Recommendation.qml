@@ -36,14 +36,13 @@ Rectangle {
             style: Tokens.type.rowTitle
             text: outcome.title
         }
-        Label {
+        FullLabel {
             visible: text !== ""
             width: parent.width
             color: Tokens.t2
             wrapMode: Text.Wrap
             maximumLineCount: 2
             text: outcome.text
-            Accessible.ignored: true
         }
     }
 }
