@@ -130,6 +130,10 @@ void SceneLayoutTest::lanesShareTheHeight() {
     QCOMPARE(layout.contentHeight(), 214);
     QCOMPARE(heights(242), (QList<double>{102, 70, 70}));
     QCOMPARE(heights(2000), (QList<double>{102, 88, 88}));
+    // Larger text makes them higher.
+    layout.setBlockHeight(60);
+    QCOMPARE(heights(100), (QList<double>{142, 76, 76}));
+    QCOMPARE(heights(2000), (QList<double>{142, 108, 108}));
 }
 
 void SceneLayoutTest::axis_data() {

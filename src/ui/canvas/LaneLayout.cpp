@@ -13,10 +13,9 @@ using canvas::WorkStatus;
 
 namespace {
 
-constexpr double laneLeast = 56;
-constexpr double laneMost = 88;
 constexpr double lanePadding = 8; ///< above the first and below the last row of blocks
-constexpr double rowStep = LaneLayout::blockHeight + 6;
+constexpr double laneSpare = 48;  ///< how much higher than a block a lane can be
+constexpr double rowGap = 6;
 constexpr double blockGap = 4; ///< between neighbours whose fractions touch
 constexpr double padding = 12;
 constexpr double tightPadding = 8;
@@ -31,10 +30,6 @@ WorkStatus statusOf(const QString &word) {
                                                   {u"todo"_s, WorkStatus::Todo},
                                                   {u"blocked"_s, WorkStatus::Blocked}};
     return words.value(word, WorkStatus::Unknown);
-}
-
-double heightOfRows(int rows) {
-    return (rows - 1) * rowStep + LaneLayout::blockHeight;
 }
 
 double signRoom(WorkStatus status) {
@@ -58,13 +53,13 @@ void placeWords(LaneBlock &block) {
 /// Finds each block its place, one after the other from the left.
 class LanePacker {
 public:
-    explicit LanePacker(int spareRows) : m_spareRows(spareRows) {}
+    LanePacker(int spareRows, double rowStep) : m_spareRows(spareRows), m_rowStep(rowStep) {}
 
     /// A block that can be shortened to `share`.
     void add(LaneBlock block, double share) {
         const qsizetype row = rowFor(block.x);
         m_rows[row] = {block.x + block.width + blockGap, block.x + share, m_blocks.size()};
-        block.y = static_cast<double>(row) * rowStep;
+        block.y = static_cast<double>(row) * m_rowStep;
         placeWords(block);
         m_blocks.append(block);
     }
@@ -108,12 +103,13 @@ private:
     }
 
     int m_spareRows;
+    double m_rowStep;
     QList<LaneBlock> m_blocks;
     QList<Row> m_rows;
 };
 
 /// The height at which lanes that are at least as high as `least` fill `room`.
-double sharedHeight(QList<double> least, double room) {
+double filledHeight(QList<double> least, double room) {
     std::sort(least.begin(), least.end());
     double below = 0; // what the lanes that are no higher than the shared height need
     double above = 0;
@@ -125,12 +121,21 @@ double sharedHeight(QList<double> least, double room) {
         if (i + 1 == least.size() || below <= least.at(i + 1))
             break;
     }
-    return std::clamp(below, laneLeast, laneMost);
+    return below;
 }
 
 } // namespace
 
+void LaneLayout::setBlockHeight(double height) {
+    if (std::exchange(m_blockHeight, height) == height)
+        return;
+    Q_EMIT blockHeightChanged();
+    layOut();
+}
+
 void LaneLayout::layOut() {
+    const double rowStep = m_blockHeight + rowGap;
+    const double laneLeast = m_blockHeight + 2 * lanePadding;
     m_lanes.clear();
     const int spareRows = rowsToSpare();
     QList<double> needed;
@@ -138,12 +143,13 @@ void LaneLayout::layOut() {
     for (const canvas::Lane &lane : scene().lanes) {
         LaneRow row{.name = lane.name, .role = lane.role};
         const int rows = pack(lane, spareRows, row.blocks);
-        needed.append(heightOfRows(rows));
-        least.append(std::max(laneLeast, needed.last() + 2 * lanePadding));
+        needed.append(rows * rowStep - rowGap);
+        least.append(needed.last() + 2 * lanePadding);
         m_lanes.append(row);
     }
     m_contentHeight = 0;
-    const double shared = sharedHeight(least, height());
+    const double shared =
+        std::clamp(filledHeight(least, height()), laneLeast, m_blockHeight + laneSpare);
     for (qsizetype i = 0; i < m_lanes.size(); ++i) {
         LaneRow &lane = m_lanes[i];
         lane.height = std::floor(std::max(shared, least.at(i)));
@@ -158,8 +164,8 @@ void LaneLayout::layOut() {
 /// How many rows each lane can have without taking more than its part of the height.
 int LaneLayout::rowsToSpare() const {
     const auto lanes = static_cast<double>(std::max<qsizetype>(1, scene().lanes.size()));
-    const double room = height() / lanes - 2 * lanePadding + rowStep - blockHeight;
-    return std::clamp(static_cast<int>(room / rowStep), 1, mostRows);
+    const double room = height() / lanes - 2 * lanePadding + rowGap;
+    return std::clamp(static_cast<int>(room / (m_blockHeight + rowGap)), 1, mostRows);
 }
 
 /// What a block needs to show its title in one line.
@@ -173,7 +179,7 @@ int LaneLayout::pack(const canvas::Lane &lane, int spareRows, QList<LaneBlock> &
     QList<canvas::LaneTask> tasks = lane.tasks;
     std::stable_sort(tasks.begin(), tasks.end(),
                      [](const auto &a, const auto &b) { return a.left < b.left; });
-    LanePacker packer(spareRows);
+    LanePacker packer(spareRows, m_blockHeight + rowGap);
     for (const canvas::LaneTask &task : std::as_const(tasks)) {
         LaneBlock block{.title = task.title, .status = statusOf(task.status)};
         const double left = std::round(task.left * width());

@@ -54,8 +54,9 @@ class LaneLayout : public kiv::ui::SceneLayout {
     QML_ELEMENT
     Q_PROPERTY(QList<kiv::ui::LaneRow> lanes READ lanes NOTIFY changed)
     Q_PROPERTY(double contentHeight READ contentHeight NOTIFY changed)
+    /// What a title needs; the lanes are as much higher.
+    Q_PROPERTY(double blockHeight READ blockHeight WRITE setBlockHeight NOTIFY blockHeightChanged)
 public:
-    static constexpr double blockHeight = 40;
     static constexpr double leastBlock = 32;
     static constexpr double signSize = 14;
 
@@ -63,6 +64,11 @@ public:
 
     QList<LaneRow> lanes() const { return m_lanes; }
     double contentHeight() const { return m_contentHeight; }
+    double blockHeight() const { return m_blockHeight; }
+    void setBlockHeight(double height);
+
+Q_SIGNALS:
+    void blockHeightChanged();
 
 protected:
     void layOut() override;
@@ -74,6 +80,7 @@ private:
 
     QList<LaneRow> m_lanes;
     double m_contentHeight = 0;
+    double m_blockHeight = 40;
 };
 
 } // namespace kiv::ui

@@ -37,7 +37,7 @@ T.ItemDelegate {
 
     Label {
         x: 12
-        y: line.gap + (36 - height) / 2
+        y: line.gap + (Tokens.fit(36) - height) / 2
         width: trailing.x - x - 8
         style: Tokens.type.line
         color: line.enabled ? Tokens.t1 : Tokens.tDisabled
@@ -48,7 +48,7 @@ T.ItemDelegate {
         id: trailing
 
         x: line.width - width - 12
-        y: line.gap + (36 - height) / 2
+        y: line.gap + (Tokens.fit(36) - height) / 2
         style: Tokens.type.caption
         color: Tokens.t3
         text: line.keys
@@ -56,7 +56,7 @@ T.ItemDelegate {
     }
     Icon {
         x: line.width - width - 10
-        y: line.gap + 10
+        y: line.gap + (Tokens.fit(36) - height) / 2
         visible: line.leadsOn
         name: "right"
         size: 16

@@ -9,7 +9,7 @@ import Kiv.Tokens
 ArtScene {
     id: agents
 
-    readonly property int nameWidth: wide ? 196 : narrow ? 116 : 168
+    readonly property int nameWidth: Tokens.fit(wide ? 196 : narrow ? 116 : 168)
 
     marks: groups.count
 
@@ -20,6 +20,7 @@ ArtScene {
         width: agents.inner - agents.nameWidth
         height: lanes.height
         font: measured.font
+        blockHeight: Tokens.fit(40)
     }
     MarkGroups {
         id: groups
@@ -38,7 +39,7 @@ ArtScene {
         x: agents.side
         y: agents.headroom
         width: agents.inner
-        height: text === "" ? 0 : 28
+        height: text === "" ? 0 : Tokens.fit(28)
         style: Tokens.type.smallStrong
         text: agents.scene.agentSummary
     }
@@ -68,8 +69,6 @@ ArtScene {
         y: summary.y + summary.height
         height: agents.height - y - legend.height - 18 - agents.footroom
         currentIndex: groups.groupOf(agents.current)
-        leastRow: Tokens.fit(56)
-        mostRow: 88
         Keys.onUpPressed: agents.go(groups.beside(agents.current, -1))
         Keys.onDownPressed: agents.go(groups.beside(agents.current, 1))
         model: SceneModel {

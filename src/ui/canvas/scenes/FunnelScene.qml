@@ -10,7 +10,7 @@ ArtScene {
     id: funnel
 
     readonly property bool dense: scene.fnStages.length > 7
-    readonly property int nameWidth: wide ? 204 : 148
+    readonly property int nameWidth: Tokens.fit(wide ? 204 : 148)
     readonly property int convWidth: Math.max(narrow ? 88 : wide ? 128 : 96, Math.ceil(conversion.implicitWidth) + 12)
 
     marks: scene.fnStages.length

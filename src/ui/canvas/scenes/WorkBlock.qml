@@ -18,7 +18,7 @@ MarkArea {
     x: trackX + modelData.x
     y: modelData.y
     width: modelData.width
-    height: 40
+    height: Tokens.fit(40)
     ringRadius: Tokens.radiusControl
     label: modelData.title
     value: look.word
