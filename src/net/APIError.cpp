@@ -74,15 +74,6 @@ ErrorBody readErrorBody(QByteArrayView body) {
     }
 }
 
-template <typename Judge>
-auto judge(const std::exception_ptr &error, Judge &&of) {
-    try {
-        std::rethrow_exception(error);
-    } catch (const std::exception &known) {
-        return of(known);
-    }
-}
-
 } // namespace
 
 void throwIfError(int status, QByteArrayView body) {
@@ -105,10 +96,6 @@ bool isCancellation(const std::exception &error) {
     return dynamic_cast<const Cancelled *>(&error) != nullptr;
 }
 
-bool isCancellation(const std::exception_ptr &error) {
-    return judge(error, [](const std::exception &known) { return isCancellation(known); });
-}
-
 bool isUnauthorized(const std::exception &error) {
     const auto *api = dynamic_cast<const APIError *>(&error);
     return api && api->kind() == APIError::Kind::Unauthorized;
@@ -116,10 +103,6 @@ bool isUnauthorized(const std::exception &error) {
 
 QString errorText(const std::exception &error) {
     return QString::fromUtf8(error.what());
-}
-
-QString errorText(const std::exception_ptr &error) {
-    return judge(error, [](const std::exception &known) { return errorText(known); });
 }
 
 } // namespace kiv::net

@@ -51,13 +51,11 @@ void throwIfError(int status, QByteArrayView body);
 
 /// Whether an error only says that its call was given up on purpose; callers stay silent then.
 bool isCancellation(const std::exception &error);
-bool isCancellation(const std::exception_ptr &error);
 
 /// Whether the backend knows no session of whoever called.
 bool isUnauthorized(const std::exception &error);
 
 /// The text that the person sees for a failed call, whatever it threw.
 QString errorText(const std::exception &error);
-QString errorText(const std::exception_ptr &error);
 
 } // namespace kiv::net

@@ -52,17 +52,16 @@ public:
     bool succeeded() const { return m_outcome->done && !m_outcome->error; }
     const T &value() const { return *m_outcome->value; }
     std::exception_ptr error() const { return m_outcome->error; }
-    QString errorText() const { return error() ? net::errorText(error()) : QString(); }
-    /// The error as an APIError; anything else ends the test with a null.
+    QString errorText() const {
+        return judge([](const std::exception &error) { return net::errorText(error); });
+    }
+    bool wasCancelled() const { return judge(net::isCancellation); }
+    /// The error as an APIError; null for none and for any other.
     std::optional<net::APIError> apiError() const {
-        try {
-            if (error())
-                std::rethrow_exception(error());
-        } catch (const net::APIError &known) {
-            return known;
-        } catch (...) {
-        }
-        return std::nullopt;
+        return judge([](const std::exception &error) {
+            const auto *known = dynamic_cast<const net::APIError *>(&error);
+            return known ? std::optional(*known) : std::nullopt;
+        });
     }
     bool failedWith(net::APIError::Kind kind) const {
         const auto known = apiError();
@@ -76,6 +75,16 @@ private:
         std::optional<T> value;
         std::exception_ptr error;
     };
+    template <typename Of>
+    std::invoke_result_t<Of, const std::exception &> judge(Of of) const {
+        try {
+            if (m_outcome->error)
+                std::rethrow_exception(m_outcome->error);
+        } catch (const std::exception &known) {
+            return of(known);
+        }
+        return {};
+    }
     static QCoro::Task<void> record(QCoro::Task<T> task, std::shared_ptr<Outcome> outcome) {
         try {
             outcome->value = co_await task;
