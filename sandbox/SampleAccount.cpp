@@ -28,7 +28,7 @@ QString makePassword(const QString &path) {
         PrivateFile::setAside(path);
     }
     const QByteArray made = randomToken();
-    const QString failure = PrivateFile::write(path, made + '\n');
+    const QString failure = PrivateFile::exchange(path, made + '\n');
     if (!failure.isEmpty())
         qWarning("The sample account's password cannot be kept: %s", qUtf8Printable(failure));
     return QString::fromLatin1(made);

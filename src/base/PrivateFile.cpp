@@ -25,13 +25,17 @@ void PrivateFile::makeFolderOf(const QString &path) {
         QFile::setPermissions(folder, QFile::permissions(folder) & ownerFolder);
 }
 
-QString PrivateFile::write(const QString &path, const QByteArray &bytes) {
-    makeFolderOf(path);
+QString PrivateFile::exchange(const QString &path, const QByteArray &bytes) {
     QSaveFile file(path);
     // Flushed before it is committed: what fails only then would still replace the file of before.
     const bool written = file.open(QIODevice::WriteOnly) && file.setPermissions(ownerFile) &&
                          file.write(bytes) == bytes.size() && file.flush() && file.commit();
     return written ? QString() : file.errorString();
+}
+
+QString PrivateFile::write(const QString &path, const QByteArray &bytes) {
+    makeFolderOf(path);
+    return exchange(path, bytes);
 }
 
 std::optional<QByteArray> PrivateFile::read(const QString &path, qint64 most) {

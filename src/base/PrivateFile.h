@@ -12,8 +12,10 @@ namespace kiv::PrivateFile {
 /// that it is for this user alone.
 void makeFolderOf(const QString &path);
 
-/// Exchanges the whole file, making its folder where there is none; a file that cannot be written
-/// whole is left as it was. Nothing, or why it failed.
+/// Exchanges the whole file; one that cannot be written whole is left as it was. Nothing, or why it
+/// failed.
+QString exchange(const QString &path, const QByteArray &bytes);
+/// The same in a folder of the program's own, which makeFolderOf() sees to.
 QString write(const QString &path, const QByteArray &bytes);
 
 /// The whole file; nothing for one that may not be read, is larger than `most` bytes or no file.

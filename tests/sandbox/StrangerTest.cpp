@@ -249,6 +249,16 @@ private Q_SLOTS:
         QVERIFY(!all.contains(good.toLatin1()));
     }
 
+    void aFolderThatWasThereStaysAsItWas() {
+        const QTemporaryDir folder;
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7755)));
+        const SandboxProcess sandbox(folder.path());
+        QVERIFY(sandbox.ready());
+        QCOMPARE(QFile::permissions(folder.path()), QFile::Permissions(0x7755));
+        QCOMPARE(QFile::permissions(folder.filePath(u"sample-password"_s)),
+                 QFile::Permissions(0x6600));
+    }
+
 private:
     using Case = std::pair<QString, QJsonObject>;
 
