@@ -1,6 +1,7 @@
 #include "ChatStore.h"
 
 #include "Database.h"
+#include "Files.h"
 #include "Http.h"
 
 #include <QDateTime>
@@ -42,7 +43,7 @@ QJsonObject ChatMessage::rowObject(const QString &origin) const {
         QJsonObject attachment = value.toObject();
         const QString key = attachment.value(u"key"_s).toString();
         if (!key.isEmpty())
-            attachment.insert(u"url"_s, u"%1/files/%2"_s.arg(origin, key));
+            attachment.insert(u"url"_s, fileAddress(origin, key));
         attachments.append(attachment);
     }
     if (!attachments.isEmpty())

@@ -15,6 +15,10 @@ using namespace Qt::StringLiterals;
 
 namespace kiv::sandbox {
 
+QJsonValue fileAddress(const QString &origin, const QString &key) {
+    return key.isEmpty() ? QJsonValue() : u"%1/files/%2"_s.arg(origin, key);
+}
+
 Files::Files(Database &database, const QString &dataDir)
     : m_database(database), m_folder(dataDir + u"/files"_s) {
     if (QFileInfo::exists(m_folder) && !QFileInfo(m_folder).isDir()) {

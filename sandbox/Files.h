@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QJsonValue>
 #include <QString>
 
 #include <optional>
@@ -15,6 +16,9 @@ struct StoredFile {
     QString mime;
     qint64 size = 0;
 };
+
+/// Where a file is reached on the server at `origin`; null for no key.
+QJsonValue fileAddress(const QString &origin, const QString &key);
 
 /// Uploaded files: bytes in the data folder, the rest in the database. A file is reached by its
 /// random key alone, so that a picture can be shown without a session.

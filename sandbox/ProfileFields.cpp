@@ -1,6 +1,7 @@
 #include "Accounts.h"
 
 #include "Http.h"
+#include "base/Text.h"
 
 #include <QHash>
 #include <QJsonArray>
@@ -71,7 +72,7 @@ const QHash<QString, Field> &fields() {
 }
 
 void checkString(const QString &key, const QString &value, const Field &field) {
-    if (value.size() > field.longest)
+    if (characterCount(value) > field.longest)
         refuse(key, u"is longer than %1 characters"_s.arg(field.longest));
     if (field.kind == Kind::Line && value.contains(u'\n'))
         refuse(key, u"must be one line"_s);

@@ -99,8 +99,8 @@ const QString projectColumns =
 
 Scope scopeOf(const QString &account, const AgentRecord &agent) {
     if (agent.kind == u"orchestrator"_s)
-        return {account, Scope::Portfolio, {}, u"KIV"_s, {}};
-    return {account, Scope::Agent, agent.slug, agent.name, agent.name};
+        return {account, {}, u"KIV"_s, {}};
+    return {account, agent.slug, agent.name, agent.name};
 }
 
 QJsonArray Workspace::projects(const QString &account) {

@@ -20,7 +20,6 @@ struct Stretch {
     qint64 begin = 0;
     qint64 end = 0;
 
-    qint64 length() const { return end - begin; }
     friend bool operator==(const Stretch &, const Stretch &) = default;
 };
 

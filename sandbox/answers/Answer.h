@@ -9,10 +9,7 @@ class Sql;
 
 /// Whose data an answer may use.
 struct Scope {
-    enum Kind { Portfolio, Project, Agent };
-
     QString account;
-    Kind kind = Portfolio;
     QString slug;  ///< the one project, empty for all of them
     QString name;  ///< who answers
     QString agent; ///< whose own work it is, for an agent
@@ -28,6 +25,9 @@ struct Answer {
     QString content;
     QJsonObject metadata = {};
 };
+
+/// Whether a text is Russian: it is answered, and read aloud, in its own language.
+bool isRussian(const QString &text);
 
 /// Answers a question from the rows of its scope.
 Answer composeAnswer(Sql &sql, const Question &question);

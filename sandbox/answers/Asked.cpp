@@ -14,11 +14,6 @@ namespace {
 
 constexpr QChar minus(0x2212);
 
-bool hasCyrillic(const QString &text) {
-    return std::any_of(text.begin(), text.end(),
-                       [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
-}
-
 /// Whether the text names something by this whole word or words.
 bool names(const QString &text, const QString &name) {
     const QRegularExpression word(u"\\b%1\\b"_s.arg(QRegularExpression::escape(name)),
@@ -53,12 +48,16 @@ std::optional<Row> namedAgent(Sql &sql, const Question &question) {
 
 } // namespace
 
+bool isRussian(const QString &text) {
+    return std::ranges::any_of(text, [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
+}
+
 Asked::Asked(Sql &sql, const Question &question)
     : m_sql(sql),
       m_question(question),
       m_slug(question.scope.slug),
       m_agent(question.scope.agent),
-      m_russian(hasCyrillic(question.text)) {
+      m_russian(isRussian(question.text)) {
     if (m_slug.isEmpty() && m_agent.isEmpty()) {
         m_slug = namedProject(sql, question);
         const auto named = m_slug.isEmpty() ? namedAgent(sql, question) : std::nullopt;

@@ -17,9 +17,7 @@ constexpr qsizetype largestPicture = 5 * 1024 * 1024;
 
 QJsonObject shownProfile(QJsonObject profile, const Call &call) {
     const QString key = profile.value(u"avatar_url"_s).toString();
-    profile.insert(u"avatar_url"_s, key.isEmpty()
-                                        ? QJsonValue()
-                                        : QJsonValue(u"%1/files/%2"_s.arg(call.origin, key)));
+    profile.insert(u"avatar_url"_s, fileAddress(call.origin, key));
     return profile;
 }
 
@@ -78,7 +76,7 @@ Reply uploadAvatar(Services &services, const Call &call) {
     const StoredFile file = services.files.store(
         call.account, QString::fromStdString(part.filename), pictureType(content), content);
     services.accounts.setAvatar(call.account, file.key);
-    return Reply::json(QJsonObject{{u"avatar_url"_s, u"%1/files/%2"_s.arg(call.origin, file.key)}});
+    return Reply::json(QJsonObject{{u"avatar_url"_s, fileAddress(call.origin, file.key)}});
 }
 
 } // namespace

@@ -21,9 +21,7 @@ QJsonObject userObject(Services &services, const Call &call, const QString &acco
             {u"email"_s, profile.value(u"email"_s)},
             {u"name"_s, name},
             {u"full_name"_s, name},
-            {u"avatar_url"_s, avatar.isEmpty()
-                                  ? QJsonValue()
-                                  : QJsonValue(u"%1/files/%2"_s.arg(call.origin, avatar))}};
+            {u"avatar_url"_s, fileAddress(call.origin, avatar)}};
 }
 
 Reply signedIn(Services &services, const Call &call, const QString &account) {

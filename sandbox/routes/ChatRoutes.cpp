@@ -2,6 +2,7 @@
 #include "Router.h"
 #include "Routes.h"
 #include "Services.h"
+#include "base/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,9 +24,7 @@ struct Target {
 Target projectTarget(Services &services, const Call &call) {
     const QString slug = call.segment(1);
     const QString label = services.workspace.projectLabel(call.account, slug);
-    return {{call.account, u"project:"_s + slug},
-            {call.account, Scope::Project, slug, label, {}},
-            label};
+    return {{call.account, u"project:"_s + slug}, {call.account, slug, label, {}}, label};
 }
 
 Target agentTarget(Services &services, const Call &call) {
@@ -77,7 +76,7 @@ Reply send(Services &services, const Call &call, FindTarget find) {
     const QJsonArray attachments = checkedAttachments(body);
     if (text.trimmed().isEmpty() && attachments.isEmpty())
         throw Refusal(400, u"The message is empty."_s, u"empty_message"_s);
-    if (text.size() > longestMessage)
+    if (characterCount(text) > longestMessage)
         throw Refusal(400, u"The message is longer than %1 characters."_s.arg(longestMessage),
                       u"message_too_long"_s);
     if (target.stopped)

@@ -40,7 +40,7 @@ QJsonObject storeOne(Services &services, const Call &call, const httplib::Multip
                        {u"size"_s, file.size},
                        {u"mime"_s, file.mime},
                        {u"key"_s, file.key},
-                       {u"url"_s, u"%1/files/%2"_s.arg(call.origin, file.key)},
+                       {u"url"_s, fileAddress(call.origin, file.key)},
                        {u"kind"_s, mime.startsWith(u"image/"_s) ? u"image"_s : u"file"_s}};
     if (isText(mime))
         stored.insert(u"text"_s, QString::fromUtf8(content).left(longestInlineText));

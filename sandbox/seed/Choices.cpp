@@ -39,9 +39,14 @@ constexpr std::array stages{
     StageSeed{u"Paid plan", 612},
 };
 
+struct PartSeed {
+    const char16_t *name;
+    int cents;
+};
+
 constexpr std::array parts{
-    StageSeed{u"People", 76},  StageSeed{u"Manual review", 44}, StageSeed{u"Payment fees", 31},
-    StageSeed{u"Hosting", 22}, StageSeed{u"Other", 11},
+    PartSeed{u"People", 76},  PartSeed{u"Manual review", 44}, PartSeed{u"Payment fees", 31},
+    PartSeed{u"Hosting", 22}, PartSeed{u"Other", 11},
 };
 
 struct CriterionSeed {
@@ -123,10 +128,10 @@ void seedChoices(Sql &sql, const QString &account, Variation &vary) {
         sql.exec(u"INSERT INTO stages (account, slug, position, name, count)"
                  u" VALUES (?, 'night-ferry', ?, ?, ?)"_s,
                  {account, ++position, text(stage.name), vary(stage.count)});
-    for (const StageSeed &part : parts)
+    for (const PartSeed &part : parts)
         sql.exec(u"INSERT INTO unit_parts (account, slug, position, name, cents)"
                  u" VALUES (?, 'orchard', ?, ?, ?)"_s,
-                 {account, ++position, text(part.name), vary(part.count)});
+                 {account, ++position, text(part.name), vary(part.cents)});
     for (const CriterionSeed &row : criteria)
         sql.exec(u"INSERT INTO criteria (account, slug, question, option_a, option_b, position,"
                  u" name, a, b) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)"_s,

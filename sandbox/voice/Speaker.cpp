@@ -1,10 +1,10 @@
 #include "voice/Speaker.h"
 
+#include "answers/Answer.h"
+
 #include <QStandardPaths>
 #include <QTimer>
 #include <QtEndian>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -19,9 +19,7 @@ constexpr int patienceMs = 10'000;
 constexpr int endPatienceMs = 500;
 
 QString voiceFor(const QString &text) {
-    const bool russian =
-        std::ranges::any_of(text, [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
-    return russian ? u"ru"_s : u"en-gb"_s;
+    return isRussian(text) ? u"ru"_s : u"en-gb"_s;
 }
 
 QByteArray samplesOf(const QByteArray &wav) {

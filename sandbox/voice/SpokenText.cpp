@@ -1,5 +1,7 @@
 #include "voice/SpokenText.h"
 
+#include "answers/Answer.h"
+
 #include <QDate>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -31,10 +33,6 @@ QString applied(QString text, const QList<Rule> &rules) {
 QRegularExpression expression(const QString &pattern) {
     return QRegularExpression(pattern, QRegularExpression::MultilineOption |
                                            QRegularExpression::UseUnicodePropertiesOption);
-}
-
-bool isRussian(const QString &text) {
-    return std::ranges::any_of(text, [](QChar c) { return c.script() == QChar::Script_Cyrillic; });
 }
 
 /// An answer in its parts: what is written, and what would be drawn.

@@ -63,6 +63,7 @@ private Q_SLOTS:
                                 "glossary_md",
                                 "owner_learned_md"})
             changes.insert(QLatin1StringView(key), u"Текст "_s + QLatin1StringView(key));
+        changes.insert(u"full_name"_s, u"🚀"_s.repeated(120)); // as many as a person counts
         const Response patched = m_client->patch(u"/api/v2/user/profile"_s, changes);
         QCOMPARE(patched.status, 200);
         const QJsonObject profile = m_client->get(u"/api/v2/user/profile"_s).json();
