@@ -1,8 +1,10 @@
 #include "ui/canvas/CashflowPlot.h"
+#include "ui/canvas/CompareColumns.h"
 #include "ui/canvas/LaneLayout.h"
 #include "ui/canvas/MarkGroups.h"
 #include "ui/canvas/PlotAxis.h"
 #include "ui/canvas/RingSegment.h"
+#include "ui/canvas/StackLayout.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -30,6 +32,9 @@ private Q_SLOTS:
     void balanceOfSomePeriods();
     void ring_data();
     void ring();
+    void stack_data();
+    void stack();
+    void noMoreColumnsThanShow();
     void keysThroughGroups();
 };
 
@@ -293,6 +298,45 @@ void SceneLayoutTest::ring() {
     QPainter painter(&picture);
     segment.paint(&painter);
     QCOMPARE(picture.pixelColor(point.toPoint()).alpha() > 0, segment.contains(point));
+}
+
+void SceneLayoutTest::stack_data() {
+    QTest::addColumn<QList<double>>("parts");
+    QTest::addColumn<int>("pieces");
+    QTest::newRow("few") << QList<double>{70, 29.9, 0.1} << 3;
+    QTest::newRow("many of a size") << QList<double>(160, 1) << 1;
+    QTest::newRow("as many as fit") << QList<double>(110, 1) << 110;
+    QTest::newRow("some wide") << QList<double>{QList<double>(100, 10) + QList<double>(60, 1)}
+                               << 101;
+}
+
+/// The pieces of a bar of a thousand lie beside each other and end with it.
+void SceneLayoutTest::stack() {
+    QFETCH(QList<double>, parts);
+    QList<canvas::Seg> segments;
+    for (const double part : parts)
+        segments.append({.label = u"a"_s, .w = part});
+    StackLayout layout;
+    layout.setWidth(1000);
+    layout.setParts(QVariant::fromValue(segments));
+    double end = -3;
+    for (const StackPiece &piece : layout.pieces()) {
+        QCOMPARE(piece.x, end + 3);
+        QVERIFY(piece.width >= 6);
+        end = piece.x + piece.width;
+    }
+    QVERIFY2(qAbs(end - 1000) < 0.01, QByteArray::number(end));
+    QTEST(int(layout.pieces().size()), "pieces");
+}
+
+void SceneLayoutTest::noMoreColumnsThanShow() {
+    canvas::SceneOut scene;
+    scene.cpCols = QStringList(200, u"a"_s);
+    scene.cpRows = {{.name = u"n"_s, .cells = QStringList(300, u"b"_s)}};
+    CompareColumns columns;
+    columns.setWidth(1000);
+    columns.setScene(scene);
+    QCOMPARE(columns.columns().size(), 60);
 }
 
 void SceneLayoutTest::keysThroughGroups() {

@@ -74,7 +74,10 @@ void StackLayout::layOut() {
     if (all > 0 && m_width > 0) {
         // At their least widths, pieces and gaps may take half of the bar.
         const bool crowded = static_cast<double>(m_all.size()) * (gap + leastPiece) > m_width / 2;
-        const QList<Part> parts = crowded ? gathered(m_all, leastPiece / m_width * all) : m_all;
+        // What has a piece of its own is wide enough for it and its gap, beside the piece of all
+        // others.
+        const double least = (leastPiece + gap) / std::max(1.0, m_width - leastPiece);
+        const QList<Part> parts = crowded ? gathered(m_all, least * all) : m_all;
         const auto count = static_cast<double>(parts.size());
         const double room = m_width - gap * (count - 1);
         const auto extra = [&](const Part &part) {
