@@ -2,6 +2,8 @@
 
 #include "text/MDParser.h"
 
+#include <algorithm>
+
 namespace kiv::text {
 
 namespace {
@@ -73,6 +75,8 @@ SearchText::SearchText(const QList<BlockPart> &parts, Markup markup) {
     QString text;
     for (int part = 0; part < parts.size(); ++part) {
         const QStringList shown = linesOf(parts.at(part), markup);
+        if (parts.at(part).joint == BlockPart::Joint::Text)
+            text.chop(1); // the line goes on
         for (int line = 0; line < shown.size(); ++line) {
             m_lines.append({text.size(), part, line});
             text += shown.at(line) + u'\n';
@@ -88,8 +92,10 @@ QList<WordPlace> SearchText::find(const FoldedText &words) const {
         while (line + 1 < m_lines.size() && m_lines.at(line + 1).start <= range.start)
             ++line;
         const Line &at = m_lines.at(line);
+        const qsizetype end =
+            line + 1 < m_lines.size() ? m_lines.at(line + 1).start : range.start + range.length;
         places.append({at.part, at.line, static_cast<int>(range.start - at.start),
-                       static_cast<int>(range.length)});
+                       static_cast<int>(std::min(range.length, end - range.start))});
     }
     return places;
 }

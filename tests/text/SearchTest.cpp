@@ -83,6 +83,8 @@ private Q_SLOTS:
         row("lines", u"# One\nfirst one\nsecond ONE"_s, u"one"_s,
             {u"0.0 0+3"_s, u"1.0 6+3"_s, u"1.1 7+3"_s});
         row("not over a line's end", u"first\nsecond"_s, u"first second"_s, {});
+        row("over the cut of a long paragraph", QString(2490, u'x') + u" left rightmost"_s,
+            u"left right"_s, {u"0.0 2491+5"_s});
         row("items", u"- a\n- *b* a\n\n3. a\n4. b\n\n- [x] b a"_s, u"a"_s,
             {u"0.0 0+1"_s, u"0.1 2+1"_s, u"1.0 0+1"_s, u"2.0 2+1"_s});
         row("cells", u"| Sum | B |\n|---|---|\n| 1 | **sum** |\n| sum |"_s, u"sum"_s,
