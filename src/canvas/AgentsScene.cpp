@@ -1,7 +1,7 @@
+#include "canvas/Groups.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneText.h"
 
-#include <QHash>
 #include <QSet>
 
 #include <algorithm>
@@ -18,29 +18,6 @@ struct Event {
     ViewSpec::Point point;
 };
 
-bool hasLabel(const ViewSpec::Point &point) {
-    return !point.label.trimmed().isEmpty();
-}
-
-/// Lanes in order of appearance.
-class Lanes {
-public:
-    void add(const QString &name, const LaneTask &task) {
-        const auto place = m_places.constFind(name);
-        if (place == m_places.cend()) {
-            m_places.insert(name, m_lanes.size());
-            m_lanes.append(Lane{.name = name, .tasks = {task}});
-        } else {
-            m_lanes[*place].tasks.append(task);
-        }
-    }
-    const QList<Lane> &all() const { return m_lanes; }
-
-private:
-    QList<Lane> m_lanes;
-    QHash<QString, qsizetype> m_places;
-};
-
 /// The owner of an event; a time or a number in its place belongs to the event itself.
 QString ownerOf(const ViewSpec::Point &point) {
     const QString hint = point.hint.value_or(QString()).trimmed();
@@ -55,24 +32,13 @@ QString titleOf(const ViewSpec::Point &point, const QString &unit) {
     return parts.join(u" · ");
 }
 
-/// Series and board columns are lanes already; plain points lie on the lanes of their owners.
+/// Events lie on the lanes of their owners.
 QList<Event> eventsOf(const ViewSpec &spec) {
     QList<Event> events;
-    const auto add = [&events](const QString &lane, const QList<ViewSpec::Point> &points) {
-        for (const ViewSpec::Point &point : points) {
-            if (hasLabel(point))
-                events.append({lane, point});
-        }
-    };
-    if (!spec.points.isEmpty()) {
-        for (const ViewSpec::Point &point : spec.points)
-            add(ownerOf(point), {point});
-        return events;
+    for (const ViewSpec::Point &point : spec.points) {
+        if (!point.label.trimmed().isEmpty())
+            events.append({ownerOf(point), point});
     }
-    for (const ViewSpec::Series &series : spec.series)
-        add(series.name, series.points);
-    for (const ViewSpec::BoardCol &column : spec.boardCols)
-        add(column.name, column.points);
     return events;
 }
 
@@ -125,14 +91,15 @@ std::optional<SceneOut> buildAgents(const ViewSpec &spec) {
     const QList<qsizetype> places = placesOf(events);
     const auto count = static_cast<double>(*std::max_element(places.cbegin(), places.cend()) + 1);
     SceneOut scene;
-    Lanes lanes;
+    Groups<Lane> lanes;
     for (qsizetype i = 0; i < events.size(); ++i) {
         const auto &[name, point] = events.at(i);
-        lanes.add(name.isEmpty() ? u"Events"_s : name,
-                  {.title = titleOf(point, unit),
-                   .left = static_cast<double>(places.at(i)) / count,
-                   .width = 1 / count,
-                   .status = point.status.value_or(u"unknown"_s)});
+        const QString lane = name.isEmpty() ? u"Events"_s : name;
+        lanes.of(lane, {.name = lane})
+            .tasks.append({.title = titleOf(point, unit),
+                           .left = static_cast<double>(places.at(i)) / count,
+                           .width = 1 / count,
+                           .status = point.status.value_or(u"unknown"_s)});
     }
     scene.lanes = lanes.all();
     scene.agentSummary = summaryOf(events);

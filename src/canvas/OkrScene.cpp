@@ -1,9 +1,7 @@
-#include "canvas/PlanColumns.h"
+#include "canvas/Groups.h"
 #include "canvas/Progress.h"
 #include "canvas/SceneBuilders.h"
 #include "canvas/SceneFigures.h"
-
-#include <QHash>
 
 #include <algorithm>
 
@@ -19,37 +17,6 @@ struct Objective {
     QList<ViewSpec::Point> results;
 };
 
-/// Objectives in order of appearance, found again by a key.
-class Objectives {
-public:
-    void add(const QString &key, const Objective &objective) {
-        const auto place = m_places.constFind(key);
-        if (place == m_places.cend()) {
-            m_places.insert(key, m_all.size());
-            m_all.append(objective);
-        } else {
-            m_all[*place].results += objective.results;
-        }
-    }
-    const QList<Objective> &all() const { return m_all; }
-
-private:
-    QList<Objective> m_all;
-    QHash<QString, qsizetype> m_places;
-};
-
-/// Rows of objective, key result, value and target; a table without a column of key results has
-/// one result per objective.
-QList<Objective> objectivesOfRows(const ViewSpec &spec) {
-    const PlanColumns columns(spec);
-    Objectives objectives;
-    for (const QStringList &row : spec.rows) {
-        const QString name = row.value(0).trimmed();
-        objectives.add(name, {name, columns.owner(row), {columns.measured(row)}});
-    }
-    return objectives.all();
-}
-
 /// Series and board columns are objectives; plain points are the results of one, or of one for each
 /// owner, whose name may follow that of the objective.
 QList<Objective> objectivesOf(const ViewSpec &spec, const QString &title) {
@@ -60,16 +27,14 @@ QList<Objective> objectivesOf(const ViewSpec &spec, const QString &title) {
         groups.append({column.name, {}, column.points});
     if (!groups.isEmpty())
         return groups;
-    if (spec.points.isEmpty())
-        return objectivesOfRows(spec);
     static const QString separator = u" · "_s; // "Grow the pilots · Ann"
-    Objectives byOwner;
+    Groups<Objective> byOwner;
     for (const ViewSpec::Point &point : spec.points) {
         const QString hint = point.hint.value_or(QString()).trimmed();
         const qsizetype mark = hint.indexOf(separator);
-        byOwner.add(hint, {mark < 0 ? title : hint.first(mark).trimmed(),
-                           mark < 0 ? hint : hint.sliced(mark + separator.size()).trimmed(),
-                           {point}});
+        const QString name = mark < 0 ? title : hint.first(mark).trimmed();
+        const QString owner = mark < 0 ? hint : hint.sliced(mark + separator.size()).trimmed();
+        byOwner.of(hint, {name, owner, {}}).results.append(point);
     }
     return byOwner.all();
 }

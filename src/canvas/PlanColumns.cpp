@@ -72,15 +72,11 @@ PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
     static const Regex actual(u"actual|fact|spen[dt]|used|current|value|now|result so far|progress|"
                               u"факт|расход|потрачен|текущ|значени|сейчас",
                               Regex::CaseInsensitive);
-    static const Regex owner(u"owner|lead|responsible|владел|ответствен", Regex::CaseInsensitive);
-    static const Regex title(u"key result|\\bkr\\b|result|metric|ключев|результат|метрик",
-                             Regex::CaseInsensitive);
     m_plan = columnNamed(spec.columns, plan);
     m_actual = columnNamed(spec.columns, actual, m_plan);
-    m_owner = columnNamed(spec.columns, owner);
 
     QList<qsizetype> figures = figureColumns(spec.rows);
-    figures.removeIf([this](qsizetype i) { return i == m_plan || i == m_actual || i == m_owner; });
+    figures.removeIf([this](qsizetype i) { return i == m_plan || i == m_actual; });
     const bool actualNamed = m_actual > 0;
     const bool planFirst = order == Order::PlanFirst && figures.size() > 1 && !actualNamed;
     if (m_plan < 0 && planFirst)
@@ -90,13 +86,10 @@ PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
     // Beside a column that is named as what was spent, another one is not yet a plan.
     if (m_plan < 0 && !actualNamed && !figures.isEmpty())
         m_plan = figures.takeFirst();
-    const qsizetype named = columnNamed(spec.columns, title);
-    if (named > 0 && named != m_plan && named != m_actual && named != m_owner)
-        m_title = named;
 }
 
 ViewSpec::Point PlanColumns::measured(const QStringList &row) const {
-    ViewSpec::Point point{.label = row.value(m_title).trimmed()};
+    ViewSpec::Point point{.label = row.value(0).trimmed()};
     const QString actual = actualText(row);
     const auto spent = amountOf(actual);
     if (spent)

@@ -19,13 +19,10 @@ public:
     /// The cells as written.
     QString planText(const QStringList &row) const { return row.value(m_plan).trimmed(); }
     QString actualText(const QStringList &row) const { return row.value(m_actual).trimmed(); }
-    QString owner(const QStringList &row) const { return row.value(m_owner).trimmed(); }
 
 private:
     qsizetype m_plan = -1;
     qsizetype m_actual = -1;
-    qsizetype m_owner = -1;
-    qsizetype m_title = 0;
 };
 
 } // namespace kiv::canvas

@@ -90,13 +90,6 @@ QList<ViewSpec::Point> pointsOf(const ViewSpec &spec) {
     QList<ViewSpec::Point> points;
     for (const ViewSpec::Item &item : spec.items)
         points.append(pointOf(item));
-    if (!points.isEmpty())
-        return points;
-    for (const QStringList &row : spec.rows) {
-        const auto figure = row.size() == 2 ? proseFigure(row.at(1)) : std::nullopt;
-        if (figure)
-            points.append({.label = row.at(0), .value = figure->value, .display = row.at(1)});
-    }
     return points;
 }
 

@@ -20,8 +20,7 @@ std::optional<int> wholePercent(double percent);
 /// read as nothing, nor most as all.
 QString shareText(double part, double whole);
 
-/// The view's points; without any, those of its only series, its key figures or its
-/// two-column rows.
+/// The view's points; without any, those of its only series or its key figures.
 QList<ViewSpec::Point> pointsOf(const ViewSpec &spec);
 
 /// The unit that is given, else the sign that all values carry.
