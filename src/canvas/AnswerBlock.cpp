@@ -64,9 +64,10 @@ CanvasEngine::DrawableAnswer CanvasEngine::extractViewSpec(const QString &text,
         answer.spec = spec(*view, view->canonical());
     if (!renderable(answer.spec))
         answer.spec.reset();
+    answer.isLifted = !answer.spec;
     if (!answer.spec) {
         if (DrawableAnswer lifted = liftGfmTable(answer.text); lifted.spec)
-            answer = lifted;
+            answer = {lifted.text, lifted.spec, true};
     }
     if (!answer.spec)
         answer.spec = liftList(answer.text);

@@ -21,6 +21,7 @@ const Regex &closedFenceRe();
 struct DrawableAnswer {
     QString text; ///< what is left to show in the chat
     std::optional<ViewSpec> spec;
+    bool isLifted = false; ///< `spec` was read from prose, not from a block or a view
 };
 
 /// `view` is the structured view that the backend may attach to a row. An unreadable block stays in

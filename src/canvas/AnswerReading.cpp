@@ -59,8 +59,7 @@ AnswerReading readAnswer(const QString &text, const std::optional<JVal> &view,
     }
     if (reading.spec) {
         const bool isTable = !reading.spec->columns.isEmpty();
-        reading.isWhole = view || CanvasEngine::closedFenceRe().find(text) ||
-                          (isTable && endsBehindTable(replies.text));
+        reading.isWhole = !answer.isLifted || (isTable && endsBehindTable(replies.text));
     }
     return reading;
 }

@@ -1,4 +1,5 @@
 #include "canvas/AnswerBlock.h"
+#include "canvas/AnswerReading.h"
 #include "canvas/ArtChoice.h"
 #include "canvas/RestoredCanvas.h"
 #include "canvas/SpecReader.h"
@@ -90,6 +91,25 @@ private Q_SLOTS:
     void closedFence() {
         QVERIFY(!CanvasEngine::closedFenceRe().contains(u"```view\n{}"));
         QVERIFY(CanvasEngine::closedFenceRe().contains(u"a ``` VIEW \t\r\n{}```"));
+    }
+
+    void whole_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isWhole");
+        const QString list = u"- a: 1\n- b: 2"_s;
+        const QString table = u"| a | b |\n|---|---|\n| x | y |"_s;
+        QTest::newRow("block") << u"```kpi\n[\"a: 1\"]\n```"_s << true;
+        QTest::newRow("list") << list << false;
+        QTest::newRow("list behind an unreadable block") << u"```kpi\n[\n```\n"_s + list << false;
+        QTest::newRow("table") << table << false;
+        QTest::newRow("table and more") << table + u"\nSo"_s << true;
+    }
+    /// What may still grow is not drawn before the answer ends.
+    void whole() {
+        QFETCH(QString, text);
+        const AnswerReading reading = readAnswer(text);
+        QVERIFY(reading.spec);
+        QTEST(reading.isWhole, "isWhole");
     }
 
     void structuredView() {
