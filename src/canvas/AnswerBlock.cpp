@@ -1,6 +1,7 @@
 #include "canvas/AnswerBlock.h"
 
 #include "canvas/ProseLifts.h"
+#include "canvas/ProseLines.h"
 #include "canvas/SpecReader.h"
 
 namespace kiv::canvas {
@@ -33,11 +34,6 @@ std::optional<ViewSpec> specOfBlock(const QString &language, QStringView body) {
     return spec;
 }
 
-QString withoutBlock(const QString &text, const Regex::Range &block) {
-    static const Regex blankLines(u"\\n{3,}");
-    return blankLines.replaceAll(text.first(block.start) + text.sliced(block.end()), u"\n\n");
-}
-
 } // namespace
 
 const Regex &CanvasEngine::fenceRegex() {
@@ -58,7 +54,8 @@ CanvasEngine::DrawableAnswer CanvasEngine::extractViewSpec(const QString &text,
         const QString language = block->captured(1).toString().toLower();
         answer.spec = specOfBlock(language, block->captured(2));
         if (answer.spec)
-            answer.text = withoutBlock(text, block->range());
+            answer.text =
+                closedUp(text.first(block->range().start) + text.sliced(block->range().end()));
     }
     if (!answer.spec && view)
         answer.spec = spec(*view, view->canonical());

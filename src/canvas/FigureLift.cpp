@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype mostBars = 12;
-
 bool shareAnAxis(const QList<LiftedLine> &lines) {
     QStringList names;
     for (const LiftedLine &line : lines) {

@@ -9,6 +9,9 @@
 
 namespace kiv::canvas {
 
+/// What has more rows is no chart.
+constexpr qsizetype mostBars = 12;
+
 /// One line of prose that may name a figure.
 struct LiftedLine {
     QString name;

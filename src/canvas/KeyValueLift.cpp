@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype deepestIndent = 3;
 constexpr qsizetype longestLabel = 40;
 constexpr qsizetype longestValue = 40; // a longer one is a sentence
 
@@ -42,7 +41,7 @@ QString withoutBullet(const QString &label) {
 /// A label and value line; nothing for prose and for lines of another kind.
 std::optional<LiftedLine> lineOf(const ProseLine &line) {
     const QStringView text = line.text.trimmed();
-    const bool isOther = line.isCode || line.indent() > deepestIndent || text.contains(u'|') ||
+    const bool isOther = line.isCode || line.isDeep() || text.contains(u'|') ||
                          text.startsWith(u'#') || text.startsWith(u'>') || listItem(text);
     if (isOther)
         return std::nullopt;

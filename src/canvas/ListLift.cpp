@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype deepestIndent = 3; // more is code, or an item of an item
-
 /// "[ ] Test: 3 cases" is something to do, not a figure.
 bool isTask(const QString &item) {
     return item.startsWith(u"[ ]") || item.startsWith(u"[x]", Qt::CaseInsensitive);
@@ -83,7 +81,7 @@ std::optional<ViewSpec> CanvasEngine::liftList(const QString &text) {
     qsizetype index = 0;
     while (index < lines.size()) {
         const ProseLine &line = lines.at(index);
-        if (line.isCode || line.indent() > deepestIndent || !listItem(line.text)) {
+        if (line.isCode || line.isDeep() || !listItem(line.text)) {
             ++index;
             continue;
         }

@@ -1,5 +1,6 @@
 #include "canvas/ProseLines.h"
 
+#include "base/Regex.h"
 #include "canvas/TextCues.h"
 
 namespace kiv::canvas {
@@ -110,6 +111,11 @@ std::optional<QString> headingOver(const QList<ProseLine> &lines, qsizetype inde
     if (title.endsWith(u':'))
         title.chop(1);
     return title.isEmpty() ? std::nullopt : std::optional(title.trimmed());
+}
+
+QString closedUp(const QString &text) {
+    static const Regex blankLines(u"\\n{3,}");
+    return blankLines.replaceAll(text, u"\n\n");
 }
 
 } // namespace kiv::canvas

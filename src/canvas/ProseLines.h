@@ -18,6 +18,8 @@ struct ProseLine {
     bool isBlank() const { return text.trimmed().isEmpty(); }
     /// Leading spaces, a tab counting as four.
     qsizetype indent() const;
+    /// So far in that it is code, or belongs to an item above.
+    bool isDeep() const { return indent() > 3; }
 };
 
 QList<ProseLine> proseLines(QStringView answer);
@@ -29,5 +31,8 @@ std::optional<QStringView> listItem(QStringView line);
 /// The heading that stands over a line: a mark-down heading, a bold line or a line that ends with a
 /// colon.
 std::optional<QString> headingOver(const QList<ProseLine> &lines, qsizetype index);
+
+/// What is left of an answer when something was cut out: no more than one blank line in a row.
+QString closedUp(const QString &text);
 
 } // namespace kiv::canvas

@@ -1,6 +1,7 @@
 #include "base/JVal.h"
 #include "base/Regex.h"
 #include "canvas/AnswerTable.h"
+#include "canvas/FigureLift.h"
 #include "canvas/ProseFigure.h"
 #include "canvas/ProseLifts.h"
 #include "canvas/ProseLines.h"
@@ -14,9 +15,6 @@ namespace kiv::canvas {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype mostBars = 12;
-constexpr qsizetype deepestIndent = 3; // more is code
 
 struct Table {
     QStringList columns;
@@ -69,8 +67,8 @@ std::optional<QStringList> headerAt(const QList<ProseLine> &lines, qsizetype ind
     static const Regex dividerStart(u"^\\|?\\s*:?-{3,}");
     const ProseLine &header = lines.at(index);
     const ProseLine &divider = lines.at(index + 1);
-    if (header.isCode || divider.isCode || header.indent() > deepestIndent ||
-        !header.text.contains(u'|') || !dividerStart.contains(divider.text.trimmed()))
+    if (header.isCode || divider.isCode || header.isDeep() || !header.text.contains(u'|') ||
+        !dividerStart.contains(divider.text.trimmed()))
         return std::nullopt;
     const QStringList marks = cellsOf(divider.text);
     if (!std::all_of(marks.begin(), marks.end(), isDivider))
@@ -244,7 +242,6 @@ QString keyOf(const ViewSpec &spec) {
 } // namespace
 
 CanvasEngine::DrawableAnswer CanvasEngine::liftGfmTable(const QString &text) {
-    static const Regex blankLines(u"\\n{3,}");
     if (!text.contains(u"---"_s) || !text.contains(u'|'))
         return {text, std::nullopt};
     const QList<ProseLine> lines = proseLines(text);
@@ -257,7 +254,7 @@ CanvasEngine::DrawableAnswer CanvasEngine::liftGfmTable(const QString &text) {
     spec.jsonKey = keyOf(spec);
     const QString left =
         text.first(lines.at(table->first).start) + text.sliced(lines.at(table->last - 1).end);
-    return {blankLines.replaceAll(left, u"\n\n"), spec};
+    return {closedUp(left), spec};
 }
 
 } // namespace kiv::canvas
