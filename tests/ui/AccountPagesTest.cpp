@@ -97,6 +97,21 @@ void AccountPagesTest::document() {
     click(u"saveDocument"_s);
     QTRY_COMPARE(patched(), (QJsonObject{{u"shared_md"_s, u"We ship on Thursdays."_s}}));
     QTRY_VERIFY(m_gallery->find(u"undoSave"_s));
+    // As it reads, the keys scroll it.
+    m_workspace->store->account()
+        ->field(u"shared_md"_s)
+        ->edit(u"A line of its own.\n\n"_s.repeated(80));
+    click(u"segment:Preview"_s);
+    QQuickItem *preview = m_gallery->item(u"documentPreview"_s);
+    preview->forceActiveFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(preview->property("contentHeight").toDouble() > 2 * preview->height());
+    const auto place = [preview] { return preview->property("contentY").toDouble(); };
+    QCOMPARE(place(), 0);
+    m_gallery->press(Qt::Key_PageDown);
+    m_gallery->save(u"account-preview"_s);
+    QCOMPARE(place(), preview->height());
+    m_gallery->press(Qt::Key_PageUp);
+    QCOMPARE(place(), 0);
 }
 
 void AccountPagesTest::leavingAsks() {

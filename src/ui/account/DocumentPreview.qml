@@ -36,6 +36,11 @@ FocusScope {
     Flickable {
         id: scroller
 
+        function scroll(by: real) {
+            contentY += by
+            returnToBounds()
+        }
+
         objectName: "documentPreview"
         anchors.fill: parent
         contentWidth: width
@@ -45,6 +50,13 @@ FocusScope {
         activeFocusOnTab: true
         Accessible.role: Accessible.Document
         Accessible.name: qsTr("Preview")
+        Keys.onUpPressed: scroll(-Tokens.fit(40))
+        Keys.onDownPressed: scroll(Tokens.fit(40))
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown
+            if (event.accepted)
+                scroll(event.key === Qt.Key_PageUp ? -height : height)
+        }
 
         T.ScrollBar.vertical: ScrollBar {}
 
@@ -53,6 +65,8 @@ FocusScope {
             rows: blocks
             flickable: scroller
             upperMargin: 0
+            // It is read from the top, and nobody else moves it.
+            held: true
             distance: 0
 
             FeedDelegate {
@@ -129,5 +143,8 @@ FocusScope {
                 }
             }
         }
+    }
+    FocusRing {
+        visible: scroller.activeFocus
     }
 }

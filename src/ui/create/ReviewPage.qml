@@ -26,7 +26,9 @@ FocusScope {
         id: lines
 
         objectName: "reviewLines"
-        width: parent.width
+        // Room for the ring of a line.
+        x: -12
+        width: parent.width + 24
         height: parent.height - (news.visible ? news.height + 12 : 0)
         model: page.room.review
         clip: true
@@ -50,7 +52,14 @@ FocusScope {
             Accessible.role: Accessible.ListItem
             Accessible.name: qsTr("%1: %2").arg(modelData.title).arg(modelData.summary)
 
+            FocusRing {
+                z: 1
+                anchors.margins: 0
+                targetRadius: 4
+                visible: line.ListView.isCurrentItem && lines.activeFocus
+            }
             Label {
+                x: 12
                 y: 12
                 color: Tokens.t3
                 style: Tokens.type.line
@@ -60,17 +69,18 @@ FocusScope {
             Label {
                 id: words
 
-                x: Tokens.fit(144)
+                x: Tokens.fit(144) + 12
                 y: 12
-                width: parent.width - x - 12
+                width: parent.width - x - 24
                 style: Tokens.type.line
                 wrapMode: Text.Wrap
                 text: line.modelData.summary
                 Accessible.ignored: true
             }
             Divider {
+                x: 12
                 y: parent.height - 1
-                width: parent.width
+                width: parent.width - 24
             }
         }
     }

@@ -34,8 +34,10 @@ Dialog {
         id: list
 
         objectName: "noticeList"
+        // Room for the ring of a row.
+        x: -12
         y: Tokens.fit(44)
-        width: sheet.availableWidth
+        width: sheet.availableWidth + 24
         height: Math.min(contentHeight, 7 * Tokens.fit(64),
             (T.Overlay.overlay?.height ?? 680) - y - sheet.topPadding - sheet.bottomPadding - 48)
         model: Notices.all
@@ -62,11 +64,17 @@ Dialog {
             Accessible.name: qsTr("%1: %2. %3. %4").arg(modelData.name).arg(modelData.part).arg(modelData.licence).arg(modelData.holder)
             Accessible.role: Accessible.ListItem
 
+            FocusRing {
+                anchors.margins: 0
+                targetRadius: 4
+                visible: row.ListView.isCurrentItem && list.activeFocus
+            }
             Column {
                 id: words
 
+                x: 12
                 anchors.verticalCenter: parent.verticalCenter
-                width: parent.width - 12
+                width: parent.width - 36
 
                 Label {
                     width: parent.width

@@ -36,8 +36,10 @@ Dialog {
         id: list
 
         objectName: "shortcutList"
+        // Room for the ring of a row.
+        x: -12
         y: Tokens.fit(44)
-        width: sheet.availableWidth
+        width: sheet.availableWidth + 24
         height: Math.min(contentHeight, 12 * Tokens.fit(36),
             (T.Overlay.overlay?.height ?? 680) - y - sheet.topPadding - sheet.bottomPadding - 48)
         model: sheet.commands.everyKey
@@ -64,13 +66,22 @@ Dialog {
             Accessible.name: qsTr("%1, %2").arg(modelData.title).arg(modelData.keys)
             Accessible.role: Accessible.ListItem
 
+            FocusRing {
+                anchors.margins: 0
+                targetRadius: 4
+                visible: row.ListView.isCurrentItem && list.activeFocus
+            }
             Label {
+                x: 12
                 anchors.verticalCenter: parent.verticalCenter
+                width: keys.x - x - 8
                 text: row.modelData.title
                 Accessible.ignored: true
             }
             Label {
-                x: row.width - width - 12
+                id: keys
+
+                x: row.width - width - 24
                 anchors.verticalCenter: parent.verticalCenter
                 style: Tokens.type.captionMedium
                 color: Tokens.t2
