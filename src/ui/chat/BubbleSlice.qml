@@ -26,7 +26,8 @@ FrameSlice {
             running: slice.flashing
 
             NumberAnimation { target: glow; property: "opacity"; from: 0; to: 1; duration: Tokens.quick }
-            NumberAnimation { target: glow; property: "opacity"; to: 0; duration: Tokens.breathe }
+            PauseAnimation { duration: Tokens.reducedMotion ? Tokens.breathe : 0 }
+            NumberAnimation { target: glow; property: "opacity"; to: 0; duration: Tokens.reducedMotion ? Tokens.quick : Tokens.breathe }
         }
     }
 }

@@ -32,6 +32,8 @@ T.Switch {
             color: Tokens.accentInk
 
             Behavior on x {
+                enabled: !Tokens.reducedMotion
+
                 NumberAnimation { duration: Tokens.quick; easing.type: Easing.OutCubic }
             }
         }
