@@ -268,6 +268,13 @@
     </message>
 </context>
 <context>
+    <name>AskDialog</name>
+    <message>
+        <source>Keep editing</source>
+        <translation>Продолжить</translation>
+    </message>
+</context>
+<context>
     <name>AttachTray</name>
     <message>
         <source>Attached files</source>
@@ -777,6 +784,34 @@
         <source>Close</source>
         <translation>Закрыть</translation>
     </message>
+    <message>
+        <source>What would you like to create?</source>
+        <translation>Что создать?</translation>
+    </message>
+    <message>
+        <source>A project holds the work, an agent does it.</source>
+        <translation>В проекте живёт работа, а делает её агент.</translation>
+    </message>
+    <message>
+        <source>Pick a template</source>
+        <translation>Выберите шаблон</translation>
+    </message>
+    <message>
+        <source>It fills the next steps, and every field can be changed.</source>
+        <translation>Он заполнит следующие шаги, и любое поле можно изменить.</translation>
+    </message>
+    <message>
+        <source>Drop what you typed?</source>
+        <translation>Отказаться от введённого?</translation>
+    </message>
+    <message>
+        <source>Nothing has been created yet. What you filled in is not kept.</source>
+        <translation>Пока ничего не создано. Введённое не сохранится.</translation>
+    </message>
+    <message>
+        <source>Drop it</source>
+        <translation>Отказаться</translation>
+    </message>
 </context>
 <context>
     <name>CriterionRow</name>
@@ -851,25 +886,6 @@
     <message>
         <source>Brief</source>
         <translation>Бриф</translation>
-    </message>
-</context>
-<context>
-    <name>DiscardDialog</name>
-    <message>
-        <source>Drop what you typed?</source>
-        <translation>Отказаться от введённого?</translation>
-    </message>
-    <message>
-        <source>Nothing has been created yet. What you filled in is not kept.</source>
-        <translation>Пока ничего не создано. Введённое не сохранится.</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Продолжить</translation>
-    </message>
-    <message>
-        <source>Drop it</source>
-        <translation>Отказаться</translation>
     </message>
 </context>
 <context>
@@ -1269,17 +1285,6 @@
     </message>
 </context>
 <context>
-    <name>KindPage</name>
-    <message>
-        <source>What would you like to create?</source>
-        <translation>Что создать?</translation>
-    </message>
-    <message>
-        <source>A project holds the work, an agent does it.</source>
-        <translation>В проекте живёт работа, а делает её агент.</translation>
-    </message>
-</context>
-<context>
     <name>LeaveDialog</name>
     <message>
         <source>Leave without saving?</source>
@@ -1292,10 +1297,6 @@
     <message>
         <source>Drop it and leave</source>
         <translation>Уйти без сохранения</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Остаться</translation>
     </message>
 </context>
 <context>
@@ -2214,14 +2215,6 @@
         <translation>Пароль</translation>
     </message>
     <message>
-        <source>Hide the password</source>
-        <translation>Скрыть пароль</translation>
-    </message>
-    <message>
-        <source>Show the password</source>
-        <translation>Показать пароль</translation>
-    </message>
-    <message>
         <source>Create the account</source>
         <translation>Создать аккаунт</translation>
     </message>
@@ -2433,17 +2426,6 @@
     <message>
         <source>Copy the table</source>
         <translation>Копировать таблицу</translation>
-    </message>
-</context>
-<context>
-    <name>TemplatePage</name>
-    <message>
-        <source>Pick a template</source>
-        <translation>Выберите шаблон</translation>
-    </message>
-    <message>
-        <source>It fills the next steps, and every field can be changed.</source>
-        <translation>Он заполнит следующие шаги, и любое поле можно изменить.</translation>
     </message>
 </context>
 <context>
@@ -3199,6 +3181,14 @@
     <message>
         <source>Close what is on top, or stop the answer</source>
         <translation>Закрыть верхнее или остановить ответ</translation>
+    </message>
+    <message>
+        <source>Next match</source>
+        <translation>Следующее совпадение</translation>
+    </message>
+    <message>
+        <source>Previous match</source>
+        <translation>Предыдущее совпадение</translation>
     </message>
 </context>
 <context>

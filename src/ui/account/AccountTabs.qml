@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kiv.Account
 import Kiv.Controls
@@ -6,8 +8,24 @@ import Kiv.Controls
 Flow {
     id: tabs
 
+    component Entry: QtObject {
+        required property string key
+        required property string sign
+        required property string name
+    }
+
     required property string current
     required property bool stacked
+
+    readonly property list<Entry> entries: [
+        Entry { key: "profile"; sign: "user"; name: qsTr("Profile") },
+        Entry { key: "plan"; sign: "card"; name: qsTr("Plan") },
+        Entry { key: "security"; sign: "shield"; name: qsTr("Security") },
+        Entry { key: "memory"; sign: "layers"; name: qsTr("Workspace memory") },
+        Entry { key: "sources"; sign: "db"; name: qsTr("Data sources") },
+        Entry { key: "voice"; sign: "voice"; name: qsTr("Voice style") },
+        Entry { key: "notifications"; sign: "bell"; name: qsTr("Notifications") }
+    ]
 
     signal picked(tab: string)
     signal signOutRequested()
@@ -16,61 +34,19 @@ Flow {
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTr("Account pages")
 
-    AccountTab {
-        objectName: "profileTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "user"
-        text: qsTr("Profile")
-        chosen: tabs.current === "profile"
-        onClicked: tabs.picked("profile")
-    }
-    AccountTab {
-        objectName: "planTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "card"
-        text: qsTr("Plan")
-        chosen: tabs.current === "plan"
-        onClicked: tabs.picked("plan")
-    }
-    AccountTab {
-        objectName: "securityTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "shield"
-        text: qsTr("Security")
-        chosen: tabs.current === "security"
-        onClicked: tabs.picked("security")
-    }
-    AccountTab {
-        objectName: "memoryTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "layers"
-        text: qsTr("Workspace memory")
-        chosen: tabs.current === "memory"
-        onClicked: tabs.picked("memory")
-    }
-    AccountTab {
-        objectName: "sourcesTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "db"
-        text: qsTr("Data sources")
-        chosen: tabs.current === "sources"
-        onClicked: tabs.picked("sources")
-    }
-    AccountTab {
-        objectName: "voiceTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "voice"
-        text: qsTr("Voice style")
-        chosen: tabs.current === "voice"
-        onClicked: tabs.picked("voice")
-    }
-    AccountTab {
-        objectName: "notificationsTab"
-        width: tabs.stacked ? tabs.width : implicitWidth
-        iconName: "bell"
-        text: qsTr("Notifications")
-        chosen: tabs.current === "notifications"
-        onClicked: tabs.picked("notifications")
+    Repeater {
+        model: tabs.entries
+
+        AccountTab {
+            required property Entry modelData
+
+            objectName: modelData.key + "Tab"
+            width: tabs.stacked ? tabs.width : implicitWidth
+            iconName: modelData.sign
+            text: modelData.name
+            chosen: tabs.current === modelData.key
+            onClicked: tabs.picked(modelData.key)
+        }
     }
     Item {
         width: tabs.width

@@ -75,17 +75,29 @@ Dialog {
                 focus: true
                 enabled: wizard.editing
 
-                KindPage {
+                ChoicePage {
                     id: kind
 
                     anchors.fill: parent
-                    room: wizard.room
+                    visible: wizard.room.step === Store.CreateStep.Kind
+                    head: qsTr("What would you like to create?")
+                    sub: qsTr("A project holds the work, an agent does it.")
+                    prefix: "kind:"
+                    choices: wizard.room.kinds
+                    chosen: wizard.room.kind === Store.CreateKind.Project ? "project" : "agent"
+                    onPicked: id => wizard.room.kind = id === "project" ? Store.CreateKind.Project : Store.CreateKind.Agent
                 }
-                TemplatePage {
+                ChoicePage {
                     id: template
 
                     anchors.fill: parent
-                    room: wizard.room
+                    visible: wizard.room.step === Store.CreateStep.Template
+                    head: qsTr("Pick a template")
+                    sub: qsTr("It fills the next steps, and every field can be changed.")
+                    prefix: "template:"
+                    choices: wizard.room.templates
+                    chosen: wizard.room.templateId
+                    onPicked: id => wizard.room.templateId = id
                 }
                 DetailsPage {
                     id: details
@@ -125,7 +137,16 @@ Dialog {
         }
     }
 
-    DiscardDialog {
-        room: wizard.room
+    AskDialog {
+        objectName: "discardDialog"
+        question: qsTr("Drop what you typed?")
+        body: qsTr("Nothing has been created yet. What you filled in is not kept.")
+        drop: qsTr("Drop it")
+        keepButton.objectName: "keepEditing"
+        dropButton.objectName: "discardDraft"
+        visible: wizard.room.asking
+        onKept: wizard.room.keepEditing()
+        onDropped: wizard.room.close()
+        onAboutToHide: if (wizard.room.asking) wizard.room.keepEditing()
     }
 }

@@ -39,6 +39,8 @@ QList<MenuEntry> Commands::everyKey() const {
                                    beside(tr("Command palette"), u"Ctrl+Shift+P"_s),
                                    beside(tr("Main menu"), u"F10"_s),
                                    beside(tr("Find in the conversation"), u"Ctrl+F"_s),
+                                   beside(tr("Next match"), u"F3"_s),
+                                   beside(tr("Previous match"), u"Shift+F3"_s),
                                    beside(tr("Export the picture"), u"Ctrl+E"_s),
                                    beside(tr("The canvas alone"), u"Ctrl+Shift+F"_s),
                                    beside(tr("Earlier canvas"), u"Alt+Left"_s),

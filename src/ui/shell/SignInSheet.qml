@@ -30,7 +30,7 @@ Dialog {
     onAboutToShow: writeOn(Qt.PopupFocusReason)
     onAboutToHide: if (session.authSheet !== Store.AuthSheetMode.Closed) session.closeAuthSheet()
     onClosed: {
-        eye.checked = false
+        password.shown = false
         if (store.scope.auth === Store.AuthPhase.SignedIn) {
             password.field.clear()
             store.layout.focusAsk()
@@ -75,7 +75,7 @@ Dialog {
             field.inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
             field.onAccepted: sheet.submit()
         }
-        Field {
+        PasswordEntry {
             id: password
 
             width: parent.width
@@ -83,25 +83,7 @@ Dialog {
             field.objectName: "passwordField"
             field.enabled: !sheet.session.busy
             field.failed: sheet.session.authError !== "" && sheet.session.errorField === Store.AuthField.Password
-            field.trailing: 32
-            field.echoMode: eye.checked ? TextInput.Normal : TextInput.Password
-            field.passwordCharacter: "•"
-            field.inputMethodHints: Qt.ImhSensitiveData | Qt.ImhNoAutoUppercase | Qt.ImhNoPredictiveText
             field.onAccepted: sheet.submit()
-
-            IconButton {
-                id: eye
-
-                parent: password.field
-                x: parent.width - width - 4
-                anchors.verticalCenter: parent.verticalCenter
-                size: 32
-                objectName: "passwordEye"
-                checkable: true
-                iconName: "eye"
-                color: checked ? Tokens.accentText : Tokens.t3
-                text: checked ? qsTr("Hide the password") : qsTr("Show the password")
-            }
         }
         Row {
             visible: sheet.session.authError !== ""

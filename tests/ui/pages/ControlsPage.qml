@@ -64,7 +64,7 @@ Rectangle {
                 Skeleton { width: 200; height: 18 } Skeleton { width: 140 } Skeleton { width: 170 } }
         }
         Grid { columns: 24; spacing: 8
-            Repeater { model: ["agents","alert","arrdn","arrup","bang","bell","brief","budget","cashflow","check","clip","close","compare","copy","costs","decision","dock","down","download","events","eye","funnel","globe","history","image","info","mic","moon","more","okr","out","phone","plus","rail","refine","report","retro","right","search","send","sheet","status","stop","unit","user","workload"]
+            Repeater { model: ["agents","alert","arrdn","arrup","bang","bell","brief","budget","cashflow","check","clip","close","compare","copy","costs","decision","dock","down","download","events","eye","funnel","globe","history","image","mic","moon","more","okr","out","phone","plus","rail","refine","report","retro","right","search","send","sheet","status","stop","unit","user","workload"]
                 Icon { required property string modelData; name: modelData; color: Tokens.t2 } }
             Repeater { model: ["report","compare","check","down","right","plus","dock","stop","refine"]
                 Icon { required property string modelData; name: modelData; size: 16; color: Tokens.accentText } }

@@ -6,6 +6,9 @@ import Kiv.Tokens
 Field {
     id: entry
 
+    /// Whether it can be read.
+    property alias shown: eye.checked
+
     field.trailing: 32
     field.echoMode: eye.checked ? TextInput.Normal : TextInput.Password
     field.passwordCharacter: "•"
@@ -18,6 +21,7 @@ Field {
         x: parent.width - width - 4
         anchors.verticalCenter: parent.verticalCenter
         size: 32
+        objectName: "passwordEye"
         checkable: true
         iconName: "eye"
         color: checked ? Tokens.accentText : Tokens.t3
