@@ -1,3 +1,4 @@
+#include "driver/FindItem.h"
 #include "ui/GalleryTest.h"
 
 #include <QAccessible>
@@ -20,6 +21,7 @@ private Q_SLOTS:
     void listByMouse();
     void dockByMouse();
     void narrowWindow();
+    void longWordsGiveWay();
 
 private:
     void drag(const QString &edge, const QPoint &by);
@@ -147,6 +149,39 @@ void SizesTest::narrowWindow() {
     QTRY_VERIFY(m_gallery->find(u"strip"_s));
     m_gallery->press(Qt::Key_Escape);
     QTRY_VERIFY(m_gallery->find(u"navigator"_s));
+}
+
+/// Words that are longer than their place do not run under what stands beside them.
+void SizesTest::longWordsGiveWay() {
+    const QString name =
+        u"Night watch of the northern warehouses, their gates and all the keys that "
+        "were ever made for any of them"_s;
+    const QString chat = u"api/v2/custom-agents/heron/chat"_s;
+    m_workspace->backend.answer(u"GET api/v2/custom-agents"_s,
+                                R"({"agents":[{"id":"heron","role":"Guard","name":")" +
+                                    name.toUtf8() + R"("}]})");
+    m_workspace->history(chat, '[' + test::rowJson(3, u"assistant"_s, u"All quiet."_s) + ']');
+    m_workspace->backend.answer(u"POST "_s + chat, "{}");
+    open({1024, 680});
+    layout().dragRail(640);
+    m_workspace->store->connection()->setFailure(u"Something is in the way of it. "_s.repeated(6));
+    m_workspace->store->scope()->pickStandaloneAgent(u"heron"_s);
+    QTRY_COMPARE(m_workspace->msgs().count(), 1);
+    m_workspace->store->chat()->send(u"Well?"_s);
+    QTRY_VERIFY(m_gallery->find(u"captionWord"_s));
+    m_gallery->save(u"long-words"_s);
+
+    const auto placeOf = [this](const QString &item) {
+        const QQuickItem *found = m_gallery->item(item);
+        return found->mapRectToScene(found->boundingRect());
+    };
+    QVERIFY(placeOf(u"failureBanner"_s).height() > 40);
+    QVERIFY(placeOf(u"captionWord"_s).right() <= placeOf(u"fullButton"_s).left());
+    QQuickItem *feed = m_gallery->item(u"compactFeed"_s);
+    const QQuickItem *head = driver::findItem(
+        feed, [&](const QQuickItem &item) { return item.property("text") == name; });
+    QVERIFY(head);
+    QVERIFY(head->mapToItem(feed, QPointF(head->width(), 0)).x() <= feed->width() - 16);
 }
 
 } // namespace kiv::ui

@@ -49,16 +49,19 @@ Item {
             thinking: caption.thinking
         }
     }
-    Label {
+    FullLabel {
         id: word
 
+        objectName: "captionWord"
         anchors.left: sign.right
         anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, actions.x - x - 8)
         style: Tokens.type.strong
         text: caption.thinking ? qsTr("%1 is thinking").arg(caption.scope.scopeName)
             : caption.building ? qsTr("Drawing the %1").arg(caption.canvas.artInfo.word.toLowerCase())
             : caption.canvas.artInfo.word
+        Accessible.ignored: text === ""
     }
     Label {
         objectName: "captionLine"
@@ -67,6 +70,7 @@ Item {
         anchors.right: actions.left
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
+        visible: width > 24
         style: Tokens.type.small
         tabular: caption.thinking
         color: drawnActions.failure === "" ? Tokens.t3 : Tokens.dangerText

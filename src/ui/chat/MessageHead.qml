@@ -13,6 +13,12 @@ Item {
     required property bool compact
     required property ScopeRoom scope
 
+    /// What goes with the name.
+    readonly property real beside: figure.size + line.spacing
+        + (time.visible ? time.implicitWidth + line.spacing : 0)
+        + (spoken.visible ? spoken.size + line.spacing : 0)
+        + (helper.visible ? helper.width + line.spacing : 0)
+
     implicitHeight: line.y + figure.height + 6
 
     Row {
@@ -29,12 +35,16 @@ Item {
             colorHex: head.scope.scopeColorHex
             size: head.compact ? 20 : 28
         }
-        Label {
+        FullLabel {
             anchors.verticalCenter: parent.verticalCenter
+            width: Math.min(implicitWidth, head.width - head.beside)
             style: Tokens.type.smallStrong
             text: head.scope.scopeName
+            Accessible.ignored: text === ""
         }
         Label {
+            id: time
+
             anchors.verticalCenter: parent.verticalCenter
             visible: text !== ""
             style: Tokens.type.caption
@@ -43,6 +53,8 @@ Item {
             text: head.row.time
         }
         Icon {
+            id: spoken
+
             anchors.verticalCenter: parent.verticalCenter
             visible: head.row.fromCall
             name: "phone"
@@ -52,8 +64,11 @@ Item {
             Accessible.name: qsTr("said in a call")
         }
         Chip {
+            id: helper
+
             anchors.verticalCenter: parent.verticalCenter
             visible: head.row.memberLabel !== ""
+            width: Math.min(implicitWidth, head.width / 3)
             height: Tokens.fit(20)
             text: qsTr("with %1").arg(head.row.memberLabel)
         }

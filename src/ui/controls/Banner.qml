@@ -15,7 +15,7 @@ Rectangle {
     signal acted()
     signal closed()
 
-    implicitHeight: Tokens.fit(40)
+    implicitHeight: Math.max(Tokens.fit(40), words.height + 16)
     color: tone.tint
     Accessible.role: Accessible.AlertMessage
     Accessible.name: text
@@ -29,6 +29,8 @@ Rectangle {
         color: banner.tone.text
     }
     Label {
+        id: words
+
         anchors.left: sign.right
         anchors.leftMargin: 8
         anchors.right: link.left
@@ -36,6 +38,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.smallMedium
         color: banner.tone.text
+        wrapMode: Text.Wrap
         text: banner.text
     }
     TextLink {
