@@ -130,7 +130,7 @@ QList<SceneAnswer> okr() {
                 point(u"Satisfaction at 4.6 or more"_s, 94, third),
                 point(u"Macros reviewed"_s, 91, third)},
                {u"78%"_s, u"67%"_s, u"46%"_s, u"35%"_s, u"94%"_s}),
-        answer(u"one"_s, {point(u"Готовность"_s, 0)}, {u"0%"_s}),
+        answer(u"one"_s, {point(u"Готовность"_s, 0, u"🚀 Crew"_s)}, {u"0%"_s}),
         answer(u"many"_s,
                times(many, [](int i) { return point(u"Result %1"_s.arg(i), i, u"All teams"_s); }),
                {}),

@@ -132,6 +132,7 @@ void SceneTest::check(const SceneAnswer &answer, const canvas::SceneOut &scene,
     for (qsizetype i = 0; i < seen.size(); ++i) {
         const SeenText &text = seen.at(i);
         all += text.words + u'\n';
+        QVERIFY2(text.words.isValidUtf16(), qPrintable(text.words));
         const QByteArray at = QByteArray::number(picture.width()) + ": " + text.words.toUtf8();
         QVERIFY2(sheet.contains(text.box), at);
         QVERIFY2(!isFigure(text.words) || !text.cut, at);

@@ -65,14 +65,14 @@ Item {
         anchors.centerIn: parent
         visible: figure.kind === Store.ScopeKind.Project
         size: Math.round(180 * figure.unit)
-        letter: figure.name.charAt(0)
+        letter: figure.name
         fill: figure.base
     }
     Disc {
         anchors.centerIn: parent
         visible: figure.kind === Store.ScopeKind.Agent
         size: Math.round(200 * figure.unit)
-        letters: figure.name.substring(0, 2)
+        letters: figure.name
         base: figure.base
     }
 }

@@ -27,14 +27,15 @@ Item {
         anchors.centerIn: parent
         visible: figure.kind === Store.ScopeKind.Project
         size: figure.size
-        letter: figure.name.charAt(0)
+        letter: figure.name
         fill: figure.colorHex === "" ? Tokens.blue.base : figure.colorHex
     }
     Disc {
         anchors.centerIn: parent
         visible: figure.kind === Store.ScopeKind.Agent
         size: figure.size
-        letters: figure.name.substring(0, figure.size < 28 ? 1 : 2)
+        letters: figure.name
+        most: figure.size < 28 ? 1 : 2
         base: figure.colorHex === "" ? Tokens.blue.base : figure.colorHex
     }
 }

@@ -1,12 +1,13 @@
 import QtQuick
 import Kiv.Tokens
 
-// An agent's figure: letters on a disc tinted in the agent's colour.
+// An agent's figure: the first letters of a word on a disc tinted in the agent's colour.
 Rectangle {
     id: disc
 
     property int size: 24
     required property string letters
+    property int most: 2
     property color base: Tokens.blue.base
 
     implicitWidth: size
@@ -16,7 +17,8 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
-        text: disc.letters
+        // By characters, some of which are two code units.
+        text: [...disc.letters].slice(0, disc.most).join("")
         color: Tint.text(disc.base, Tokens.dark)
         font.pixelSize: Math.max(10, Math.round(disc.size * 0.38))
         font.weight: Font.DemiBold

@@ -6,6 +6,7 @@ Rectangle {
     id: tile
 
     property int size: 24
+    /// Of a longer word the first is shown.
     required property string letter
     property color fill: Tokens.blue.base
 
@@ -16,7 +17,7 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
-        text: tile.letter
+        text: [...tile.letter][0] ?? ""
         color: Tint.onFill(tile.fill)
         font.pixelSize: Math.round(tile.size * 0.46)
         font.weight: Font.DemiBold

@@ -16,7 +16,7 @@ Rectangle {
 
     Text {
         anchors.centerIn: parent
-        text: disc.size < 28 ? Figures.initials(disc.name).slice(0, 1) : Figures.initials(disc.name)
+        text: [...Figures.initials(disc.name)].slice(0, disc.size < 28 ? 1 : 2).join("")
         color: Tokens.t2
         font.pixelSize: Math.max(10, Math.round(disc.size * 0.36))
         font.weight: Font.DemiBold

@@ -33,7 +33,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         visible: !lane.art.narrow
         size: 36
-        letters: lane.modelData.name.substring(0, 2)
+        letters: lane.modelData.name
         base: lane.art.dataColor((lane.index + 1) % 5).base
     }
     Column {
