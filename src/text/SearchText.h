@@ -24,8 +24,8 @@ public:
 
     SearchText(const QList<BlockPart> &parts, Markup markup);
 
-    /// From the first to the last. Words that a line end parts are not found; of those that go on in
-    /// the next part of a line the place is that of the first.
+    /// From the first to the last. Words that a line end parts are not found; of those that go on
+    /// in the next part of a line the place is that of the first.
     QList<WordPlace> find(const FoldedText &words) const;
 
 private:
