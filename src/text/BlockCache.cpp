@@ -2,6 +2,8 @@
 
 #include <QCache>
 
+#include <algorithm>
+
 namespace kiv::text::MDParser {
 
 namespace {
@@ -13,6 +15,12 @@ struct BlocksBox {
 
 constexpr qsizetype capacity = 400;
 
+/// How many places a text takes: one for an answer of usual length, a quarter of all at most.
+qsizetype placesOf(const QString &text) {
+    constexpr qsizetype usualLength = 4096;
+    return std::min(1 + text.size() / usualLength, capacity / 4);
+}
+
 } // namespace
 
 QList<MDBlock> blocks(const QString &text) {
@@ -21,7 +29,7 @@ QList<MDBlock> blocks(const QString &text) {
         return box->blocks;
     auto box = std::make_unique<BlocksBox>(parse(text));
     QList<MDBlock> result = box->blocks;
-    cache.insert(text, box.release());
+    cache.insert(text, box.release(), placesOf(text));
     return result;
 }
 

@@ -135,10 +135,19 @@ private Q_SLOTS:
         for (const QUuid &id : ids)
             QCOMPARE(id.version(), QUuid::Random);
     }
+    void cacheForgets_data() {
+        QTest::addColumn<int>("others");
+        QTest::addColumn<int>("length");
+        QTest::newRow("many texts") << 400 << 1;
+        QTest::newRow("few long ones") << 4 << 1'000'000;
+    }
     void cacheForgets() {
+        QFETCH(int, others);
+        QFETCH(int, length);
         const auto before = MDParser::blocks(u"kept"_s);
-        for (int i = 0; i < 400; ++i)
-            MDParser::blocks(QString::number(i));
+        QCOMPARE(MDParser::blocks(u"kept"_s).first().id, before.first().id);
+        for (int i = 0; i < others; ++i)
+            MDParser::blocks(QString::number(i) + QString(length, u'x'));
         QVERIFY(MDParser::blocks(u"kept"_s).first().id != before.first().id);
     }
 
