@@ -219,8 +219,8 @@ private Q_SLOTS:
         f.backend.answer(stream, R"({"error":"Signed out"})", 401);
         if (status == 401)
             f.backend.answer(me, R"({"error":"Signed out"})", 401);
-        QVERIFY(f.loseLine(test::kivChat));
-        SOON_COMPARE(f.backend.count(me), 2);
+        QVERIFY(f.loseLine(test::kivChat, me));
+        QCOMPARE(f.backend.count(me), 2);
         SOON_COMPARE(f.store->scope()->auth(), phase);
         SOON_COMPARE(f.store->session()->authSheet(),
                      status == 401 ? AuthSheetMode::Login : AuthSheetMode::Closed);
@@ -251,8 +251,8 @@ private Q_SLOTS:
         SOON_COMPARE(f.backend.count(logout), 1);
         f.backend.answer(me, "{}", 401);
         f.backend.answer(u"GET "_s + test::kivChat + u"/stream"_s, "{}", 401);
-        QVERIFY(f.loseLine(test::kivChat));
-        SOON_COMPARE(f.backend.count(me), 2);
+        QVERIFY(f.loseLine(test::kivChat, me));
+        QCOMPARE(f.backend.count(me), 2);
         QTest::qWait(50);
         QCOMPARE(f.store->scope()->auth(), AuthPhase::SignedIn);
         f.backend.release(logout);

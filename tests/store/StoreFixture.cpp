@@ -139,14 +139,14 @@ bool StoreFixture::reconnect(const QString &chat) {
            soon([&] { return isLoaded(chat, pages + pagesOfALine); });
 }
 
-bool StoreFixture::loseLine(const QString &chat) {
-    const QString stream = u"GET "_s + chat + streamEnd;
-    const int before = backend.count(stream);
+bool StoreFixture::loseLine(const QString &chat, const QString &next) {
+    const QString route = next.isEmpty() ? u"GET "_s + chat + streamEnd : next;
+    const int before = backend.count(route);
     backend.dropStream(chat + streamEnd);
     return QTest::qWaitFor([&] {
-        if (backend.count(stream) == before)
+        if (backend.count(route) == before)
             clock.advance(50ms);
-        return backend.count(stream) > before;
+        return backend.count(route) > before;
     });
 }
 

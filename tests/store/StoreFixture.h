@@ -45,8 +45,8 @@ public:
     bool streaming(const QString &chat, int connections);
     /// Drops the stream of a chat and lets time pass until it is back.
     bool reconnect(const QString &chat);
-    /// Drops the stream of a chat and lets time pass until it is asked for again.
-    bool loseLine(const QString &chat);
+    /// Drops the stream of a chat and lets time pass until it is asked for again, or `next`.
+    bool loseLine(const QString &chat, const QString &next = {});
 
     /// The stream of the current chat sends this row: an answer, or what `role` says.
     void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
