@@ -5,7 +5,6 @@
 #include "SpecJson.h"
 #include "base/Json.h"
 #include "canvas/AnswerBlock.h"
-#include "canvas/AnswerReading.h"
 #include "canvas/ArtChoice.h"
 #include "canvas/CanvasIntents.h"
 #include "canvas/ReplyOptions.h"
@@ -144,9 +143,12 @@ void writeCanvas(JsonText &json, const canvas::ViewSpec &spec,
 void writeAnswer(JsonText &json, const Request &request, const QUrl &baseUrl) {
     const auto intent =
         request.question ? canvas::CanvasIntents::classify(*request.question) : std::nullopt;
+    const auto replies = canvas::ReplyOptions::parse(request.text, request.replies);
     const auto answer = canvas::CanvasEngine::extractViewSpec(request.text, request.view);
     // An options line below a table is no row of it.
-    const auto spec = canvas::readAnswer(request.text, request.view, request.replies).spec;
+    const auto spec = replies.text == request.text
+                          ? answer.spec
+                          : canvas::CanvasEngine::extractViewSpec(replies.text, request.view).spec;
     json.beginObject();
     json.member(u"intent", intent);
     json.member(u"text", answer.text);
@@ -161,7 +163,7 @@ void writeAnswer(JsonText &json, const Request &request, const QUrl &baseUrl) {
     json.key(u"surface");
     writeSurface(json, canvas::SurfaceMatcher::match(request.text, baseUrl));
     json.key(u"reply");
-    writeReply(json, canvas::ReplyOptions::parse(request.text, request.replies));
+    writeReply(json, replies);
     json.key(u"blocks");
     writeBlocks(json, request.text);
     json.endObject();
