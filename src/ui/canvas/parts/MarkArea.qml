@@ -62,7 +62,7 @@ Item {
         height: pointer.hovered ? Math.min(parent.height, pointer.point.position.y + 12) : parent.height
 
         TipLoader {
-            active: pointer.hovered || mark.activeFocus
+            active: (pointer.hovered || mark.activeFocus) && text + keys !== ""
             text: mark.tip
             keys: Figures.joined([mark.value, mark.share], " · ")
         }

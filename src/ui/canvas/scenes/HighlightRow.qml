@@ -12,6 +12,7 @@ SceneRow {
 
     height: Math.max(least, words.height + 12)
     label: modelData
+    tip: words.truncated ? modelData : ""
 
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
