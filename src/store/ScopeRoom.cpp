@@ -55,6 +55,16 @@ const Agent *findAgent(const QList<Agent> &agents, const QString &id) {
     return found == agents.end() ? nullptr : &*found;
 }
 
+/// Writes one key of the scope, or removes it; nothing while nobody is signed in.
+void save(AppStore &store, const QString &key, const QString &value) {
+    if (store.scope()->auth() != AuthPhase::SignedIn)
+        return;
+    if (value.isEmpty())
+        store.settings().remove(key);
+    else
+        store.settings().setValue(key, value);
+}
+
 } // namespace
 
 ScopeRoom::ScopeRoom(AppStore &store) : m_store(store), m_railView(&m_rail), m_choices(&m_rail) {
@@ -324,20 +334,17 @@ void ScopeRoom::restoreScope() {
 
 void ScopeRoom::startPersisting() {
     m_isPersisting = true;
-    connect(this, &ScopeRoom::projectChanged, this, &ScopeRoom::saveScope);
-    connect(this, &ScopeRoom::agentChanged, this, &ScopeRoom::saveScope);
+    // Each by itself: a project that is entered because the saved agent is not there yet leaves it.
+    connect(this, &ScopeRoom::projectChanged, this,
+            [this] { save(m_store, projectKey, m_project); });
+    connect(this, &ScopeRoom::agentChanged, this, [this] { save(m_store, agentKey, m_agent); });
 }
 
 void ScopeRoom::saveScope() {
-    if (!m_isPersisting || m_auth.value() != AuthPhase::SignedIn)
+    if (!m_isPersisting)
         return;
-    for (const auto &[key, value] :
-         {std::pair(projectKey, m_project.value()), std::pair(agentKey, m_agent.value())}) {
-        if (value.isEmpty())
-            m_store.settings().remove(key);
-        else
-            m_store.settings().setValue(key, value);
-    }
+    save(m_store, projectKey, m_project);
+    save(m_store, agentKey, m_agent);
 }
 
 void ScopeRoom::setSignedOut() {

@@ -166,6 +166,16 @@ private Q_SLOTS:
         QTEST(QString(scope->project() + u'/' + scope->agent()), "restored");
     }
 
+    void savedAgentIsNotThereYet() {
+        StoreFixture f;
+        f.settings->setValue(u"zandor.project"_s, u"ferry"_s);
+        f.settings->setValue(u"zandor.agent"_s, u"loom"_s);
+        f.backend.answer(u"GET api/v2/projects/ferry/members"_s, "{}", 503);
+        f.store->boot();
+        SOON_COMPARE(f.store->scope()->project(), u"ferry"_s);
+        QCOMPARE(f.settings->value(u"zandor.agent"_s).toString(), u"loom"_s);
+    }
+
     void chosenBeforeTheSavedOneIsBack_data() {
         QTest::addColumn<QString>("project");
         QTest::newRow("a project") << u"lantern"_s;
