@@ -13,8 +13,8 @@ namespace kiv::text::MDParser {
 /// Reads a text line by line; what is no other block is a paragraph. Linear in the text's length.
 QList<MDBlock> parse(QStringView text);
 
-/// The blocks of a text from a cache of the last 400 texts, fewer when they are long: a text that is
-/// laid out again keeps its ids. For the main thread; rows that still grow are better parsed.
+/// The blocks of a text from a cache of the last 400 texts, fewer when they are long: a text that
+/// is laid out again keeps its ids. For the main thread; rows that still grow are better parsed.
 QList<MDBlock> blocks(const QString &text);
 
 enum class Style { Bold = 1, Italic = 2, Code = 4, Strike = 8 };
