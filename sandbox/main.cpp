@@ -4,6 +4,7 @@
 #include "Options.h"
 #include "Secrets.h"
 #include "Server.h"
+#include "base/QuitSignals.h"
 #include "base/Version.h"
 
 #include <QCoreApplication>
@@ -14,7 +15,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <sys/socket.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,24 +22,6 @@ using namespace Qt::StringLiterals;
 using namespace kiv::sandbox;
 
 namespace {
-
-int signalEnds[2];
-
-void onSignal(int) {
-    const char byte = 0;
-    [[maybe_unused]] const ssize_t written = ::write(signalEnds[0], &byte, 1);
-}
-
-/// Ends the event loop on SIGTERM and SIGINT.
-void quitOnSignals(QCoreApplication &application) {
-    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalEnds) != 0)
-        qFatal("No socket pair for signals");
-    auto *notifier = new QSocketNotifier(signalEnds[1], QSocketNotifier::Read, &application);
-    QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
-    std::signal(SIGTERM, onSignal);
-    std::signal(SIGINT, onSignal);
-    std::signal(SIGPIPE, SIG_IGN);
-}
 
 /// Ends the event loop when the parent, which holds the other end, is gone.
 void quitWithStandardInput(QCoreApplication &application) {
@@ -83,7 +65,8 @@ int run(QCoreApplication &application) {
                         : "the data folder cannot be written to");
     startSecrets();
     Server server(options);
-    quitOnSignals(application);
+    kiv::quitOnSignals(application);
+    std::signal(SIGPIPE, SIG_IGN);
     if (!options.stay)
         quitWithStandardInput(application);
     announce(server);

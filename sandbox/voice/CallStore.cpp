@@ -17,19 +17,29 @@ constexpr int secondsForSocket = 60;
 constexpr int secondsForReturn = 30;
 constexpr int snippetLength = 120;
 
+QString written(const QDateTime &at) {
+    return at.toString(Qt::ISODateWithMs);
+}
+
 QString inSeconds(int seconds) {
-    return QDateTime::currentDateTimeUtc().addSecs(seconds).toString(Qt::ISODateWithMs);
+    return written(QDateTime::currentDateTimeUtc().addSecs(seconds));
 }
 
 QString now() {
     return inSeconds(0);
 }
 
-void finishIn(Sql &sql, const QString &call) {
+void finishIn(Sql &sql, const QString &call, const QDateTime &at) {
     sql.exec(u"UPDATE calls SET ended_at = CASE state WHEN 'live' THEN ? ELSE ended_at END,"
              u" state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
              u" WHERE id = ? AND state IN ('waiting', 'live', 'dropped')"_s,
-             {now(), call});
+             {written(at), call});
+}
+
+void dropIn(Sql &sql, const QString &call, const QDateTime &at) {
+    sql.exec(u"UPDATE calls SET state = 'dropped', ended_at = ?, free_at = ?"
+             u" WHERE id = ? AND state = 'live'"_s,
+             {written(at), written(at.addSecs(secondsForReturn)), call});
 }
 
 Refusal noSuchCall() {
@@ -79,26 +89,33 @@ bool CallStore::attempt(const std::function<void(Sql &)> &job) {
     }
 }
 
-/// Calls that have waited long enough are over, at the time at which their socket was last there.
-void CallStore::settle(Sql &sql) {
-    sql.exec(u"UPDATE calls SET state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
-             u" WHERE state IN ('waiting', 'dropped') AND free_at < ?"_s,
-             {now()});
+/// What is owed is written down. Calls that have waited long enough are over, at the time at which
+/// their socket was last there.
+void CallStore::settle() {
     const std::lock_guard lock(m_mutex);
-    for (const QString &call : m_owed)
-        finishIn(sql, call);
+    const bool isWritten = attempt([this](Sql &sql) {
+        for (const Ending &ending : m_owed)
+            ending.write(sql, ending.call, ending.at);
+        sql.exec(u"UPDATE calls SET state = CASE state WHEN 'waiting' THEN 'missed' ELSE 'done' END"
+                 u" WHERE state IN ('waiting', 'dropped') AND free_at < ?"_s,
+                 {now()});
+    });
+    if (isWritten)
+        m_owed.clear();
 }
 
-void CallStore::owe(const QString &call) {
+void CallStore::writeDown(const Ending &ending) {
+    if (attempt([&](Sql &sql) { ending.write(sql, ending.call, ending.at); }))
+        return;
     const std::lock_guard lock(m_mutex);
-    m_owed.append(call);
+    m_owed.append(ending);
 }
 
 MintedCall CallStore::mint(const QString &account, const QString &agent, const CallDoor &door,
                            int longestSeconds) {
     const MintedCall call{QUuid::createUuid().toString(QUuid::WithoutBraces), randomToken()};
+    settle();
     m_database.run([&](Sql &sql) {
-        settle(sql);
         if (sql.row(u"SELECT 1 FROM calls WHERE account = ?"
                     u" AND state IN ('waiting', 'live', 'dropped')"_s,
                     {account}))
@@ -112,9 +129,9 @@ MintedCall CallStore::mint(const QString &account, const QString &agent, const C
 }
 
 std::optional<OpenCall> CallStore::open(const QByteArray &token, const CallDoor &door) {
+    settle();
     std::optional<OpenCall> opened;
     const bool isWritten = attempt([&](Sql &sql) {
-        settle(sql);
         const auto row = sql.row(u"SELECT id, account, agent, longest, state, started_at FROM calls"
                                  u" WHERE token = ? AND origin = ? AND host = ?"
                                  u" AND state IN ('waiting', 'dropped')"_s,
@@ -136,25 +153,18 @@ std::optional<OpenCall> CallStore::open(const QByteArray &token, const CallDoor 
 }
 
 void CallStore::drop(const QString &call) {
-    const bool isWritten = attempt([&](Sql &sql) {
-        sql.exec(u"UPDATE calls SET state = 'dropped', ended_at = ?, free_at = ?"
-                 u" WHERE id = ? AND state = 'live'"_s,
-                 {now(), inSeconds(secondsForReturn), call});
-    });
-    if (!isWritten)
-        owe(call);
+    writeDown({call, dropIn, QDateTime::currentDateTimeUtc()});
 }
 
 void CallStore::finish(const QString &call) {
-    if (!attempt([&](Sql &sql) { finishIn(sql, call); }))
-        owe(call);
+    writeDown({call, finishIn, QDateTime::currentDateTimeUtc()});
 }
 
 void CallStore::end(const QString &account, const QString &call) {
     m_database.run([&](Sql &sql) {
         if (!sql.row(u"SELECT 1 FROM calls WHERE account = ? AND id = ?"_s, {account, call}))
             throw noSuchCall();
-        finishIn(sql, call);
+        finishIn(sql, call, QDateTime::currentDateTimeUtc());
     });
 }
 
@@ -176,8 +186,8 @@ void CallStore::correctLine(qint64 line, const QString &text) {
 }
 
 QJsonArray CallStore::list(const QString &account, const QString &agent, int limit) {
+    settle();
     const auto rows = m_database.run([&](Sql &sql) {
-        settle(sql);
         return sql.rows(callColumns + u" AND agent = ? AND started_at IS NOT NULL"
                                       u" ORDER BY started_at DESC LIMIT ?"_s,
                         {account, agent, limit});

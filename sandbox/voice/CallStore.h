@@ -1,10 +1,9 @@
 #pragma once
 
+#include <QDateTime>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
-
-#include <QStringList>
 
 #include <functional>
 #include <mutex>
@@ -52,9 +51,9 @@ public:
     /// Nothing for a token that is unknown, in use or used up, that comes from another door, or
     /// when the disk is full.
     std::optional<OpenCall> open(const QByteArray &token, const CallDoor &door);
-    /// The socket is gone without a goodbye.
+    /// The socket is gone without a goodbye. What cannot be written down now is as soon as it can,
+    /// with the time of now; so it is with finish.
     void drop(const QString &call);
-    /// What cannot be finished now is as soon as it can.
     void finish(const QString &call);
     /// Finishes the account's call; throws Refusal (404) when it has no such call.
     void end(const QString &account, const QString &call);
@@ -69,13 +68,20 @@ public:
     QJsonObject detail(const QString &account, const QString &call);
 
 private:
+    /// How and when the socket of a call went.
+    struct Ending {
+        QString call;
+        void (*write)(Sql &sql, const QString &call, const QDateTime &at);
+        QDateTime at;
+    };
+
     bool attempt(const std::function<void(Sql &)> &job);
-    void settle(Sql &sql);
-    void owe(const QString &call);
+    void settle();
+    void writeDown(const Ending &ending);
 
     Database &m_database;
     std::mutex m_mutex;
-    QStringList m_owed; ///< calls that are over, but stand otherwise in the database
+    QList<Ending> m_owed; ///< what the disk has not taken, the earliest first
 };
 
 } // namespace kiv::sandbox

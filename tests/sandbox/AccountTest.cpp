@@ -28,41 +28,18 @@ private Q_SLOTS:
                             {u"working_hours_end"_s, u"18:00"_s},
                             {u"notification_email"_s, true},
                             {u"notification_approvals"_s, false}};
-        for (const char *key : {"full_name",
-                                "handle",
-                                "company_name",
-                                "company_website",
-                                "company_size",
-                                "industry",
-                                "jobTitle",
-                                "preferred_language",
-                                "preferred_country",
-                                "communication_style",
-                                "working_hours_days",
-                                "default_data_sources_mode",
-                                "preferred_llm_provider",
-                                "preferred_llm_model",
-                                "chat_llm_provider",
-                                "chat_llm_model",
-                                "orchestrator_llm_provider",
-                                "orchestrator_llm_model",
-                                "pipeline_llm_provider",
-                                "pipeline_llm_model",
-                                "browser_summary_llm_provider",
-                                "browser_summary_llm_model",
-                                "compaction_llm_provider",
-                                "compaction_llm_model",
-                                "worker_global_rules",
-                                "worker_chat_rules",
-                                "worker_user_facts",
-                                "shared_md",
-                                "decisions_md",
-                                "routine_md",
-                                "tools_md",
-                                "goals_md",
-                                "glossary_md",
-                                "owner_learned_md"})
-            changes.insert(QLatin1StringView(key), u"Текст "_s + QLatin1StringView(key));
+        const QString keys =
+            u"full_name handle company_name company_website company_size industry "
+            "jobTitle preferred_language preferred_country communication_style "
+            "working_hours_days default_data_sources_mode preferred_llm_provider "
+            "preferred_llm_model chat_llm_provider chat_llm_model "
+            "orchestrator_llm_provider orchestrator_llm_model pipeline_llm_provider "
+            "pipeline_llm_model browser_summary_llm_provider "
+            "browser_summary_llm_model compaction_llm_provider compaction_llm_model "
+            "worker_global_rules worker_chat_rules worker_user_facts shared_md "
+            "decisions_md routine_md tools_md goals_md glossary_md owner_learned_md"_s;
+        for (const QString &key : keys.split(u' '))
+            changes.insert(key, u"Текст "_s + key);
         changes.insert(u"full_name"_s, u"🚀"_s.repeated(120)); // as many as a person counts
         const Response patched = m_client->patch(u"/api/v2/user/profile"_s, changes);
         QCOMPARE(patched.status, 200);

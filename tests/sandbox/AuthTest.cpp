@@ -128,20 +128,6 @@ private Q_SLOTS:
         QCOMPARE(there.get(u"/api/v2/auth/me"_s).status, 401);
     }
 
-    void manyWrongPasswordsAreHeldOff() {
-        Client client(m_sandbox->port());
-        client.signUp(u"guessed@example.com"_s);
-        const auto tryWith = [&](const QString &password) {
-            return client.post(u"/api/v2/auth/login"_s,
-                               {{u"email"_s, u"guessed@example.com"_s}, {u"password"_s, password}});
-        };
-        for (int i = 0; i < 10; ++i)
-            QCOMPARE(tryWith(u"wrong-%1-wrong"_s.arg(i)).status, 401);
-        const Response response = tryWith(u"lantern-42"_s);
-        QCOMPARE(response.status, 429);
-        QCOMPARE(response.code(), u"rate_limited"_s);
-    }
-
     void origins_data() {
         QTest::addColumn<QString>("header");
         QTest::addColumn<QString>("value");

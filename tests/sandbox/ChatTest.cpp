@@ -157,7 +157,7 @@ private Q_SLOTS:
         const auto open = [this] {
             return Stream(*m_client, room + u"/stream"_s).waitFor("event: ready\n");
         };
-        QTRY_VERIFY(open()); // places are free again when the peers are gone
+        QTRY_VERIFY_WITH_TIMEOUT(open(), 20000); // places are free again when the peers are gone
     }
 
     void accountsDoNotMeet() {

@@ -33,6 +33,20 @@ void execute(const QString &path, const QStringList &statements) {
     QSqlDatabase::removeDatabase(u"hand"_s);
 }
 
+QDateTime endOf(const QString &path, const QString &call) {
+    QDateTime end;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"eye"_s);
+        database.setDatabaseName(path);
+        QSqlQuery query(database.open() ? database : QSqlDatabase());
+        query.exec(u"SELECT ended_at FROM calls WHERE id = '%1'"_s.arg(call));
+        if (query.next())
+            end = QDateTime::fromString(query.value(0).toString(), Qt::ISODateWithMs);
+    }
+    QSqlDatabase::removeDatabase(u"eye"_s);
+    return end;
+}
+
 /// One page in the middle is another one's.
 void spoilAPage(const QString &path) {
     QFile file(path);
@@ -218,18 +232,39 @@ private Q_SLOTS:
     void fullDiskDuringACall() {
         if (smallDisk().isEmpty())
             QSKIP("This system lets nobody make a disk of their own");
-        VoiceFixture voice({.dataDir = smallDisk() + u"/called"_s});
+        const QString folder = smallDisk() + u"/called"_s;
+        VoiceFixture voice({.dataDir = folder});
         Caller caller(voice.sandbox().url());
         caller.begin(voice.mintAddress());
         QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
-        fillDisk();
-        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"Blocked? "_s.repeated(400)}});
-        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        const auto fillUp = [](Caller &one) {
+            fillDisk();
+            one.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"Blocked? "_s.repeated(400)}});
+            return !one.next(u"agent_response"_s).isEmpty();
+        };
+        QVERIFY(fillUp(caller));
         caller.socket().close();
         QTRY_COMPARE(voice.seen()[u"state"_s].toString(), u"ended"_s);
+        const QDateTime over = QDateTime::currentDateTimeUtc();
         QVERIFY(voice.sandbox().complaints().contains("A call cannot be written down"));
+        QCOMPARE(voice.calls().size(), 1);
         clearDisk();
-        QCOMPARE(voice.tryMint().status, 200);
+        QCOMPARE(voice.calls().first()[u"status"_s].toString(), u"done"_s);
+        // It ended when it was hung up, not when there was room again.
+        QVERIFY(endOf(folder + u"/workspace.sqlite"_s, voice.call()) <= over);
+
+        // One whose socket broke meanwhile can still be taken up.
+        const QString address = voice.mintAddress();
+        Caller broken(voice.sandbox().url());
+        broken.begin(address);
+        QVERIFY(!broken.next(u"agent_response"_s).isEmpty());
+        QVERIFY(fillUp(broken));
+        broken.socket().abort();
+        QTRY_COMPARE(voice.seen()[u"state"_s].toString(), u"dropped"_s);
+        clearDisk();
+        Caller again(voice.sandbox().url());
+        again.begin(address);
+        QVERIFY(!again.next(u"agent_response"_s).isEmpty());
         QVERIFY(voice.stop());
     }
 

@@ -175,7 +175,7 @@ private Q_SLOTS:
             slow.write("x");
             slow.flush();
         }
-        QVERIFY2(timer.elapsed() < 15'000, qPrintable(QString::number(timer.elapsed())));
+        QCOMPARE(slow.state(), QAbstractSocket::UnconnectedState);
     }
 
     void otherUsersAreNotServed_data() {
@@ -227,8 +227,11 @@ private Q_SLOTS:
     }
 
     void onlyThisComputerIsServed() {
-        for (const QHostAddress &address : QNetworkInterface::allAddresses()) {
-            if (address.isLoopback() || address.protocol() != QAbstractSocket::IPv4Protocol)
+        QList<QHostAddress> addresses = QNetworkInterface::allAddresses();
+        addresses.append(QHostAddress(u"127.0.0.2"_s)); // this computer too, and no address of ours
+        for (const QHostAddress &address : std::as_const(addresses)) {
+            if (address == QHostAddress(QHostAddress::LocalHost) ||
+                address.protocol() != QAbstractSocket::IPv4Protocol)
                 continue;
             QTcpSocket socket;
             socket.connectToHost(address, static_cast<quint16>(m_sandbox->port()));

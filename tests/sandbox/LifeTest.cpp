@@ -42,8 +42,6 @@ private Q_SLOTS:
         };
         QTRY_COMPARE(struck(), 2);
 
-        QElapsedTimer timer;
-        timer.start();
         if (how == u"input"_s) {
             QVERIFY(sandbox.closeInput());
         } else {
@@ -51,7 +49,6 @@ private Q_SLOTS:
             QVERIFY(sandbox.process().waitForFinished(10'000));
             QCOMPARE(sandbox.process().exitCode(), 0);
         }
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(stream.waitForEnd());
         QVERIFY(late.waitForEnd());
         QVERIFY(slow.waitForEnd());

@@ -188,6 +188,10 @@ private Q_SLOTS:
             ++statuses[guess.get()];
         QCOMPARE(statuses.value(429), 20);
         QVERIFY(!statuses.contains(200));
+        // Nor does the right one help then.
+        if (!signedIn)
+            QCOMPARE(Client(port).post(login, form(email, u"lantern-42"_s)).code(),
+                     u"rate_limited"_s);
     }
 
     /// How long an answer takes does not tell whether there is an account. The server's work is
