@@ -125,7 +125,7 @@ QString accountFor(Stage &stage, const Chat &chat, const QList<Stored> &stored) 
             return u"%1 is stored and shown as not sent"_s.arg(name);
         const bool isTyped = Ledger::carries(draft, number);
         // Of a long conversation only the newest rows are asked for.
-        sent.isStored = sent.isStored || !rows.isEmpty() || !sent.rows.isEmpty();
+        sent.isStored = sent.isStored || !rows.isEmpty() || !sent.rows.empty();
         if (!sent.isStored && !isUnsent && !isTyped && !sent.isGone)
             return u"%1 is lost; the draft is \"%2\""_s.arg(name, draft.right(200));
     }

@@ -111,23 +111,28 @@ void MainThread::endPass() {
     // Without a wait of its own all that is not work is time that others had the processor, also
     // where the kernel does not know of them.
     const long waits = end.waits - m_begin.waits;
-    const Nanoseconds worked = span(&Reading::worked);
+    Nanoseconds worked = span(&Reading::worked);
     Nanoseconds held = worked;
     if (waits > 0) {
         const Nanoseconds waited = span(&Reading::time) - span(&Reading::queued) - worked;
         held += std::max(waited - std::max(span(&Reading::pooledQueued), 0ns), 0ns);
     }
-    if (held > noticed)
-        held -=
-            std::min(m_pauses.stoodStill(Pauses::SteadyClock::now() - span(&Reading::time)), held);
+    if (held > noticed) {
+        // A virtual processor that stands still is counted as working.
+        const Nanoseconds still =
+            m_pauses.stoodStill(Pauses::SteadyClock::now() - span(&Reading::time));
+        held -= std::min(still, held);
+        worked -= std::min(still, worked);
+    }
     const auto isOver = [&](int milliseconds) {
         return held > std::chrono::milliseconds(milliseconds) ? 1 : 0;
     };
     m_over16 += isOver(16);
     m_over50 += isOver(50);
     m_over100 += isOver(100);
-    m_mostWorked = std::max(m_mostWorked, worked);
     const Hold hold{held, worked, waits, m_doing, m_passes};
+    if (worked > m_hardest.worked)
+        m_hardest = hold;
     if (held > m_worst.held)
         m_worst = hold;
     if (isOver(100) && m_holds.size() < mostHolds)

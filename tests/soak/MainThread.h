@@ -53,8 +53,8 @@ public:
     };
 
     const Hold &worst() const { return m_worst; }
-    /// The most that it worked in one pass, on a processor.
-    Nanoseconds mostWorked() const { return m_mostWorked; }
+    /// The pass in which it worked most.
+    const Hold &hardest() const { return m_hardest; }
     /// The first passes of more than 100 ms.
     const QList<Hold> &holds() const { return m_holds; }
     int passes() const { return m_passes; }
@@ -91,7 +91,7 @@ private:
     Nanoseconds m_longest{0};
     QByteArray m_doing;
     Hold m_worst;
-    Nanoseconds m_mostWorked{0};
+    Hold m_hardest;
     QList<Hold> m_holds;
     int m_passes = 0;
     int m_over16 = 0;

@@ -2,6 +2,8 @@
 
 #include "soak/Stage.h"
 
+#include <algorithm>
+
 namespace kiv::soak {
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,14 @@ using Check = QString (*)(Stage &);
 
 const QList<Msg> &shown(Stage &stage) {
     return stage.store().chat()->msgs()->messages();
+}
+
+/// What the ledger has of the row of this message, which stands in this conversation now.
+Row &rowOf(Stage &stage, const Msg &message, const Chat *chat) {
+    Row &row = stage.ledger.rows[*message.serverID];
+    if (!row.chat)
+        row.chat = chat;
+    return row;
 }
 
 QString nothingTwice(Stage &stage) {
@@ -41,25 +51,25 @@ QString nothingTwice(Stage &stage) {
 /// Rows and messages of ours belong to the conversation that they stand in, and nothing stands
 /// where there is no conversation.
 QString nothingOfAnotherChat(Stage &stage) {
-    const auto chat = stage.chat();
+    const auto current = stage.chat();
+    const Chat *chat = current ? &stage.ledger.known(*current) : nullptr;
     for (const Msg &message : shown(stage)) {
         if (!chat) {
             if (message.serverID || message.isUnsent())
                 return u"\"%1\" is shown to nobody"_s.arg(message.text.left(60));
             continue;
         }
-        stage.ledger.messages.insert(message.id, *chat);
-        if (message.serverID && stage.ledger.rows.value(*message.serverID, *chat) != *chat)
+        stage.ledger.messages.insert(message.id, chat);
+        if (message.serverID && rowOf(stage, message, chat).chat != chat)
             return u"row %1 of another chat is shown"_s.arg(*message.serverID);
-        if (message.serverID)
-            stage.ledger.rows.insert(*message.serverID, *chat);
         const auto sent = message.who == store::Who::You
                               ? stage.ledger.sent.find(Ledger::numberIn(message.text))
                               : stage.ledger.sent.end();
         if (sent != stage.ledger.sent.end() && sent->second.chat != *chat)
             return u"message #k%1 of another chat is shown"_s.arg(sent->first);
-        if (sent != stage.ledger.sent.end() && message.serverID)
-            sent->second.rows.insert(*message.serverID);
+        if (sent != stage.ledger.sent.end() && message.serverID &&
+            std::ranges::find(sent->second.rows, *message.serverID) == sent->second.rows.end())
+            sent->second.rows.push_back(*message.serverID);
     }
     return {};
 }
@@ -68,7 +78,7 @@ QString answersGrow(Stage &stage) {
     for (const Msg &message : shown(stage)) {
         if (!message.serverID)
             continue;
-        qsizetype &length = stage.ledger.lengths[*message.serverID];
+        qsizetype &length = stage.ledger.rows[*message.serverID].length;
         if (message.text.size() < length)
             return u"row %1 has shrunk from %2 to %3 characters"_s.arg(*message.serverID)
                 .arg(length)
@@ -99,7 +109,8 @@ QString canvasBelongs(Stage &stage) {
     const QUuid source = QUuid::fromString(stage.store().canvas()->sourceMessageId());
     const bool isScene = stage.store().canvas()->state() == store::CanvasState::Scene;
     const auto chat = stage.chat();
-    if (!isScene || !chat || stage.ledger.messages.value(source, *chat) == *chat)
+    const Chat *shownIn = stage.ledger.messages.value(source);
+    if (!isScene || !chat || !shownIn || *shownIn == *chat)
         return {};
     return u"the canvas shows a scene of another chat"_s;
 }

@@ -108,7 +108,7 @@ void Soak::checkMemory() {
 
 void Soak::checkMainThread() {
     const MainThread &thread = m_stage.thread;
-    const auto held = m_bound.onlyWork ? thread.mostWorked() : thread.worst().held;
+    const auto held = m_bound.onlyWork ? thread.hardest().worked : thread.worst().held;
     if (held > m_bound.longest && !isSanitized)
         m_stage.fail(u"the main thread was held for %1 ms"_s.arg(milliseconds(held)));
 }
@@ -122,10 +122,11 @@ void Soak::print() const {
     std::printf("memory (its own): %lld KiB in the second minute, %lld KiB in the last\n",
                 static_cast<long long>(m_memory.median(warmUp, warmUp + 60s)),
                 static_cast<long long>(m_memory.median(elapsed() - 60s, elapsed())));
-    std::printf("main thread: worked for %.1f ms at most, held for %.1f ms at worst (%.1f ms of it "
-                "working) by %s\n",
-                milliseconds(thread.mostWorked()), milliseconds(thread.worst().held),
-                milliseconds(thread.worst().worked), thread.worst().doing.constData());
+    std::printf("main thread: worked for %.1f ms at most (%s), held for %.1f ms at worst (%.1f ms "
+                "of it working) by %s\n",
+                milliseconds(thread.hardest().worked), thread.hardest().doing.constData(),
+                milliseconds(thread.worst().held), milliseconds(thread.worst().worked),
+                thread.worst().doing.constData());
     std::printf("  %d passes, %d over 16 ms, %d over 50 ms, %d over 100 ms\n", thread.passes(),
                 thread.over16(), thread.over50(), thread.over100());
     for (const MainThread::Hold &hold : thread.holds())

@@ -24,7 +24,7 @@ std::optional<Chat> Stage::chat() {
     const auto &connected = store().chat()->connected();
     if (!connected)
         return std::nullopt;
-    return Chat{store().scope()->userEmail(), connected->chatPath()};
+    return ledger.known({store().scope()->userEmail(), connected->chatPath()});
 }
 
 void Stage::open() {
