@@ -83,12 +83,28 @@ inline constexpr auto tableOf<AvatarResult> = recordTable(
     Field{&AvatarResult::user, "user"}, Field{&AvatarResult::data, "data"});
 // clang-format on
 
+namespace {
+
+std::optional<QString> knownAddress(JsonValue reply) {
+    try {
+        return decodeValue<AvatarResult>(reply, {recordName<AvatarResult>()}).address();
+    } catch (const DecodingError &) {
+        return std::nullopt; // another shape
+    }
+}
+
+} // namespace
+
 std::optional<QString> avatarAddress(QByteArrayView reply) {
-    const JsonDocument document(reply);
-    const auto result = decodeValue<AvatarResult>(document.root(), {recordName<AvatarResult>()});
-    if (const auto address = result.address(); address && !address->isEmpty())
-        return address;
-    return search(*document.root().object(), 0);
+    try {
+        const JsonDocument document(reply);
+        if (const auto address = knownAddress(document.root()); address && !address->isEmpty())
+            return address;
+        const auto object = document.root().object();
+        return object ? search(*object, 0) : std::nullopt;
+    } catch (const DecodingError &) {
+        return std::nullopt; // no JSON at all
+    }
 }
 
 } // namespace kiv::net

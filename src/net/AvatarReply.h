@@ -7,8 +7,8 @@
 
 namespace kiv::net {
 
-/// The new picture's address in the reply to an avatar upload, wherever that reply put it.
-/// Throws DecodingError when a place that is known for it holds something else than a text.
+/// The new picture's address in the reply to an avatar upload, wherever that reply put it;
+/// nothing when there is none to be found.
 std::optional<QString> avatarAddress(QByteArrayView reply);
 
 } // namespace kiv::net

@@ -30,7 +30,7 @@ QString uploadNote(const std::exception &error) {
     QString reason = net::errorText(error).trimmed();
     if (!reason.isEmpty() && !reason.endsWith(u'.'))
         reason += u'.';
-    return AttachmentRoom::tr("%1 The upload failed.").arg(reason).trimmed();
+    return u"%1 The upload failed."_s.arg(reason).trimmed();
 }
 
 QList<PickedFile::Read> readAll(const QList<PickedFile> &files) {

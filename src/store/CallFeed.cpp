@@ -115,7 +115,8 @@ void CallFeed::toggle(const QString &chat, const QString &callID) {
         call->head.callOpen = !call->head.callOpen;
 }
 
-QList<Msg> CallFeed::placed(const QString &chat, const QList<Msg> &messages, bool hasOlder) const {
+QList<Msg> CallFeed::placed(const QString &chat, const QList<Msg> &messages, bool hasOlder,
+                            const std::optional<QDateTime> &since) const {
     QList<Msg> shown;
     std::ranges::copy_if(messages, std::back_inserter(shown),
                          [](const Msg &message) { return !message.fromCall; });
@@ -127,7 +128,7 @@ QList<Msg> CallFeed::placed(const QString &chat, const QList<Msg> &messages, boo
         const bool isBeforeAll =
             place < chatAlone.size() && std::none_of(chatAlone.cbegin(), chatAlone.cbegin() + place,
                                                      [](const Msg &message) { return message.at; });
-        if (isBeforeAll && hasOlder)
+        if ((isBeforeAll && hasOlder) || (since && *call->head.at < *since))
             continue;
         QList<Msg> rows{call->head};
         if (call->head.callOpen)

@@ -27,8 +27,10 @@ public:
     void toggle(const QString &chat, const QString &callID);
 
     /// The conversation with its calls where they belong by their time. Calls before the first
-    /// message are left out when there are older messages than these.
-    QList<Msg> placed(const QString &chat, const QList<Msg> &messages, bool hasOlder) const;
+    /// message are left out when there are older messages than these, and so is what began before
+    /// `since`.
+    QList<Msg> placed(const QString &chat, const QList<Msg> &messages, bool hasOlder,
+                      const std::optional<QDateTime> &since) const;
 
 private:
     struct Call {

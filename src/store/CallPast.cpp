@@ -127,8 +127,8 @@ QCoro::Task<void> CallRoom::openLines(net::ChatTarget chat, QString callID, Canc
 }
 
 QList<Msg> CallRoom::withCalls(const net::ChatTarget &target, const QList<Msg> &messages,
-                               bool hasOlder) const {
-    return m_feed.placed(target.streamPath(), messages, hasOlder);
+                               bool hasOlder, const std::optional<QDateTime> &since) const {
+    return m_feed.placed(target.streamPath(), messages, hasOlder, since);
 }
 
 /// What was said stays in the conversation that the call was placed from.

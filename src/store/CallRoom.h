@@ -120,8 +120,8 @@ public:
     void clear();
 
     /// The conversation with its calls at their places; `hasOlder` when it goes back further.
-    QList<Msg> withCalls(const net::ChatTarget &target, const QList<Msg> &messages,
-                         bool hasOlder) const;
+    QList<Msg> withCalls(const net::ChatTarget &target, const QList<Msg> &messages, bool hasOlder,
+                         const std::optional<QDateTime> &since) const;
     /// Puts the past calls with an agent into its conversation.
     void attachSharedVoiceHistory(const net::ChatTarget &target);
 

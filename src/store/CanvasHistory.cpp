@@ -33,7 +33,7 @@ HistoryEntry CanvasRoom::entryOf(const QString &query, const std::optional<QStri
             .intent = intent,
             .title = scene.title,
             .page = std::nullopt,
-            .message = {}};
+            .source = {}};
 }
 
 void CanvasRoom::setPlace(const QUuid &entry) {
@@ -74,11 +74,8 @@ void CanvasRoom::reopen(const HistoryEntry &entry, Record record) {
         m_drawnSpecKey.reset();
         forgetSource();
         m_phase = Phase::Done;
-        const bool isDrawn = drawScenario(*entry.spec, {}, Entrance::Still, record);
-        const MessageModel *messages = m_store.chat()->msgs();
-        const qsizetype source = messages->rowOf(entry.message);
-        if (isDrawn && source >= 0)
-            nameSource(messages->messages().at(source));
+        if (drawScenario(*entry.spec, {}, Entrance::Still, record))
+            nameSource(entry.source);
     }
 }
 

@@ -210,24 +210,35 @@ void CanvasRoom::refinePoint(const QString &label) {
     m_store.chat()->send(u"Tell me about "_s + label);
 }
 
-void CanvasRoom::nameSource(const Msg &message) {
-    m_history.setMessage(m_place, message.id);
-    m_sourceAt = message.at;
-    m_sourceTime = message.at ? shortDayTimeText(*message.at) : QString();
-    m_sourceMessageId = message.id.toString(QUuid::WithoutBraces);
-    m_store.chat()->msgs()->setOnCanvas(message.id);
+SceneSource CanvasRoom::sourceOf(const Msg &message) const {
+    const ScopeRoom *scope = m_store.scope();
+    return {.kind = scope->scopeKind(),
+            .name = scope->scopeName(),
+            .colorHex = scope->scopeColorHex(),
+            .message = message.id,
+            .at = message.at};
+}
+
+void CanvasRoom::nameSource(const SceneSource &source) {
+    MessageModel *messages = m_store.chat()->msgs();
+    const bool isHere = messages->rowOf(source.message) >= 0;
+    m_history.setSource(m_place, source);
+    m_source = source;
+    m_sourceTime = source.at ? shortDayTimeText(*source.at) : QString();
+    m_sourceMessageId = isHere ? source.message.toString(QUuid::WithoutBraces) : QString();
+    messages->setOnCanvas(isHere ? source.message : QUuid());
 }
 
 void CanvasRoom::retranslate() {
-    if (m_sourceAt)
-        m_sourceTime = shortDayTimeText(*m_sourceAt);
+    if (const auto at = m_source.value().at)
+        m_sourceTime = shortDayTimeText(*at);
     canvas::ArtInfo info = m_artInfo;
     info.word = canvas::artWord(info.art);
     m_artInfo = info;
 }
 
 void CanvasRoom::forgetSource() {
-    m_sourceAt.reset();
+    m_source = SceneSource();
     m_sourceTime = QString();
     m_sourceMessageId = QString();
     m_store.chat()->msgs()->setOnCanvas({});

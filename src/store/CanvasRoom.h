@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Cancel.h"
+#include "base/Clock.h"
 #include "base/Work.h"
 #include "canvas/ArtInfo.h"
 #include "canvas/RestoredCanvas.h"
@@ -40,6 +41,7 @@ class CanvasRoom : public QObject {
     Q_PROPERTY(int vis READ vis NOTIFY visChanged)
     Q_PROPERTY(bool animated READ animated NOTIFY animatedChanged)
     Q_PROPERTY(int thinkingSeconds READ thinkingSeconds NOTIFY thinkingSecondsChanged)
+    Q_PROPERTY(kiv::store::SceneSource source READ source NOTIFY sourceChanged)
     Q_PROPERTY(QString sourceTime READ sourceTime NOTIFY sourceTimeChanged)
     Q_PROPERTY(QString sourceMessageId READ sourceMessageId NOTIFY sourceMessageIdChanged)
     Q_PROPERTY(kiv::canvas::SurfaceLink pageView READ pageView NOTIFY pageViewChanged)
@@ -71,8 +73,11 @@ public:
     /// Whether the scene on screen came with its entrance.
     bool animated() const { return m_animated; }
     int thinkingSeconds() const { return m_thinkingSeconds; }
-    /// When the answer on the canvas was written, such as "22 Nov, 09:42".
+    /// The answer on the canvas, of whichever chat.
+    SceneSource source() const { return m_source; }
+    /// When it was written, such as "22 Nov, 09:42".
     QString sourceTime() const { return m_sourceTime; }
+    /// Empty when it is not in the conversation that shows.
     QString sourceMessageId() const { return m_sourceMessageId; }
     /// The page of the platform that the canvas shows; without an address for none.
     canvas::SurfaceLink pageView() const { return m_pageView; }
@@ -84,6 +89,8 @@ public:
     bool hasEarlier() const;
     bool hasLater() const;
 
+    /// How long nothing more has to come of an answer until it is taken to be complete.
+    static constexpr Clock::Milliseconds settleTime{1200};
     bool awaitingAnswer() const { return m_awaitingAnswer; }
     /// Whether a row of the agent's side belongs to the answer of the current turn: one that is
     /// awaited, or one that had settled and goes on.
@@ -140,6 +147,7 @@ Q_SIGNALS:
     void visChanged();
     void animatedChanged();
     void thinkingSecondsChanged();
+    void sourceChanged();
     void sourceTimeChanged();
     void sourceMessageIdChanged();
     void pageViewChanged();
@@ -186,7 +194,10 @@ private:
     /// What stands in the place of a scene goes: panel, page, hint, failure.
     void putOthersAway();
     void openSurface(const canvas::SurfaceLink &link, Record record);
-    void nameSource(const Msg &message);
+    /// The source that a message of the conversation is.
+    SceneSource sourceOf(const Msg &message) const;
+    void nameSource(const SceneSource &source);
+    void nameSource(const Msg &message) { nameSource(sourceOf(message)); }
     void forgetSource();
 
     AppStore &m_store;
@@ -200,7 +211,6 @@ private:
     std::optional<QString> m_drawnSpecKey;
     canvas::ViewSpec m_artSpec;
     std::optional<QString> m_lastIntent;
-    std::optional<QDateTime> m_sourceAt; ///< when the message that the scene came from was sent
 
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CanvasRoom, Phase, m_phase, Phase::Idle,
                                          &CanvasRoom::phaseChanged)
@@ -221,6 +231,7 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, bool, m_signedOut)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, int, m_thinkingSeconds,
                                &CanvasRoom::thinkingSecondsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, SceneSource, m_source, &CanvasRoom::sourceChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceTime, &CanvasRoom::sourceTimeChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CanvasRoom, QString, m_sourceMessageId,
                                &CanvasRoom::sourceMessageIdChanged)

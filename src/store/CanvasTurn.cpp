@@ -12,12 +12,6 @@ namespace kiv::store {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace {
-
-constexpr auto settleTime = 1200ms;
-
-} // namespace
-
 void CanvasRoom::beginTurn(const QString &question, QSet<qint64> knownIds) {
     m_scenarioTask.cancel();
     m_buildTask.cancel();
@@ -83,9 +77,11 @@ void CanvasRoom::scheduleScenario(int gen, const Msg &message) {
     if (gen != m_store.chat()->chatGen() || !isAnswer(message))
         return;
     if (!message.serverID) {
-        // It cannot grow: no later row can be told to be the same.
+        // It cannot grow: no later row can be told to be the same. The answer may still come.
         runScenario(message, LinkOpening::Open);
-    } else if (mayDrawEarly(message)) {
+        return;
+    }
+    if (mayDrawEarly(message)) {
         m_earlyDrawnFor.insert(*message.serverID);
         runScenario(message, LinkOpening::Leave);
     }
@@ -111,8 +107,6 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
     const Msg answer = messages->messages().at(row);
     m_store.chat()->answerSettled(answer.id);
     m_awaitingAnswer = false;
-    if (!answer.serverID)
-        co_return; // drawn when it came
     const bool isDrawnBefore =
         m_turn.answer == answer.id || m_earlyDrawnFor.contains(*answer.serverID);
     m_turn.answer = answer.id;
@@ -167,9 +161,11 @@ void CanvasRoom::drawAgain(const Msg &answer) {
     }
     // The person looks at another canvas; the history has this one as it is now.
     const auto scene = canvas::SceneAdapter::vals(*answer.spec, m_turn.intent);
-    if (scene)
-        m_history.amend(m_turn.historyEntry,
-                        entryOf(m_turn.query, m_turn.intent, *answer.spec, *scene));
+    if (!scene)
+        return;
+    m_history.amend(m_turn.historyEntry,
+                    entryOf(m_turn.query, m_turn.intent, *answer.spec, *scene));
+    m_history.setSource(m_turn.historyEntry, sourceOf(answer));
 }
 
 } // namespace kiv::store

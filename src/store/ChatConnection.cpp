@@ -55,6 +55,7 @@ void ChatRoom::connectChat() {
     }
     ++m_chatGen;
     m_clearedTo.reset();
+    m_clearedAt.reset();
     if (target)
         openLine(*target, Reason::Entered);
 }
@@ -141,6 +142,8 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Reason 
             net::ChatPage page = co_await newestPage(&m_store.net(), target, cancel);
             hasCome = true;
             const bool hasOlder = page.messages.size() >= historyLimit;
+            if (gen == m_chatGen && m_clearedAt && !m_clearedTo)
+                clearTo(page.messages);
             const auto cleared = page.messages.removeIf(
                 [this](const net::ChatRow &row) { return row.id && isCleared(*row.id); });
             const bool bringsNothing = reason == Reason::LineStands && showsAll(page.messages);
@@ -165,6 +168,33 @@ QCoro::Task<void> ChatRoom::loadHistory(int gen, net::ChatTarget target, Reason 
     }
 }
 
+/// A new chat was begun before its first page came: what is on it was there before, up to what has
+/// come since. A question that nothing tells apart from the rows of before keeps them all.
+void ChatRoom::clearTo(const QList<net::ChatRow> &rows) {
+    if (!unsentOf(m_msgs.messages()).isEmpty())
+        return;
+    for (const net::ChatRow &row : rows) {
+        if (row.id && m_msgs.rowOfServerID(*row.id) >= 0)
+            return;
+        if (row.id)
+            m_clearedTo = row.id;
+    }
+}
+
+/// The messages of ours that stand among the stored rows. What had failed before a new chat waits
+/// for the chat to be entered anew.
+QList<Msg> ChatRoom::takeUnsent() {
+    QList<Msg> aside = m_unsent.take(m_connected->streamPath());
+    QList<Msg> unsent;
+    for (Msg &message : aside) {
+        if (m_clearedAt && message.failed)
+            m_unsent[m_connected->streamPath()].append(std::move(message));
+        else
+            unsent.append(std::move(message));
+    }
+    return unsent + unsentOf(m_msgs.messages());
+}
+
 bool ChatRoom::showsAll(const QList<net::ChatRow> &rows) const {
     return std::ranges::all_of(rows, [this](const net::ChatRow &row) {
         const auto stored = rowToMsg(row);
@@ -183,18 +213,22 @@ bool ChatRoom::showsAll(const QList<net::ChatRow> &rows) const {
 void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
     CanvasRoom *canvas = m_store.canvas();
     const auto answerBefore = newestAnswer();
-    QList<Msg> unsent = m_unsent.take(m_connected->streamPath());
-    unsent += unsentOf(m_msgs.messages());
+    const QList<Msg> unsent = takeUnsent();
     QList<Msg> merged = HistoryMerge(m_msgs.messages(), m_live).merge(rows, unsent);
     if (merged.isEmpty())
         merged.append(liveGreeting());
-    m_msgs.replaceAll(m_store.call()->withCalls(*m_connected, merged, m_hasOlderRows));
+    m_msgs.replaceAll(m_store.call()->withCalls(*m_connected, merged, m_hasOlderRows, m_clearedAt));
     for (const Msg &message : unsent) {
         const qsizetype row = m_msgs.rowOf(message.id);
         if (row >= 0 && !m_msgs.messages().at(row).isUnsent())
             m_store.attachments()->withdraw(message.attachments);
     }
     m_clearedTo = m_clearedTo.value_or(0);
+    // A piece that is slower than this page must not shorten what it brought.
+    m_live.removeIf([this](const auto &piece) {
+        const qsizetype row = m_msgs.rowOfServerID(piece.key());
+        return row >= 0 && m_msgs.messages().at(row).text.size() > piece->text.size();
+    });
     markSeen();
     if (m_lastPrompt.value().isEmpty())
         m_lastPrompt = newestQuestion();
@@ -233,7 +267,8 @@ void ChatRoom::showHistory(const QList<net::ChatRow> &rows, Reason reason) {
 void ChatRoom::placeCalls(const net::ChatTarget &target) {
     if (m_connected != target)
         return;
-    QList<Msg> messages = m_store.call()->withCalls(target, m_msgs.messages(), m_hasOlderRows);
+    QList<Msg> messages =
+        m_store.call()->withCalls(target, m_msgs.messages(), m_hasOlderRows, m_clearedAt);
     // Nothing of it is news: the person took part.
     m_seenMsgs = std::max(m_seenMsgs + static_cast<int>(messages.size()) - m_msgs.count(), 0);
     m_msgs.replaceAll(std::move(messages));
@@ -342,11 +377,18 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     }
     const Msg answer = m_msgs.messages().at(at);
     m_liveWaiting = false;
-    if (m_store.canvas()->isAnswer(answer)) {
+    const bool isAnswer = m_store.canvas()->isAnswer(answer);
+    if (isAnswer && answer.serverID) {
         m_msgs.setGrowing(answer.id);
         m_canStop = isStoppable();
     }
     m_store.canvas()->scheduleScenario(gen, answer);
+    if (isAnswer && !answer.serverID) {
+        m_isAnswered = true;
+        Q_EMIT answerEnded(answer.id);
+    }
+    if (answer.id == m_earlier)
+        followEarlier();
 }
 
 } // namespace kiv::store

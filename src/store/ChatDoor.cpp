@@ -2,8 +2,6 @@
 
 #include "store/AppStore.h"
 
-#include <algorithm>
-
 namespace kiv::store {
 
 ChatDoor::ChatDoor(AppStore &store) : m_store(store) {
@@ -39,7 +37,8 @@ bool ChatDoor::goTo(const ChatLink &link) {
     // Going where one is would begin the chat anew, and clear its canvas.
     if (current() != link && !pick(link))
         return false;
-    m_store.layout()->closeAccount();
+    m_store.call()->leaveCallScreen();
+    m_store.account()->leave();
     m_store.layout()->focusAsk();
     return true;
 }
@@ -55,13 +54,12 @@ ChatLink ChatDoor::current() const {
 
 bool ChatDoor::pick(const ChatLink &link) {
     ScopeRoom *scope = m_store.scope();
-    const QList<Project> projects = scope->projects();
     switch (link.kind) {
     case ScopeKind::Kiv:
         scope->pickGlobal();
         return true;
     case ScopeKind::Project:
-        if (std::ranges::find(projects, link.id, &Project::id) == projects.end())
+        if (!scope->hasProject(link.id))
             return false;
         scope->enterProject(link.id);
         return true;

@@ -153,13 +153,15 @@ void ChatRoom::pickChip(const QString &messageId, const canvas::ReplyChip &chip)
 
 void ChatRoom::startTurn(const Post &post) {
     m_turn = post.message;
+    m_isAnswered = false;
     m_lastPrompt = post.text;
     m_unreadFrom = QString();
     m_chatNote = QString();
     m_liveWaiting = true;
     m_canStop = isStoppable();
-    // What an earlier answer still brings is not what this question waits for.
-    m_msgs.setGrowing({});
+    m_earlier = m_msgs.growing();
+    if (!m_earlier.isNull())
+        followEarlier();
     m_store.account()->leave();
     m_store.layout()->closeProfile();
     QSet<qint64> known;
@@ -174,9 +176,32 @@ void ChatRoom::startTurn(const Post &post) {
 QCoro::Task<void> ChatRoom::watchAnswer(Cancel cancel) {
     co_await m_store.clock().sleep(answerPatience, std::move(cancel));
     // An answer that is being written has come; it settles by itself.
-    if (!m_store.canvas()->awaitingAnswer() || !m_msgs.growing().isNull())
+    const QUuid growing = m_msgs.growing();
+    const bool isComing = !growing.isNull() && growing != m_earlier;
+    if (!m_store.canvas()->awaitingAnswer() || isComing)
         co_return;
-    failTurn();
+    if (!m_isAnswered) {
+        failTurn();
+        co_return;
+    }
+    endWaiting();
+    m_store.canvas()->abandonTurn();
+}
+
+/// What an earlier answer still brings is not what this question waits for: it goes on being
+/// written until nothing comes for a while, or this question's answer does.
+void ChatRoom::followEarlier() {
+    const QUuid growing = m_msgs.growing();
+    if (!growing.isNull() && growing != m_earlier)
+        return;
+    m_msgs.setGrowing(m_earlier);
+    m_earlierRest.restart([this](Cancel cancel) { return restEarlier(std::move(cancel)); });
+}
+
+QCoro::Task<void> ChatRoom::restEarlier(Cancel cancel) {
+    co_await m_store.clock().sleep(CanvasRoom::settleTime, std::move(cancel));
+    if (m_msgs.growing() == m_earlier)
+        m_msgs.setGrowing({});
 }
 
 QCoro::Task<void> ChatRoom::post(Post post, Cancel cancel) {
@@ -308,6 +333,7 @@ void ChatRoom::newChat() {
     m_store.layout()->closeHistory();
     m_store.layout()->closeDock();
     m_clearedTo = newestRow();
+    m_clearedAt = m_store.clock().now();
     const bool signedIn = m_store.scope()->auth() == AuthPhase::SignedIn;
     m_msgs.replaceAll({signedIn ? liveGreeting() : localMsg(Who::Agent, signedOutGreeting)});
     setFeedWindow(feedStep);

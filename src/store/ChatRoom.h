@@ -131,11 +131,15 @@ private:
     void confirmPost(const Post &post, const net::ChatSendResult &result);
     void failPost(const Post &post, const std::exception &error);
     QCoro::Task<void> watchAnswer(Cancel cancel);
+    void followEarlier();
+    QCoro::Task<void> restEarlier(Cancel cancel);
     void openLine(const net::ChatTarget &target, Reason reason);
     QCoro::Task<void> afterRefusal(Cancel cancel);
     QCoro::Task<void> loadHistory(int gen, net::ChatTarget target, Reason reason, Cancel cancel);
     /// Whether a new chat has taken this row off the screen.
     bool isCleared(qint64 row) const { return m_clearedTo && row <= *m_clearedTo; }
+    void clearTo(const QList<net::ChatRow> &rows);
+    QList<Msg> takeUnsent();
     /// Whether the screen lacks nothing of these rows.
     bool showsAll(const QList<net::ChatRow> &rows) const;
     void showHistory(const QList<net::ChatRow> &rows, Reason reason);
@@ -162,9 +166,13 @@ private:
     FeedModel m_feed;
     int m_chatGen = 0;
     QUuid m_turn; ///< the message whose answer is waited for
+    /// A row that nothing can be added to has answered it; a longer answer may still come.
+    bool m_isAnswered = false;
     std::optional<net::ChatTarget> m_connected;
     /// Messages of other scopes that the server has not stored, by the path of their chat.
     QHash<QString, QList<Msg>> m_unsent;
+    /// An answer that was being written when the next question was sent; null for none.
+    QUuid m_earlier;
     /// Rows that came since the last history page was asked for; the page may not hold them.
     QHash<qint64, Msg> m_live;
     /// The line was opened after the last history page was asked for: what came before is on the
@@ -173,6 +181,8 @@ private:
     /// The last row that a new chat has taken off the screen, until the chat is entered anew; 0 for
     /// none, nothing while the rows of the chat are not here.
     std::optional<qint64> m_clearedTo;
+    /// When the new chat was begun that this chat shows; nothing while it shows the whole.
+    std::optional<QDateTime> m_clearedAt;
     bool m_hasOlderRows = false; ///< the server has rows before the first that was loaded
     Drafts m_drafts;
     /// Of an expired session: files that wait for their person, by who it is and the chat's path.
@@ -196,6 +206,7 @@ private:
     Work m_refusal;
     Work m_posts;
     Work m_watchdog;
+    Work m_earlierRest;
 };
 
 } // namespace kiv::store

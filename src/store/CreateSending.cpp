@@ -10,6 +10,14 @@ namespace kiv::store {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isListed(const ScopeRoom &scope, CreateKind kind, const QString &id) {
+    return kind == CreateKind::Project ? scope.hasProject(id) : scope.homeOf(id).has_value();
+}
+
+} // namespace
+
 void CreateRoom::submit() {
     m_asking = false;
     m_failure = QString();
@@ -47,8 +55,7 @@ QCoro::Task<void> CreateRoom::createAgent(Cancel cancel) {
     m_createdId = made.agentID().value_or(QString());
     const QList<QString> warnings = made.projectWarnings.value_or(QList<QString>());
     if (!warnings.isEmpty())
-        m_notice =
-            tr("%1 created. Could not add: %2").arg(name().trimmed(), warnings.join(u", "_s));
+        m_notice = u"%1 created. Could not add: %2"_s.arg(name().trimmed(), warnings.join(u", "_s));
 }
 
 QCoro::Task<void> CreateRoom::reloadRail(Cancel cancel) {
@@ -57,9 +64,12 @@ QCoro::Task<void> CreateRoom::reloadRail(Cancel cancel) {
         co_await m_store.scope()->reloadRail(cancel);
     } catch (const std::exception &error) {
         cancel.throwIfRequested();
-        m_failure = tr("%1 is created, but the list could not be loaded: %2")
-                        .arg(name().trimmed(), net::errorText(error));
-        co_return;
+        // It may be there and the members of another project not.
+        if (!isListed(*m_store.scope(), m_kind, m_createdId)) {
+            m_failure = tr("%1 is created, but the list could not be loaded: %2")
+                            .arg(name().trimmed(), net::errorText(error));
+            co_return;
+        }
     }
     m_listed = true;
     if (m_notice.value().isEmpty())
@@ -67,6 +77,7 @@ QCoro::Task<void> CreateRoom::reloadRail(Cancel cancel) {
 }
 
 void CreateRoom::openCreated() {
+    m_notice = QString(); // it has been read
     if (m_listed)
         enterCreated();
     else

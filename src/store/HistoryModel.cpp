@@ -31,10 +31,10 @@ bool HistoryModel::amend(const QUuid &id, HistoryEntry entry) {
     return true;
 }
 
-void HistoryModel::setMessage(const QUuid &id, const QUuid &message) {
+void HistoryModel::setSource(const QUuid &id, const SceneSource &source) {
     const int row = rowOf(id);
     if (row >= 0)
-        m_entries[row].message = message;
+        m_entries[row].source = source;
 }
 
 void HistoryModel::clear() {

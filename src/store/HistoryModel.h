@@ -2,6 +2,7 @@
 
 #include "canvas/SurfaceMatcher.h"
 #include "canvas/ViewSpec.h"
+#include "store/SceneSource.h"
 
 #include <QAbstractListModel>
 #include <QUuid>
@@ -21,7 +22,7 @@ struct HistoryEntry {
     std::optional<QString> intent;
     QString title;
     std::optional<canvas::SurfaceLink> page;
-    QUuid message; ///< the answer that it was drawn from; null for none
+    SceneSource source; ///< none for a page
 };
 
 /// The canvases drawn and pages opened in this run, newest first.
@@ -44,7 +45,7 @@ public:
     /// Puts a later state of a canvas in its place; false when it is no longer kept.
     bool amend(const QUuid &id, HistoryEntry entry);
     /// Names the answer that a canvas was drawn from.
-    void setMessage(const QUuid &id, const QUuid &message);
+    void setSource(const QUuid &id, const SceneSource &source);
     void clear();
 
     int rowCount(const QModelIndex &parent = {}) const override;

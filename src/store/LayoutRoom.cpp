@@ -163,8 +163,9 @@ void LayoutRoom::openAccount(const QString &tab) {
     leaveCanvasFull();
     closePopovers();
     if (m_store.scope()->auth() == AuthPhase::Anon)
-        return m_store.session()->openAuthSheet(AuthSheetMode::Login);
-    m_account = tab.isEmpty() ? firstAccountTab : tab;
+        m_store.session()->openAuthSheet(AuthSheetMode::Login);
+    if (m_store.scope()->auth() == AuthPhase::SignedIn)
+        m_account = tab.isEmpty() ? firstAccountTab : tab;
 }
 
 void LayoutRoom::startCreate(const QString &kind) {

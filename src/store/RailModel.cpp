@@ -15,21 +15,25 @@ RailModel::RailModel(QObject *parent) : QAbstractListModel(parent) {
 }
 
 void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents) {
-    beginResetModel();
-    m_rows = {{RailRow::Kiv, {}, {}, u"KIV"_s, {}, {}}};
+    QList<Row> rows{{RailRow::Kiv, {}, {}, u"KIV"_s, {}, {}}};
     // Also without any: the first one is made from its label.
-    m_rows.append({RailRow::SectionLabel, projectLabel, {}, {}, {}, {}});
+    rows.append({RailRow::SectionLabel, projectLabel, {}, {}, {}, {}});
     for (const Project &project : projects) {
-        m_rows.append({RailRow::Project, project.id, project.id, project.name, project.meta,
-                       project.colorHex});
+        rows.append({RailRow::Project, project.id, project.id, project.name, project.meta,
+                     project.colorHex});
         for (const Agent &agent : project.agents)
-            m_rows.append(
+            rows.append(
                 {RailRow::Agent, agent.id, project.id, agent.name, agent.role, agent.colorHex});
     }
     if (!standaloneAgents.isEmpty())
-        m_rows.append({RailRow::SectionLabel, u"agent"_s, {}, {}, {}, {}});
+        rows.append({RailRow::SectionLabel, u"agent"_s, {}, {}, {}, {}});
     for (const Agent &agent : standaloneAgents)
-        m_rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
+        rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
+    // A rail that comes as it was leaves its rows in peace, and who presses one.
+    if (rows == m_rows)
+        return;
+    beginResetModel();
+    m_rows = std::move(rows);
     endResetModel();
 }
 

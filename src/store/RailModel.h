@@ -49,6 +49,7 @@ private:
         QString name;
         QString detail;
         QString colorHex;
+        friend bool operator==(const Row &, const Row &) = default;
     };
     bool isSelected(const Row &row) const;
     static QString nameOf(const Row &row);

@@ -187,7 +187,14 @@ bool ScopeRoom::enterAgent(const QString &id) {
     return home.has_value();
 }
 
+bool ScopeRoom::hasProject(const QString &id) const {
+    const QList<Project> projects = m_projects;
+    return std::ranges::find(projects, id, &Project::id) != projects.end();
+}
+
 std::optional<QString> ScopeRoom::homeOf(const QString &agentID) const {
+    if (agentID.isEmpty())
+        return std::nullopt;
     const QList<Project> projects = m_projects;
     for (const Project &project : projects) {
         if (findAgent(project.agents, agentID))
@@ -253,6 +260,7 @@ QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
     };
     QList<Project> projects;
     QSet<QString> placed;
+    QSet<QString> unknown; // projects that no member is known of
     std::exception_ptr failure;
     for (size_t position = 0; position < rosters.size(); ++position) {
         const auto &summary = list.projects.at(static_cast<qsizetype>(position));
@@ -268,25 +276,43 @@ QCoro::Task<void> ScopeRoom::reloadRail(Cancel cancel) {
             // One project does not hide the others.
             failure = std::current_exception();
             project.agents = agentsBefore(summary.slug);
+            if (project.agents.isEmpty())
+                unknown.insert(summary.slug);
             for (const Agent &agent : std::as_const(project.agents))
                 placed.insert(agent.id);
         }
-        project.meta = QString::number(project.agents.size()) + u" agents · active"_s;
         project.colorHex = railColor(static_cast<qsizetype>(position));
         projects.append(project);
     }
 
     const net::AgentsList agents = co_await net::KivAPI::agents(client, cancel);
+    // Of a project whose members are not known, the one who is talked to is.
+    const Selection wanted =
+        m_agent.value().isEmpty() ? storedScope() : Selection{m_project, m_agent};
     QList<Agent> standalone;
     for (const net::AgentSummary &agent : agents.agents) {
-        if (!isGone(agent.status) && !placed.contains(agent.id))
-            standalone.append(agentAt(standalone.size(), agent.id, agent.name, agent.role));
+        if (isGone(agent.status) || placed.contains(agent.id))
+            continue;
+        const bool isAtHome = agent.id == wanted.agent && unknown.contains(wanted.project);
+        const auto home = std::ranges::find(projects, wanted.project, &Project::id);
+        QList<Agent> &place = isAtHome ? home->agents : standalone;
+        place.append(agentAt(place.size(), agent.id, agent.name, agent.role));
     }
+    for (Project &project : projects)
+        project.meta = QString::number(project.agents.size()) + u" agents · active"_s;
     Qt::beginPropertyUpdateGroup();
     m_projects = projects;
     m_standaloneAgents = standalone;
+    const auto home = homeOf(m_agent);
+    const bool hasMoved = home && *home != m_project.value();
+    if (hasMoved)
+        m_project = *home;
     Qt::endPropertyUpdateGroup();
     m_rail.setEntries(projects, standalone);
+    if (hasMoved) {
+        saveScope();
+        m_rail.select(m_project, m_agent);
+    }
     if (failure)
         std::rethrow_exception(failure);
 }
@@ -317,27 +343,26 @@ void ScopeRoom::setUserName(const QString &name) {
 void ScopeRoom::restoreScope() {
     if (m_store.isSnapshot())
         return;
-    const QString storedProject = m_store.settings().value(projectKey).toString();
-    const QString storedAgent = m_store.settings().value(agentKey).toString();
-    const QList<Project> projects = m_projects;
+    const auto [storedProject, storedAgent] = storedScope();
     if (const auto home = homeOf(storedAgent)) {
         m_project = *home;
         m_agent = storedAgent;
+        saveScope();
     } else {
-        const bool isThere =
-            std::ranges::find(projects, storedProject, &Project::id) != projects.end();
-        m_project = isThere ? storedProject : QString();
+        // What is saved stays: it may only not be there yet.
+        m_project = hasProject(storedProject) ? storedProject : QString();
         m_agent = QString();
     }
     m_rail.select(m_project, m_agent);
 }
 
+ScopeRoom::Selection ScopeRoom::storedScope() const {
+    return {m_store.settings().value(projectKey).toString(),
+            m_store.settings().value(agentKey).toString()};
+}
+
 void ScopeRoom::startPersisting() {
     m_isPersisting = true;
-    // Each by itself: a project that is entered because the saved agent is not there yet leaves it.
-    connect(this, &ScopeRoom::projectChanged, this,
-            [this] { save(m_store, projectKey, m_project); });
-    connect(this, &ScopeRoom::agentChanged, this, [this] { save(m_store, agentKey, m_agent); });
 }
 
 void ScopeRoom::saveScope() {

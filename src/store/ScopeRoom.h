@@ -74,6 +74,11 @@ public:
     /// Where text is sent and which chat is streamed; nothing while signed out.
     std::optional<net::ChatTarget> chatTarget() const;
 
+    bool hasProject(const QString &id) const;
+    /// The project that has this agent, empty for one that stands alone; nothing when the rail has
+    /// no such agent.
+    std::optional<QString> homeOf(const QString &agentID) const;
+
     Q_INVOKABLE void pickGlobal();
     /// Acts in a snapshot run only; see enterProject.
     Q_INVOKABLE void pickProject(const QString &id);
@@ -91,7 +96,7 @@ public:
     /// Takes the user over and empties the rail of the one before.
     void adopt(const net::MeUser &user);
     /// A project whose members do not come keeps those of before; the rail is published all the
-    /// same, and the failure thrown then.
+    /// same, and the failure thrown then. The selected agent stays selected where it is now.
     QCoro::Task<void> reloadRail(Cancel cancel);
     QCoro::Task<void> resolveKiv(Cancel cancel);
     QCoro::Task<void> refreshUserAvatarIfNeeded(Cancel cancel);
@@ -129,11 +134,13 @@ Q_SIGNALS:
     void retranslated();
 
 private:
+    struct Selection {
+        QString project;
+        QString agent;
+    };
     void select(const QString &project, const QString &agent);
     void saveScope();
-    /// The project that has this agent, empty for one that stands alone; nothing when the rail has
-    /// no such agent.
-    std::optional<QString> homeOf(const QString &agentID) const;
+    Selection storedScope() const;
     QString describeScope() const;
 
     AppStore &m_store;

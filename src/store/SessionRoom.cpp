@@ -90,9 +90,10 @@ QCoro::Task<void> SessionRoom::checkSession(Cancel cancel) {
             co_return;
         }
         m_store.scope()->setSignedOut();
-        if (hasAnswered)
+        if (hasAnswered && !user)
             co_return;
-        // There may be a session all the same: who started before the network need not sign in.
+        // There may be a session all the same: who started before the network need not sign in. One
+        // that is found while the person signs in is asked for again, in case they do not get in.
         co_await m_store.clock().sleep(pause, cancel);
     }
 }
@@ -222,8 +223,8 @@ QCoro::Task<void> SessionRoom::signOut(Cancel cancel) {
     } catch (const std::exception &) {
         // Signing out here does not depend on the server.
         cancel.throwIfRequested();
-        m_store.net().cookies().clear();
     }
+    m_store.net().cookies().clear();
     m_store.chat()->forgetTyped();
     resetToAnon();
 }

@@ -7,7 +7,7 @@ namespace kiv::text {
 /// A link of a message.
 struct BlockLink {
     QString words;  ///< that it stands on
-    QString target; ///< where it leads: http, https or mailto
+    QString target; ///< where it leads, as `linkTarget` gives it
     friend bool operator==(const BlockLink &, const BlockLink &) = default;
 };
 

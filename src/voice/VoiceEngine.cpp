@@ -58,6 +58,7 @@ QCoro::Task<void> VoiceEngine::warmUp(Cancel cancel) {
         if (!m_webView || m_gone)
             throw VoiceError(VoiceError::Kind::NotReady);
         m_warming = true;
+        m_starts = 0;
         m_webView->loadHtml(VoicePageText::html(), m_baseUrl);
     }
     Continuation<bool> waiting(std::move(cancel));
@@ -93,6 +94,7 @@ QCoro::Task<QString> VoiceEngine::start(QString sessionRaw, QString chatDigest, 
         if (m_connectContinuation == &waiting)
             m_connectContinuation = nullptr;
     });
+    ++m_starts;
     m_webView->evaluate(u"window.__nativeStart("_s + jsString(sessionRaw) + u", "_s +
                         jsString(chatDigest) + u')');
     co_return co_await waitFor(waiting);
@@ -145,6 +147,9 @@ void VoiceEngine::pageGone() {
 }
 
 void VoiceEngine::handle(const QVariantMap &message) {
+    // What a call still had on the way when the next one began is not the next one's.
+    if (number(message, u"start"_s).value_or(m_starts) != m_starts)
+        return;
     const QString type = text(message, u"t"_s);
     if (type == u"ready"_s) {
         m_ready = true;

@@ -91,6 +91,7 @@ private:
     bool m_ready = false;
     bool m_gone = false;
     bool m_warming = false;
+    int m_starts = 0; ///< how often the page was told to start
     /// The warm-ups that wait for the page.
     std::list<Continuation<bool> *> m_readyContinuations;
     /// The start that waits for the page's answer.

@@ -11,6 +11,8 @@
     var conv = null;
     // Counts the starts and the ends. A call whose number is another one by now is stale.
     var turn = 0;
+    // Counts the starts alone, as the program does: what belongs to a call names its start.
+    var starts = 0;
 
     function end(conversation) {
         try {
@@ -19,7 +21,7 @@
         } catch (e) {}
     }
 
-    function handlers(s, d, post) {
+    function handlers(s, d, tell) {
         var body = { tamrix_call_id: s.call_id };
         if (d)
             body.chat_digest = String(d).slice(0, 1600);
@@ -28,10 +30,10 @@
             customLlmExtraBody: body,
             overrides: s.overrides || undefined,
             onModeChange: function (p) {
-                post('mode', { mode: p && p.mode === 'speaking' ? 'speaking' : 'listening' });
+                tell('mode', { mode: p && p.mode === 'speaking' ? 'speaking' : 'listening' });
             },
             onMessage: function (m) {
-                post('message', {
+                tell('message', {
                     message: m.message === null || m.message === undefined ? '' : String(m.message),
                     source: String(m.source || ''),
                     type: String(m.type || '')
@@ -42,14 +44,14 @@
                 var ms = p;
                 if (isObject)
                     ms = p.ping_ms !== null && p.ping_ms !== undefined ? p.ping_ms : p.pingMs;
-                post('ping', { ms: Number(ms) });
+                tell('ping', { ms: Number(ms) });
             },
             onError: function (msg) {
-                post('error', { message: typeof msg === 'string' ? msg : (msg && msg.message) || '' });
+                tell('error', { message: typeof msg === 'string' ? msg : (msg && msg.message) || '' });
             },
             onDisconnect: function (d) {
                 d = d || {};
-                post('disconnect', {
+                tell('disconnect', {
                     reason: String(d.reason || ''),
                     message: String(d.message || ''),
                     closeCode: Number(d.closeCode || 0),
@@ -60,6 +62,7 @@
     }
 
     window.__nativeStart = function (sessionJson, chatDigest) {
+        var start = ++starts;
         var s = JSON.parse(sessionJson);
         var d = chatDigest ? String(chatDigest) : '';
         var last = null;
@@ -68,19 +71,19 @@
         function isStale() {
             return number !== turn;
         }
-        function postOwn(t, d) {
+        function tell(t, d) {
             if (!isStale())
-                post(t, d);
+                post(t, Object.assign({ start: start }, d));
         }
         function attempt(address, transport) {
-            var options = Object.assign(handlers(s, d, postOwn), address);
+            var options = Object.assign(handlers(s, d, tell), address);
             options.connectionType = transport;
             return window.__ElevenConversation.startSession(options).then(function (c) {
                 if (isStale())
                     return end(c);
                 conv = c;
                 if (conv)
-                    post('connected', { transport: transport });
+                    tell('connected', { transport: transport });
             });
         }
         function failed(e) {
@@ -98,7 +101,7 @@
             if (!conv)
                 throw last || new Error('no voice transport');
         }).catch(function (e) {
-            postOwn('connectFail', { message: e && e.message ? String(e.message) : '' });
+            tell('connectFail', { message: e && e.message ? String(e.message) : '' });
         });
         return true;
     };

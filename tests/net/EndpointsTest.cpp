@@ -303,7 +303,9 @@ private Q_SLOTS:
         row("depth three", R"({"profile":{"data":{"user":{"avatar":"3"}}}})", "3");
         row("depth four", R"({"profile":{"data":{"user":{"data":{"avatar":"4"}}}}})", "");
         row("nothing", "{}", "");
-        row("odd types", R"({"picture":1,"avatar":{},"profile":[]})", "");
+        row("odd types", R"({"avatar_url":1,"user":[],"data":{"picture":{},"avatar":"1"}})", "1");
+        row("no object", R"(["a"])", "");
+        row("no JSON", "<html>", "");
     }
     void avatarsAreFoundWhereverTheReplyPutThem() {
         QFETCH(QByteArray, reply);

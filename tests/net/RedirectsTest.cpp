@@ -171,7 +171,7 @@ private Q_SLOTS:
         ClientFixture at;
         QVERIFY(setCookie(at));
         const QString file = at.folder.filePath(u"session/cookies"_s);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(file), kiv::test::diskPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(file), test::diskPatience);
         constexpr auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup |
                                 QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
         QCOMPARE(QFile::permissions(file) & (others | QFile::ExeOwner), QFile::Permissions());
@@ -197,10 +197,7 @@ private Q_SLOTS:
         };
         const QJsonArray saved{entry("old=1; expires=Tue, 01-Jan-2019 00:00:00 GMT; path=/"),
                                entry("new=1; expires=Tue, 01-Jan-2137 00:00:00 GMT; path=/")};
-        QFile out(file);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(QJsonDocument(saved).toJson());
-        out.close();
+        test::putContent(file, QJsonDocument(saved).toJson());
         APIClient restarted(at.clock, at.connectivity, file);
         restarted.setBaseUrl(at.server.url());
         QCOMPARE(cookieAt(at, restarted), "new=1"_ba);
@@ -208,11 +205,8 @@ private Q_SLOTS:
         at.server.answer(200, "{}", {"Set-Cookie: more=1; Max-Age=60"});
         auto call = post(restarted);
         QVERIFY(call.finish());
-        const auto kept = [&] {
-            QFile in(file);
-            return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-        };
-        QTRY_VERIFY(kept().contains("more=1"));
+        const auto kept = [&] { return test::contentOf(file); };
+        QTRY_VERIFY_WITH_TIMEOUT(kept().contains("more=1"), test::diskPatience);
         QVERIFY(kept().contains("new=1") && !kept().contains("old=1"));
     }
 

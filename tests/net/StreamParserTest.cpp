@@ -105,26 +105,6 @@ private Q_SLOTS:
         else
             QVERIFY(!eventsOf(pieces).isEmpty());
     }
-
-    /// Each of these would take hours if a byte were looked at more than a few times.
-    void theCostIsLinear_data() {
-        QTest::addColumn<QByteArrayList>("pieces");
-        QTest::addColumn<int>("events");
-        constexpr int many = 4'000'000;
-        QTest::newRow("LF") << QByteArrayList{QByteArray(many, '\n')} << 0;
-        QTest::newRow("CR") << QByteArrayList{QByteArray(many, '\r')} << 0;
-        QTest::newRow("short lines with one CR at the end")
-            << QByteArrayList{"a\n"_ba.repeated(many) + "\r"} << 0;
-        QTest::newRow("events") << QByteArrayList{"data: x\n\n"_ba.repeated(many / 8)} << many / 8;
-        QTest::newRow("a line in bytes") << QByteArrayList(many, "x"_ba) << 0;
-        QTest::newRow("an event in lines")
-            << QByteArrayList{"data: x\n"_ba.repeated(many) + "\n"} << 1;
-    }
-    void theCostIsLinear() {
-        QFETCH(QByteArrayList, pieces);
-        QFETCH(int, events);
-        QCOMPARE(eventsOf(pieces).size(), events);
-    }
 };
 
 QTEST_APPLESS_MAIN(StreamParserTest)

@@ -290,12 +290,17 @@ private Q_SLOTS:
     }
     void signingOutLeavesNothing() {
         QFETCH(bool, answered);
+        Runs at;
         QThreadPool *pool = QThreadPool::globalInstance();
         QSemaphore disk;
-        auto goesOn = qScopeGuard([&] { disk.release(pool->maxThreadCount()); });
+        // Every thread has left the semaphore before it goes.
+        const auto goOn = [&] {
+            disk.release(pool->maxThreadCount());
+            pool->waitForDone();
+        };
+        auto goesOn = qScopeGuard(goOn);
         for (int thread = 0; thread < pool->maxThreadCount(); ++thread)
             pool->start([&disk] { disk.acquire(); });
-        Runs at;
         at.start();
         at.signIn("first"); // waits for the disk
         if (answered)
@@ -303,7 +308,7 @@ private Q_SLOTS:
         at.signOut();
         QVERIFY(!QFile::exists(at.path()));
         goesOn.dismiss();
-        disk.release(pool->maxThreadCount());
+        goOn();
         at.secrets.answer();
         at.end();
         QCOMPARE(at.secrets.secret, ""_ba);

@@ -215,8 +215,13 @@ private Q_SLOTS:
         QCOMPARE(f.field(u"handle"_s).text(), u"grace"_s);
         f.field(u"handle"_s).discard();
 
-        // A scope that is picked is entered behind the question.
+        // A link to the chat that is open already leads away from the pages, too.
         f.field(u"goals_md"_s).edit(u"Ship it"_s);
+        f.store->door()->open(*ChatLink::parse(u"kiv://chat/project/ferry"_s));
+        QVERIFY(f.account().leaveAsked() && f.store->layout()->isAccount());
+        f.account().stay();
+
+        // A scope that is picked is entered behind the question.
         f.store->scope()->pickGlobal();
         QVERIFY(f.account().leaveAsked());
         QVERIFY(f.store->layout()->isAccount());
@@ -292,7 +297,7 @@ private Q_SLOTS:
         SOON_COMPARE(f.patches().size(), 1);
         f.store->session()->resetToAnon();
         f.backend.release(profilePatch);
-        QTest::qWait(20);
+        f.settled();
         QCOMPARE(f.field(u"handle"_s).text(), QString());
         QCOMPARE(f.account().saveState(), SaveState::Stored);
     }

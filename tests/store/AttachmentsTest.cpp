@@ -239,7 +239,7 @@ private Q_SLOTS:
         QCOMPARE(f.files().count(), 0);
         QVERIFY(!f.room().chatUploading());
         f.backend.release(kivUpload);
-        QTest::qWait(30);
+        f.settled();
         QCOMPARE(f.files().count(), 0);
         QCOMPARE(f.note(), QString());
         QCOMPARE(f.backend.count(kivUpload), 2);
@@ -282,7 +282,7 @@ private Q_SLOTS:
         f.room().removeChatFile(f.idOf(1));
         QVERIFY(!f.room().chatUploading());
         f.backend.release(kivUpload);
-        QTest::qWait(20);
+        f.settled();
         QCOMPARE(f.names(), QStringList{u"b.txt"_s});
     }
 };

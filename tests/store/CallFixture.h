@@ -6,13 +6,15 @@
 
 namespace kiv::test {
 
-/// A store that can place calls over a page that the test plays.
-struct CallFixture : StoreFixture {
-    CallFixture() {
+/// A store that can place calls, once they are allowed, over a page that the test plays.
+struct CallScript : StoreFixture {
+    ~CallScript() { store.reset(); } // it uses what is below
+
+    void allowCalls(const QByteArray &sessionAnswer = sessionBody) {
         call()->setVoicePages(&pages);
         store->microphone()->setSource(&microphones);
         backend.answer(QStringLiteral("GET api/v2/voice/capability"), R"({"available":true})");
-        backend.answer(session, sessionBody);
+        backend.answer(session, sessionAnswer);
         backend.answer(end, "{}");
         backend.answer(QStringLiteral("GET api/v2/voice/calls"), R"({"calls":[]})");
     }
@@ -33,6 +35,11 @@ struct CallFixture : StoreFixture {
               {QStringLiteral("reason"), reason},
               {QStringLiteral("closeCode"), 1006}});
     }
+    void speaking(bool isSpeaking) {
+        post({{QStringLiteral("t"), QStringLiteral("mode")},
+              {QStringLiteral("mode"),
+               isSpeaking ? QStringLiteral("speaking") : QStringLiteral("listening")}});
+    }
     void ready() { post({{QStringLiteral("t"), QStringLiteral("ready")}}); }
     void connected() {
         post({{QStringLiteral("t"), QStringLiteral("connected")},
@@ -45,10 +52,16 @@ struct CallFixture : StoreFixture {
     /// Presses the button and waits until the page is to connect.
     bool dial() {
         call()->callAction();
+        return dialled();
+    }
+    /// The same of a call that has been begun; its session is still being asked for.
+    bool dialled() {
+        const auto starts = [this] { return pages.calls(QStringLiteral("Start")).size(); };
+        const qsizetype before = starts();
         if (!soon([this] { return pages.loads > 0; }))
             return false;
         ready();
-        return soon([this] { return !pages.calls(QStringLiteral("Start")).isEmpty(); });
+        return soon([&] { return starts() > before; });
     }
     bool connect() {
         if (!dial())
@@ -74,6 +87,11 @@ struct CallFixture : StoreFixture {
     const QString end = QStringLiteral("POST api/v2/voice/end");
     ScriptedPages pages;
     ScriptedMicrophones microphones;
+};
+
+/// The same, where calls are allowed.
+struct CallFixture : CallScript {
+    CallFixture() { allowCalls(); }
 };
 
 } // namespace kiv::test

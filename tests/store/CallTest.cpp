@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(f.call()->callHint(),
                  u"This Mac cannot make voice calls — check microphone access."_s);
         QCOMPARE(f.call()->voiceReason(), u"browser_unsupported"_s);
-        QTest::qWait(0);
+        f.settled();
         QCOMPARE(f.backend.count(u"GET api/v2/voice/capability"_s) + f.backend.count(f.session), 0);
         f.microphones.opens = true;
         f.pages.refused = u"Not for root."_s;
@@ -101,9 +101,10 @@ private Q_SLOTS:
         QCOMPARE(f.pages.calls(u"Context"_s),
                  QStringList{u"window.__nativeContext(\"Recent text chat with the owner — use it "
                              "as memory, do not read it aloud:\\nYou: Hello there\")"_s});
-        // The call keeps its name and its place when the person goes elsewhere.
-        f.call()->leaveCallScreen();
-        f.store->scope()->pickAgent(u"ferry"_s, u"scout"_s);
+        // The call keeps its name and its place when the person goes elsewhere, by a link here.
+        f.store->door()->open(*ChatLink::parse(u"kiv://chat/agent/scout"_s));
+        QCOMPARE(f.store->scope()->agent(), u"scout"_s);
+        QVERIFY(!f.call()->callShown());
         QCOMPARE(f.call()->callName(), u"KIV"_s);
         f.call()->callAction();
         QVERIFY(f.call()->callShown());

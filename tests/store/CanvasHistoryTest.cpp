@@ -108,6 +108,35 @@ private Q_SLOTS:
         QCOMPARE(canvas->history()->count(), 3);
     }
 
+    /// A scene names who drew it also where somebody else is talked to, but leads to no message.
+    void reopenedInAnotherChat() {
+        StoreFixture f;
+        QVERIFY(f.ask(u"Weekly report"_s));
+        QVERIFY(f.draw(9, reportBlock));
+        CanvasRoom *canvas = f.store->canvas();
+        const SceneSource source = canvas->source();
+        const QString time = canvas->sourceTime();
+        QVERIFY(!time.isEmpty());
+        f.store->scope()->enterProject(u"ferry"_s);
+        QVERIFY(f.streaming(test::ferryChat, 1));
+        QCOMPARE(canvas->source(), SceneSource());
+
+        canvas->openHistory(0);
+        canvas->stepBack();
+        for (int visit = 0; visit < 2; ++visit, canvas->stepForward()) {
+            QCOMPARE(canvas->state(), CanvasState::Scene);
+            QCOMPARE(canvas->source().name, u"KIV"_s);
+            QCOMPARE(canvas->source(), source);
+            QCOMPARE(canvas->sourceTime(), time);
+            QCOMPARE(canvas->sourceMessageId(), QString());
+        }
+        f.store->chat()->send(u"And here?"_s);
+        QVERIFY(f.draw(11, reportBlock));
+        QCOMPARE(canvas->source().kind, ScopeKind::Project);
+        QCOMPARE(canvas->source().name, f.store->scope()->scopeName());
+        QVERIFY(!canvas->sourceMessageId().isEmpty());
+    }
+
     void historyKeepsTwenty() {
         StoreFixture f;
         QVERIFY(f.signIn());

@@ -216,20 +216,6 @@ private Q_SLOTS:
         QCOMPARE(canvas->panel(), QString());
         QVERIFY(canvas->state() != CanvasState::Panel);
     }
-
-    void signOutTakesEverything() {
-        StoreFixture f;
-        QVERIFY(f.ask(u"Weekly report"_s));
-        QVERIFY(f.draw(9, reportBlock));
-        QCOMPARE(f.store->canvas()->history()->count(), 1);
-        f.store->session()->resetToAnon();
-        CanvasRoom *canvas = f.store->canvas();
-        QCOMPARE(canvas->state(), CanvasState::SignedOut);
-        QCOMPARE(canvas->art(), QString());
-        QCOMPARE(canvas->query(), QString());
-        QCOMPARE(canvas->history()->count(), 0);
-        QVERIFY(!canvas->hasEarlier());
-    }
 };
 
 QTEST_GUILESS_MAIN(CanvasTest)

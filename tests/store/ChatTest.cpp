@@ -159,7 +159,7 @@ private Q_SLOTS:
         f.row(7, u"hello"_s, u"user"_s);
         SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
         f.backend.release(kivPost);
-        QTest::qWait(20);
+        f.settled();
         QCOMPARE(f.msgs().count(), 2);
         QCOMPARE(f.deliveryOf(1), Delivery::Stored);
     }
@@ -230,7 +230,7 @@ private Q_SLOTS:
         f.history(test::ferryChat, "[" + rowJson(5, u"user"_s, u"ferry"_s) + "]");
         f.backend.release(u"GET "_s + test::ferryChat);
         SOON_COMPARE(f.texts(), QStringList{u"old question"_s});
-        QTest::qWait(20);
+        f.settled();
         QCOMPARE(f.texts(), QStringList{u"old question"_s});
     }
 
@@ -253,95 +253,6 @@ private Q_SLOTS:
         f.clock.advance(2s);
         SOON_COMPARE(f.texts(), QStringList{u"missed"_s});
         QCOMPARE(f.backend.count(u"GET "_s + test::ferryChat), 2);
-    }
-
-    void reconnectBringsWhatWasMissed() {
-        StoreFixture f;
-        QVERIFY(f.signIn());
-        f.backend.answer(kivPost,
-                         R"({"message":)" + rowJson(7, u"user"_s, u"Weekly report"_s) + "}");
-        f.store->chat()->send(u"Weekly report"_s);
-        SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
-        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"Weekly report"_s) + "," +
-                               rowJson(8, u"assistant"_s, test::reportBlock) + "]");
-        QVERIFY(f.reconnect(kivChat));
-        QCOMPARE(f.msgs().count(), 2);
-        f.clock.advance(1200ms);
-        QCOMPARE(f.store->canvas()->phase(), Phase::Done);
-        QCOMPARE(f.store->canvas()->art(), u"report"_s);
-        QCOMPARE(f.store->canvas()->history()->count(), 1);
-    }
-
-    /// Neither on the page, which was asked for before, nor on the line, which stood after.
-    void comesBetweenThePageAndTheLine_data() {
-        QTest::addColumn<bool>("again");
-        QTest::newRow("at first") << false;
-        QTest::newRow("when the line comes back") << true;
-    }
-    void comesBetweenThePageAndTheLine() {
-        QFETCH(bool, again);
-        StoreFixture f;
-        const QString stream = u"GET "_s + kivChat + u"/stream"_s;
-        const QString page = u"GET "_s + kivChat;
-        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"Weekly report"_s) + "]");
-        if (again)
-            QVERIFY(f.signIn());
-        f.backend.hold(stream);
-        if (again)
-            QVERIFY(f.loseLine(kivChat));
-        else
-            f.store->boot();
-        SOON_COMPARE(f.backend.count(stream), again ? 2 : 1);
-        SOON_COMPARE(f.texts(), QStringList{u"Weekly report"_s});
-        SOON_VERIFY(!f.store->chat()->historyLoading());
-        const int pages = f.backend.count(page);
-        f.history(kivChat, "[" + rowJson(7, u"user"_s, u"Weekly report"_s) + "," +
-                               rowJson(8, u"assistant"_s, u"All went well."_s) + "]");
-        f.backend.release(stream);
-        SOON_COMPARE(f.texts(), (QStringList{u"Weekly report"_s, u"All went well."_s}));
-        QCOMPARE(f.backend.count(page), pages + 1);
-    }
-
-    /// It settles on what a page brought of it, and the rest comes with the next page.
-    void answerGoesOnWhileTheLineIsLost() {
-        StoreFixture f;
-        QVERIFY(f.ask(u"Weekly report"_s));
-        const QString stream = u"GET "_s + kivChat + u"/stream"_s;
-        const QByteArray question = rowJson(7, u"user"_s, u"Weekly report"_s);
-        const auto answered = [&](const QString &answer) {
-            f.history(kivChat, "[" + question + "," + rowJson(8, u"assistant"_s, answer) + "]");
-        };
-        answered(u"The week."_s);
-        f.backend.hold(stream);
-        QVERIFY(f.loseLine(kivChat));
-        SOON_COMPARE(f.texts().last(), u"The week."_s);
-        f.clock.advance(1200ms);
-        QVERIFY(!f.store->canvas()->awaitingAnswer());
-        answered(u"The week.\n\n"_s + test::reportBlock);
-        f.backend.release(stream);
-        SOON_VERIFY(f.texts().last() != u"The week."_s);
-        f.clock.advance(1200ms);
-        f.clock.advance(500ms);
-        QCOMPARE(f.store->canvas()->art(), u"report"_s);
-        QCOMPARE(f.store->canvas()->history()->count(), 1);
-    }
-
-    void pageOvertakesTheLine() {
-        StoreFixture f;
-        QVERIFY(f.signIn());
-        f.row(8, u"All went"_s);
-        SOON_COMPARE(f.texts(), (QStringList{kivGreeting, u"All went"_s}));
-        f.history(kivChat, "[" + rowJson(8, u"assistant"_s, u"All went well this week."_s) + "]");
-        QVERIFY(f.reconnect(kivChat));
-        QCOMPARE(f.texts(), QStringList{u"All went well this week."_s});
-        QSignalSpy changed(&f.msgs(), &MessageModel::dataChanged);
-        f.row(8, u"All went well"_s);
-        f.row(8, u"All went well this week. Next?"_s);
-        SOON_COMPARE(f.texts(), QStringList{u"All went well this week. Next?"_s});
-        QCOMPARE(changed.count(), 1);
-        // The line has caught up: what it says now holds, a shorter text too.
-        f.row(8, u"All went well this week."_s);
-        SOON_COMPARE(f.texts(), QStringList{u"All went well this week."_s});
     }
 
     void unseen() {

@@ -300,6 +300,18 @@ private Q_SLOTS:
         QCOMPARE(f.store->scope()->agent(), u"heron"_s);
     }
 
+    /// The members of another project do not come: the agent is there all the same.
+    void listedBesideAProjectThatFails() {
+        Workshop f;
+        QVERIFY(f.fillAgent());
+        f.backend.answer(u"GET api/v2/projects/lantern/members"_s, R"({"error":"Busy."})", 503);
+        f.listAgent(true);
+        f.room().next();
+        SOON_VERIFY(!f.room().isOpen());
+        QCOMPARE(f.store->scope()->agent(), u"heron"_s);
+        QCOMPARE(f.store->scope()->project(), u"ferry"_s);
+    }
+
     void closingAsksBeforeItDrops() {
         Workshop f;
         QVERIFY(f.signIn());
@@ -338,7 +350,7 @@ private Q_SLOTS:
         f.store->session()->logout();
         SOON_VERIFY(!f.room().isOpen());
         f.backend.release(newAgent);
-        QTest::qWait(50);
+        f.settled();
         QCOMPARE(f.store->scope()->agent(), QString());
         QCOMPARE(f.room().name(), QString());
         f.store->layout()->startCreate(u"agent"_s);

@@ -168,7 +168,7 @@ private Q_SLOTS:
         QVERIFY(f.signIn());
         f.store->door()->open(*ChatLink::parse(u"kiv://chat/agent/nobody"_s));
         f.store->scope()->enterProject(u"ferry"_s);
-        QTest::qWait(100);
+        f.settled();
         QCOMPARE(f.store->chat()->chatNote(), QString());
         QCOMPARE(f.store->scope()->project(), u"ferry"_s);
     }

@@ -72,6 +72,51 @@ private Q_SLOTS:
         QCOMPARE(f.deliveryOf(1), Delivery::Failed);
     }
 
+    /// The page that is on its way was there before, and what is asked meanwhile was not.
+    void begunBeforeTheFirstPage_data() {
+        QTest::addColumn<QString>("question");
+        QTest::newRow("alone") << QString();
+        QTest::newRow("and asked in") << u"And now?"_s;
+    }
+    void begunBeforeTheFirstPage() {
+        QFETCH(QString, question);
+        const QString page = u"GET "_s + kivChat;
+        StoreFixture f;
+        f.backend.hold(page);
+        f.store->boot();
+        SOON_COMPARE(f.backend.count(page), 1);
+        f.store->chat()->newChat();
+        QByteArray rows = m_before + "," + rowJson(5, u"assistant"_s, test::reportBlock);
+        QStringList expected{kivGreeting};
+        if (!question.isEmpty()) {
+            const QByteArray row = rowJson(7, u"user"_s, question);
+            f.backend.answer(kivPost, R"({"message":)" + row + "}");
+            f.store->chat()->send(question);
+            SOON_COMPARE(f.deliveryOf(1), Delivery::Stored);
+            rows += "," + row;
+            expected = {question};
+        }
+        f.history(kivChat, "[" + rows + "]");
+        f.backend.release(page);
+        QVERIFY(f.streaming(kivChat, 1));
+        QCOMPARE(f.texts(), expected);
+        QVERIFY(f.store->canvas()->state() != CanvasState::Scene);
+    }
+
+    /// What had failed before comes back with the conversation of before.
+    void keepsWhatHadFailed() {
+        StoreFixture f;
+        QVERIFY(f.signIn());
+        f.backend.answer(kivPost, "{}", 500);
+        f.store->chat()->send(u"hello"_s);
+        SOON_COMPARE(f.deliveryOf(1), Delivery::Failed);
+        f.store->chat()->newChat();
+        QVERIFY(f.reconnect(kivChat));
+        QCOMPARE(f.texts(), QStringList{kivGreeting});
+        f.store->scope()->pickGlobal();
+        SOON_COMPARE(f.texts(), QStringList{u"hello"_s});
+    }
+
     void waitsForNothing() {
         StoreFixture f;
         QVERIFY(f.ask(u"Weekly report"_s));

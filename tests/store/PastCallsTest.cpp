@@ -99,6 +99,24 @@ private Q_SLOTS:
         QCOMPARE(f.call()->callHistory()->count(), 0);
     }
 
+    /// A new chat is without the calls of before, whatever brings the conversation anew.
+    void inANewChat() {
+        CallFixture f;
+        f.backend.answer(calls, twoCalls);
+        f.history(test::kivChat, "[" + rowAt(1, "09:20:00") + "]");
+        QVERIFY(f.signIn());
+        SOON_COMPARE(f.texts().size(), 3);
+        f.store->chat()->newChat();
+        QVERIFY(f.connect());
+        f.clock.advance(5s);
+        f.call()->hangupCall();
+        QVERIFY(f.ended(1));
+        const QStringList expected{test::kivGreeting, u"Call · 0:05"_s};
+        QCOMPARE(f.texts(), expected);
+        QVERIFY(f.reconnect(test::kivChat));
+        QCOMPARE(f.texts(), expected);
+    }
+
     /// A call that never was one leaves nothing.
     void withoutALine() {
         CallFixture f;

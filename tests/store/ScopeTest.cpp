@@ -176,6 +176,47 @@ private Q_SLOTS:
         QCOMPARE(f.settings->value(u"zandor.agent"_s).toString(), u"loom"_s);
     }
 
+    /// Where an agent belongs is not known before the members of every project are.
+    void agentOfAProjectThatComesLate_data() {
+        QTest::addColumn<bool>("isSaved");
+        QTest::newRow("saved") << true;
+        QTest::newRow("entered by a link") << false;
+    }
+    void agentOfAProjectThatComesLate() {
+        QFETCH(bool, isSaved);
+        const QString members = u"GET api/v2/projects/ferry/members"_s;
+        StoreFixture f;
+        if (isSaved) {
+            f.settings->setValue(u"zandor.project"_s, u"ferry"_s);
+            f.settings->setValue(u"zandor.agent"_s, u"loom"_s);
+        }
+        f.backend.answer(members, "{}", 503);
+        f.backend.answer(u"GET api/v2/custom-agents"_s,
+                         R"({"agents":[{"id":"ledger"},{"id":"loom","name":"Loom"}]})");
+        f.store->boot();
+        ScopeRoom *scope = f.store->scope();
+        SOON_VERIFY(f.store->chat()->connected());
+        if (!isSaved)
+            QVERIFY(scope->enterAgent(u"loom"_s));
+        const auto isSelected = [&](const QString &name) {
+            const QModelIndexList rows = scope->rail()->match(
+                scope->rail()->index(0, 0), RailModel::SelectedRole, true, -1, Qt::MatchExactly);
+            return rows.size() == 1 && scope->scopeName() == name &&
+                   rows.first().data(RailModel::NameRole).toString() == name;
+        };
+        QVERIFY(isSelected(u"Loom"_s));
+        QCOMPARE(scope->project(), isSaved ? u"ferry"_s : QString());
+        QCOMPARE(scope->standaloneAgents().size(), isSaved ? 1 : 2);
+        f.backend.answer(members, R"([{"agent":{"id":"loom","name":"Loom, awake"}}])");
+        QVERIFY(QTest::qWaitFor([&] {
+            f.clock.advance(50ms);
+            return isSelected(u"Loom, awake"_s);
+        }));
+        QCOMPARE(scope->project(), u"ferry"_s);
+        QCOMPARE(f.settings->value(u"zandor.project"_s).toString(), u"ferry"_s);
+        QCOMPARE(f.store->chat()->connected(), scope->chatTarget());
+    }
+
     void chosenBeforeTheSavedOneIsBack_data() {
         QTest::addColumn<QString>("project");
         QTest::newRow("a project") << u"lantern"_s;
@@ -226,7 +267,7 @@ private Q_SLOTS:
         f.store->scope()->pickProject(u"lantern"_s);
         QCOMPARE(f.store->scope()->project(), u"lantern"_s);
         QCOMPARE(f.settings->value(u"zandor.project"_s).toString(), u"ferry"_s);
-        QCOMPARE(f.backend.count(u"GET api/v2/projects/lantern/events"_s), 0);
+        QVERIFY(!f.store->events()->eventsLoading());
     }
 
     void eventsFollowTheProject() {

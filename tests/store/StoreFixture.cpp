@@ -1,5 +1,6 @@
 #include "StoreFixture.h"
 
+#include <QCoroTask>
 #include <QJsonDocument>
 #include <QTimer>
 
@@ -148,6 +149,11 @@ bool StoreFixture::loseLine(const QString &chat, const QString &next) {
             clock.advance(50ms);
         return backend.count(route) > before;
     });
+}
+
+void StoreFixture::settled() {
+    for (int trip = 0; trip < 3; ++trip)
+        QCoro::waitFor(client->fetch(client->request("GET", u"nowhere"_s), {}));
 }
 
 void StoreFixture::row(qint64 id, const QString &text, const QString &role) {

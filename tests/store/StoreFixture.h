@@ -48,6 +48,9 @@ public:
     /// Drops the stream of a chat and lets time pass until it is asked for again, or `next`.
     bool loseLine(const QString &chat, const QString &next = {});
 
+    /// Lets whatever is under way come to its end: some round trips behind it.
+    void settled();
+
     /// The stream of the current chat sends this row: an answer, or what `role` says.
     void row(qint64 id, const QString &text, const QString &role = QStringLiteral("assistant"));
     /// Signs in and asks the orchestrator; the question is stored as row 7.

@@ -132,23 +132,6 @@ private Q_SLOTS:
         QCOMPARE(drawings(f), drawn ? 1 : 0);
     }
 
-    void earlyTableIsDrawnOnce() {
-        StoreFixture f;
-        QVERIFY(f.ask(question));
-        CanvasRoom *canvas = f.store->canvas();
-        QSignalSpy drawn(canvas, &CanvasRoom::artSceneChanged);
-        QVERIFY(arrives(f, 9, table + u"\n\nThe hull"_s));
-        QCOMPARE(canvas->phase(), Phase::Building);
-        QCOMPARE(drawn.count(), 1);
-        f.clock.advance(1s);
-        QVERIFY(arrives(f, 9, table + u"\n\nThe hull takes longest."_s));
-        f.clock.advance(5s);
-        QVERIFY(!canvas->awaitingAnswer());
-        QCOMPARE(drawn.count(), 1);
-        QCOMPARE(canvas->vis(), 1);
-        QCOMPARE(canvas->history()->count(), 1);
-    }
-
     void earlyTableThatGrewIsDrawnAnew() {
         StoreFixture f;
         QVERIFY(f.ask(question));
@@ -185,6 +168,7 @@ private Q_SLOTS:
         QCOMPARE(canvas->history()->at(1).spec->rows.size(), 3);
         canvas->stepBack();
         QCOMPARE(canvas->artScene().coRows.size(), 3);
+        QVERIFY(!canvas->sourceMessageId().isEmpty());
     }
 
     void growsOnAfterASilence() {
@@ -239,16 +223,55 @@ private Q_SLOTS:
         QVERIFY(!f.store->chat()->canStop());
     }
 
+    /// It is drawn at once and ends nothing: the answer itself may still come.
     void rowWithoutAnId() {
         StoreFixture f;
         QVERIFY(f.ask(question));
-        f.backend.sendRow(kivChat + u"/stream"_s, R"({"role":"agent","content":"All quiet."})");
-        SOON_COMPARE(f.store->canvas()->state(), CanvasState::Hint);
+        const CanvasRoom *canvas = f.store->canvas();
+        QSignalSpy failed(f.store->chat(), &ChatRoom::answerFailed);
+        const auto saysQuiet = [&] {
+            f.backend.sendRow(kivChat + u"/stream"_s, R"({"role":"agent","content":"All quiet."})");
+            return test::soon([&] { return canvas->state() == CanvasState::Hint; });
+        };
+        QVERIFY(saysQuiet());
         QCOMPARE(f.texts().last(), u"All quiet."_s);
-        f.clock.advance(1200ms);
-        QVERIFY(!f.store->canvas()->awaitingAnswer());
+        QVERIFY(!f.msgs().index(2).data(MessageModel::GrowingRole).toBool());
+        f.clock.advance(5s);
+        QVERIFY(f.store->chat()->canStop());
+        QVERIFY(arrives(f, 9, table));
+        f.clock.advance(2s);
+        QCOMPARE(canvas->state(), CanvasState::Scene);
         QVERIFY(!f.store->chat()->canStop());
-        SOON_COMPARE(f.backend.count(u"POST api/v2/rum"_s), 1);
+
+        f.backend.answer(kivPost, R"({"message":)" + rowJson(10, u"user"_s, u"And now?"_s) + "}");
+        f.store->chat()->send(u"And now?"_s);
+        SOON_VERIFY(f.msgs().rowOfServerID(10) >= 0);
+        QVERIFY(saysQuiet());
+        f.clock.advance(180s);
+        QVERIFY(!canvas->awaitingAnswer());
+        QCOMPARE(canvas->state(), CanvasState::Hint);
+        QCOMPARE(failed.count(), 0);
+    }
+
+    /// The answer before goes on being written, and its block shows when it is whole.
+    void askedWhileAnAnswerGrows() {
+        StoreFixture f;
+        QVERIFY(f.ask(question));
+        const QString block = u"Look:\n"_s + reportBlock;
+        QVERIFY(arrives(f, 9, block.chopped(20)));
+        const QPersistentModelIndex before = f.msgs().index(2);
+        f.store->chat()->send(u"And now?"_s);
+        QVERIFY(arrives(f, 9, block.chopped(3)));
+        QCOMPARE(before.data(MessageModel::BodyRole).toString(), u"Look:"_s);
+        f.clock.advance(1200ms);
+        QVERIFY(!before.data(MessageModel::GrowingRole).toBool());
+        QVERIFY(arrives(f, 9, block.chopped(2)));
+        QVERIFY(before.data(MessageModel::GrowingRole).toBool());
+        QVERIFY(arrives(f, 11, u"So it is"_s));
+        QVERIFY(arrives(f, 9, block));
+        QVERIFY(!before.data(MessageModel::GrowingRole).toBool());
+        const int row = static_cast<int>(f.msgs().rowOfServerID(11));
+        QVERIFY(f.msgs().index(row).data(MessageModel::GrowingRole).toBool());
     }
 
     /// The patience of three minutes is for an answer to come; one that is being written has come.

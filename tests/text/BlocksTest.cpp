@@ -1,6 +1,5 @@
 #include "text/MDParser.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -149,22 +148,6 @@ private Q_SLOTS:
         for (int i = 0; i < others; ++i)
             MDParser::blocks(QString::number(i) + QString(length, u'x'));
         QVERIFY(MDParser::blocks(u"kept"_s).first().id != before.first().id);
-    }
-
-    void millionCharacters_data() {
-        QTest::addColumn<QString>("piece");
-        for (const QString &piece :
-             {u"|"_s, u"-"_s, u"> "_s, u"`"_s, u"#"_s, u"7"_s, u" "_s, u"- a\n"_s, u"- [x] a\n"_s,
-              u"|a\n|---\n"_s, u"```\n"_s, u"> "_s, u">\n"_s, u"# #"_s, u"\n"_s, u"1.a\n"_s})
-            QTest::newRow(qPrintable(piece)) << piece;
-    }
-    void millionCharacters() {
-        QFETCH(QString, piece);
-        const QString text = piece.repeated(1'000'000 / piece.size());
-        QElapsedTimer timer;
-        timer.start();
-        MDParser::parse(text);
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(u"%1 ms"_s.arg(timer.elapsed())));
     }
 };
 

@@ -47,8 +47,7 @@ QByteArray inputOf(const Input &input, qsizetype size) {
     return input[0] + input[1].repeated(size / input[1].size()) + input[2];
 }
 
-void readStream(const QByteArray &bytes) {
-    constexpr qsizetype piece = 1400;
+void readStream(const QByteArray &bytes, qsizetype piece) {
     net::LineSplitter lines;
     net::SSEFrameParser frames;
     for (qsizetype at = 0; at < bytes.size(); at += piece)
@@ -84,7 +83,9 @@ void readAnswer(const QByteArray &bytes) {
 
 void search(const QByteArray &bytes) {
     const QString text = QString::fromUtf8(bytes);
-    text::FoldedText(text).find(text::FoldedText(text.left(100) + u'!'));
+    const text::FoldedText folded(text);
+    folded.find(text::FoldedText(text.left(1)));
+    folded.find(text::FoldedText(text.left(100) + u'!'));
 }
 
 } // namespace
@@ -104,8 +105,11 @@ private Q_SLOTS:
                               input[1].left(24).constData())
                     << read << input;
         };
-        rows("stream", readStream,
+        rows("bytes", [](const QByteArray &bytes) { readStream(bytes, 1); }, {{"", "x", "\n"}});
+        rows("stream", [](const QByteArray &bytes) { readStream(bytes, 1400); },
              {{"", "data: x\n\n", ""},
+              {"", "\n", ""},
+              {"", "a\n", "\r"},
               {"", "data: x\n", "\n"},
               {"", "\r", ""},
               {"", "\n\r", ""},
@@ -127,38 +131,21 @@ private Q_SLOTS:
                R"({"role":"a","content":""}]})"},
               {R"({"messages":[{"role":"a","content":"")", R"(,"more":1)", "}]}"}});
         QList<Input> texts;
-        for (const char *piece : {"| a | b |\n",
-                                  "- a\n",
-                                  "- [x] a\n",
-                                  "> q\n",
-                                  "```\n",
-                                  "# h\n",
-                                  "a\n\n",
-                                  "*a",
-                                  "**",
-                                  "_",
-                                  "[a](",
-                                  "[",
-                                  "](",
-                                  "![",
-                                  "`",
-                                  "~~",
-                                  "<a ",
-                                  "&amp;",
-                                  "\\",
-                                  "|",
-                                  "1. a\n",
-                                  "---\n",
-                                  "a **b** `c` [d](https://e.f)\n",
-                                  "https://a.b ",
-                                  "a@b.c ",
-                                  "e\xcc\x81",
-                                  "\xc3\x9f"})
+        for (const char *piece :
+             {"| a | b |\n",  "|a\n|---\n", "|",         "- a\n",   "- [x] a\n", "> q\n", ">\n",
+              "> ",           "```\n",      "# h\n",     "# #",     "#",         "a\n\n", "1. a\n",
+              "1.a\n",        "7",          "---\n",     "-",       "\n",        " ",     "*a",
+              "*a_b",         "**",         "**a *",     "_",       "[a](",      "[",     "](",
+              "![",           "![a](",      "`",         "`a``",    "~~",        "~~a~",  "<",
+              "<a ",          "&",          "&#",        "&amp;",   "\\",        "a:",    "http://",
+              "https://a.b ", "a@b.c ",     "e\xcc\x81", "\xc3\x9f"})
             texts.append({"", piece, ""});
+        texts.append({"", "a **b** `c` [d](https://e.f)\n", ""});
         texts.append({"| a |\n|---|\n", "| 1 |\n", ""});
         texts.append({"", "|a", "\n|-\n"});
         rows("message", readMessage, texts);
-        rows("search", search, {{"", "a", ""}, {"", "ab", ""}, {"", "\xc3\x9f", ""}});
+        rows("search", search,
+             {{"", "a", ""}, {"", "ab", ""}, {"", "\xc3\x9f", ""}, {"", "Straße, e\xcc\x81 ", ""}});
         rows("answer", readAnswer, texts);
     }
     void isLinear() {

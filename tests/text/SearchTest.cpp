@@ -1,6 +1,5 @@
 // Finding words in a message as it shows: what counts as the same word, and where it stands.
 
-#include "support/WorkingTime.h"
 #include "text/MDParser.h"
 #include "text/SearchText.h"
 
@@ -102,24 +101,6 @@ private Q_SLOTS:
         const SearchText text(plainParts(u"a **b**\n`b`"_s), SearchText::Markup::None);
         QCOMPARE(text.find(FoldedText(u"*B"_s)), (QList<WordPlace>{{0, 0, 3, 2}}));
         QCOMPARE(text.find(FoldedText(u"b"_s)), (QList<WordPlace>{{0, 0, 4, 1}, {0, 1, 1, 1}}));
-    }
-
-    /// Eight times the text takes eight times as long, not sixty-four.
-    void linear() {
-        const auto seconds = [](qsizetype size) {
-            const QString text = u"Straße, e\u0301 "_s.repeated(size);
-            double best = std::numeric_limits<double>::max();
-            for (int i = 0; i < 3; ++i) {
-                const double start = kiv::test::workingTime();
-                if (FoldedText(text).find(FoldedText(u"e"_s)).size() != size)
-                    return -1.0;
-                best = std::min(best, kiv::test::workingTime() - start);
-            }
-            return best;
-        };
-        const double small = seconds(4000);
-        QVERIFY(small > 0);
-        QCOMPARE_LT(seconds(32000), 30 * small);
     }
 };
 

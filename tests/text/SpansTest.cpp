@@ -1,6 +1,5 @@
 #include "text/MDParser.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -82,26 +81,6 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(QString, expected);
         QCOMPARE(described(text), expected);
-    }
-
-    void hundredThousandMarks_data() {
-        QTest::addColumn<QString>("piece");
-        for (const QString &piece :
-             {u"*"_s,     u"_"_s,    u"`"_s,       u"~"_s,  u"["_s,    u"]("_s,
-              u"![a]("_s, u"*a_b"_s, u"**a *"_s,   u"<"_s,  u"<a"_s,   u"&"_s,
-              u"&#"_s,    u"\\"_s,   u"http://"_s, u"a:"_s, u"`a``"_s, u"[a](https://b)"_s,
-              u"\n"_s,    u"~~a~"_s})
-            QTest::newRow(qPrintable(piece)) << piece;
-    }
-    void hundredThousandMarks() {
-        QFETCH(QString, piece);
-        const QString text = piece.repeated(100'000);
-        QElapsedTimer timer;
-        timer.start();
-        MDParser::inlineSpans(text);
-        QVERIFY2(timer.elapsed() < 5000, qPrintable(u"%1 ms"_s.arg(timer.elapsed())));
-        if (qEnvironmentVariableIsSet("KIV_TIMINGS"))
-            qInfo("%lld ms", timer.elapsed());
     }
 };
 

@@ -170,6 +170,27 @@ private Q_SLOTS:
         QCOMPARE(f.outcomes.last(), u"websocket"_s);
     }
 
+    /// What the call before had on its way when the next one began.
+    void lateWordOfTheCallBefore() {
+        Fixture f;
+        f.ready();
+        f.start();
+        f.work.cancel();
+        f.start();
+        const auto told = [](const char *type, const QVariant &start) {
+            return QVariantMap{{u"t"_s, QString::fromLatin1(type)}, {u"start"_s, start}};
+        };
+        for (const char *type : {"connected", "connectFail", "disconnect", "error"})
+            f.post(told(type, 1));
+        QCOMPARE(f.outcomes, QStringList());
+        QCOMPARE(f.events, QStringList());
+        QVERIFY(f.pages.calls(u"End"_s).isEmpty());
+        f.post(told("connected", 2.0));
+        QCOMPARE(f.outcomes, QStringList{QString()});
+        f.post(told("error", 2.0));
+        QCOMPARE(f.events, QStringList{u"error "_s});
+    }
+
     void endOfTheProcess() {
         Fixture f;
         int told = 0;

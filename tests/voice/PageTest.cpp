@@ -13,11 +13,12 @@ namespace {
 /// A browser as far as the page needs one. `answers` holds what comes of an attempt, by its
 /// transport: "ok", "later" (by `pending`), or the message of what it throws.
 const QString browser = uR"(
-    var posts = [], attempts = [], told = [], answers = {}, element = {}, pending = null;
+    var posts = [], starts = [], attempts = [], told = [], answers = {}, element = {}, pending = null;
     var window = this;
     window.webkit = { messageHandlers: { vcall: { postMessage: function (m) {
-        posts.push(m.t + ' ' + JSON.stringify(Object.keys(m).filter(function (k) { return k !== 't'; })
-            .map(function (k) { return m[k]; })));
+        var keys = Object.keys(m).filter(function (k) { return k !== 't' && k !== 'start'; });
+        posts.push(m.t + ' ' + JSON.stringify(keys.map(function (k) { return m[k]; })));
+        starts.push(m.start);
     } } } };
     var document = { createElement: function () { return element; }, head: { appendChild: function (e) {
         told.push(e.src);
@@ -246,7 +247,8 @@ private Q_SLOTS:
         page.start(u"{\"signed_url\":\"w\"}"_s);
         page.run(u"__nativeContext('a'); __nativeSay('b'); __nativeMute(1); __nativeMute(0)"_s);
         page.start(u"{\"signed_url\":\"w\"}"_s);
-        page.run(u"__nativeEnd(); __nativeEnd()"_s);
+        page.run(u"options.onError('x'); __nativeEnd(); __nativeEnd()"_s);
+        QCOMPARE(page.run(u"JSON.stringify(starts)"_s).toString(), u"[null,1,2,2]"_s);
         QCOMPARE(page.list(u"told"_s), (QStringList{u"context a"_s, u"say b"_s, u"mute true"_s,
                                                     u"mute false"_s, u"end w"_s, u"end w"_s}));
         // A page that nobody listens to does not break.
