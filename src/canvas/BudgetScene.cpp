@@ -88,13 +88,15 @@ BgRow rowOf(const Line &line, double scale) {
     const bool over = line.plan && line.actual > plan * tolerance;
     const QString size = QString::number(deviation == 0 ? 0 : deviation, 'f', 0); // never "-0"
     const QString delta = (deviation >= 1 ? u"+"_s : QString()) + size + u'%';
+    // A plan that is not to be measured against, of another currency, tells no deviation.
+    const bool isMeasured = line.plan || line.planText.isEmpty();
     return BgRow{.name = line.name,
                  .plan = line.planText,
                  .actual = line.actualText,
                  .planPct = scale > 0 ? plan / scale * 100 : 0,
                  .actPct = scale > 0 ? line.actual / scale * 100 : 0,
                  .fill = over ? SceneColor::Red : SceneColor::Blue,
-                 .delta = line.plan ? delta : QString(),
+                 .delta = isMeasured ? delta : QString(),
                  .deltaGood = !over};
 }
 

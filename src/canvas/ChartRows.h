@@ -42,7 +42,7 @@ struct FnStage {
 public:
     QString name;
     QString n;    ///< the count as shown
-    double w = 0; ///< width relative to the widest stage, 0 to 1
+    double w = 0; ///< width relative to the first stage, 0 to 1
     QString conv; ///< share of the stage before that reached this one; empty for the first
     QString drop; ///< share that did not
     bool last = false;

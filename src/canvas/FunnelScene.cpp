@@ -18,6 +18,8 @@ std::optional<SceneOut> buildFunnel(const ViewSpec &spec) {
         widest = std::max(widest, *point.value);
     if (points.size() < 2 || widest == 0)
         return std::nullopt;
+    const double first = *points.first().value;
+    const double whole = first > 0 ? first : widest;
 
     SceneOut scene;
     double before = 0;
@@ -27,7 +29,7 @@ std::optional<SceneOut> buildFunnel(const ViewSpec &spec) {
         const QString name = point.label.trimmed();
         FnStage stage{.name = name.isEmpty() ? u"Stage "_s + QString::number(i + 1) : name,
                       .n = valueText(point, unit),
-                      .w = value / widest,
+                      .w = std::min(1.0, value / whole),
                       .last = i + 1 == points.size()};
         if (i > 0 && before > 0) {
             stage.conv = shareText(value, before);

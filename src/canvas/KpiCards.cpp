@@ -36,6 +36,14 @@ std::optional<bool> isGoodDelta(const QString &label, const QString &delta) {
     return std::nullopt;
 }
 
+/// A change that is a plain number gets the sign that figures have for minus; words stay as
+/// written.
+QString changeText(const QString &delta) {
+    bool isNumber = false;
+    delta.toDouble(&isNumber);
+    return isNumber && delta.startsWith(u'-') ? u'−' + delta.sliced(1) : delta;
+}
+
 } // namespace
 
 QList<KpiCard> kpiCardsOf(const ViewSpec &spec) {
@@ -43,7 +51,7 @@ QList<KpiCard> kpiCardsOf(const ViewSpec &spec) {
     QList<KpiCard> cards;
     for (const ViewSpec::Item &item : spec.items) {
         const QString value = valueText(item, unit);
-        const QString delta = item.delta.value_or(QString()).trimmed();
+        const QString delta = changeText(item.delta.value_or(QString()).trimmed());
         if (!value.isEmpty())
             cards.append({item.label, value, delta, isGoodDelta(item.label, delta)});
     }

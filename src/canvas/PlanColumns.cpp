@@ -9,6 +9,8 @@
 
 namespace kiv::canvas {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qsizetype columnNamed(const QStringList &columns, const Regex &name, qsizetype except = -1) {
@@ -24,15 +26,18 @@ struct Amount {
     QString unit;
 };
 
-/// A cell says what it means in words and signs, so it is read as prose is. Beside another figure a
-/// letter apart is no unit: "1.2 M" and "900 K".
-std::optional<Amount> amountOf(const QString &cell) {
-    const auto figure = proseFigure(cell);
-    if (!figure)
-        return std::nullopt;
-    FigureReader unit(figure->unit);
-    const double factor = takeMultiplier(unit, unit.peek().isUpper());
-    return Amount{figure->value * factor, unitStem(currencySign(unit.rest().trimmed().toString()))};
+/// Beside another figure a letter apart is no unit: "1.2 M" and "900 K".
+bool isLetterApart(const QString &unit) {
+    static const QStringList letters{u"K"_s, u"К"_s, u"M"_s, u"B"_s};
+    return letters.contains(unit);
+}
+
+Amount amountOf(const ProseFigure &figure, const std::optional<ProseFigure> &beside) {
+    FigureReader unit(figure.unit);
+    // "1.2 B" is a billion beside "900 M", but beside "1 KB" it is bytes.
+    const bool isMoney = isLetterApart(figure.unit) && beside && isLetterApart(beside->unit);
+    const double factor = takeMultiplier(unit, isMoney);
+    return Amount{figure.value * factor, unitStem(currencySign(unit.rest().trimmed().toString()))};
 }
 
 /// Amounts of unlike units cannot be measured against each other; one without any may take the
@@ -91,14 +96,21 @@ PlanColumns::PlanColumns(const ViewSpec &spec, Order order) {
 ViewSpec::Point PlanColumns::measured(const QStringList &row) const {
     ViewSpec::Point point{.label = row.value(0).trimmed()};
     const QString actual = actualText(row);
-    const auto spent = amountOf(actual);
-    if (spent)
+    // A cell says what it means in words and signs, so it is read as prose is.
+    const auto spentFigure = proseFigure(actual);
+    const auto plannedFigure = proseFigure(planText(row));
+    std::optional<Amount> spent;
+    if (spentFigure) {
+        spent = amountOf(*spentFigure, plannedFigure);
         point.value = spent->value;
+    }
     if (!actual.isEmpty())
         point.display = actual;
-    const auto planned = amountOf(planText(row));
-    if (planned && !(spent && areUnlike(*spent, *planned)))
-        point.target = planned->value;
+    if (plannedFigure) {
+        const Amount planned = amountOf(*plannedFigure, spentFigure);
+        if (!spent || !areUnlike(*spent, planned))
+            point.target = planned.value;
+    }
     return point;
 }
 

@@ -79,9 +79,9 @@ public:
     QList<KpiCard> ueKpis;   ///< unit: figures beside the parts
     QList<BriefCol> groups;  ///< brief and retro: columns of cards
     QList<CoRow> coRows;     ///< costs
-    QString coTotal;         ///< costs: the sum as shown; empty when a sum would mean nothing
-    QString coTotalSub;      ///< costs: the line under the total
-    QList<Seg> coSegs;       ///< costs: the stacked bar
+    QString coTotal;         ///< costs, unit: the sum as shown; empty when a sum would mean nothing
+    QString coTotalSub; ///< the line under it; unit: what the sum counts, empty for nothing to say
+    QList<Seg> coSegs;  ///< costs: the stacked bar
     QList<CfMonth> cfMonths; ///< cashflow
     QList<QPointF> cfLine; ///< cashflow: the balance line; x and y are percentages, y from the foot
     double cfLow = 0;      ///< cashflow: the value at the foot of the plot, 0 or below

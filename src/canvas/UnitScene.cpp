@@ -52,6 +52,11 @@ void addParts(SceneOut &scene, const QList<ViewSpec::Point> &parts, double whole
         left += width;
     }
     scene.coTotal = totalText(parts, unit);
+    const QString behind = u'\u00a0' + unit;
+    if (scene.coTotal.endsWith(behind)) {
+        scene.coTotal.chop(behind.size());
+        scene.coTotalSub = unit;
+    }
 }
 
 } // namespace

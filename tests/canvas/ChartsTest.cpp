@@ -26,14 +26,31 @@ private Q_SLOTS:
         QVERIFY(scene->fnStages.at(2).last && !scene->fnStages.at(1).last);
         QVERIFY(!drawn("funnel",
                        block("funnel", R"([{"label":"a","value":0},{"label":"b","value":0}])")));
+        const auto widths = [](const QByteArray &points) {
+            const auto drawing = drawn("funnel", block("funnel", points));
+            QStringList list;
+            for (const FnStage &stage : drawing->fnStages)
+                list.append(QString::number(stage.w));
+            return list.join(u' ');
+        };
+        QCOMPARE(widths(R"(["Ads: 40","Visits: 80","Paid: 10"])"), u"1 1 0.25"_s);
+        QCOMPARE(widths(R"(["Ads: 0","Visits: 80","Paid: 10"])"), u"0 1 0.125"_s);
     }
 
     void unit_data() {
-        QTest::addColumn<QByteArray>("points");
-        QTest::addColumn<QString>("parts"); // widths and the total; empty for no scene
+        QTest::addColumn<QByteArray>("json");
+        QTest::addColumn<QString>("parts"); // widths, total and its unit; empty for no scene
         const auto row = [](const char *name, const char *points, const QString &parts) {
-            QTest::newRow(name) << QByteArray(points) << parts;
+            QTest::newRow(name) << block("donut", points) << parts;
         };
+        const auto inUnit = [](const char *unit, const QString &parts) {
+            QByteArray json = R"({"kind":"donut","unit":"UNIT","points":["a: 3","b: 1"]})";
+            QTest::newRow(unit) << json.replace("UNIT", unit) << parts;
+        };
+        inUnit("hours", u"75 25 = 4 hours"_s);
+        inUnit("per invoice", u"75 25 = 4 per invoice"_s);
+        inUnit("$", u"75 25 = $4"_s);
+        inUnit("$/mo", u"75 25 = $4/mo"_s);
         row("amounts",
             R"([{"label":"a","value":30,"display":"$30"},{"label":"b","value":10,"display":"$10"}])",
             u"75 25 = $40"_s);
@@ -53,12 +70,17 @@ private Q_SLOTS:
         row("one part", R"(["a: 80"])", QString());
     }
     void unit() {
-        QFETCH(QByteArray, points);
-        const auto scene = drawn("unit", block("donut", points));
+        QFETCH(QByteArray, json);
+        const auto scene = drawn("unit", json);
         QStringList widths;
         for (const UeRow &part : scene.value_or(SceneOut()).ueRows)
             widths.append(QString::number(part.w));
-        QTEST(scene ? widths.join(u' ') + u" = "_s + scene->coTotal : QString(), "parts");
+        QString parts;
+        if (scene)
+            parts = widths.join(u' ') + u" = "_s + scene->coTotal;
+        if (scene && !scene->coTotalSub.isEmpty())
+            parts += u' ' + scene->coTotalSub;
+        QTEST(parts, "parts");
     }
 
     void unitOfKeyFigures() {

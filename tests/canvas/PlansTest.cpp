@@ -135,7 +135,7 @@ private Q_SLOTS:
             {u"a 0.01/1\u202f000 +9999900% 0 0.001"_s, u"b 200/199.9 0% 1 20"_s});
         row("a line without a plan",
             block("bar", R"([{"label":"a","value":7},{"label":"b","value":2,"target":4}])"),
-            {u"a /7  1 0"_s, u"b 4/2 -50% 1 57.1429"_s});
+            {u"a /7 0% 1 0"_s, u"b 4/2 -50% 1 57.1429"_s});
         row("no plan at all", block("bar", R"(["a: $7"])"), {});
         row("rows in any order",
             R"({"kind":"table","columns":["Line","Actual spend","Planned spend"],
@@ -160,6 +160,9 @@ private Q_SLOTS:
                     ["Rent","$600 K","600000 USD"],["Office","1000 €","$900"]]})",
             {u"Ads 1.2 M/900 K -25% 1 100"_s, u"Tools $1 M/$1,000,000 USD 0% 1 83.3333"_s,
              u"Rent $600 K/600000 USD 0% 1 50"_s, u"Office 1000 €/$900  1 0"_s});
+        row("letters that are units", R"({"kind":"table","columns":["Line","Plan","Actual"],
+            "rows":[["Log","1 KB","512 B"],["Cache","1 B","900 M"]]})",
+            {u"Log 1 KB/512 B  1 0"_s, u"Cache 1 B/900 M -10% 1 100"_s});
         row("series", R"({"kind":"stacked","series":[{"name":"Actual","points":["Ads: 3"]},
             {"name":"Plan","points":["Ads: 4"]}]})",
             {u"Ads 4/3 -25% 1 100"_s});

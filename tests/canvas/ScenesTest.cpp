@@ -29,7 +29,7 @@ private Q_SLOTS:
     void report() {
         const auto scene = sceneOf(R"({"kind":"kpi","title":" Week 12 ","unit":"$","items":[
             {"label":"Revenue","value":12000,"delta":"+12%"},
-            {"label":"Cost","value":-1500.5,"delta":"−3%"},
+            {"label":"Cost","value":-1500.5,"delta":-3.5},
             {"label":"Cash","value":1,"display":"1 month","delta":"4"},
             "All on track"],"rows":[["Best week","","of May"]],"points":["Ads: 5"]})");
         QVERIFY(scene);
@@ -40,6 +40,7 @@ private Q_SLOTS:
         QCOMPARE(scene->kpiCards.at(0).value, u"$12\u202f000"_s);
         QCOMPARE(scene->kpiCards.at(0).tone(), Tone::Good);
         QCOMPARE(scene->kpiCards.at(1).value, u"−$1\u202f500.5"_s);
+        QCOMPARE(scene->kpiCards.at(1).delta, u"−3.5"_s);
         QCOMPARE(scene->kpiCards.at(1).tone(), Tone::Good);
         QCOMPARE(scene->kpiCards.at(2).value, u"1 month"_s);
         QCOMPARE(scene->kpiCards.at(2).tone(), Tone::Neutral);
