@@ -64,8 +64,8 @@ def in_code(lupdate, root, language, folder):
     fresh = Path(folder) / f"fresh_{language}.ts"
     plural = ["-pluralonly"] if language == "en" else []
     subprocess.run([lupdate, "-silent", *plural, "-locations", "none", "-source-language", "en",
-                    "-target-language", language, "-recursive", str(root / "src"), "-ts",
-                    str(fresh)], check=True, stdout=subprocess.DEVNULL)
+                    "-target-language", language, "-recursive", str(root / "src"),
+                    str(root / "plugins"), "-ts", str(fresh)], check=True, stdout=subprocess.DEVNULL)
     return messages(fresh)
 
 

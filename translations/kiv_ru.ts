@@ -662,6 +662,10 @@
         <translation>Ещё</translation>
     </message>
     <message>
+        <source>Continue in the rail</source>
+        <translation>Продолжить в боковой панели</translation>
+    </message>
+    <message>
         <source>Close the conversation</source>
         <translation>Закрыть разговор</translation>
     </message>
@@ -1045,6 +1049,25 @@
             <numerusform>%Ln символа</numerusform>
             <numerusform>%Ln символов</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>EngineGuard</name>
+    <message>
+        <source>The root user cannot place calls: the web engine cannot protect this computer from what it loads.</source>
+        <translation>Пользователь root не может звонить: веб-движок не может защитить этот компьютер от того, что загружает.</translation>
+    </message>
+    <message>
+        <source>Pages are not shown to the root user: the web engine cannot protect this computer from them.</source>
+        <translation>Пользователю root страницы не показываются: веб-движок не может защитить от них этот компьютер.</translation>
+    </message>
+    <message>
+        <source>Calls cannot be placed: this system does not let the web engine protect the computer from what it loads.</source>
+        <translation>Звонки невозможны: эта система не даёт веб-движку защитить компьютер от того, что он загружает.</translation>
+    </message>
+    <message>
+        <source>Pages are not shown: this system does not let the web engine protect the computer from them.</source>
+        <translation>Страницы не показываются: эта система не даёт веб-движку защитить от них компьютер.</translation>
     </message>
 </context>
 <context>
@@ -1919,6 +1942,10 @@
         <translation>Уведомления</translation>
     </message>
     <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
         <source>Sign out</source>
         <translation>Выйти</translation>
     </message>
@@ -2107,6 +2134,10 @@
     <message>
         <source>Show all agents</source>
         <translation>Показать всех агентов</translation>
+    </message>
+    <message>
+        <source>Show past calls</source>
+        <translation>Показать прошлые звонки</translation>
     </message>
     <message>
         <source>New project or agent</source>
@@ -2367,10 +2398,6 @@
     <message>
         <source>Behind</source>
         <translation>Отстаёт</translation>
-    </message>
-    <message>
-        <source>Blocked</source>
-        <translation>Стоит</translation>
     </message>
 </context>
 <context>
@@ -2718,10 +2745,6 @@
         <translation>%1 Пропущено файлов: %2.</translation>
     </message>
     <message>
-        <source>%1 The upload failed.</source>
-        <translation>%1 Файл не загрузился.</translation>
-    </message>
-    <message>
         <source>There is nobody here yet to give files to.</source>
         <translation>Здесь пока некому передать файлы.</translation>
     </message>
@@ -2849,10 +2872,6 @@
     <message>
         <source>Autonomy</source>
         <translation>Самостоятельность</translation>
-    </message>
-    <message>
-        <source>%1 created. Could not add: %2</source>
-        <translation>Создано: %1. Не удалось добавить: %2</translation>
     </message>
     <message>
         <source>%1 is created, but the list could not be loaded: %2</source>
@@ -3312,6 +3331,33 @@
     <message>
         <source>Speech recognition gave an answer that makes no sense.</source>
         <translation>Распознавание речи дало непонятный ответ.</translation>
+    </message>
+</context>
+<context>
+    <name>kiv::web::EnginePage</name>
+    <message>
+        <source>This page opens in the browser.</source>
+        <translation>Эта страница открывается в браузере.</translation>
+    </message>
+    <message>
+        <source>The page did not load.</source>
+        <translation>Страница не загрузилась.</translation>
+    </message>
+    <message>
+        <source>The workspace answered with an error (%1).</source>
+        <translation>Рабочее пространство ответило ошибкой (%1).</translation>
+    </message>
+    <message>
+        <source>The workspace could not be reached.</source>
+        <translation>Не удалось связаться с рабочим пространством.</translation>
+    </message>
+    <message>
+        <source>The page did not load (%1).</source>
+        <translation>Страница не загрузилась (%1).</translation>
+    </message>
+    <message>
+        <source>The page stopped working.</source>
+        <translation>Страница перестала работать.</translation>
     </message>
 </context>
 </TS>

@@ -20,10 +20,6 @@ bool isSandboxOff() {
            qgetenv(flagsVariable).contains("--no-sandbox");
 }
 
-QString tr(const char *text) {
-    return QCoreApplication::translate("EngineGuard", text);
-}
-
 #ifdef Q_OS_LINUX
 /// The engine shuts its processes in by user namespaces, which a system may forbid.
 bool mayMakeNamespaces() {
@@ -44,15 +40,20 @@ QString refusal(Use use) {
     const bool isCall = use == Use::Calls;
     if (geteuid() == 0)
         return isCall
-                   ? tr("The root user cannot place calls: the web engine cannot protect this "
-                        "computer from what it loads.")
-                   : tr("Pages are not shown to the root user: the web engine cannot protect this "
-                        "computer from them.");
+                   ? QCoreApplication::translate("EngineGuard",
+                                                 "The root user cannot place calls: the web engine "
+                                                 "cannot protect this computer from what it loads.")
+                   : QCoreApplication::translate(
+                         "EngineGuard", "Pages are not shown to the root user: the web engine "
+                                        "cannot protect this computer from them.");
     if (!mayMakeNamespaces())
-        return isCall ? tr("Calls cannot be placed: this system does not let the web engine "
-                           "protect the computer from what it loads.")
-                      : tr("Pages are not shown: this system does not let the web engine protect "
-                           "the computer from them.");
+        return isCall ? QCoreApplication::translate(
+                            "EngineGuard",
+                            "Calls cannot be placed: this system does not let the web engine "
+                            "protect the computer from what it loads.")
+                      : QCoreApplication::translate(
+                            "EngineGuard", "Pages are not shown: this system does not let the web "
+                                           "engine protect the computer from them.");
 #else
     Q_UNUSED(use)
 #endif

@@ -62,14 +62,15 @@ MainWindow::MainWindow()
 
 void MainWindow::open(store::AppStore &store, Commands &commands, const WindowLook &look) {
     new Bindings(m_engine, m_appearance, store);
+    const QSize size = look.frame ? look.frame->size() : look.size;
     QVariantMap properties = {{u"store"_s, QVariant::fromValue(&store)},
-                              {u"commands"_s, QVariant::fromValue(&commands)}};
-    if (look.frame) {
-        properties.insert({{u"x"_s, look.frame->x()},
-                           {u"y"_s, look.frame->y()},
-                           {u"width"_s, look.frame->width()},
-                           {u"height"_s, look.frame->height()}});
-    }
+                              {u"commands"_s, QVariant::fromValue(&commands)},
+                              {u"width"_s, size.width()},
+                              {u"height"_s, size.height()},
+                              {u"minimumWidth"_s, look.least.width()},
+                              {u"minimumHeight"_s, look.least.height()}};
+    if (look.frame)
+        properties.insert({{u"x"_s, look.frame->x()}, {u"y"_s, look.frame->y()}});
     if (look.maximized)
         properties.insert(u"visibility"_s, QWindow::Maximized);
     findFirstFonts(store.appearance()->textScale());

@@ -21,6 +21,9 @@ class Commands;
 struct WindowLook {
     /// Where it stands; nothing leaves that to the system.
     std::optional<QRect> frame = {};
+    /// Without a frame; and how small it may be made.
+    QSize size = {1440, 900};
+    QSize least = {1024, 680};
     bool maximized = false;
 };
 

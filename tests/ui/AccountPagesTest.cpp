@@ -12,8 +12,6 @@ class AccountPagesTest : public AccountWindow {
 
 private Q_SLOTS:
     void focusInSight();
-    void pictures_data();
-    void pictures();
     void opensAndCloses();
     void document();
     void leavingAsks();
@@ -36,32 +34,6 @@ void AccountPagesTest::focusInSight() {
     QCOMPARE_GT(pageTop + lowest, 680); // where no field was in sight at first
 }
 
-void AccountPagesTest::pictures_data() {
-    addLooks();
-}
-
-void AccountPagesTest::pictures() {
-    QFETCH(bool, dark);
-    QFETCH(QSize, size);
-    const QString name = u"account-"_s + QLatin1StringView(QTest::currentDataTag()) + u'-';
-    m_gallery->setDark(dark);
-    open(u"profile"_s, size);
-    for (const char *tab :
-         {"profile", "plan", "security", "memory", "sources", "voice", "notifications"}) {
-        m_gallery->click(QLatin1StringView(tab) + u"Tab"_s);
-        QVERIFY(m_gallery->find(QLatin1StringView(tab) + u"Page"_s));
-        m_gallery->save(name + QLatin1StringView(tab));
-    }
-    m_gallery->click(u"memoryTab"_s);
-    click(u"goals_md"_s);
-    m_gallery->save(name + u"editor"_s);
-    click(u"segment:Preview"_s);
-    m_gallery->save(name + u"preview"_s);
-    m_gallery->click(u"profileTab"_s);
-    click(u"country"_s);
-    m_gallery->save(name + u"list"_s);
-}
-
 void AccountPagesTest::opensAndCloses() {
     QVERIFY(m_workspace->signIn());
     m_gallery->open(*m_workspace->store, {1440, 900});
@@ -81,6 +53,16 @@ void AccountPagesTest::opensAndCloses() {
 
 void AccountPagesTest::document() {
     open(u"memory"_s);
+    // The arrow keys go through the pages by name and through the documents, and stay among them.
+    const auto leads = [this](const QString &from, Qt::Key key, const QString &to) {
+        m_gallery->item(from)->forceActiveFocus(Qt::TabFocusReason);
+        m_gallery->press(key);
+        return m_gallery->hasFocus(to);
+    };
+    QVERIFY(leads(u"memoryTab"_s, Qt::Key_Down, u"sourcesTab"_s));
+    QVERIFY(leads(u"accountSignOut"_s, Qt::Key_Down, u"accountSignOut"_s));
+    QVERIFY(leads(u"decisions_md"_s, Qt::Key_Up, u"shared_md"_s));
+    QVERIFY(leads(u"shared_md"_s, Qt::Key_Up, u"shared_md"_s));
     click(u"shared_md"_s);
     QTRY_VERIFY(m_gallery->hasFocus(u"documentText"_s));
     m_gallery->type(u"We ship on Thursdays."_s);
@@ -121,7 +103,6 @@ void AccountPagesTest::leavingAsks() {
     m_gallery->type(u"!"_s);
     click(u"leaveAccount"_s);
     m_gallery->item(u"leaveAnyway"_s);
-    m_gallery->save(u"account-leave"_s);
     m_gallery->press(Qt::Key_Escape);
     QTRY_VERIFY(!m_gallery->find(u"leaveAnyway"_s));
     QVERIFY(layout().isAccount());
@@ -138,7 +119,6 @@ void AccountPagesTest::loadFails() {
     m_gallery->open(*m_workspace->store, {1440, 900});
     m_gallery->press(Qt::Key_Comma, Qt::ControlModifier);
     m_gallery->item(u"retryLoad"_s);
-    m_gallery->save(u"account-load-failed"_s);
     m_workspace->backend.answer(u"GET api/v2/user/profile"_s, R"({"handle":"ona"})");
     click(u"retryLoad"_s);
     QTRY_COMPARE(text(u"handle"_s), u"ona"_s);

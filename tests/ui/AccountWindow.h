@@ -1,19 +1,15 @@
 #pragma once
 
-#include "ui/Gallery.h"
-#include "ui/Workspace.h"
+#include "ui/GalleryTest.h"
 
 namespace kiv::ui {
 
 /// What the tests of the account pages begin with: a person with a profile, a plan and a wallet.
-class AccountWindow : public QObject {
+class AccountWindow : public GalleryTest {
     Q_OBJECT
 
-protected Q_SLOTS:
-    void init();
-    void cleanup();
-
 protected:
+    void prepare() override;
     void open(const QString &tab, QSize size = {1440, 900});
     /// The body of the newest request that changes the profile.
     QJsonObject patched() const;
@@ -25,9 +21,6 @@ protected:
     void click(const QString &item);
 
     static inline const QString profilePatch = QStringLiteral("PATCH api/v2/user/profile");
-
-    std::unique_ptr<Workspace> m_workspace;
-    std::unique_ptr<Gallery> m_gallery;
 };
 
 } // namespace kiv::ui

@@ -46,8 +46,6 @@ private Q_SLOTS:
     void removedByKeyboard();
     void failedIsTriedAgain();
     void dialogOpens();
-    void pictures_data();
-    void pictures();
 
 private:
     void prepare() override;
@@ -264,43 +262,6 @@ void AttachTest::dialogOpens() {
         QTRY_VERIFY(!dialog->property("visible").toBool());
     }
     QCOMPARE(answers, 3);
-}
-
-void AttachTest::pictures_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-}
-
-/// Leaves pictures of every state of the tray, in the rail, the floating bar and the dock.
-void AttachTest::pictures() {
-    QFETCH(bool, dark);
-    const QString suffix = dark ? u"-dark"_s : u"-light"_s;
-    m_gallery->setDark(dark);
-    m_gallery->click(u"askField"_s);
-    m_gallery->type(u"Compare both exports"_s);
-    attach({"export-october.csv", "map.png"});
-    m_gallery->press(Qt::Key_Return);
-    m_gallery->type(u"And these, please"_s);
-    attach({"plan.pdf", "a rather long name of a file that was exported.csv"});
-    m_workspace->backend.answer(upload, "{}", 500);
-    m_workspace->store->attachments()->uploadChatFiles({file(u"lost.png"_s)});
-    QTRY_COMPARE(m_workspace->store->attachments()->chatUploading(), false);
-    m_workspace->backend.hold(upload);
-    m_workspace->store->attachments()->uploadChatFiles({file(u"running.json"_s)});
-    m_gallery->save(u"attach-rail"_s + suffix);
-    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    m_gallery->save(u"attach-dock"_s + suffix);
-    m_gallery->press(Qt::Key_Backtab, Qt::ShiftModifier);
-    m_gallery->save(u"attach-focus"_s + suffix);
-    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
-    m_gallery->save(u"attach-float"_s + suffix);
-    QMimeData data;
-    data.setUrls({file(u"plan.pdf"_s)});
-    drag(data, u"askField"_s);
-    const QImage picture = m_gallery->save(u"attach-drop"_s + suffix);
-    QCOMPARE(picture.isNull(), false);
 }
 
 } // namespace kiv::ui

@@ -24,9 +24,9 @@ void CallPillTest::pill() {
     open();
     QVERIFY(!m_gallery->find(u"callPill"_s));
     m_gallery->click(u"askField"_s);
-    QVERIFY(m_workspace->talk());
+    QVERIFY(m_workspace->connect());
     QVERIFY(!m_gallery->find(u"askField"_s));
-    m_workspace->pass(65s);
+    m_workspace->clock.advance(65s);
     m_gallery->click(u"leaveCallScreen"_s);
     QCOMPARE(words(u"callPillState"_s), u"1:05"_s);
     QVERIFY(!m_gallery->find(u"callState"_s));
@@ -49,7 +49,7 @@ void CallPillTest::pill() {
     m_gallery->press(Qt::Key_Escape);
     m_gallery->click(u"endCallButton"_s);
     QCOMPARE(words(u"callPillState"_s), u"Call ended"_s);
-    m_workspace->pass(5s);
+    m_workspace->clock.advance(5s);
     QTRY_VERIFY(!m_gallery->find(u"callPill"_s));
     QVERIFY(m_gallery->find(u"callButton"_s));
 }
@@ -91,25 +91,25 @@ void CallPillTest::failure() {
     talk();
     const auto cutOff = [this] {
         m_workspace->drop();
-        m_workspace->connectCall();
+        m_workspace->connected();
         QTRY_VERIFY(!room().callReconnecting());
         m_workspace->drop();
     };
     m_workspace->drop();
     QTRY_COMPARE(words(u"callState"_s), u"Reconnecting"_s);
-    m_workspace->connectCall();
+    m_workspace->connected();
     QTRY_COMPARE(words(u"callState"_s), u"Listening"_s);
     m_workspace->drop();
     QTRY_VERIFY(words(u"callState"_s).startsWith(u"Voice connection error: "_s));
     QVERIFY(words(u"callState"_s).contains(u"1006"_s));
     QCOMPARE(heard(u"callNews"_s), words(u"callState"_s));
-    m_workspace->pass(5s);
+    m_workspace->clock.advance(5s);
     QTRY_VERIFY(!m_gallery->find(u"callState"_s));
 
-    QVERIFY(m_workspace->talk());
+    QVERIFY(m_workspace->connect());
     m_gallery->press(Qt::Key_Escape);
     cutOff();
-    m_workspace->pass(5s);
+    m_workspace->clock.advance(5s);
     QTRY_VERIFY(m_gallery->find(u"toast:0"_s));
     QVERIFY(m_gallery->item(u"toast:0"_s)->property("words").toString().contains(u"1006"_s));
     QVERIFY(!m_gallery->find(u"toast:1"_s));
@@ -119,12 +119,12 @@ void CallPillTest::failure() {
 void CallPillTest::news() {
     open();
     QVERIFY(!m_gallery->find(u"callNews"_s));
-    QVERIFY(m_workspace->call());
+    QVERIFY(m_workspace->dial());
     QCOMPARE(heard(u"callNews"_s), u"Connecting"_s);
-    m_workspace->connectCall();
+    m_workspace->connected();
     QTRY_COMPARE(heard(u"callNews"_s), u"Connected"_s);
     m_workspace->speaking(true);
-    m_workspace->hear(u"ai"_s, u"Good morning."_s);
+    m_workspace->say(u"ai"_s, u"Good morning."_s);
     QCOMPARE(heard(u"callNews"_s), u"Connected"_s);
     QCOMPARE(heard(u"spokenLine"_s), u"KIV, Good morning."_s);
     m_gallery->press(Qt::Key_Escape);

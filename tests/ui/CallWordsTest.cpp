@@ -49,12 +49,12 @@ void CallWordsTest::transcriptGrows() {
     };
     const auto atEnd = [&] { return place("contentY") == place("end"); };
     for (int line = 0; line < 60; ++line) {
-        m_workspace->hear(line % 2 ? u"user"_s : u"ai"_s, u"Line %1 "_s.arg(line).repeated(12));
+        m_workspace->say(line % 2 ? u"user"_s : u"ai"_s, u"Line %1 "_s.arg(line).repeated(12));
     }
     QTRY_COMPARE_GT(place("contentHeight"), 3000);
     QTRY_VERIFY(atEnd());
-    m_workspace->hear(u"ai"_s, u"It grows"_s, true);
-    m_workspace->hear(u"ai"_s, u"It grows while it is spoken "_s.repeated(20), true);
+    m_workspace->say(u"ai"_s, u"It grows"_s, u"partial"_s);
+    m_workspace->say(u"ai"_s, u"It grows while it is spoken "_s.repeated(20), u"partial"_s);
     QTRY_VERIFY(atEnd());
     m_gallery->save(u"call-long"_s);
 
@@ -63,12 +63,12 @@ void CallWordsTest::transcriptGrows() {
     m_gallery->press(Qt::Key_PageUp);
     m_gallery->save(u"call-scrolled"_s);
     QCOMPARE_GT(place("end") - place("contentY"), 400);
-    m_workspace->hear(u"ai"_s, u"It grows on "_s.repeated(60), true);
+    m_workspace->say(u"ai"_s, u"It grows on "_s.repeated(60), u"partial"_s);
     QTest::qWait(100);
     QVERIFY(!atEnd());
     m_gallery->press(Qt::Key_PageDown);
     m_gallery->press(Qt::Key_PageDown);
-    m_workspace->hear(u"user"_s, u"Go on"_s);
+    m_workspace->say(u"user"_s, u"Go on"_s);
     QTRY_VERIFY(atEnd());
     QCOMPARE(room().callTranscript()->count(), store::CallTranscript::mostLines);
 }
@@ -76,10 +76,10 @@ void CallWordsTest::transcriptGrows() {
 void CallWordsTest::copyAndShare() {
     talk();
     QVERIFY(!m_gallery->item(u"copyTranscript"_s)->isEnabled());
-    m_workspace->pass(9s);
-    m_workspace->hear(u"user"_s, u"How is the week?"_s);
-    m_workspace->pass(63s);
-    m_workspace->hear(u"ai"_s, u"Good."_s);
+    m_workspace->clock.advance(9s);
+    m_workspace->say(u"user"_s, u"How is the week?"_s);
+    m_workspace->clock.advance(63s);
+    m_workspace->say(u"ai"_s, u"Good."_s);
     QTRY_VERIFY(m_gallery->item(u"copyTranscript"_s)->isEnabled());
     m_gallery->click(u"copyTranscript"_s);
     QCOMPARE(QGuiApplication::clipboard()->text(),

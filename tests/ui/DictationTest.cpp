@@ -31,8 +31,6 @@ private Q_SLOTS:
     void microphoneByKeyboard();
     void microphoneByMouse();
     void composingGoesFirst();
-    void pictures_data();
-    void pictures();
 
 private:
     void prepare() override;
@@ -292,36 +290,6 @@ void DictationTest::composingGoesFirst() {
     QCOMPARE(shownInterim(), u" spoken words"_s);
     m_gallery->press(Qt::Key_Escape);
     QCOMPARE(text(), u"日本 spoken words"_s);
-}
-
-void DictationTest::pictures_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-}
-
-/// Leaves pictures of dictation in the rail, the dock and the floating bar.
-void DictationTest::pictures() {
-    QFETCH(bool, dark);
-    const QString suffix = dark ? u"-dark"_s : u"-light"_s;
-    m_gallery->setDark(dark);
-    dictate();
-    m_speech.finish(u"Compare both exports"_s);
-    m_speech.interim(u"and the one from"_s);
-    m_microphones.level = 0.7;
-    for (int tenth = 0; tenth < 75; ++tenth) {
-        m_microphones.hear(QByteArray(64, '\0'));
-        m_workspace->clock.advance(100ms);
-    }
-    QCOMPARE(shownInterim(), u" and the one from"_s);
-    m_gallery->save(u"dictation-rail"_s + suffix);
-    m_workspace->store->layout()->toggleDock();
-    m_gallery->save(u"dictation-dock"_s + suffix);
-    m_workspace->store->layout()->toggleDock();
-    m_workspace->store->layout()->toggleRail();
-    m_gallery->save(u"dictation-floating"_s + suffix);
-    room().stop();
-    m_gallery->save(u"dictation-floating-off"_s + suffix);
 }
 
 } // namespace kiv::ui

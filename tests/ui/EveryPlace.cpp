@@ -1,6 +1,6 @@
 #include "ui/EveryPlace.h"
 
-#include "ui/CallWorkspace.h"
+#include "ui/Workspace.h"
 
 #include <QtTest>
 
@@ -21,7 +21,10 @@ class Way {
 public:
     Way(Gallery &gallery, const Look &look, const std::function<void(const QString &)> &visit)
         : m_gallery(gallery), m_look(look), m_visit(visit) {
-        answerAccount();
+        m_workspace.allowCalls(
+            R"({"call_id":"now","signed_url":"wss://voice.example","max_duration_secs":60})");
+        m_workspace.answerAccount();
+        m_workspace.backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
         store().dictation()->setService(&m_speech);
     }
 
@@ -49,7 +52,6 @@ private:
     void pastCalls();
     void accountPages();
     void wizard();
-    void answerAccount();
 
     void visit(const char *place) { visit(QString(QLatin1StringView(place))); }
     void visit(const QString &place) {
@@ -77,29 +79,14 @@ private:
         m_gallery.press(Qt::Key_Space);
     }
     store::AppStore &store() { return *m_workspace.store; }
+    store::CanvasState canvasState() { return store().canvas()->state(); }
 
     test::ScriptedSpeech m_speech;
-    CallWorkspace m_workspace;
+    Workspace m_workspace;
     Gallery &m_gallery;
     const Look &m_look;
     const std::function<void(const QString &)> &m_visit;
 };
-
-void Way::answerAccount() {
-    m_workspace.backend.answer(u"GET api/v2/user/profile"_s,
-                               R"({"email":"lead@night-ferry.example","full_name":"Ona Lindqvist",
-        "handle":"ona.lindqvist","company_name":"Harbour & Lane","company_size":"51–200",
-        "industry":"Transport","time_zone":"Europe/Oslo","preferred_language":"English",
-        "preferred_country":"Norway","preferred_sectors":["Logistics","Public services"],
-        "communication_style":"balanced","working_hours_start":"09:00","working_hours_end":"17:30",
-        "working_hours_days":"Mon, Tue","goals_md":"# Goals\n\nShip the **guided sign-up**."})");
-    m_workspace.backend.answer(u"GET api/v2/user/plan"_s,
-                               R"({"name":"Team","plan_key":"team","token_limit":2000000,
-        "spent_tokens":1240500,"tokens_left":759500})");
-    m_workspace.backend.answer(u"GET api/v2/user/wallet"_s,
-                               R"({"wallet":{"balance_credits":1212.4,"available_credits":180}})");
-    m_workspace.backend.answer(u"GET api/v2/projects/ferry/events"_s, Workspace::events());
-}
 
 void Way::signedOut() {
     require(m_workspace.bootSignedOut(), "its start");
@@ -130,8 +117,12 @@ void Way::conversation() {
     require(m_workspace.ask(u"Tell me a story"_s, u"Once there was a ferry."_s, QString()),
             "its hint");
     visit("hint");
-    require(m_workspace.ask(u"How was the week?"_s, Workspace::reportAnswer(), u"report"_s),
-            "its report");
+    store().chat()->send(u"How was the week?"_s);
+    m_workspace.row(150, Workspace::reportAnswer());
+    require(QTest::qWaitFor([&] { return canvasState() == store::CanvasState::BuildingScene; }),
+            "a scene");
+    visit("building");
+    require(m_workspace.settle(u"report"_s), "its report");
     visit("report");
     click("copyButton");
     m_gallery.item(u"toast:0"_s);
@@ -201,17 +192,14 @@ void Way::dictation() {
 }
 
 void Way::call() {
-    m_workspace.backend.answer(
-        u"POST api/v2/voice/session"_s,
-        R"({"call_id":"now","signed_url":"wss://voice.example","max_duration_secs":60})");
-    require(m_workspace.call(), "a call");
+    require(m_workspace.dial(), "a call");
     visit("call-connecting");
-    m_workspace.connectCall();
+    m_workspace.connected();
     m_gallery.item(u"callTimer"_s);
     m_workspace.microphones.hear(QByteArray(640, '\0'));
     visit("call-listening");
-    m_workspace.hear(u"user"_s, u"How do the projects look this week?"_s);
-    m_workspace.hear(u"ai"_s, u"Three of five are on track. Orchard waits for a tax field."_s);
+    m_workspace.say(u"user"_s, u"How do the projects look this week?"_s);
+    m_workspace.say(u"ai"_s, u"Three of five are on track. Orchard waits for a tax field."_s);
     m_workspace.speaking(true);
     visit("call-speaking");
     m_workspace.speaking(false);
@@ -239,26 +227,26 @@ void Way::call() {
 
 void Way::endOfCall() {
     press("callPill");
-    m_workspace.pass(31s);
+    m_workspace.clock.advance(31s);
     visit("call-warning");
     m_workspace.drop();
     visit("call-reconnecting");
-    m_workspace.connectCall();
+    m_workspace.connected();
     require(QTest::qWaitFor([&] { return !store().call()->callReconnecting(); }), "its call again");
     m_workspace.drop();
     require(QTest::qWaitFor([&] { return !store().call()->callError().isEmpty(); }), "a failure");
     visit("call-failed");
-    m_workspace.pass(5s);
+    m_workspace.clock.advance(5s);
     require(QTest::qWaitFor([&] { return !store().call()->call(); }), "what was said");
     visit("call-words");
     store().call()->toggleCallLines(
         u"now"_s); // its line is above what was said, maybe out of sight
     m_gallery.item(u"callLine:now"_s);
     visit("call-line");
-    require(m_workspace.talk(), "another call");
+    require(m_workspace.connect(), "another call");
     m_gallery.press(Qt::Key_D, Qt::ControlModifier);
     visit("call-ended");
-    m_workspace.pass(5s);
+    m_workspace.clock.advance(5s);
     require(QTest::qWaitFor([&] { return !store().call()->call(); }), "the end of it");
 }
 
@@ -282,8 +270,8 @@ void Way::pastCalls() {
     store().canvas()->openPanel(u"calls"_s);
     m_gallery.item(u"callsRetry"_s);
     visit("calls-failed");
-    m_workspace.backend.answer(route, ui::pastCalls());
-    m_workspace.backend.answer(u"GET api/v2/voice/calls/c3"_s, pastTranscript());
+    m_workspace.backend.answer(route, Workspace::pastCalls());
+    m_workspace.backend.answer(u"GET api/v2/voice/calls/c3"_s, Workspace::pastTranscript());
     press("callsRetry");
     click("pastCall:c3");
     m_gallery.item(u"pastLine:2"_s);
@@ -339,6 +327,11 @@ void Way::wizard() {
     m_gallery.item(u"keepEditing"_s);
     visit("create-asked");
     click("discardDraft");
+    m_gallery.commands().perform(Command::NewProject);
+    m_gallery.item(u"template:launch"_s);
+    m_gallery.press(Qt::Key_Return);
+    m_gallery.item(u"createBrief"_s);
+    visit("create-brief");
 }
 
 } // namespace

@@ -34,8 +34,6 @@ private Q_SLOTS:
     void byKeys();
     void everyBlockShowsItsWords_data();
     void everyBlockShowsItsWords();
-    void pictures_data();
-    void pictures();
 
 private:
     void prepare() override;
@@ -124,26 +122,6 @@ void FindTest::everyBlockShowsItsWords() {
     const QRectF mark = currentMark(*m_gallery->item(u"dockFeed"_s));
     const double letters = mark.width() / static_cast<double>(words.size());
     QVERIFY2(letters > 3.5 && letters < 10, qPrintable(QString::number(letters)));
-}
-
-void FindTest::pictures_data() {
-    addLooks();
-}
-
-void FindTest::pictures() {
-    QFETCH(bool, dark);
-    QFETCH(QSize, size);
-    const QString name = QLatin1StringView(QTest::currentDataTag());
-    m_gallery->setDark(dark);
-    m_gallery->open(*m_workspace->store, size);
-    m_workspace->row(1, u"What is blocking the Orchard invoices? Region, export?"_s, u"user"_s);
-    m_workspace->row(2, Workspace::mixedAnswer());
-    QTRY_COMPARE(m_workspace->msgs().count(), 3);
-    m_gallery->press(Qt::Key_F, Qt::ControlModifier);
-    QTRY_VERIFY(m_gallery->hasFocus(u"findField"_s));
-    m_gallery->type(u"Region"_s);
-    QTRY_VERIFY(count().contains(u" of "_s));
-    m_gallery->save(u"find-"_s + name);
 }
 
 } // namespace kiv::ui

@@ -11,9 +11,6 @@
 
 namespace kiv::ui {
 
-/// The rows of a test that takes pictures: a column "dark" and a column "size", the window's.
-void addLooks();
-
 /// A window off screen, used by key and mouse events: the program's own, or one that shows a page
 /// of the folder `pages`.
 class Gallery {
@@ -28,8 +25,6 @@ public:
     void close();
     void setDark(bool dark);
     void setReducedMotion(bool reduced);
-    /// Of what is shown, a page.
-    void setTextScale(double scale);
 
     /// Saves the window below the build's folder of pictures, once what moves has come to rest.
     QImage save(const QString &name);
@@ -41,6 +36,7 @@ public:
     QQuickWindow &window() const { return *m_window; }
     /// The visible item with this objectName; null without one.
     QQuickItem *find(const QString &name) const;
+    /// The same, once it shows; where none does, the test fails and gets an empty one.
     QQuickItem *item(const QString &name) const;
     /// The middle of an item, in the window.
     QPoint middleOf(const QString &name) const;

@@ -23,4 +23,11 @@ void GalleryTest::open(const QSize &size) {
     m_gallery->open(*m_workspace->store, size);
 }
 
+QStringList GalleryTest::sent() const {
+    QStringList texts;
+    for (const auto &request : m_workspace->backend.requests(test::kivPost))
+        texts.append(request.body.value(u"text"_s).toString());
+    return texts;
+}
+
 } // namespace kiv::ui

@@ -21,6 +21,8 @@ protected:
     virtual void prepare() {}
     /// Signs in and shows the window.
     void open(const QSize &size = {1440, 900});
+    /// The questions that the orchestrator was sent, in order.
+    QStringList sent() const;
 
     std::unique_ptr<Workspace> m_workspace;
     std::unique_ptr<Gallery> m_gallery;

@@ -17,8 +17,6 @@ class MessagesTest : public GalleryTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void pictures_data();
-    void pictures();
     void messagesByKeys();
     void linksByKeys();
     void sentByKeys();
@@ -38,35 +36,6 @@ private:
 
 void MessagesTest::prepare() {
     QVERIFY(m_workspace->signIn());
-}
-
-void MessagesTest::pictures_data() {
-    addLooks();
-}
-
-void MessagesTest::pictures() {
-    QFETCH(bool, dark);
-    QFETCH(QSize, size);
-    const QString name = QLatin1StringView(QTest::currentDataTag());
-    m_gallery->setDark(dark);
-    m_gallery->open(*m_workspace->store, size);
-    m_workspace->row(1, u"What is blocking the Orchard invoices? Коротко, пожалуйста."_s,
-                     u"user"_s);
-    m_workspace->row(2, Workspace::mixedAnswer());
-    QTRY_COMPARE(m_workspace->msgs().count(), 3);
-    m_gallery->save(u"messages-rail-"_s + name);
-    m_gallery->press(Qt::Key_Backslash, Qt::ControlModifier);
-    m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    m_gallery->save(u"messages-dock-"_s + name);
-    m_gallery->item(u"dockFeed"_s)->forceActiveFocus(Qt::TabFocusReason);
-    m_gallery->press(Qt::Key_Return);
-    m_gallery->save(u"messages-menu-"_s + name);
-    m_gallery->press(Qt::Key_Escape);
-    m_gallery->press(Qt::Key_Up);
-    m_gallery->press(Qt::Key_Up);
-    m_gallery->save(u"messages-focus-"_s + name);
-    m_gallery->click(u"moreButton"_s);
-    m_gallery->save(u"messages-more-"_s + name);
 }
 
 void MessagesTest::openDock() {

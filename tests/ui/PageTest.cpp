@@ -1,6 +1,6 @@
+#include "support/Processes.h"
 #include "ui/PageWindow.h"
 
-#include <QDir>
 #include <QtTest>
 
 #include <csignal>
@@ -9,32 +9,6 @@
 using namespace Qt::StringLiterals;
 
 namespace kiv::ui {
-
-namespace {
-
-QByteArray readAll(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QByteArray parentOf(const QString &process) {
-    // The second word behind the name.
-    const QByteArray state = readAll(u"/proc/%1/stat"_s.arg(process));
-    return state.mid(state.lastIndexOf(')') + 2).split(' ').value(1);
-}
-
-/// The processes that this one's engine draws pages in: what its own children have started.
-QList<pid_t> renderers() {
-    QList<pid_t> found;
-    for (const QString &id : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
-        if (readAll(u"/proc/%1/cmdline"_s.arg(id)).contains("QtWebEngineProcess") &&
-            parentOf(QString::fromLatin1(parentOf(id))).toInt() == getpid())
-            found.append(id.toInt());
-    }
-    return found;
-}
-
-} // namespace
 
 /// A page in the canvas: its states, its keys, and what is left of it.
 class PageTest : public PageWindow {
@@ -50,8 +24,6 @@ private Q_SLOTS:
     void refusals();
     void keys();
     void signOutForgets();
-    void looks_data();
-    void looks();
 };
 
 void PageTest::backAndReload() {
@@ -102,10 +74,10 @@ void PageTest::failures() {
 
 void PageTest::endedProcess() {
     open("<a>x</a>");
-    const QList<pid_t> found = renderers();
+    const QList<qint64> found = test::renderers();
     QVERIFY(!found.isEmpty());
-    for (const pid_t process : found)
-        kill(process, SIGKILL);
+    for (const qint64 process : found)
+        kill(static_cast<pid_t>(process), SIGKILL);
     QTRY_COMPARE(state(), int(Failed));
     QVERIFY2(failure().contains(u"stopped"_s), qPrintable(failure()));
     m_gallery->click(u"canvasChip:0"_s);
@@ -185,29 +157,6 @@ void PageTest::signOutForgets() {
     QVERIFY(m_workspace->signIn());
     open("<a>x</a>");
     QCOMPARE(m_workspace->backend.requests(workPage).last().cookies, QByteArray());
-}
-
-void PageTest::looks_data() {
-    QTest::addColumn<bool>("dark");
-    QTest::newRow("light") << false;
-    QTest::newRow("dark") << true;
-}
-
-/// Pictures of the states, to be looked at.
-void PageTest::looks() {
-    QFETCH(bool, dark);
-    m_gallery->setDark(dark);
-    const QString theme = dark ? u"dark"_s : u"light"_s;
-    open("<a href='/team/ferry'>A link</a>");
-    m_gallery->save(u"page-%1"_s.arg(theme));
-    m_workspace->backend.hold(u"GET team/ferry"_s);
-    clickRow(0);
-    QTRY_COMPARE(state(), int(Loading));
-    m_gallery->save(u"page-loading-%1"_s.arg(theme));
-    m_workspace->backend.breakOff(workPage);
-    m_workspace->store->canvas()->openLink(u"/project/ferry?tab=finance"_s);
-    QTRY_COMPARE(state(), int(Failed));
-    m_gallery->save(u"page-failed-%1"_s.arg(theme));
 }
 
 } // namespace kiv::ui

@@ -12,46 +12,31 @@ class PastCallsTest : public CallWindow {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void pictures_data() { addLooks(); }
-    void pictures();
     void states();
     void keys();
     void withoutTranscript();
     void callInTheConversation();
 
 private:
+    void prepare() override;
     void openPage();
     int count() { return m_gallery->item(u"callList"_s)->property("count").toInt(); }
 };
 
-void PastCallsTest::init() {
-    CallWindow::init();
-    m_workspace->backend.answer(u"GET api/v2/voice/calls"_s, pastCalls());
-    m_workspace->backend.answer(u"GET api/v2/voice/calls/c3"_s, pastTranscript());
+void PastCallsTest::prepare() {
+    CallWindow::prepare();
+    m_workspace->backend.answer(u"GET api/v2/voice/calls"_s, Workspace::pastCalls());
+    m_workspace->backend.answer(u"GET api/v2/voice/calls/c3"_s, Workspace::pastTranscript());
 }
 
-/// By the palette, as a person finds it.
+/// From the list of everybody, as a person finds it.
 void PastCallsTest::openPage() {
-    m_gallery->press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
-    QTRY_VERIFY(m_gallery->hasFocus(u"paletteSearch"_s));
-    m_gallery->type(u"calls"_s);
-    m_gallery->press(Qt::Key_Return);
+    m_gallery->click(u"scopeButton"_s);
+    QTRY_VERIFY(m_gallery->hasFocus(u"scopeSearch"_s));
+    m_gallery->click(u"showCalls"_s);
+    QTRY_VERIFY(!m_gallery->find(u"scopeSearch"_s));
     QTRY_COMPARE(m_workspace->store->canvas()->panel(), u"calls"_s);
     QVERIFY(m_gallery->item(u"panelClose"_s));
-}
-
-void PastCallsTest::pictures() {
-    QFETCH(bool, dark);
-    QFETCH(QSize, size);
-    const QString name = u"calls-"_s + QLatin1StringView(QTest::currentDataTag());
-    m_gallery->setDark(dark);
-    open(size);
-    openPage();
-    QTRY_COMPARE(count(), 3);
-    m_gallery->click(u"pastCall:c3"_s);
-    QVERIFY(m_gallery->item(u"pastLine:2"_s));
-    m_gallery->save(name);
 }
 
 void PastCallsTest::states() {
@@ -71,14 +56,13 @@ void PastCallsTest::states() {
     m_gallery->press(Qt::Key_Escape);
     openPage();
     QTRY_COMPARE(note(), u"No calls yet"_s);
-    m_gallery->save(u"calls-empty"_s);
 
     m_gallery->press(Qt::Key_Escape);
     m_workspace->backend.answer(route, R"({"error":"down"})", 500);
     openPage();
     m_gallery->save(u"calls-failed"_s);
     QVERIFY(m_gallery->item(u"callsRetry"_s));
-    m_workspace->backend.answer(route, pastCalls());
+    m_workspace->backend.answer(route, Workspace::pastCalls());
     m_gallery->click(u"callsRetry"_s);
     QTRY_VERIFY(m_gallery->find(u"callList"_s) && count() == 3);
     QVERIFY(!m_gallery->find(u"callsRetry"_s));
@@ -127,16 +111,15 @@ void PastCallsTest::callInTheConversation() {
     QTRY_COMPARE(m_workspace->msgs().count(), before + 3);
     QVERIFY(m_workspace->texts().contains(u"How do the projects look this week?"_s));
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
-    m_gallery->save(u"call-in-dock"_s);
     m_gallery->press(Qt::Key_J, Qt::ControlModifier);
     m_gallery->click(line);
     QTRY_COMPARE(m_workspace->msgs().count(), before);
 
     // A call that ends leaves the same.
-    QVERIFY(m_workspace->talk());
-    m_workspace->converse();
+    QVERIFY(m_workspace->connect());
+    converse();
     room().hangupCall();
-    m_workspace->pass(5s);
+    m_workspace->clock.advance(5s);
     QTRY_VERIFY(m_workspace->texts().contains(u"Which one should worry me?"_s));
     m_gallery->save(u"call-in-rail"_s);
     // The keys stand on the last message; the line is further up, and not made yet.

@@ -162,7 +162,6 @@ void SceneKeysTest::tip() {
     QTest::mouseMove(&m_view.gallery.window(), row.toPoint());
     QTRY_VERIFY(m_view.seesText(u"€17\u202f300 · 25%"_s));
     QVERIFY(rest.elapsed() >= 500);
-    m_view.gallery.save(u"tip"_s);
 }
 
 void SceneKeysTest::spoken_data() {

@@ -44,20 +44,6 @@ bool isFigure(const QString &words) {
     return figure.match(words).hasMatch();
 }
 
-double luminance(const QColor &color) {
-    const auto linear = [](double c) {
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other) {
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
 /// What a text stands on: most of the picture in its box.
 QColor groundOf(const QImage &picture, const QRectF &box) {
     QHash<QRgb, int> counts;

@@ -1,5 +1,7 @@
 #include "ui/SceneView.h"
 
+#include "store/SceneSource.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,7 @@ QQuickItem *SceneView::show(const canvas::SceneOut &scene, const QVariantMap &mo
                             const QSize &size) {
     QVariantMap properties = more;
     properties.insert(u"scene"_s, QVariant::fromValue(scene));
-    properties.insert(u"scope"_s, QVariant::fromValue(m_workspace.store->scope()));
+    properties.insert(u"source"_s, QVariant::fromValue(store::SceneSource{.name = u"KIV"_s}));
     return gallery.show(u"ScenePage.qml"_s, size, properties);
 }
 

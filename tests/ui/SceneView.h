@@ -3,7 +3,6 @@
 #include "ui/Gallery.h"
 #include "ui/SceneAnswers.h"
 #include "ui/SeenText.h"
-#include "ui/Workspace.h"
 
 namespace kiv::ui {
 
@@ -19,9 +18,6 @@ public:
     bool seesText(const QString &words) const;
 
     Gallery gallery;
-
-private:
-    Workspace m_workspace;
 };
 
 } // namespace kiv::ui

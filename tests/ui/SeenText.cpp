@@ -1,6 +1,7 @@
 #include "ui/SeenText.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kiv::ui {
 
@@ -43,6 +44,14 @@ void collectTexts(const QQuickItem *item, QList<SeenText> &texts) {
         collectTexts(child, texts);
 }
 
+double luminance(const QColor &color) {
+    const auto linear = [](double c) {
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
 } // namespace
 
 QRectF shownPart(const QQuickItem *item, const QRectF &area) {
@@ -58,6 +67,12 @@ QList<SeenText> textsIn(const QQuickWindow &window) {
     QList<SeenText> seen;
     collectTexts(window.contentItem(), seen);
     return seen;
+}
+
+double contrast(const QColor &one, const QColor &other) {
+    const double a = luminance(one);
+    const double b = luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
 } // namespace kiv::ui

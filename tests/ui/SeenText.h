@@ -22,4 +22,7 @@ QRectF shownPart(const QQuickItem *item, const QRectF &area);
 /// The texts that show in a window.
 QList<SeenText> textsIn(const QQuickWindow &window);
 
+/// How well one colour is told from another, from 1 to 21.
+double contrast(const QColor &one, const QColor &other);
+
 } // namespace kiv::ui

@@ -138,7 +138,6 @@ void SizesTest::narrowWindow() {
     QTRY_VERIFY(m_gallery->find(u"strip"_s));
     QVERIFY(!m_gallery->find(u"navigator"_s));
     QTRY_VERIFY(m_gallery->hasFocus(u"askField"_s));
-    m_gallery->save(u"least-dock"_s);
     m_workspace->clock.advance(1s);
     QVERIFY(!m_workspace->settings->value(u"zandor.railCollapsed"_s).toBool());
     QVERIFY(!m_workspace->settings->contains(u"zandor.dockW"_s));

@@ -1,5 +1,5 @@
 #include "ui/EveryPlace.h"
-#include "ui/SceneView.h"
+#include "ui/SeenText.h"
 #include "ui/Workspace.h"
 
 #include <QtTest>
@@ -20,11 +20,9 @@ private Q_SLOTS:
     void kept();
     void desktopCounts();
     void rowsGrow();
-    void contrastAndMotion();
+    void contrast();
     void everyPlace_data();
     void everyPlace();
-    void everyScene_data();
-    void everyScene();
 };
 
 void TextSizeTest::steps() {
@@ -112,7 +110,7 @@ void TextSizeTest::rowsGrow() {
     QTRY_COMPARE(heightOf("railRow:ferry"), row);
 }
 
-void TextSizeTest::contrastAndMotion() {
+void TextSizeTest::contrast() {
     Workspace workspace;
     Gallery gallery;
     QVERIFY(workspace.signIn());
@@ -128,44 +126,30 @@ void TextSizeTest::contrastAndMotion() {
 void TextSizeTest::everyPlace_data() {
     QTest::addColumn<int>("size");
     QTest::addColumn<QSize>("window");
-    QTest::newRow("80") << 80 << QSize(1440, 900);
-    QTest::newRow("150") << 150 << QSize(1440, 900);
-    QTest::newRow("150-least") << 150 << QSize(1024, 680);
+    QTest::addColumn<bool>("dark");
+    QTest::newRow("80") << 80 << QSize(1440, 900) << false;
+    QTest::newRow("150-dark") << 150 << QSize(1440, 900) << true;
+    QTest::newRow("150-least") << 150 << QSize(1024, 680) << false;
 }
 
 /// Leaves a picture of every place. Controls are as high as their words.
 void TextSizeTest::everyPlace() {
     QFETCH(int, size);
     QFETCH(QSize, window);
+    QFETCH(bool, dark);
     const QString name = QLatin1StringView(QTest::currentDataTag());
     Gallery gallery;
     QStringList squeezed;
-    visitEveryPlace(gallery, {.size = window, .textSize = size}, [&](const QString &place) {
-        gallery.save(u"text-%1-%2"_s.arg(name, place));
-        const QList<SeenText> seen = textsIn(gallery.window());
-        for (const SeenText &text : seen) {
-            if (text.squeezed)
-                squeezed.append(place + u": "_s + text.words);
-        }
-    });
+    visitEveryPlace(gallery, {.size = window, .textSize = size, .dark = dark},
+                    [&](const QString &place) {
+                        gallery.save(u"text-%1-%2"_s.arg(name, place));
+                        const QList<SeenText> seen = textsIn(gallery.window());
+                        for (const SeenText &text : seen) {
+                            if (text.squeezed)
+                                squeezed.append(place + u": "_s + text.words);
+                        }
+                    });
     QVERIFY2(squeezed.isEmpty(), qPrintable(u'\n' + squeezed.join(u'\n')));
-}
-
-void TextSizeTest::everyScene_data() {
-    QTest::addColumn<QString>("name");
-    for (const SceneAnswer &answer : sceneAnswers()) {
-        if (!answer.name.contains(u' '))
-            QTest::newRow(qPrintable(answer.name)) << answer.name;
-    }
-}
-
-/// Leaves a picture of every scene in large text.
-void TextSizeTest::everyScene() {
-    QFETCH(QString, name);
-    SceneView view;
-    view.show(sceneOf(answerNamed(name)));
-    view.gallery.setTextScale(1.5);
-    view.gallery.save(u"text-scene-"_s + name);
 }
 
 } // namespace kiv::ui

@@ -56,6 +56,27 @@ Workspace::Workspace() {
     restart();
 }
 
+void Workspace::answerAccount() {
+    backend.answer(u"GET api/v2/user/profile"_s,
+                   R"({"email":"lead@night-ferry.example",
+        "full_name":"Ona Lindqvist","handle":"ona.lindqvist","company_name":"Harbour & Lane",
+        "company_website":"harbour-lane.example","company_size":"51–200","industry":"Transport",
+        "jobTitle":"Operations lead","time_zone":"Europe/Oslo","preferred_language":"English",
+        "preferred_country":"Norway",
+        "preferred_sectors":["Logistics","Public services","Образование"],
+        "communication_style":"balanced","working_hours_start":"09:00",
+        "working_hours_end":"17:30","working_hours_days":"Mon, Tue, Wed, Thu, Fri",
+        "notification_email":true,
+        "goals_md":)"
+                   R"("# Goals\n\nShip the **guided sign-up**.\n\n- [x] Collect\n- [ ] Fill\n\n)"
+                   R"(| Quarter | Orders |\n|---|---|\n| Q1 | 120 |\n\n```sh\nmake ship\n```"})");
+    backend.answer(u"GET api/v2/user/plan"_s,
+                   R"({"name":"Team","plan_key":"team",
+        "token_limit":2000000,"spent_tokens":1240500,"tokens_left":759500})");
+    backend.answer(u"GET api/v2/user/wallet"_s,
+                   R"({"wallet":{"balance_credits":212.4,"available_credits":180}})");
+}
+
 bool Workspace::ask(const QString &question, const QString &answer, const QString &art) {
     store->chat()->send(question);
     row(++m_row, question, u"user"_s);
@@ -81,6 +102,24 @@ QByteArray Workspace::events() {
     {"id":2,"kind":"approval","title":"Approval needed",
      "detail":"Scout asks for the price survey","created_at":"2026-03-02T09:02:00Z"},
     {"id":1,"title":"Copy changed","created_at":"yesterday"}]})";
+}
+
+QByteArray Workspace::pastCalls() {
+    return R"({"calls":[
+    {"id":"c3","status":"done","duration_secs":192,"started_at":"2026-03-02T09:12:00Z",
+     "snippet":"How do the projects look this week?","has_transcript":true},
+    {"id":"c2","status":"failed","duration_secs":0,"started_at":"2026-03-01T17:40:00Z",
+     "snippet":"","has_transcript":false},
+    {"id":"c1","status":"done","duration_secs":3792,"started_at":"2025-11-20T08:05:00Z",
+     "snippet":"How many hours will it take each of them until the end of the month if nobody falls ill, and who could help?",
+     "has_transcript":true}]})";
+}
+
+QByteArray Workspace::pastTranscript() {
+    return R"({"call":{"transcript":[
+    {"role":"agent","t":1.5,"text":"KIV here. I see all projects and every agent under them."},
+    {"role":"user","t":9,"text":"How do the projects look this week?"},
+    {"role":"agent","t":14.2,"text":"Three of five are on track. Orchard waits for a tax field and Glasshouse is over its capacity."}]}})";
 }
 
 QString Workspace::reportAnswer() {

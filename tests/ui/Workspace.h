@@ -1,13 +1,16 @@
 #pragma once
 
-#include "store/StoreFixture.h"
+#include "store/CallFixture.h"
 
 namespace kiv::ui {
 
 /// A store with made-up projects, agents and conversations.
-class Workspace : public test::StoreFixture {
+class Workspace : public test::CallScript {
 public:
     Workspace();
+
+    /// From now on the person has a profile, a plan and a wallet.
+    void answerAccount();
 
     /// A question and its answer, as the stream brings them; true when the scene of `art` is drawn,
     /// or nothing for no art.
@@ -18,6 +21,9 @@ public:
 
     /// What a project answers when it is asked for its events.
     static QByteArray events();
+    /// Past calls as the server lists them, newest first, and what was said in one.
+    static QByteArray pastCalls();
+    static QByteArray pastTranscript();
     static QString reportAnswer();
     /// Every kind of block in one answer.
     static QString mixedAnswer();

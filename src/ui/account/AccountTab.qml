@@ -17,9 +17,9 @@ BareButton {
     Accessible.role: Accessible.PageTab
     Accessible.selected: chosen
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
-        color: tab.chosen ? Tokens.accentTint : tab.down ? Tokens.press : tab.hovered ? Tokens.hover : "transparent"
+        color: tab.chosen ? Tokens.accentTint : tab.down ? Tokens.press : tab.hovered ? Tokens.hover : Tokens.clear
 
         FocusRing {
             anchors.margins: -2

@@ -31,9 +31,17 @@ Flow {
     signal signOutRequested()
 
     spacing: 2
+    Keys.forwardTo: [keys]
+    Keys.onLeftPressed: keys.step(false)
+    Keys.onRightPressed: keys.step(true)
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTr("Account pages")
 
+    RowKeys {
+        id: keys
+
+        rows: tabs
+    }
     Repeater {
         model: tabs.entries
 

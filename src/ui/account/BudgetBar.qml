@@ -9,8 +9,9 @@ Item {
 
     required property accountBudget budget
 
-    readonly property real share: budget.limit > 0 ? Math.max(0, Math.min(1, budget.spent / budget.limit)) : 0
-    readonly property DataColor tone: share >= 1 ? Tokens.red : share >= 0.85 ? Tokens.amber : Tokens.blue
+    /// How much of the plan is spent, in per cent; may be more than all of it.
+    readonly property int load: budget.limit > 0 ? Math.round(Math.max(0, budget.spent) / budget.limit * 100) : 0
+    readonly property DataColor tone: load > 100 ? Tokens.red : load >= 90 ? Tokens.amber : Tokens.green
     readonly property string spentText: figure(budget.spent)
     readonly property string leftText: figure(budget.left)
 
@@ -18,26 +19,19 @@ Item {
         return tokens < 0 ? "–" : tokens.toLocaleString(Qt.locale(Qt.uiLanguage), "f", 0)
     }
 
-    implicitHeight: 33 + Tokens.type.small.line + 3
+    implicitHeight: 27 + Tokens.type.small.line + 3
     Accessible.role: Accessible.ProgressBar
     Accessible.name: qsTr("Tokens: %1 spent, %2 left").arg(spentText).arg(leftText)
 
-    Rectangle {
+    ValueBar {
         width: parent.width
-        height: 20
-        radius: Tokens.radiusSmall
-        color: Tokens.sunken
-
-        Rectangle {
-            width: bar.budget.spent > 0 ? Math.max(3, bar.share * parent.width) : 0
-            height: parent.height
-            radius: Math.min(Tokens.radiusSmall, width / 2)
-            color: bar.tone.base
-        }
+        height: 14
+        value: bar.budget.limit > 0 ? Math.max(0, bar.budget.spent) / bar.budget.limit : 0
+        fill: bar.tone.base
     }
     Label {
         objectName: "spentTokens"
-        y: 30
+        y: 24
         style: Tokens.type.small
         color: Tokens.t2
         text: qsTr("%1 spent").arg(bar.spentText)
@@ -45,9 +39,9 @@ Item {
     Label {
         objectName: "leftTokens"
         anchors.right: parent.right
-        y: 30
+        y: 24
         style: Tokens.type.smallMedium
-        color: bar.share >= 0.85 ? bar.tone.text : Tokens.t1
+        color: bar.load >= 90 ? bar.tone.text : Tokens.t1
         text: qsTr("%1 left").arg(bar.leftText)
     }
 }

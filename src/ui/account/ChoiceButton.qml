@@ -19,7 +19,7 @@ BareButton {
     Accessible.description: text
     Keys.onDownPressed: clicked()
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
         color: button.hovered || button.down ? Tokens.inset : Tokens.surface
         border.width: button.failed || button.visualFocus ? 2 : 1

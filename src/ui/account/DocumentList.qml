@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Kiv.Account
+import Kiv.Controls
 import Kiv.Store
 
 // The documents of the workspace's memory, one a row.
@@ -34,7 +35,7 @@ AccountBlock {
     title: qsTr("Workspace memory")
     note: qsTr("What agents read before they answer you. Written in markdown.")
 
-    Column {
+    KeyColumn {
         width: parent.width
 
         Repeater {

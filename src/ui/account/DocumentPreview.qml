@@ -37,8 +37,7 @@ FocusScope {
         id: scroller
 
         function scroll(by: real) {
-            contentY += by
-            returnToBounds()
+            contentY = Math.max(-topMargin, Math.min(contentY + by, contentHeight + bottomMargin - height))
         }
 
         objectName: "documentPreview"

@@ -22,12 +22,12 @@ BareButton {
     Accessible.description: detail
 
     background: Item {
-        Rectangle {
+        Ground {
             anchors.fill: parent
             anchors.leftMargin: -12
             anchors.rightMargin: -12
             radius: Tokens.radiusControl
-            color: row.down ? Tokens.press : row.hovered ? Tokens.hover : "transparent"
+            color: row.down ? Tokens.press : row.hovered ? Tokens.hover : Tokens.clear
 
             FocusRing {
                 anchors.margins: -2

@@ -1,6 +1,7 @@
 import QtQuick
 import Kiv.Account
 import Kiv.Store
+import Kiv.Tokens
 
 // The pages; one of them shows.
 Item {
@@ -12,6 +13,18 @@ Item {
     readonly property string tab: store.layout.account
 
     implicitHeight: childrenRect.height
+    onTabChanged: turn.restart()
+
+    NumberAnimation {
+        id: turn
+
+        target: stack
+        property: "opacity"
+        from: 0
+        to: 1
+        duration: Tokens.fade
+        easing.type: Easing.OutCubic
+    }
 
     ProfilePage {
         objectName: "profilePage"

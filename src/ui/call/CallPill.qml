@@ -20,7 +20,7 @@ BareButton {
         : qsTr("Back to the call with %1").arg(call.callName)
     onClicked: call.showCall()
 
-    background: Rectangle {
+    background: Ground {
         radius: height / 2
         color: pill.hovered || pill.down ? Tokens.hover : Tokens.green.tint
         border.width: 1

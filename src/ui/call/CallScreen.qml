@@ -32,12 +32,8 @@ FocusScope {
         onTranscriptToggled: screen.wish = screen.transcriptOpen ? CallScreen.Closed : CallScreen.Open
     }
     ToastStack {
-        anchors.right: parent.right
-        anchors.rightMargin: 24
-        anchors.bottom: parent.bottom
         // Above the controls and the field.
-        anchors.bottomMargin: 120
-        z: 1
+        bottom: 120
     }
     TranscriptPanel {
         id: panel

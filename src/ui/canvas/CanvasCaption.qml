@@ -63,7 +63,7 @@ Item {
             : caption.canvas.artInfo.word
         Accessible.ignored: text === ""
     }
-    Label {
+    FullLabel {
         objectName: "captionLine"
         anchors.left: word.right
         anchors.leftMargin: 10
@@ -78,6 +78,7 @@ Item {
             : caption.thinking ? qsTr("%1 s").arg(caption.canvas.thinkingSeconds)
             : caption.drawn && caption.canvas.query !== "" ? qsTr("Answer to “%1”").arg(caption.canvas.query)
             : ""
+        Accessible.ignored: text === ""
     }
     Row {
         id: actions

@@ -13,6 +13,7 @@ Item {
     property string heading: ""
     property string body: ""
     property list<string> questions
+    property bool offline: false
 
     signal asked(question: string)
 
@@ -29,6 +30,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: message.iconName === ""
                 size: 56
+                offline: message.offline
             }
             Rectangle {
                 anchors.horizontalCenter: parent.horizontalCenter

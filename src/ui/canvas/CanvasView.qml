@@ -13,6 +13,8 @@ FocusScope {
     required property AppStore store
     /// Room kept free at the bottom for what floats there.
     property int reserved: 0
+    /// What it offers to ask while it is empty.
+    property list<string> starters
 
     readonly property CanvasRoom canvas: store.canvas
 
@@ -95,7 +97,8 @@ FocusScope {
             anchors.fill: parent
             heading: qsTr("Ask for something with numbers")
             body: qsTr("The answer is drawn here, and the text stays in the conversation.")
-            questions: view.store.scope.starters
+            questions: view.starters
+            offline: view.store.connection.offline
             onAsked: question => view.store.chat.send(question)
         }
     }

@@ -11,7 +11,7 @@ Sheet {
     objectName: "sheet"
     focus: true
     scene: store.canvas.artScene
-    scope: store.scope
+    source: store.canvas.source
     time: store.canvas.sourceTime
     linked: store.canvas.sourceMessageId !== ""
     animated: store.canvas.animated

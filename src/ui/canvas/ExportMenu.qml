@@ -16,7 +16,7 @@ Popover {
         implicitHeight: 4 * Tokens.fit(36)
     }
 
-    MenuColumn {
+    KeyColumn {
         MenuRow {
             id: picture
 

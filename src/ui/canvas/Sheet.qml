@@ -10,8 +10,8 @@ FocusScope {
     id: sheet
 
     required property sceneOut scene
-    /// Who answered; none where there is no conversation.
-    property ScopeRoom scope: null
+    /// The answer that was drawn; none where there is no conversation.
+    property sceneSource source
     required property string time
     required property bool linked
     /// Whether the scene comes in with its entrance.
@@ -31,12 +31,8 @@ FocusScope {
         anchors.fill: parent
         color: Tokens.bg
     }
-    Rectangle {
-        anchors.fill: parent
-        anchors.bottomMargin: -1
+    Lift {
         radius: Tokens.radiusSheet
-        visible: !Tokens.dark
-        color: Qt.alpha("#141722", 0.05)
     }
     Rectangle {
         anchors.fill: parent
@@ -86,7 +82,7 @@ FocusScope {
         width: parent.width
         countLine: sheet.scene.countLine
         side: sheet.side
-        scope: sheet.scope
+        source: sheet.source
         time: sheet.time
         linked: sheet.linked
         pictured: sheet.pictured

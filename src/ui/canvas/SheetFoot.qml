@@ -11,8 +11,7 @@ Item {
 
     required property string countLine
     required property int side
-    /// Who answered; may be none.
-    required property ScopeRoom scope
+    required property sceneSource source
     required property string time
     required property bool linked
     required property bool pictured
@@ -26,25 +25,25 @@ Item {
     }
     Label {
         x: foot.side
-        width: Math.max(0, source.x - x - 16)
+        width: Math.max(0, line.x - x - 16)
         anchors.verticalCenter: parent.verticalCenter
         style: Tokens.type.caption
         color: Tokens.t3
         text: foot.countLine
     }
     Row {
-        id: source
+        id: line
 
         x: parent.width - width - foot.side
         anchors.verticalCenter: parent.verticalCenter
-        visible: foot.scope !== null
+        visible: foot.source.name !== ""
         spacing: 8
 
         Figure {
             anchors.verticalCenter: parent.verticalCenter
-            kind: foot.scope?.scopeKind ?? Store.ScopeKind.Kiv
-            name: foot.scope?.scopeName ?? ""
-            colorHex: foot.scope?.scopeColorHex ?? ""
+            kind: foot.source.kind
+            name: foot.source.name
+            colorHex: foot.source.colorHex
             size: 18
         }
         Label {
@@ -53,7 +52,7 @@ Item {
             style: Tokens.type.caption
             tabular: true
             color: Tokens.t3
-            text: Figures.joined([foot.scope?.scopeName ?? "", foot.time], ", ")
+            text: Figures.joined([foot.source.name, foot.time], ", ")
         }
         TextLink {
             anchors.verticalCenter: parent.verticalCenter

@@ -40,11 +40,9 @@ FocusScope {
     }
 
     Keys.onEscapePressed: event => {
-        event.accepted = dictation.dictating || stoppable
-        if (dictation.dictating)
+        event.accepted = dictation.dictating
+        if (event.accepted)
             dictation.stop()
-        else if (stoppable)
-            stopRequested()
     }
 
     implicitHeight: trayHeight + (floating ? Math.max(56, scroller.height + 35) : scroller.height + 58)
@@ -57,7 +55,13 @@ FocusScope {
         visible: bar.floating
         targetRadius: Tokens.radiusFloat
     }
+    Lift {
+        radius: ground.radius
+        visible: !bar.floating && !Tokens.dark
+    }
     Rectangle {
+        id: ground
+
         anchors.fill: parent
         radius: bar.floating ? Tokens.radiusFloat : Tokens.radiusPopover
         color: Tokens.surface

@@ -14,7 +14,7 @@ BareButton {
     implicitHeight: Tokens.fit(44)
     text: shown ? qsTr("%1, on the canvas").arg(title) : qsTr("Show %1 on the canvas").arg(title)
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusBlock
         color: card.hovered ? Tokens.hover : Tokens.surface
         border.width: 1
@@ -41,13 +41,12 @@ BareButton {
             color: Tokens.accentText
         }
     }
-    Label {
+    FullLabel {
         anchors.verticalCenter: parent.verticalCenter
         x: 46
         width: state.x - x - 10
         style: Tokens.type.smallMedium
         text: card.title
-        Accessible.ignored: true
     }
     Label {
         id: state

@@ -9,6 +9,8 @@ FocusScope {
     id: dock
 
     required property AppStore store
+    /// What the conversation can begin with.
+    property list<string> starters
     property alias feed: feed
 
     Accessible.role: Accessible.Pane
@@ -49,75 +51,82 @@ FocusScope {
             colorHex: dock.store.scope.scopeColorHex
             size: 28
             thinking: dock.store.chat.liveWaiting
+            offline: dock.store.connection.offline
         }
         Column {
             x: 64
-            width: search.x - x - 12
+            width: actions.x - x - 12
             anchors.verticalCenter: parent.verticalCenter
 
-            Label {
+            FullLabel {
                 width: parent.width
                 style: Tokens.type.strong
                 text: dock.store.scope.scopeName
+                Accessible.ignored: text === ""
             }
-            Label {
+            FullLabel {
                 width: parent.width
                 visible: text !== ""
                 style: Tokens.type.caption
                 color: Tokens.t3
                 text: dock.store.scope.scopeDetail
+                Accessible.ignored: text === ""
             }
         }
-        IconButton {
-            id: search
-
-            objectName: "findButton"
-            anchors.right: more.left
-            anchors.rightMargin: 4
-            anchors.verticalCenter: parent.verticalCenter
-            iconName: "search"
-            active: dock.store.find.shown
-            text: qsTr("Find in the conversation")
-            keys: "Ctrl F"
-            onClicked: dock.store.find.open()
-        }
-        IconButton {
-            id: more
-
-            objectName: "moreButton"
-            anchors.right: close.left
-            anchors.rightMargin: 4
-            anchors.verticalCenter: parent.verticalCenter
-            iconName: "more"
-            active: menu.visible
-            text: qsTr("More")
-            onClicked: menu.visible ? menu.close() : menu.open()
-
-            ConversationExport {
-                id: exporter
-
-                objectName: "conversationExport"
-                store: dock.store
-                onCopied: words => Toasts.show(words)
-                onSaved: (words, folder) => Toasts.show(words, qsTr("Open the folder"), folder)
-            }
-            ConversationMenu {
-                id: menu
-
-                store: dock.store
-                exporter: exporter
-                onAboutToHide: more.forceActiveFocus(Qt.PopupFocusReason)
-            }
-        }
-        IconButton {
-            id: close
+        Row {
+            id: actions
 
             x: parent.width - width - 12
             anchors.verticalCenter: parent.verticalCenter
-            iconName: "close"
-            text: qsTr("Close the conversation")
-            keys: "Ctrl J"
-            onClicked: dock.store.layout.toggleDock()
+            spacing: 4
+
+            IconButton {
+                objectName: "findButton"
+                iconName: "search"
+                active: dock.store.find.shown
+                text: qsTr("Find in the conversation")
+                keys: "Ctrl F"
+                onClicked: dock.store.find.open()
+            }
+            IconButton {
+                id: more
+
+                objectName: "moreButton"
+                iconName: "more"
+                active: menu.visible
+                text: qsTr("More")
+                onClicked: menu.toggle()
+
+                ConversationExport {
+                    id: exporter
+
+                    objectName: "conversationExport"
+                    store: dock.store
+                    onCopied: words => Toasts.show(words)
+                    onSaved: (words, folder) => Toasts.show(words, qsTr("Open the folder"), folder)
+                }
+                ConversationMenu {
+                    id: menu
+
+                    store: dock.store
+                    exporter: exporter
+                    onAboutToHide: more.forceActiveFocus(Qt.PopupFocusReason)
+                }
+            }
+            IconButton {
+                objectName: "toRailButton"
+                // Where the rail shows, closing the dock comes to the same.
+                visible: !dock.store.layout.railShown
+                iconName: "rail"
+                text: qsTr("Continue in the rail")
+                onClicked: dock.store.layout.dockToRail()
+            }
+            IconButton {
+                iconName: "close"
+                text: qsTr("Close the conversation")
+                keys: "Ctrl J"
+                onClicked: dock.store.layout.toggleDock()
+            }
         }
         Divider {
             anchors.bottom: parent.bottom
@@ -145,7 +154,10 @@ FocusScope {
         calendar: dock.store.calendar
         unreadFrom: dock.store.chat.unreadFrom
         compact: false
+        offline: dock.store.connection.offline
+        starters: dock.starters
         finder: dock.store.find
+        onAsked: question => dock.store.chat.send(question)
         onRetryRequested: messageId => dock.store.chat.retry(messageId)
         onAskAgainRequested: messageId => dock.store.chat.askAgain(messageId)
         onSceneRequested: messageId => dock.store.canvas.showMessageCanvas(messageId)

@@ -18,7 +18,7 @@ Popover {
         implicitHeight: 3 * Tokens.fit(36)
     }
 
-    MenuColumn {
+    KeyColumn {
         MenuRow {
             id: find
 

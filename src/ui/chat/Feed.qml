@@ -16,7 +16,10 @@ FocusScope {
     required property ScopeRoom scope
     required property Calendar calendar
     required property bool compact
+    property bool offline: false
     property bool hasOlder: false
+    /// What the conversation can begin with.
+    property list<string> starters
     /// The first message that the person has not seen.
     property string unreadFrom: ""
     /// Marks what it finds in this feed.
@@ -36,6 +39,7 @@ FocusScope {
     signal chipPicked(messageId: string, chip: replyChip)
     signal editRequested(messageId: string)
     signal askAgainRequested(messageId: string)
+    signal asked(question: string)
     /// What was said in a call shall show, or show no longer.
     signal callToggled(callId: string)
 
@@ -92,7 +96,8 @@ FocusScope {
         id: list
 
         objectName: feed.compact ? "compactFeed" : "dockFeed"
-        anchors.fill: parent
+        width: parent.width
+        height: parent.height - (offers.visible ? offers.height : 0)
         contentWidth: width
         clip: true
         boundsBehavior: Flickable.StopAtBounds
@@ -166,6 +171,7 @@ FocusScope {
                 MessageHead {
                     compact: feed.compact
                     scope: feed.scope
+                    offline: feed.offline
                 }
             }
             FeedDelegate {
@@ -291,6 +297,30 @@ FocusScope {
             }
         }
     }
+    Flow {
+        id: offers
+
+        x: Math.round((parent.width - width) / 2)
+        anchors.bottom: parent.bottom
+        width: feed.column
+        visible: feed.starters.length > 0
+        bottomPadding: feed.compact ? 12 : 16
+        spacing: 8
+
+        Repeater {
+            model: feed.starters
+
+            ReplyChip {
+                required property string modelData
+                required property int index
+
+                objectName: "starter:" + index
+                maximumWidth: feed.column
+                text: modelData
+                onClicked: feed.asked(modelData)
+            }
+        }
+    }
     HoverHandler {
         id: pointer
     }
@@ -306,7 +336,7 @@ FocusScope {
     JumpButton {
         objectName: "jumpButton"
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.bottom: parent.bottom
+        anchors.bottom: list.bottom
         anchors.bottomMargin: 16
         visible: !view.following
         unseen: view.unseen

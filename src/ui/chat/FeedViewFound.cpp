@@ -49,7 +49,7 @@ bool FeedView::revealFound(const QString &messageId, int part) {
         const double upper = m_origin + m_heights.top(row);
         if (upper < top() || upper > top() + height - margin)
             moveTo(std::min(upper - height / 3, end()));
-        updatePolish();
+        layOut();
     }
     QQuickItem *item = itemOf(row);
     auto *words = item->findChild<BlockText *>();
@@ -61,7 +61,7 @@ bool FeedView::revealFound(const QString &messageId, int part) {
     const double upper = m_origin + m_heights.top(row) + words->mapRectToItem(item, mark).top();
     if (upper < top() + margin || upper + mark.height() > top() + height - margin)
         moveTo(std::min(upper - height / 3, end()));
-    updatePolish();
+    layOut();
     return true;
 }
 

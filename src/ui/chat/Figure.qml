@@ -12,6 +12,8 @@ Item {
     required property string colorHex
     property int size: 24
     property bool thinking: false
+    /// KIV is out of reach.
+    property bool offline: false
 
     implicitWidth: size
     implicitHeight: size
@@ -22,6 +24,7 @@ Item {
         visible: figure.kind === Store.ScopeKind.Kiv
         size: figure.size
         thinking: figure.thinking
+        offline: figure.offline
     }
     Tile {
         anchors.centerIn: parent

@@ -30,7 +30,7 @@ BareButton {
     Accessible.role: pressable ? Accessible.Button : Accessible.StaticText
     Accessible.name: detail === "" ? name : qsTr("%1, %2").arg(name).arg(detail)
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
         color: chip.pressable && (chip.hovered || chip.down) ? Tokens.hover : Tokens.inset
         border.width: 1

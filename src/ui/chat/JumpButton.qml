@@ -19,7 +19,7 @@ BareButton {
             level: Shadow.Floating
             targetRadius: 18
         }
-        Rectangle {
+        Ground {
             anchors.fill: parent
             radius: 18
             color: jump.hovered ? Tokens.hover : Tokens.surface

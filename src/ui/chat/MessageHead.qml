@@ -12,6 +12,7 @@ Item {
     required property feedRow row
     required property bool compact
     required property ScopeRoom scope
+    property bool offline: false
 
     /// What goes with the name.
     readonly property real beside: figure.size + line.spacing
@@ -34,6 +35,7 @@ Item {
             name: head.scope.scopeName
             colorHex: head.scope.scopeColorHex
             size: head.compact ? 20 : 28
+            offline: head.offline
         }
         FullLabel {
             anchors.verticalCenter: parent.verticalCenter

@@ -25,7 +25,7 @@ Popover {
         implicitHeight: column.implicitHeight
     }
 
-    MenuColumn {
+    KeyColumn {
         id: column
 
         MenuRow {

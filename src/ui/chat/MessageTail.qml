@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kiv.Chat
 import Kiv.Controls
@@ -15,6 +17,8 @@ FocusScope {
     property bool hovered: false
     readonly property int indent: compact || row.mine ? 0 : 40
     readonly property bool hasCard: row.cardArt !== ""
+    /// The narrow feed has little room to bring them into sight: there the message's menu has them for the keys.
+    readonly property int byKey: compact ? Qt.NoFocus : Qt.StrongFocus
     readonly property bool failed: row.delivery === Store.Delivery.Failed
 
     signal retryRequested()
@@ -82,39 +86,44 @@ FocusScope {
         text: tail.row.delivery === Store.Delivery.Pending ? qsTr("Sending…")
             : tail.hovered && !tail.row.fromCall ? qsTr("Sent %1").arg(tail.row.time) : tail.row.time
     }
-    Row {
+    LatePlace {
         x: tail.indent - 4
         y: tail.height - 4
-        visible: !tail.compact && !tail.row.mine && !tail.row.growing && (tail.hovered || over.hovered)
+        wanted: !tail.row.mine && !tail.row.growing && (tail.hovered || over.hovered)
+        content: Row {
+            IconButton {
+                objectName: "copyMessage"
+                focusPolicy: tail.byKey
+                size: 28
+                iconSize: 16
+                iconName: "copy"
+                text: qsTr("Copy the message")
+                onClicked: tail.copyRequested()
+            }
+            IconButton {
+                objectName: "showOnCanvas"
+                visible: tail.hasCard && !tail.row.onCanvas
+                focusPolicy: tail.byKey
+                size: 28
+                iconSize: 16
+                iconName: "layers"
+                text: qsTr("Show on the canvas")
+                onClicked: tail.sceneRequested()
+            }
+            IconButton {
+                objectName: "askAgain"
+                visible: !tail.row.fromCall
+                focusPolicy: tail.byKey
+                size: 28
+                iconSize: 16
+                iconName: "refresh"
+                text: qsTr("Ask again")
+                onClicked: tail.askAgainRequested()
+            }
+        }
 
         HoverHandler {
             id: over
-        }
-        IconButton {
-            objectName: "copyMessage"
-            size: 28
-            iconSize: 16
-            iconName: "copy"
-            text: qsTr("Copy the message")
-            onClicked: tail.copyRequested()
-        }
-        IconButton {
-            objectName: "showOnCanvas"
-            visible: tail.hasCard && !tail.row.onCanvas
-            size: 28
-            iconSize: 16
-            iconName: "layers"
-            text: qsTr("Show on the canvas")
-            onClicked: tail.sceneRequested()
-        }
-        IconButton {
-            objectName: "askAgain"
-            visible: !tail.row.fromCall
-            size: 28
-            iconSize: 16
-            iconName: "refresh"
-            text: qsTr("Ask again")
-            onClicked: tail.askAgainRequested()
         }
     }
 }

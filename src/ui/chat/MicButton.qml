@@ -43,13 +43,13 @@ BareButton {
             radius: Tokens.radiusControl + button.ring
             color: Tokens.accentLine
         }
-        Rectangle {
+        Ground {
             anchors.fill: parent
             radius: Tokens.radiusControl
             color: button.listening ? (button.hovered || button.down ? Tokens.accentHover : Tokens.accent)
                 : button.down ? Tokens.press
                 : button.hovered ? Tokens.hover
-                : "transparent"
+                : Tokens.clear
         }
         FocusRing {
             visible: button.visualFocus

@@ -16,7 +16,7 @@ Popover {
     objectName: "micMenu"
     width: Tokens.fit(280)
     alignLeft: true
-    y: -height - 6
+    y: -height - 6 + rise
     onAboutToShow: {
         microphone.look()
         list.currentIndex = 1 + microphone.chosenRow()

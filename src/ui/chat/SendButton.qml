@@ -17,7 +17,7 @@ BareButton {
     implicitHeight: size
     text: stopping ? qsTr("Stop the answer") : qsTr("Send")
 
-    background: Rectangle {
+    background: Ground {
         radius: width / 2
         color: !button.enabled ? Tokens.sunken
             : button.stopping ? Tokens.t1

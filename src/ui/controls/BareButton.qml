@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-// A button without a look of its own: the space bar presses it, Return and Enter do, and the mouse.
+// A button without a look of its own: the space bar presses it, Return and Enter do, and the mouse. A
+// key that is held down presses once.
 T.Button {
     id: button
 
@@ -12,6 +13,12 @@ T.Button {
     }
 
     Accessible.name: text
-    Keys.onReturnPressed: button.activate()
-    Keys.onEnterPressed: button.activate()
+    Keys.onReturnPressed: event => {
+        if (!event.isAutoRepeat)
+            button.activate()
+    }
+    Keys.onEnterPressed: event => {
+        if (!event.isAutoRepeat)
+            button.activate()
+    }
 }

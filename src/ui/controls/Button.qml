@@ -28,7 +28,7 @@ BareButton {
     implicitHeight: Tokens.fit(size === Button.Small ? 32 : size === Button.Large ? 44 : 36)
     horizontalPadding: size === Button.Small ? 12 : 14
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
         border.width: button.enabled && !button.filled && button.kind !== Button.Quiet ? 1 : 0
         border.color: button.kind === Button.Danger ? Tokens.red.line : Tokens.line2
@@ -37,7 +37,7 @@ BareButton {
             : button.kind === Button.Main ? (button.hovered || button.down ? Tokens.accentHover : Tokens.accent)
             : button.down ? Tokens.press
             : button.hovered ? Tokens.hover
-            : button.kind === Button.Quiet ? "transparent"
+            : button.kind === Button.Quiet ? Tokens.clear
             : Tokens.surface
 
         FocusRing {

@@ -8,6 +8,7 @@ T.Popup {
     readonly property FocusReturn focusBefore: FocusReturn {}
 
     anchors.centerIn: T.Overlay.overlay
+    z: 2
     padding: 36
     bottomPadding: 28
     modal: true

@@ -28,12 +28,12 @@ BareButton {
             color: button.color
         }
     }
-    background: Rectangle {
+    background: Ground {
         radius: Math.min(Tokens.radiusControl, button.size / 4)
         color: button.active ? Tokens.accentTint
             : button.down ? Tokens.press
             : button.hovered ? Tokens.hover
-            : "transparent"
+            : Tokens.clear
 
         FocusRing {
             visible: button.visualFocus

@@ -6,7 +6,8 @@ Item {
     id: mark
 
     property int size: 24
-    property color color: Tokens.accentText
+    property bool offline: false
+    property color color: offline ? Tokens.t3 : Tokens.accentText
     property bool thinking: false
     property real stroke: Math.max(2, size / 12)
     /// What is inside the ring.

@@ -15,9 +15,9 @@ BareButton {
     implicitHeight: Tokens.fit(36)
     Accessible.role: Accessible.MenuItem
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
-        color: row.hovered || row.down || row.highlighted || row.visualFocus ? Tokens.hoverRaised : "transparent"
+        color: row.hovered || row.down || row.highlighted || row.visualFocus ? Tokens.hoverRaised : Tokens.clear
 
         FocusRing {
             anchors.margins: 0

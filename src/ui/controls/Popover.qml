@@ -7,9 +7,18 @@ import Kiv.Tokens
 T.Popup {
     readonly property FocusReturn focusBefore: FocusReturn {}
     property bool alignLeft: false
+    /// How far below its place it is while it comes in.
+    property real rise: 0
+
+    function toggle() {
+        if (visible)
+            close()
+        else
+            open()
+    }
 
     x: alignLeft ? 0 : parent.width - width
-    y: parent.height + 6
+    y: parent.height + 6 + rise
     padding: 6
     margins: 8
     focus: true
@@ -34,6 +43,7 @@ T.Popup {
     }
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
+        NumberAnimation { property: "rise"; from: Tokens.reducedMotion ? 0 : 4; to: 0; duration: Tokens.quick; easing.type: Easing.OutCubic }
         NumberAnimation { property: "scale"; from: Tokens.reducedMotion ? 1 : 0.98; to: 1; duration: Tokens.quick; easing.type: Easing.OutCubic }
     }
     exit: Transition {

@@ -11,7 +11,7 @@ BareButton {
     implicitWidth: Math.min(caption.implicitWidth + 26, maximumWidth)
     implicitHeight: Tokens.fit(32)
 
-    background: Rectangle {
+    background: Ground {
         radius: height / 2
         color: chip.hovered || chip.down ? Tokens.accentTint : Tokens.surface
         border.width: 1

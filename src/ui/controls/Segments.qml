@@ -59,9 +59,9 @@ FocusScope {
                 Accessible.checked: checked
                 onClicked: segments.picked(index)
 
-                background: Rectangle {
+                background: Ground {
                     radius: Tokens.radiusChip
-                    color: cell.checked ? Tokens.surface : cell.hovered ? Tokens.press : "transparent"
+                    color: cell.checked ? Tokens.surface : cell.hovered ? Tokens.press : Tokens.clear
 
                     FocusRing {
                         anchors.margins: 0

@@ -13,6 +13,7 @@ T.ToolTip {
     verticalPadding: 5
     margins: 6
     delay: Tokens.tipDelay
+    z: 4
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
 
     contentItem: Row {

@@ -19,7 +19,7 @@ Rectangle {
     Component.onCompleted: opacity = 1
 
     Behavior on opacity {
-        NumberAnimation { duration: Tokens.quick; easing.type: Easing.OutCubic }
+        NumberAnimation { duration: Tokens.fade; easing.type: Easing.OutCubic }
     }
     Shadow {
         z: -1

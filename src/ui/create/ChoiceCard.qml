@@ -24,7 +24,7 @@ T.AbstractButton {
     Accessible.checkable: true
     Accessible.checked: checked
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusBlock
         color: card.checked ? Tokens.accentTint : card.down ? Tokens.press : card.hovered ? Tokens.hover : Tokens.surface
         border.width: card.checked ? 2 : 1

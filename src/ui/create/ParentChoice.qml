@@ -33,13 +33,15 @@ Item {
         trailingIcon: "down"
         text: form.chosenTitle
         Accessible.name: qsTr("Project: %1").arg(text)
-        onClicked: popover.visible ? popover.close() : popover.open()
+        onClicked: popover.toggle()
         Keys.onDownPressed: popover.open()
 
         Popover {
             id: popover
 
             alignLeft: true
+            // Above the dialog that it is in.
+            z: 3
             width: 320
             onAboutToShow: list.forceActiveFocus(Qt.PopupFocusReason)
 

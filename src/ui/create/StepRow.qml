@@ -1,11 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Controls
 import Kiv.Icons
 import Kiv.Tokens
 
 // One page of the wizard: its figure, then its name. An earlier one can be gone back to.
-T.AbstractButton {
+BareButton {
     id: row
 
     required property int number
@@ -13,15 +12,11 @@ T.AbstractButton {
     property bool done: false
 
     implicitHeight: Tokens.fit(40)
-    Accessible.role: Accessible.Button
     Accessible.name: current ? qsTr("%1, current step").arg(text) : done ? qsTr("%1, done").arg(text) : text
 
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
-
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
-        color: row.current ? Tokens.accentTint : row.hovered && row.enabled ? Tokens.hover : "transparent"
+        color: row.current ? Tokens.accentTint : row.hovered && row.enabled ? Tokens.hover : Tokens.clear
 
         FocusRing {
             anchors.margins: 0

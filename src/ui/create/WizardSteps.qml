@@ -37,7 +37,7 @@ Item {
         text: side.title
         Accessible.role: Accessible.Heading
     }
-    Column {
+    KeyColumn {
         x: 16
         y: Tokens.fit(68)
         width: parent.width - 32

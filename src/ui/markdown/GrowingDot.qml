@@ -8,7 +8,7 @@ Rectangle {
     width: 8
     height: 8
     radius: 4
-    color: Tokens.accentText
+    color: Tokens.accent
 
     SequentialAnimation on opacity {
         running: dot.visible && !Tokens.reducedMotion

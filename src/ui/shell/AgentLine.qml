@@ -17,6 +17,7 @@ Item {
     required property list<agentCard> cards
     required property int first
     property int columns: 1
+    property bool offline: false
     /// The card that the tab key reaches.
     property int current: 0
 
@@ -83,6 +84,7 @@ Item {
                 name: modelData.name
                 detail: modelData.detail
                 colorHex: modelData.colorHex
+                offline: line.offline
                 activeFocusOnTab: line.first + index === line.current || activeFocus
                 onClicked: line.talked(modelData)
                 onCalled: line.called(modelData)

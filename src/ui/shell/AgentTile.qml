@@ -1,18 +1,18 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kiv.Chat
 import Kiv.Controls
 import Kiv.Store
 import Kiv.Tokens
 
 // Somebody to talk to: who it is, and the two ways to begin.
-T.ItemDelegate {
+BareButton {
     id: tile
 
     required property int kind
     required property string name
     required property string detail
     required property string colorHex
+    property bool offline: false
 
     signal called()
 
@@ -20,10 +20,8 @@ T.ItemDelegate {
     text: name
     Accessible.name: qsTr("%1, %2").arg(name).arg(detail)
     Accessible.role: Accessible.ListItem
-    Keys.onReturnPressed: clicked()
-    Keys.onEnterPressed: clicked()
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusCard
         color: tile.down ? Tokens.press : tile.hovered ? Tokens.hover : Tokens.surface
         border.width: 1
@@ -42,24 +40,23 @@ T.ItemDelegate {
         name: tile.name
         colorHex: tile.colorHex
         size: 36
+        offline: tile.offline
     }
     Column {
         x: 64
         y: 16
         width: parent.width - x - 16
 
-        Label {
+        FullLabel {
             width: parent.width
             style: Tokens.type.strong
             text: tile.name
-            Accessible.ignored: true
         }
-        Label {
+        FullLabel {
             width: parent.width
             style: Tokens.type.caption
             color: Tokens.t3
             text: tile.detail
-            Accessible.ignored: true
         }
     }
     Row {

@@ -67,6 +67,7 @@ PanelFrame {
             width: list.width - 12
             columns: lines.columns
             current: page.current
+            offline: page.store.connection.offline
             onTalked: card => page.talk(card)
             onCalled: card => {
                 page.talk(card)

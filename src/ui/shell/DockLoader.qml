@@ -10,6 +10,7 @@ Loader {
     id: place
 
     required property AppStore store
+    property list<string> starters
 
     /// The message that the dock shows once it is there.
     property string wanted: ""
@@ -41,6 +42,7 @@ Loader {
         id: dock
 
         store: (parent as DockLoader)?.store
+        starters: (parent as DockLoader)?.starters ?? []
 
         EdgeHandle {
             x: -width / 2

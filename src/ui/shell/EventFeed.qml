@@ -35,11 +35,12 @@ Popover {
             text: qsTr("Events")
             Accessible.role: Accessible.Heading
         }
-        Label {
+        FullLabel {
             width: Math.min(implicitWidth, 240)
             style: Tokens.type.line
             color: Tokens.t3
             text: popover.chosen ? popover.store.scope.projectName : ""
+            Accessible.ignored: text === ""
         }
     }
     EventList {

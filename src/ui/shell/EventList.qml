@@ -14,6 +14,8 @@ FocusScope {
     required property AppStore store
     property real most: 600
 
+    readonly property bool chosen: store.scope.project !== ""
+
     function toFirst() {
         list.currentIndex = 0
     }
@@ -26,7 +28,7 @@ FocusScope {
         y: 4
         visible: list.count === 0
         color: Tokens.t3
-        text: events.store.scope.project === "" ? qsTr("Pick a project to see its events")
+        text: !events.chosen ? qsTr("Pick a project to see its events")
             : events.store.events.eventsLoading ? qsTr("Loading…")
             : qsTr("Nothing yet")
     }
@@ -36,7 +38,8 @@ FocusScope {
         objectName: "eventList"
         width: parent.width
         height: Math.min(contentHeight, events.most)
-        model: events.store.events.events
+        // Those of a project that was left wait for its return.
+        model: events.chosen ? events.store.events.events : null
         clip: true
         focus: true
         activeFocusOnTab: true

@@ -50,19 +50,17 @@ T.ItemDelegate {
         width: stamp.x - x - 12
         anchors.verticalCenter: parent.verticalCenter
 
-        Label {
+        FullLabel {
             width: parent.width
             style: Tokens.type.name
             text: row.title
-            Accessible.ignored: true
         }
-        Label {
+        FullLabel {
             width: parent.width
             visible: text !== ""
             style: Tokens.type.caption
             color: Tokens.t3
             text: row.detail
-            Accessible.ignored: true
         }
     }
     Label {

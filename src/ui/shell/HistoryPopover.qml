@@ -97,18 +97,16 @@ Popover {
                 width: stamp.x - x - 12
                 anchors.verticalCenter: parent.verticalCenter
 
-                Label {
+                FullLabel {
                     width: parent.width
                     style: Tokens.type.name
                     text: row.title
-                    Accessible.ignored: true
                 }
-                Label {
+                FullLabel {
                     width: parent.width
                     style: Tokens.type.caption
                     color: Tokens.t3
                     text: row.query
-                    Accessible.ignored: true
                 }
             }
             Label {

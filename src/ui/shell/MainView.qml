@@ -26,6 +26,9 @@ FocusScope {
     readonly property bool floats: !layout.railShown && !layout.dockOpen && !full && !accountOpen
     readonly property real side: full ? 0 : layout.railShown ? layout.shownRailW : Tokens.stripWidth
 
+    /// Whether nobody has said anything yet.
+    readonly property bool fresh: store.chat.msgs.count < 2 && !store.chat.historyLoading
+
     /// What had the keys has gone out of sight.
     readonly property bool astray: Window.activeFocusItem !== null && !Window.activeFocusItem.visible
 
@@ -52,6 +55,14 @@ FocusScope {
     }
 
     focus: true
+    // What lies on top has had the key before: the dock goes, then the answer stops.
+    Keys.onEscapePressed: event => {
+        event.accepted = layout.dockOpen || store.chat.canStop
+        if (layout.dockOpen)
+            layout.toggleDock()
+        else if (event.accepted)
+            store.chat.stopLive()
+    }
     // A window that is being made has no width yet.
     onWidthChanged: if (width > 0) layout.setWindowWidth(width)
 
@@ -69,6 +80,7 @@ FocusScope {
         commands: view.commands
         railWidth: view.layout.railShown ? view.layout.shownRailW : 0
         popoverHeight: view.height * 0.7
+        onShortcutsRequested: popups.showShortcuts()
     }
     LatePlace {
         id: offlineBanner
@@ -142,6 +154,7 @@ FocusScope {
         width: view.layout.shownRailW
         focus: true
         store: view.store
+        starters: view.fresh && !view.layout.dockOpen && view.store.canvas.state !== Store.CanvasState.Empty ? view.store.scope.starters : []
     }
     LatePlace {
         id: strip
@@ -153,6 +166,7 @@ FocusScope {
             anchors.fill: parent
             focus: true
             scope: view.store.scope
+            offline: view.store.connection.offline
             onCreateRequested: kind => view.layout.startCreate(kind)
         }
     }
@@ -187,6 +201,8 @@ FocusScope {
             visible: !view.accountOpen
             store: view.store
             reserved: view.floats ? floating.height + 16 : 0
+            // An open dock offers them itself.
+            starters: view.fresh && view.layout.dockOpen ? [] : view.store.scope.starters
             onMessageRequested: messageId => view.reveal(messageId)
         }
         PanelPlace {
@@ -230,15 +246,13 @@ FocusScope {
             id: dockLoader
 
             store: view.store
+            starters: view.fresh ? view.store.scope.starters : []
         }
     }
     ToastStack {
         readonly property real besideBar: (stage.width - floating.width) / 2
 
-        anchors.right: parent.right
-        anchors.rightMargin: 24
-        anchors.bottom: parent.bottom
-        anchors.bottomMargin: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
+        bottom: 24 + (view.floats && width + 40 > besideBar ? floating.height + 16 : 0)
     }
     Announcement {
         id: answerAlert
@@ -288,44 +302,23 @@ FocusScope {
 
         areas: [topBar, offlineBanner, failureBanner, storageBanners, updateBanner, view.layout.railShown ? rail : strip, stage, dockPlace]
     }
-    PopupPlace {
-        id: about
+    MainPopups {
+        id: popups
 
-        Component.onCompleted: setSource("AboutDialog.qml", { "commands": view.commands })
-        onLoaded: (item as AboutDialog).noticesRequested.connect(notices.open)
-    }
-    PopupPlace {
-        id: notices
-
-        source: "NoticesSheet.qml"
-    }
-    PopupPlace {
-        id: shortcuts
-
-        Component.onCompleted: setSource("ShortcutsSheet.qml", { "commands": view.commands })
-    }
-    PopupPlace {
-        id: commandPalette
-
-        Component.onCompleted: setSource("CommandPalette.qml", { "store": view.store, "commands": view.commands })
-        onLoaded: (item as CommandPalette).shortcutsRequested.connect(shortcuts.open)
+        anchors.fill: parent
+        store: view.store
+        commands: view.commands
     }
     MenuKeys {
         commands: view.commands
         window: view.Window.window
+        signingIn: view.store.session.authSheet !== Store.AuthSheetMode.Closed
     }
     Connections {
         target: view.store.account
 
         function onFailedElsewhere(why) {
             Toasts.show(why)
-        }
-    }
-    Connections {
-        target: view.commands
-
-        function onAboutRequested() {
-            about.open()
         }
     }
     Connections {
@@ -347,10 +340,6 @@ FocusScope {
         function onFocusAskRequestsChanged() {
             view.focusAsk()
         }
-    }
-    Shortcut {
-        sequence: "Ctrl+Shift+P"
-        onActivated: commandPalette.toggle()
     }
     Shortcut {
         sequence: "F10"

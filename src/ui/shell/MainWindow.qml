@@ -11,10 +11,6 @@ Window {
     required property Commands commands
 
     title: "KIV"
-    width: 1440
-    height: 900
-    minimumWidth: 1024
-    minimumHeight: 680
     visible: true
     color: Tokens.bg
     onClosing: close => close.accepted = store.releaseWindow()

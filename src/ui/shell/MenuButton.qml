@@ -21,9 +21,9 @@ BareButton {
     Accessible.role: Accessible.ButtonMenu
     onClicked: toggle()
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
-        color: button.down || menu.opened ? Tokens.press : button.hovered ? Tokens.hover : "transparent"
+        color: button.down || menu.opened ? Tokens.press : button.hovered ? Tokens.hover : Tokens.clear
 
         FocusRing {
             visible: button.visualFocus
@@ -35,7 +35,7 @@ BareButton {
 
         x: 6
         anchors.verticalCenter: parent.verticalCenter
-        color: button.offline ? Tokens.t3 : Tokens.accentText
+        offline: button.offline
     }
     Label {
         id: word

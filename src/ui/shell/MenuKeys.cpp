@@ -8,6 +8,10 @@ namespace kiv::ui {
 
 namespace {
 
+bool isSigningIn(Command command) {
+    return command == Command::ShowSignIn || command == Command::ShowSignUp;
+}
+
 /// Whether a popup shows that everything else in the window waits for.
 bool isWaiting(const QQuickWindow &window) {
     const QList<QQuickItem *> layers = window.contentItem()->childItems();
@@ -68,7 +72,9 @@ Command MenuKeys::commandOf(const QKeyEvent &event) const {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
     const Command command =
         m_keys.value(QKeyCombination(modifiers, Qt::Key(event.key())), Command::None);
-    return isOfWindow(command) || !isWaiting(*m_window) ? command : Command::None;
+    if (command == Command::None || isOfWindow(command) || (m_signingIn && isSigningIn(command)))
+        return command;
+    return isWaiting(*m_window) ? Command::None : command;
 }
 
 } // namespace kiv::ui

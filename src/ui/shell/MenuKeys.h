@@ -17,6 +17,9 @@ class MenuKeys : public QObject {
     Q_PROPERTY(kiv::ui::Commands *commands READ commands WRITE setCommands REQUIRED)
     /// The window whose keys these are.
     Q_PROPERTY(QQuickWindow *window MEMBER m_window)
+    /// Whether the dialog that waits is the one for signing in, whose own keys lead from its one
+    /// side to the other.
+    Q_PROPERTY(bool signingIn MEMBER m_signingIn)
 public:
     explicit MenuKeys(QObject *parent = nullptr);
 
@@ -34,6 +37,7 @@ private:
     Commands *m_commands = nullptr;
     QHash<QKeyCombination, Command> m_keys;
     QQuickWindow *m_window = nullptr;
+    bool m_signingIn = false;
 };
 
 } // namespace kiv::ui

@@ -12,6 +12,7 @@ ListView {
     id: list
 
     required property ScopeRoom scope
+    property bool offline: false
 
     /// Somebody is looked for, perhaps with what is typed already.
     signal searchRequested(typed: string)
@@ -64,6 +65,7 @@ ListView {
         required property int index
 
         width: list.width - 24
+        offline: list.offline
         ringed: ListView.isCurrentItem && list.activeFocus
         onClicked: {
             if (label)

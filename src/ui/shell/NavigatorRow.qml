@@ -18,6 +18,7 @@ T.ItemDelegate {
     required property string colorHex
     required property bool selected
     required property bool expanded
+    property bool offline: false
     property bool ringed: false
 
     readonly property bool kiv: kind === Store.RailRow.Kiv
@@ -81,6 +82,7 @@ T.ItemDelegate {
         name: row.name
         colorHex: row.colorHex
         size: row.kiv ? 28 : row.project ? 24 : 22
+        offline: row.offline
     }
     Column {
         x: 50
@@ -93,15 +95,14 @@ T.ItemDelegate {
             text: row.name
             Accessible.ignored: true
         }
-        Label {
+        FullLabel {
             width: parent.width
             style: Tokens.type.caption
             color: Tokens.t3
             text: row.detail
-            Accessible.ignored: true
         }
     }
-    Label {
+    FullLabel {
         id: title
 
         anchors.left: figure.right
@@ -111,9 +112,8 @@ T.ItemDelegate {
         visible: !row.kiv && !row.label
         style: row.project ? Tokens.type.name : Tokens.type.small
         text: row.name
-        Accessible.ignored: true
     }
-    Label {
+    FullLabel {
         anchors.left: title.right
         anchors.leftMargin: 10
         anchors.baseline: title.baseline
@@ -122,7 +122,6 @@ T.ItemDelegate {
         style: row.project ? Tokens.type.caption : Tokens.type.small
         color: Tokens.t3
         text: row.detail
-        Accessible.ignored: true
     }
     T.AbstractButton {
         id: chevron

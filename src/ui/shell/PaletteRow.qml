@@ -31,7 +31,7 @@ T.ItemDelegate {
         size: 18
         color: Tokens.t2
     }
-    Label {
+    FullLabel {
         id: name
 
         x: 42
@@ -39,9 +39,8 @@ T.ItemDelegate {
         width: Math.min(implicitWidth, Tokens.fit(300))
         style: Tokens.type.name
         text: row.title
-        Accessible.ignored: true
     }
-    Label {
+    FullLabel {
         anchors.left: name.right
         anchors.leftMargin: 8
         anchors.right: trailing.left
@@ -50,7 +49,6 @@ T.ItemDelegate {
         style: Tokens.type.line
         color: Tokens.t3
         text: row.detail
-        Accessible.ignored: true
     }
     Label {
         id: trailing

@@ -49,7 +49,7 @@ FocusScope {
         text: frame.title
         Accessible.role: Accessible.Heading
     }
-    Label {
+    FullLabel {
         anchors.left: word.right
         anchors.leftMargin: 10
         anchors.right: close.left
@@ -58,6 +58,7 @@ FocusScope {
         style: Tokens.type.small
         color: Tokens.t3
         text: frame.detail
+        Accessible.ignored: text === ""
     }
     IconButton {
         id: close

@@ -11,10 +11,20 @@ Popover {
     required property AppStore store
     readonly property PopupPlace place: parent as PopupPlace
 
+    /// Behind it, so that the sheet knows where the keys were.
+    property bool leadsToShortcuts: false
+
+    signal shortcutsRequested()
+
     width: Math.max(280, Tokens.fit(280))
     height: Math.min(implicitHeight, place?.most ?? 600)
     visible: place?.shown ?? false
     onAboutToHide: store.layout.closePopovers()
+    onClosed: {
+        if (leadsToShortcuts)
+            shortcutsRequested()
+        leadsToShortcuts = false
+    }
     onAboutToShow: accountRow.forceActiveFocus(Qt.PopupFocusReason)
 
     contentItem: Item {
@@ -53,18 +63,34 @@ Popover {
 
                     x: 62
                     anchors.verticalCenter: parent.verticalCenter
-                    width: parent.width - x - 8
+                    width: shortcuts.x - x - 8
 
-                    Label {
+                    FullLabel {
                         width: parent.width
                         style: Tokens.type.strong
                         text: popover.store.scope.userName
+                        Accessible.ignored: text === ""
                     }
-                    Label {
+                    FullLabel {
                         width: parent.width
                         style: Tokens.type.caption
                         color: Tokens.t3
                         text: popover.store.scope.userEmail
+                        Accessible.ignored: text === ""
+                    }
+                }
+                IconButton {
+                    id: shortcuts
+
+                    objectName: "shortcutsButton"
+                    x: parent.width - width - 4
+                    anchors.verticalCenter: parent.verticalCenter
+                    size: 32
+                    iconName: "keyboard"
+                    text: qsTr("Keyboard shortcuts")
+                    onClicked: {
+                        popover.leadsToShortcuts = true
+                        popover.close()
                     }
                 }
             }

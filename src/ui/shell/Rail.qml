@@ -10,6 +10,8 @@ FocusScope {
     id: rail
 
     required property AppStore store
+    /// What the conversation can begin with.
+    property list<string> starters
     property alias composer: composer
     property alias feed: feed
 
@@ -37,6 +39,7 @@ FocusScope {
         width: parent.width - 1
         height: rail.listHeight
         scope: rail.store.scope
+        offline: rail.store.connection.offline
         onCreateRequested: kind => rail.store.layout.startCreate(kind)
         onSearchRequested: typed => {
             finder.active = true;
@@ -129,9 +132,12 @@ FocusScope {
         calendar: rail.store.calendar
         unreadFrom: rail.store.chat.unreadFrom
         compact: true
+        offline: rail.store.connection.offline
+        starters: rail.starters
         hasOlder: rail.store.chat.feedMsgs.hasOlder
         onOlderRequested: rail.layout.toggleDock()
         onTopReached: rail.store.chat.showOlder()
+        onAsked: question => rail.store.chat.send(question)
         onRetryRequested: messageId => rail.store.chat.retry(messageId)
         onAskAgainRequested: messageId => rail.store.chat.askAgain(messageId)
         onSceneRequested: messageId => rail.store.canvas.showMessageCanvas(messageId)

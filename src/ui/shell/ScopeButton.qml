@@ -24,7 +24,7 @@ BareButton {
     Accessible.role: Accessible.ButtonMenu
     onClicked: store.layout.toggleTopScope()
 
-    background: Rectangle {
+    background: Ground {
         radius: Tokens.radiusControl
         color: button.down ? Tokens.press : button.hovered ? Tokens.hover : Tokens.surface
         border.width: 1
@@ -48,17 +48,17 @@ BareButton {
             name: button.scope.scopeName
             colorHex: button.scope.scopeColorHex
             size: 20
+            offline: button.store.connection.offline
         }
-        Label {
+        FullLabel {
             id: name
 
             anchors.verticalCenter: parent.verticalCenter
             width: Math.min(implicitWidth, Tokens.fit(220), button.most - 70)
             style: Tokens.type.name
             text: button.scope.scopeName
-            Accessible.ignored: true
         }
-        Label {
+        FullLabel {
             readonly property real room: button.most - 78 - name.width
 
             anchors.verticalCenter: parent.verticalCenter
@@ -67,7 +67,6 @@ BareButton {
             style: Tokens.type.line
             color: Tokens.t3
             text: button.scope.scopeDetail
-            Accessible.ignored: true
         }
         Icon {
             anchors.verticalCenter: parent.verticalCenter

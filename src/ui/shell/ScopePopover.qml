@@ -66,7 +66,7 @@ Popover {
         objectName: "scopeChoices"
         y: Tokens.fit(36) + 8
         width: popover.availableWidth
-        height: Math.min(contentHeight, popover.most - Tokens.fit(110))
+        height: Math.min(contentHeight, popover.most - Tokens.fit(178))
         model: popover.scope.choices
         clip: true
         currentIndex: 0
@@ -84,6 +84,7 @@ Popover {
 
             width: list.width
             highlighted: ListView.isCurrentItem
+            offline: popover.store.connection.offline
             onClicked: popover.scope.pickEntry(kind, projectId, entryId)
         }
     }
@@ -110,10 +111,20 @@ Popover {
         onClicked: popover.store.canvas.openPanel("agents")
     }
     MenuRow {
+        id: calls
+
+        objectName: "showCalls"
+        y: everybody.y + everybody.height
+        width: popover.availableWidth
+        iconName: "phone"
+        text: qsTr("Show past calls")
+        onClicked: popover.store.canvas.openPanel("calls")
+    }
+    MenuRow {
         id: create
 
         objectName: "scopeCreate"
-        y: everybody.y + everybody.height
+        y: calls.y + calls.height
         width: popover.availableWidth
         iconName: "plus"
         text: qsTr("New project or agent")

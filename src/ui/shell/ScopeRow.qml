@@ -15,6 +15,7 @@ T.ItemDelegate {
     required property string detail
     required property string colorHex
     required property bool selected
+    property bool offline: false
 
     readonly property bool label: kind === Store.RailRow.SectionLabel
 
@@ -48,6 +49,7 @@ T.ItemDelegate {
         name: row.name
         colorHex: row.colorHex
         size: 28
+        offline: row.offline
     }
     Column {
         x: 52
@@ -55,19 +57,17 @@ T.ItemDelegate {
         anchors.verticalCenter: parent.verticalCenter
         visible: !row.label
 
-        Label {
+        FullLabel {
             width: parent.width
             style: Tokens.type.name
             text: row.name
-            Accessible.ignored: true
         }
-        Label {
+        FullLabel {
             width: parent.width
             visible: text !== ""
             style: Tokens.type.caption
             color: Tokens.t3
             text: row.detail
-            Accessible.ignored: true
         }
     }
     Icon {

@@ -12,6 +12,7 @@ FocusScope {
     id: strip
 
     required property ScopeRoom scope
+    property bool offline: false
 
     /// A new "project" is asked for.
     signal createRequested(kind: string)
@@ -114,6 +115,7 @@ FocusScope {
                 name: cell.name
                 colorHex: cell.colorHex
                 size: cell.kind === Store.RailRow.Kiv ? 26 : 28
+                offline: strip.offline
             }
             TipLoader {
                 anchors.bottomMargin: 8

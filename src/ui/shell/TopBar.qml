@@ -19,6 +19,8 @@ FocusScope {
 
     readonly property bool signedIn: store.scope.auth === Store.AuthPhase.SignedIn
 
+    signal shortcutsRequested()
+
     function toggleMenu() {
         menuButton.toggle()
     }
@@ -177,6 +179,7 @@ FocusScope {
                 most: bar.popoverHeight
                 shown: bar.store.layout.profileOpen
                 Component.onCompleted: setSource("ProfilePopover.qml", { "store": bar.store })
+                onLoaded: (item as ProfilePopover).shortcutsRequested.connect(bar.shortcutsRequested)
             }
         }
     }

@@ -23,6 +23,8 @@ QtObject {
     readonly property color code: dark ? "#12141c" : "#f4f5f9"
     readonly property color hover: dark ? "#1f2330" : "#eff0f6"
     readonly property color hoverRaised: dark ? "#2a3041" : "#eff0f6"
+    /// No ground: what it goes over into is `hover`.
+    readonly property color clear: dark ? "#001f2330" : "#00eff0f6"
     readonly property color press: dark ? "#272c3b" : "#e6e8f0"
     readonly property color line: dark ? (highContrast ? "#727a92" : "#272b38") : (highContrast ? "#868da1" : "#e4e6ee")
     readonly property color line2: dark ? (highContrast ? "#949bb0" : "#3a4052") : (highContrast ? "#616880" : "#d0d4df")
@@ -110,6 +112,8 @@ QtObject {
     readonly property int instant: 80
     readonly property int quick: reducedMotion ? 100 : 140
     readonly property int base: reducedMotion ? 0 : 200
+    /// The same for what only fades.
+    readonly property int fade: reducedMotion ? 100 : 200
     readonly property int slide: reducedMotion ? 0 : 280
     readonly property int draw: reducedMotion ? 0 : 420
     readonly property int breathe: 1200

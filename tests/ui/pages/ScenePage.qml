@@ -9,7 +9,7 @@ Rectangle {
     id: page
 
     required property sceneOut scene
-    required property ScopeRoom scope
+    required property sceneSource source
     property bool animated: false
 
     signal pointChosen(label: string)
@@ -21,7 +21,7 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: 24
         scene: page.scene
-        scope: page.scope
+        source: page.source
         time: "22 Nov, 09:42"
         linked: true
         animated: page.animated

@@ -15,6 +15,8 @@ Item {
     /// The scene's list of parts.
     required property var parts
     required property string total
+    /// What the total counts; may be empty.
+    required property string unit
 
     readonly property int thickness: 28
     /// How much of the whole the parts are, in per cent.
@@ -100,7 +102,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             style: Tokens.type.caption
             color: Tokens.t3
-            text: qsTr("total")
+            text: ring.unit === "" ? qsTr("total") : ring.unit
         }
     }
 }

@@ -16,12 +16,8 @@ MarkArea {
     label: modelData.text
     value: modelData.meta
 
-    Rectangle {
-        anchors.fill: parent
-        anchors.bottomMargin: -1
+    Lift {
         radius: Tokens.radiusBlock
-        visible: !Tokens.dark
-        color: Qt.alpha("#141722", 0.05)
     }
     Rectangle {
         anchors.fill: parent

@@ -60,7 +60,7 @@ SceneRow {
             x: Math.max(-halo, chart.planned / 100 * parent.width - width + halo)
             height: 28
             halo: 1.5
-            visible: row.planned
+            visible: row.planned && row.change !== ""
         }
     }
     Label {

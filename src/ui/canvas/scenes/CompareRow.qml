@@ -59,7 +59,13 @@ SceneRow {
 
                 HoverHandler {
                     enabled: words.truncated
-                    onHoveredChanged: row.pointed = hovered ? words.cell : ""
+                    onHoveredChanged: {
+                        // The next cell may have been entered before this one was left.
+                        if (hovered)
+                            row.pointed = words.cell
+                        else if (row.pointed === words.cell)
+                            row.pointed = ""
+                    }
                 }
             }
         }

@@ -1,5 +1,4 @@
 import QtQuick
-import Kiv.Canvas
 import Kiv.Controls
 import Kiv.Tokens
 

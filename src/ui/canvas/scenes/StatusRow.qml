@@ -11,7 +11,7 @@ SceneRow {
     required property stream modelData
     required property real nameWidth
     required property real figureWidth
-    /// Whether any row of the scene has a target, or a word for how it stands.
+    /// Whether any row of the scene has a target.
     required property bool measured
     /// What the whole track stands for, in per cent.
     required property real full
@@ -22,22 +22,22 @@ SceneRow {
     readonly property int goalWidth: measured && !art.narrow ? Tokens.fit(84) : 0
     readonly property real figureEnd: chip.x - (chip.width > 0 ? 16 : 0) - (goalWidth > 0 ? goalWidth + 24 : 0)
     readonly property bool hasTarget: modelData.target >= 0
-    readonly property string verdict: hasTarget ? (modelData.good ? qsTr("On track") : qsTr("Behind"))
-        : modelData.good ? "" : qsTr("Blocked")
+    readonly property string verdict: !hasTarget ? "" : modelData.good ? qsTr("On track") : qsTr("Behind")
     readonly property string goal: hasTarget ? qsTr("target %1%").arg(modelData.target) : ""
 
     label: modelData.name
     value: qsTr("%1%").arg(modelData.pct)
     share: goal
     tone: Figures.joined([goal, verdict], ", ")
-    note: modelData.note
+    // Nothing is said to be good or bad by itself, but what is stuck is.
+    note: Figures.joined([hasTarget || modelData.good ? "" : qsTr("Blocked"), modelData.note], " · ")
 
     NameAndNote {
         width: row.nameWidth
         anchors.verticalCenter: parent.verticalCenter
         name: row.modelData.name
         nameStyle: Tokens.type.rowTitle
-        note: row.modelData.note
+        note: row.note
         noteColor: Tokens.t2
     }
     ValueBar {
@@ -48,8 +48,7 @@ SceneRow {
         height: 12
         anchors.verticalCenter: parent.verticalCenter
         value: row.modelData.pct / row.full
-        // Without a target nothing says what is good.
-        fill: !row.modelData.good ? Tokens.red.base : row.hasTarget ? Tokens.green.base : Tokens.blue.base
+        fill: row.modelData.good ? Tokens.green.base : Tokens.red.base
         grown: row.grown
 
         TargetTick {

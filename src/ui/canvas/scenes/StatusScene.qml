@@ -26,12 +26,6 @@ ArtScene {
         rows: status.scene.streams
         field: "target"
     }
-    RowColumn {
-        id: judged
-
-        rows: status.scene.streams
-        field: "good"
-    }
     ColumnWidth {
         id: figures
 
@@ -60,7 +54,7 @@ ArtScene {
 
         visible: false
         style: Tokens.type.captionMedium
-        text: qsTr("On track") + "\n" + qsTr("Behind") + "\n" + qsTr("Blocked")
+        text: qsTr("On track") + "\n" + qsTr("Behind")
     }
     Label {
         id: summary
@@ -91,7 +85,7 @@ ArtScene {
                 Math.min(status.inner * 0.32, Math.max(names.wanted, notes.wanted)))
             // With the sign of per cent.
             figureWidth: figures.wanted + Tokens.fit(22)
-            measured: targets.highest >= 0 || judged.lowest < 1
+            measured: targets.highest >= 0
             full: status.full
             // With the sign.
             verdictWidth: verdicts.implicitWidth + 36

@@ -39,6 +39,7 @@ ArtScene {
         art: unit
         parts: unit.ringed ? unit.scene.ueRows : []
         total: unit.scene.coTotal
+        unit: unit.scene.coTotalSub
     }
     WholeBar {
         id: whole

@@ -36,7 +36,7 @@ Item {
         anchors.left: total.right
         anchors.leftMargin: 10
         color: Tokens.t2
-        text: qsTr("total")
+        text: whole.art.scene.coTotalSub === "" ? qsTr("total") : whole.art.scene.coTotalSub
     }
     Rectangle {
         id: track

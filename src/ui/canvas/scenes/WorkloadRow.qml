@@ -15,7 +15,7 @@ SceneRow {
     readonly property DataColor colors: art.dataColor(modelData.color)
 
     label: modelData.name
-    value: qsTr("%1%").arg(modelData.pct)
+    value: Figures.minus(qsTr("%1%").arg(modelData.pct))
     note: modelData.role
     tone: modelData.color === Scene.SceneColor.Red ? qsTr("over 100%")
         : modelData.color === Scene.SceneColor.Amber ? qsTr("90–100%") : qsTr("under 90%")
