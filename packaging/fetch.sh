@@ -4,7 +4,7 @@
 # fetch_set NAME: takes the files of packaging/NAME-files.txt, checks each, and puts them into
 # share/kiv/NAME of the build tree, all or none. Does nothing when they are there from this list.
 # A function make_NAME adds what has to be made of them; it gets the folder where they are. Nothing that
-# was fetched is read or run before its sum is checked.
+# was fetched is run, and no file of it kept, before its sum is checked.
 fetch_set() {
     local list="$root/packaging/$1-files.txt" log="$root/build/fetch-$1.log"
     ! fetched "$1" || return 0
@@ -43,7 +43,7 @@ check_sums() {
 take_files() {
     local list=$1 work=$2 package archive place of path
     for package in $(awk '!/^#/ && NF == 4 { print $3 }' "$list" | sort -u); do
-        archive=$(npm pack --loglevel=error --fetch-retries=1 \
+        archive=$(npm pack --loglevel=error --ignore-scripts --fetch-retries=1 \
             --fetch-retry-mintimeout=1000 --fetch-timeout=30000 --pack-destination="$work" \
             "$package" | tail -n 1) || return 1
         mkdir "$work/package" && tar -xzf "$work/$archive" -C "$work/package" --strip-components=1 ||

@@ -1,5 +1,5 @@
-# Sourced by ./run, ./test, ./bench and .ci/run: installs what is missing, configures and builds. Says
-# something only when it does something.
+# Sourced by ./run, ./test, ./bench, .ci/run and check-deb.sh: installs what is missing, configures and
+# builds. Says something only when it does something.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build="$root/build/release"

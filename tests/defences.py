@@ -15,15 +15,21 @@ import sys
 ROOT = pathlib.Path(sys.argv[1])
 
 
+BUILD = pathlib.Path(sys.argv[3])
+
+
 def known_tests():
-    shown = subprocess.run([sys.argv[2], "--show-only=json-v1", "--test-dir", sys.argv[3]],
+    """The cases of every test."""
+    shown = subprocess.run([sys.argv[2], "--show-only=json-v1", "--test-dir", BUILD],
                            check=True, capture_output=True).stdout
-    return {test["name"] for test in json.loads(shown)["tests"]}
-
-
-def known_cases():
-    sources = (path.read_text(encoding="utf-8") for path in (ROOT / "tests").rglob("*.cpp"))
-    return {case for source in sources for case in re.findall(r"^ *void (?:\w+::)?(\w+)\(\)", source, re.MULTILINE)}
+    tests = {test["name"]: set() for test in json.loads(shown)["tests"]}
+    for command in json.loads((BUILD / "compile_commands.json").read_text(encoding="utf-8")):
+        source = pathlib.Path(command["file"])
+        program = re.search(r" -o \S*/test_(\w+)\.dir/", command["command"])
+        if program and program[1] in tests and ROOT / "tests" in source.parents:
+            tests[program[1]].update(
+                re.findall(r"^ *void (?:\w+::)?(\w+)\(\)", source.read_text(encoding="utf-8"), re.MULTILINE))
+    return tests
 
 
 def lines():
@@ -34,20 +40,20 @@ def lines():
             yield cells[0], cells[-1]
 
 
-def faults_of(tests, names, cases):
-    for test in tests.split(";"):
+def faults_of(named, tests):
+    for test in named.split(";"):
         name, _, listed = test.strip().strip("`").partition(":")
-        if name not in names:
+        if name not in tests:
             yield f"there is no test {name!r}"
         for case in filter(None, (each.strip() for each in listed.split(","))):
-            if case not in cases:
+            if case not in tests.get(name, ()):
                 yield f"{name} has no case {case!r}"
 
 
 def main():
-    names, cases = known_tests(), known_cases()
+    tests = known_tests()
     found = list(lines())
-    faults = [f"{threat}: {fault}" for threat, tests in found for fault in faults_of(tests, names, cases)]
+    faults = [f"{threat}: {fault}" for threat, named in found for fault in faults_of(named, tests)]
     for path in sorted((ROOT / "src/ui").rglob("*.qml")):
         for element in re.findall(r"^( *)Text \{\n(.*?)^\1\}", path.read_text(encoding="utf-8"), re.MULTILINE | re.DOTALL):
             if "textFormat: Text.PlainText" not in element[1]:

@@ -58,7 +58,6 @@ Application::Ground::Ground(const Options &options) : log(options.places.logFile
     const Places &places = options.places;
     for (const QString &file : {places.settingsFile, places.cookieFile, places.stateFile})
         PrivateFile::makeFolderOf(file);
-    places.adoptEarlier();
 }
 
 void Application::prepareProcess() {
@@ -80,7 +79,6 @@ Application::Application(const Options &options)
                                              options.places.profile.isEmpty() ? &m_keyChain
                                                                               : nullptr)),
       m_webHost(options.places.webPlugin) {
-    WindowFrame::moveFrame(m_settings, m_state);
     m_store = std::make_unique<store::AppStore>(
         m_clock, *m_net, m_settings, options.places.draftsFile,
         options.snapshot ? store::AppStore::Mode::Snapshot : store::AppStore::Mode::Normal);
@@ -147,7 +145,7 @@ void Application::connectAgain() {
 void Application::start() {
     // The server comes up while the window is being made.
     connectAgain();
-    ui::WindowLook look;
+    ui::WindowLook look{.size = WindowFrame::firstSize(), .least = WindowFrame::leastSize()};
     if (!m_options.snapshot) {
         look.frame = m_frame.restored();
         look.maximized = m_frame.wasMaximized();

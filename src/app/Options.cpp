@@ -3,6 +3,7 @@
 #include "base/BaseUrl.h"
 
 #include <QCommandLineParser>
+#include <QMap>
 
 namespace kiv::app {
 
@@ -10,16 +11,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-store::Theme themeNamed(const QString &name) {
-    if (name == u"dark"_s)
-        return store::Theme::Dark;
-    return name == u"system"_s ? store::Theme::System : store::Theme::Light;
-}
+const QMap<QString, store::Theme> themes{{u"light"_s, store::Theme::Light},
+                                         {u"dark"_s, store::Theme::Dark},
+                                         {u"system"_s, store::Theme::System}};
+const QMap<QString, store::Language> languages{{u"en"_s, store::Language::English},
+                                               {u"ru"_s, store::Language::Russian},
+                                               {u"system"_s, store::Language::System}};
 
-store::Language languageNamed(const QString &name) {
-    if (name == u"ru"_s)
-        return store::Language::Russian;
-    return name == u"en"_s ? store::Language::English : store::Language::System;
+/// What was asked for by name; nothing when it was not asked for.
+template <typename T>
+std::optional<T> named(const QCommandLineParser &parser, const QCommandLineOption &option,
+                       const QMap<QString, T> &values) {
+    if (!parser.isSet(option))
+        return std::nullopt;
+    const auto value = values.find(parser.value(option));
+    if (value == values.end())
+        throw OptionError(
+            u"--%1 takes %2"_s
+                .arg(option.names().constFirst(), QStringList(values.keys()).join(u", "_s))
+                .toStdString());
+    return *value;
 }
 
 } // namespace
@@ -28,8 +39,8 @@ Options readOptions(const QStringList &arguments) {
     const QCommandLineOption baseUrl(
         u"base-url"_s, u"Talk to the workspace at this address instead of the embedded one."_s,
         u"address"_s);
-    const QCommandLineOption snapshot(u"snapshot"_s,
-                                      u"Start with default panels and keep nothing."_s);
+    const QCommandLineOption snapshot(
+        u"snapshot"_s, u"Start with default panels; keep no settings and no drafts."_s);
     const QCommandLineOption theme(
         u"theme"_s, u"light, dark or system; otherwise the one chosen in the window."_s, u"name"_s);
     const QCommandLineOption language(
@@ -51,10 +62,8 @@ Options readOptions(const QStringList &arguments) {
     Options options;
     options.links = parser.positionalArguments();
     options.snapshot = parser.isSet(snapshot);
-    if (parser.isSet(theme))
-        options.theme = themeNamed(parser.value(theme));
-    if (parser.isSet(language))
-        options.language = languageNamed(parser.value(language));
+    options.theme = named(parser, theme, themes);
+    options.language = named(parser, language, languages);
     options.places =
         parser.isSet(profile) ? Places::below(parser.value(profile)) : Places::standard();
     options.audioFile =

@@ -1,10 +1,7 @@
 #include "app/Places.h"
 
-#include "base/PrivateFile.h"
-
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace kiv::app {
@@ -13,17 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In a build tree and beside an installed program alike.
-QString findSandbox() {
-    const QDir beside(QCoreApplication::applicationDirPath());
-    for (const QString &place : {u"kiv-sandbox"_s, u"../libexec/kiv/kiv-sandbox"_s}) {
-        const QString path = beside.absoluteFilePath(place);
-        if (QFileInfo(path).isExecutable())
-            return QDir::cleanPath(path);
-    }
-    return {};
-}
-
+/// In a build tree and where it is installed alike.
 QString besideProgram(const QString &path) {
     return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).absoluteFilePath(path));
 }
@@ -36,7 +23,7 @@ Places in(const QString &config, const QString &data, const QString &state) {
             .stateFile = state + u"/window.conf"_s,
             .logFile = state + u"/kiv.log"_s,
             .lockFile = state + u"/lock"_s,
-            .sandboxProgram = findSandbox(),
+            .sandboxProgram = besideProgram(u"kiv-sandbox"_s),
             .webPlugin = besideProgram(u"../lib/kiv/kiv-web"_s),
             .micPlugin = besideProgram(u"../lib/kiv/kiv-microphone"_s)};
 }
@@ -53,14 +40,6 @@ QString stateFolder() {
     return base + u"/kiv"_s;
 }
 
-void move(const QString &from, const QString &to) {
-    if (!QFileInfo::exists(from) || QFileInfo::exists(to))
-        return;
-    PrivateFile::makeFolderOf(to);
-    if (!QFile::rename(from, to))
-        qWarning("%s cannot be moved to its new place", qUtf8Printable(from));
-}
-
 } // namespace
 
 Places Places::standard() {
@@ -74,14 +53,6 @@ Places Places::below(const QString &folder) {
                        dir.absoluteFilePath(u"state"_s));
     places.profile = dir.absolutePath();
     return places;
-}
-
-void Places::adoptEarlier() const {
-    if (profile.isEmpty())
-        return;
-    const QDir dir(profile);
-    for (const QString &now : {settingsFile, cookieFile, draftsFile, workspaceDir})
-        move(dir.filePath(QFileInfo(now).fileName()), now);
 }
 
 } // namespace kiv::app

@@ -23,10 +23,6 @@ struct Places {
     static Places standard();
     /// Everything below `folder`: a profile of its own, which shares nothing with the desktop.
     static Places below(const QString &folder);
-
-    /// Moves files that earlier versions kept elsewhere to where they are kept now, once. What
-    /// cannot be moved stays, and nothing that is there already is replaced.
-    void adoptEarlier() const;
 };
 
 } // namespace kiv::app

@@ -1,9 +1,8 @@
 #include "app/WindowFrame.h"
 
-#include "base/SettingsFile.h"
-
 #include <QGuiApplication>
 #include <QScreen>
+#include <QSettings>
 #include <QWindow>
 
 #include <algorithm>
@@ -18,7 +17,6 @@ namespace {
 const QString frameKey = u"NSWindow Frame ZandorMain"_s;
 const QString maximizedKey = u"zandor.windowMaximized"_s;
 constexpr auto saveDelay = 200ms;
-constexpr QSize leastSize(1024, 680);
 /// No desktop is larger, in either direction.
 constexpr int farthest = 1'000'000;
 
@@ -37,6 +35,11 @@ const QScreen *screenOf(const QRect &frame) {
         std::max_element(screens.begin(), screens.end(),
                          [&](const QScreen *a, const QScreen *b) { return shown(a) < shown(b); });
     return best == screens.end() ? nullptr : *best;
+}
+
+QSize onScreen(const QSize &size) {
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? size.boundedTo(screen->availableSize()) : size;
 }
 
 } // namespace
@@ -59,22 +62,19 @@ std::optional<QRect> WindowFrame::restored() const {
     const QScreen *screen = screenOf(frame);
     if (!screen)
         return std::nullopt;
-    return fitted(frame, screen->availableGeometry(), leastSize);
+    return fitted(frame, screen->availableGeometry(), leastSize());
 }
 
 bool WindowFrame::wasMaximized() const {
     return m_settings.value(maximizedKey).toBool();
 }
 
-void WindowFrame::moveFrame(QSettings &from, SettingsFile &to) {
-    for (const QString &key : {frameKey, maximizedKey}) {
-        if (!from.contains(key))
-            continue;
-        if (!to.contains(key))
-            to.setValue(key, from.value(key));
-        if (to.finish())
-            from.remove(key);
-    }
+QSize WindowFrame::firstSize() {
+    return onScreen({1440, 900});
+}
+
+QSize WindowFrame::leastSize() {
+    return onScreen({1024, 680});
 }
 
 QRect WindowFrame::fitted(const QRect &frame, const QRect &area, const QSize &least) {
@@ -95,15 +95,18 @@ void WindowFrame::follow(QWindow *window, const QRect &frame) {
     connect(window, &QWindow::visibilityChanged, this, &WindowFrame::changed);
 }
 
-/// A window that fills the screen or is hidden keeps the frame that it had before.
 void WindowFrame::changed() {
-    if (m_window->visibility() == QWindow::Windowed)
-        m_frame = m_window->geometry();
     m_later = m_clock.after(saveDelay, [this] { save(); });
 }
 
 void WindowFrame::save() {
-    if (!m_window || !m_frame.isValid())
+    if (!m_window)
+        return;
+    // A window that fills the screen or is hidden keeps the frame that it had before. Its size may
+    // say so sooner than its state: what has come to rest counts.
+    if (m_window->visibility() == QWindow::Windowed)
+        m_frame = m_window->geometry();
+    if (!m_frame.isValid())
         return;
     const QScreen *screen = m_window->screen();
     m_settings.setValue(frameKey,

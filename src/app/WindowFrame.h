@@ -10,10 +10,6 @@
 class QSettings;
 class QWindow;
 
-namespace kiv {
-class SettingsFile;
-}
-
 namespace kiv::app {
 
 /// Where the window was when the program ended, and keeping that up to date.
@@ -28,14 +24,16 @@ public:
     std::optional<QRect> restored() const;
     bool wasMaximized() const;
 
+    /// How large a window is that has no saved frame, and how small one may become: no larger than
+    /// the screen that it opens on has room for.
+    static QSize firstSize();
+    static QSize leastSize();
+
     /// Saves the frame of `window` from now on, `frame` being where it stands while it does not
     /// fill the screen. The window may go away before this.
     void follow(QWindow *window, const QRect &frame);
     /// Saves at once.
     void save();
-
-    /// Takes a frame that stands among other settings out of them, unless there is one already.
-    static void moveFrame(QSettings &from, SettingsFile &to);
 
     /// `frame` within the free area of a screen, not smaller than `least` unless the area is.
     static QRect fitted(const QRect &frame, const QRect &area, const QSize &least);

@@ -1,5 +1,6 @@
 #include "app/Application.h"
 #include "base/BaseUrl.h"
+#include "base/QuitSignals.h"
 #include "base/Version.h"
 #include "desktop/DesktopId.h"
 #include "desktop/Instance.h"
@@ -9,15 +10,18 @@
 
 #include <fontconfig/fontconfig.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
 #include <thread>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-/// How long a start waits for the program that is already running.
-constexpr auto handOverPatience = 5s;
+/// How long a start waits for the program that is already running. One that is ending takes up to
+/// six seconds: a call is ended, and the workspace given time.
+constexpr auto handOverPatience = 8s;
 
 /// The desktop's leave to raise a window, given to this start. Read before the platform's plugin
 /// takes it away.
@@ -26,16 +30,21 @@ QString startToken() {
     return token.isEmpty() ? qEnvironmentVariable("DESKTOP_STARTUP_ID") : token;
 }
 
+/// Whether only words on the terminal are wanted, for which no display is needed.
+bool wantsWords(int argc, char **argv) {
+    const std::string_view words[] = {"--help", "-h", "--help-all", "--version", "-v"};
+    return std::find_first_of(argv + 1, argv + argc, std::begin(words), std::end(words),
+                              [](const char *argument, std::string_view word) {
+                                  return argument == word;
+                              }) != argv + argc;
+}
+
 /// Runs the program, or leaves what it was asked to the one that runs.
 int run(const kiv::app::Options &options, const QString &token) {
     using kiv::desktop::Instance;
     Instance instance(QDBusConnection::sessionBus(), options.places.profile,
                       options.places.lockFile);
-    // What keeps nothing may run beside others.
-    const Instance::Place place = options.snapshot
-                                      ? Instance::Place::First
-                                      : instance.claim(options.links, token, handOverPatience);
-    switch (place) {
+    switch (instance.claim(options.links, token, handOverPatience)) {
     case Instance::Place::HandedOver:
         return 0;
     case Instance::Place::NoAnswer:
@@ -46,6 +55,7 @@ int run(const kiv::app::Options &options, const QString &token) {
         break;
     }
     kiv::app::Application program(options);
+    kiv::quitOnSignals(*qApp);
     program.serve(instance);
     program.start();
     for (const QString &link : options.links)
@@ -53,26 +63,36 @@ int run(const kiv::app::Options &options, const QString &token) {
     return program.window() ? QGuiApplication::exec() : 1;
 }
 
+int refuse(const std::exception &error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 2;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
+    QCoreApplication::setApplicationName(QStringLiteral("kiv"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KIV_VERSION));
+    if (wantsWords(argc, argv)) {
+        const QCoreApplication application(argc, argv);
+        kiv::app::readOptions(QCoreApplication::arguments());
+    }
     kiv::app::Application::prepareProcess();
     const QString token = startToken();
     // What the first text and the first line of the log need, while the platform's plugin is
-    // loaded. It reads the environment, which is written above.
+    // loaded. It reads the environment, out of which the plugin only takes what is not looked for.
     const std::jthread ahead([] {
         FcInit();
         kiv::desktop::LogText::prepare();
     });
     QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("kiv"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("KIV"));
-    QGuiApplication::setApplicationVersion(QStringLiteral(KIV_VERSION));
     QGuiApplication::setDesktopFileName(kiv::desktop::desktopId);
     try {
         return run(kiv::app::readOptions(application.arguments()), token);
     } catch (const kiv::BaseUrlError &error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return 2;
+        return refuse(error);
+    } catch (const kiv::app::OptionError &error) {
+        return refuse(error);
     }
 }

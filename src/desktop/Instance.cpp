@@ -3,14 +3,18 @@
 #include "base/PrivateFile.h"
 #include "desktop/DesktopId.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QThread>
 
 namespace kiv::desktop {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -19,6 +23,10 @@ const QString tokenKey = u"activation-token"_s;
 const QString startupKey = u"desktop-startup-id"_s;
 /// Of one call: nobody has more chats to open at once.
 constexpr qsizetype mostLinks = 16;
+constexpr auto betweenTries = 50ms;
+/// A lock of this age may be one that a killed program has left. Who is alive holds the system's
+/// lock on the file, too.
+constexpr int staleAfter = 1000;
 
 /// The object of the interface, as the name of the desktop file gives it.
 QString objectPath() {
@@ -36,11 +44,13 @@ QVariantMap platformOf(const QString &token) {
     return {{tokenKey, token}, {startupKey, token}};
 }
 
-/// The one that held the name has just gone.
+/// The one that held the name has gone, or is going.
 bool isGone(const QDBusMessage &reply) {
     const QString error = reply.errorName();
     return error == u"org.freedesktop.DBus.Error.ServiceUnknown"_s ||
            error == u"org.freedesktop.DBus.Error.NameHasNoOwner"_s ||
+           error == u"org.freedesktop.DBus.Error.UnknownObject"_s ||
+           error == u"org.freedesktop.DBus.Error.NoReply"_s ||
            error == u"org.freedesktop.DBus.Error.Disconnected"_s;
 }
 
@@ -58,13 +68,20 @@ QString Instance::nameFor(const QString &profile) {
 }
 
 Instance::Instance(const QDBusConnection &bus, const QString &profile, const QString &lockFile)
-    : m_bus(bus), m_name(nameFor(profile)), m_lockFile(lockFile) {}
+    : m_bus(bus), m_name(nameFor(profile)), m_lockFile(lockFile) {
+    // Before anything else that is done at the end: nobody is to hand over to what is ending.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &Instance::leave);
+}
 
 Instance::~Instance() {
-    if (!m_isOnBus)
+    leave();
+}
+
+void Instance::leave() {
+    if (!std::exchange(m_isOnBus, false))
         return;
-    m_bus.unregisterObject(objectPath());
     m_bus.interface()->unregisterService(m_name);
+    m_bus.unregisterObject(objectPath());
 }
 
 /// Whether the name is ours from now on.
@@ -81,23 +98,29 @@ bool Instance::take() {
 }
 
 /// A place where no file can be made is no reason not to start.
-Instance::Place Instance::lock() {
+Instance::Place Instance::lock(std::chrono::milliseconds patience) {
     if (m_lockFile.isEmpty())
         return Place::First;
     PrivateFile::makeFolderOf(m_lockFile);
     m_lock = std::make_unique<QLockFile>(m_lockFile);
-    m_lock->setStaleLockTime(0); // a program may run for days
-    const bool isTaken = !m_lock->tryLock() && m_lock->error() == QLockFile::LockFailedError;
+    m_lock->setStaleLockTime(staleAfter);
+    const bool isTaken = !m_lock->tryLock(static_cast<int>(patience.count())) &&
+                         m_lock->error() == QLockFile::LockFailedError;
     return isTaken ? Place::NoAnswer : Place::First;
 }
 
 Instance::Place Instance::claim(const QStringList &links, const QString &token,
                                 std::chrono::milliseconds patience) {
     if (!m_bus.isConnected())
-        return lock();
-    for (const bool isLastTry : {false, true}) {
-        if (take())
-            return Place::First;
+        return lock(patience);
+    const QDeadlineTimer deadline(patience);
+    for (;; QThread::msleep(betweenTries.count())) {
+        if (take()) {
+            const Place place = lock(patience);
+            if (place != Place::First)
+                leave();
+            return place;
+        }
         QDBusMessage call = QDBusMessage::createMethodCall(
             m_name, objectPath(), interface, links.isEmpty() ? u"Activate"_s : u"Open"_s);
         call.setAutoStartService(false);
@@ -105,13 +128,12 @@ Instance::Place Instance::claim(const QStringList &links, const QString &token,
             call << links;
         call << platformOf(token);
         const QDBusMessage reply =
-            m_bus.call(call, QDBus::Block, static_cast<int>(patience.count()));
+            m_bus.call(call, QDBus::Block, std::max(1, static_cast<int>(deadline.remainingTime())));
         if (reply.type() == QDBusMessage::ReplyMessage)
             return Place::HandedOver;
-        if (isLastTry || !isGone(reply))
-            break;
+        if (!isGone(reply) || deadline.hasExpired())
+            return Place::NoAnswer;
     }
-    return Place::NoAnswer;
 }
 
 void Instance::Activate(const QVariantMap &platform) {

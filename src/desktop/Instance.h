@@ -12,8 +12,8 @@
 namespace kiv::desktop {
 
 /// The program's place on the session bus (`org.freedesktop.Application`). A profile is used by
-/// one running program; a second start hands what it was asked to the first and ends. Where there
-/// is no bus, a file tells of the first, which cannot be asked for anything then.
+/// one running program; a second start hands what it was asked to the first and ends. A file tells
+/// of the first, too: to those that are on another bus or on none, and can ask it for nothing.
 class Instance : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
@@ -22,14 +22,18 @@ public:
     /// answer.
     enum class Place { First, HandedOver, NoAnswer };
 
-    /// `profile` is the folder of a profile of its own; empty for the user's. `lockFile` is what
-    /// tells of a running program without a bus; empty for nothing.
+    /// `profile` is the folder of a profile of its own; empty for the user's. `lockFile` is the
+    /// file that tells of a running program; empty for none.
     Instance(const QDBusConnection &bus, const QString &profile, const QString &lockFile = {});
     ~Instance() override;
 
     /// Takes the place, or hands `links` (to raise the window: none) over with the token that the
-    /// desktop gave this start for it. Waits for an answer no longer than `patience`.
+    /// desktop gave this start for it. Waits for an answer no longer than `patience`, and as long
+    /// for one that is just ending. The place is kept as long as this lives.
     Place claim(const QStringList &links, const QString &token, std::chrono::milliseconds patience);
+
+    /// Takes no calls any more, as at the end of the application; the profile stays taken.
+    void leave();
 
     /// The name on the bus: the program's own, with a part of its own for a profile of its own.
     static QString nameFor(const QString &profile);
@@ -49,7 +53,7 @@ Q_SIGNALS:
 
 private:
     bool take();
-    Place lock();
+    Place lock(std::chrono::milliseconds patience);
 
     QDBusConnection m_bus;
     QString m_name;

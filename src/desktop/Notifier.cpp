@@ -47,17 +47,24 @@ void Notifier::show(const Notice &notice) {
         return;
     }
     auto *answer = new QDBusPendingCallWatcher(call(u"GetCapabilities"_s, {}), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, notice] {
+    const auto told = [this, answer, notice, asked = m_withdrawals] {
         answer->deleteLater();
         const QDBusPendingReply<QStringList> reply = *answer;
         if (reply.isError())
             return; // no server; there may be one the next time
         m_abilities = reply.value();
-        send(notice);
-    });
+        if (asked == m_withdrawals)
+            send(notice);
+    };
+    connect(answer, &QDBusPendingCallWatcher::finished, this, told);
 }
 
 void Notifier::send(const Notice &notice) {
+    if (const auto before = m_underWay.find(notice.topic); before != m_underWay.end()) {
+        *before = notice;
+        return;
+    }
+    m_underWay.insert(notice.topic, std::nullopt);
     const bool readsMarkup = m_abilities->contains(u"body-markup"_s);
     const QVariantList arguments{
         u"KIV"_s,
@@ -69,15 +76,23 @@ void Notifier::send(const Notice &notice) {
         QVariantMap{{u"desktop-entry"_s, desktopId}, {u"category"_s, u"im.received"_s}},
         serversOwnTime};
     auto *answer = new QDBusPendingCallWatcher(call(u"Notify"_s, arguments), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, topic = notice.topic] {
+    const auto shown = [this, answer, topic = notice.topic, asked = m_withdrawals] {
         answer->deleteLater();
         const QDBusPendingReply<uint> reply = *answer;
-        if (!reply.isError())
+        if (!reply.isError() && asked == m_withdrawals)
             m_shown.insert(topic, reply.value());
-    });
+        else if (!reply.isError())
+            call(u"CloseNotification"_s, {reply.value()});
+        if (const auto next = m_underWay.take(topic))
+            send(*next);
+    };
+    connect(answer, &QDBusPendingCallWatcher::finished, this, shown);
 }
 
 void Notifier::withdraw() {
+    ++m_withdrawals;
+    for (std::optional<Notice> &next : m_underWay)
+        next.reset();
     for (const uint id : std::as_const(m_shown))
         call(u"CloseNotification"_s, {id});
     m_shown.clear();

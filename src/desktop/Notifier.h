@@ -49,6 +49,10 @@ private:
     std::optional<QStringList> m_abilities; ///< of the server, once it has told them
     QHash<QString, uint> m_shown;           ///< by topic
     QHash<uint, QString> m_tokens;
+    /// Topics of notices on their way to the server, which says their numbers; each with the one
+    /// that is to take its place then.
+    QHash<QString, std::optional<Notice>> m_underWay;
+    int m_withdrawals = 0; ///< what was asked for before the last one is not to be seen
 };
 
 } // namespace kiv::desktop

@@ -99,8 +99,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
         ask();
         answer(2, u"Five"_s);
-        QTest::qWait(150);
-        QCOMPARE(m_server->shown.size(), 0);
+        QVERIFY(nothingSince(0));
     }
 
     /// Nor who does not want to be told; what is shown goes.
@@ -114,7 +113,7 @@ private Q_SLOTS:
                      QList<uint>{1});
         ask();
         answer(4, u"Six"_s);
-        QCOMPARE(m_server->shown.size(), 1);
+        QVERIFY(nothingSince(1));
         m_f->restart();
         QVERIFY(!m_f->store->notices()->wanted());
     }
@@ -127,10 +126,9 @@ private Q_SLOTS:
         ask();
         answer(2, u"Five"_s);
         QTRY_COMPARE(m_server->shown.size(), 1);
-        QTest::qWait(20);
-        m_server->click(42, u"token"_s); // another program's
-        m_server->click(1, u"token"_s);
-        QTRY_COMPARE(clicked.size(), 1);
+        // The first is another program's; ours counts once the desktop has said which it is.
+        QTRY_VERIFY(
+            (m_server->click(42, u"token"_s), m_server->click(1, u"token"_s), !clicked.isEmpty()));
         QCOMPARE(clicked[0], (QVariantList{u"kiv://chat/agent/scout"_s, u"token"_s}));
     }
 
@@ -142,6 +140,13 @@ private:
         QTRY_VERIFY(m_f->store->chat()->msgs()->messages().last().text == text);
         m_f->clock.advance(1200ms);
         QTest::qWait(20); // the notice goes over the bus
+    }
+
+    /// What is shown next is a notice from behind everything that was to be told.
+    bool nothingSince(qsizetype shown) {
+        m_notifier->show({u"last"_s, u"Last"_s, u"one"_s});
+        return QTest::qWaitFor([&] { return m_server->shown.size() > shown; }) &&
+               m_server->shown[shown].title == u"Last"_s;
     }
 
     test::PrivateBus m_bus;

@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -85,9 +86,39 @@ private Q_SLOTS:
         QVERIFY(time.elapsed() < 5000);
     }
 
-    void withoutABusEveryoneIsTheFirst() {
-        Instance instance(test::PrivateBus::noConnection(), {});
-        QCOMPARE(instance.claim({u"kiv://chat/kiv"_s}, {}, 1s), Instance::Place::First);
+    /// On whichever bus they are, or on none.
+    void oneProgramAProfile_data() {
+        QTest::addColumn<bool>("isFirstOnBus");
+        QTest::addColumn<bool>("isSecondOnBus");
+        QTest::newRow("neither on a bus") << false << false;
+        QTest::newRow("the first on a bus") << true << false;
+        QTest::newRow("the second on a bus") << false << true;
+    }
+    void oneProgramAProfile() {
+        QFETCH(bool, isFirstOnBus);
+        QFETCH(bool, isSecondOnBus);
+        const QTemporaryDir folder;
+        const QString lock = folder.filePath(u"state/lock"_s);
+        const auto bus = [&](bool isOnBus, const QString &name) {
+            return isOnBus ? m_bus.connection(name) : test::PrivateBus::noConnection();
+        };
+        auto first = std::make_unique<Instance>(bus(isFirstOnBus, u"first"_s), QString(), lock);
+        QCOMPARE(first->claim({}, {}, 1s), Instance::Place::First);
+        Instance second(bus(isSecondOnBus, u"second"_s), {}, lock);
+        QCOMPARE(second.claim({}, {}, 100ms), Instance::Place::NoAnswer);
+        first.reset();
+        QCOMPARE(second.claim({}, {}, 1s), Instance::Place::First);
+    }
+
+    void oneThatEndsIsWaitedFor() {
+        const QTemporaryDir folder;
+        const QString lock = folder.filePath(u"lock"_s);
+        auto first = std::make_unique<Instance>(m_bus.connection(u"first"_s), QString(), lock);
+        QCOMPARE(first->claim({}, {}, 1s), Instance::Place::First);
+        first->leave();
+        QTimer::singleShot(200, this, [&] { first.reset(); });
+        QCOMPARE(startAgain({}, {u"kiv://chat/kiv"_s}, {}, lock), Instance::Place::First);
+        QVERIFY(!first);
     }
 
     void theDesktopStartsActions() {
@@ -149,10 +180,10 @@ private Q_SLOTS:
 private:
     /// What a start finds while this one goes on.
     Instance::Place startAgain(const QString &profile, const QStringList &links,
-                               const QString &token) {
+                               const QString &token, const QString &lock = {}) {
         Instance::Place place = Instance::Place::NoAnswer;
         const std::unique_ptr<QThread> thread(QThread::create([&] {
-            Instance second(m_bus.connection(u"second"_s), profile);
+            Instance second(m_bus.connection(u"second"_s), profile, lock);
             place = second.claim(links, token, 5s);
         }));
         QSignalSpy done(thread.get(), &QThread::finished);

@@ -66,6 +66,9 @@ private Q_SLOTS:
     void catchesWhatIsSaid() {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"state/kiv.log"_s);
+        QVERIFY(QDir(folder.path()).mkdir(u"state"_s));
+        QVERIFY(QFile(path).open(QIODevice::NewOnly | QIODevice::WriteOnly,
+                                 QFile::Permissions(0x6644)));
         {
             LogFile log(path);
             log.capture();

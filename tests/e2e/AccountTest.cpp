@@ -119,22 +119,6 @@ private Q_SLOTS:
         QTRY_VERIFY(!seat.person.find(u"errorLine"_s));
     }
 
-    /// A slow reply to an edit, and another edit meanwhile: the newer one stays.
-    void quickEdits() {
-        Seat seat;
-        QVERIFY(seat.signUp());
-        seat.person.press(Qt::Key_Comma, Qt::ControlModifier);
-        QVERIFY(seat.person.waitForItem(u"handle"_s));
-        seat.faults({u"latency=700,path=/user/profile,method=PATCH,times=1"_s});
-        seat.enter(u"handle"_s, u"first"_s);
-        seat.enter(u"handle"_s, u"second"_s);
-        seat.enter(u"fullName"_s, u"Ada Byron"_s);
-        QTRY_COMPARE_WITH_TIMEOUT(seat.kept(u"handle"_s), u"second"_s, 5000);
-        QTRY_COMPARE_WITH_TIMEOUT(seat.kept(u"full_name"_s), u"Ada Byron"_s, 5000);
-        QTRY_COMPARE(seat.text(u"accountState"_s), u"All changes saved"_s);
-        QCOMPARE(seat.text(u"handle"_s), u"second"_s);
-    }
-
     void refusals() {
         Seat seat;
         QVERIFY(seat.signUp());

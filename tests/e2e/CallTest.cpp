@@ -27,24 +27,6 @@ namespace {
 
 constexpr int patience = 15'000;
 
-/// The memory of this process and of its web engine that nobody else uses, as the kernel counts.
-void printMemory(const char *when) {
-    double own = 0;
-    double engine = 0;
-    for (const qint64 process : test::family(getpid())) {
-        for (const QByteArray &line : test::processFile(process, u"smaps_rollup"_s).split('\n')) {
-            if (!line.startsWith("Pss:"))
-                continue;
-            const double megabytes = line.simplified().split(' ').at(1).toDouble() / 1024;
-            if (process == getpid())
-                own += megabytes;
-            else if (test::processFile(process, u"cmdline"_s).contains("QtWebEngineProcess"))
-                engine += megabytes;
-        }
-    }
-    qInfo("memory %s: program %.0f MB, web engine's processes %.0f MB", when, own, engine);
-}
-
 /// A sentence, and silence until it comes round again.
 QString spokenFile(const QTemporaryDir &folder) {
     const QString path = folder.filePath(u"caller.wav"_s);
@@ -129,7 +111,6 @@ private Q_SLOTS:
 
     void conversation() {
         QVERIFY(!test::processFile(getpid(), u"maps"_s).contains("libQt6WebEngineCore"));
-        printMemory("before the first call");
         // Longer in units than in characters: the page cuts it once more.
         store().chat()->msgs()->append(store::localMsg(store::Who::You, u"😀"_s.repeated(3000)));
         QVERIFY2(dial(), qPrintable(call()->callHint()));
@@ -140,7 +121,6 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(seen()[u"audio_seconds"_s].toDouble() > 1, patience);
         QCOMPARE(seen()[u"digest"_s].toString(), u"😀"_s.repeated(800));
         QVERIFY(seen()[u"contextual_updates"_s][0].toString().startsWith(u"Recent text chat"_s));
-        printMemory("during the call");
 
         // The file's sentence is heard, as words or as somebody's turn, and answered.
         QTRY_VERIFY_WITH_TIMEOUT(!said(true).isEmpty(), 2 * patience);
@@ -167,7 +147,6 @@ private Q_SLOTS:
 
         QVERIFY(hangUp());
         QTRY_COMPARE_WITH_TIMEOUT(seen()[u"state"_s].toString(), u"ended"_s, patience);
-        printMemory("after the call");
         const auto &messages = store().chat()->msgs()->messages();
         QVERIFY(std::ranges::any_of(messages, [](const store::Msg &message) {
             return message.callHead && message.text.startsWith(u"Call · 0:"_s);

@@ -1,5 +1,6 @@
 // The program as a process: what it refuses, and what it leaves behind.
 
+#include "support/Damage.h"
 #include "support/PrivateBus.h"
 #include "support/Processes.h"
 
@@ -9,15 +10,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QByteArray bytesOf(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
+using kiv::test::contentOf;
 
 class ProcessTest : public QObject {
     Q_OBJECT
@@ -76,6 +69,7 @@ private Q_SLOTS:
         else
             program.terminate();
         QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), killed ? QProcess::CrashExit : QProcess::NormalExit);
         QTRY_VERIFY_WITH_TIMEOUT(!kiv::test::isRunning(server), 10000);
     }
 
@@ -99,14 +93,14 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(passwordFile).size() > 20, 15000);
         // It is damaged, which is complained of.
         QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(cookies.fileName()), 15000);
-        const QByteArray password = bytesOf(passwordFile).trimmed();
+        const QByteArray password = contentOf(passwordFile).trimmed();
 
-        QByteArray seen = bytesOf(folder.filePath(u"state/kiv.log"_s));
+        QByteArray seen = contentOf(folder.filePath(u"state/kiv.log"_s));
         QVERIFY(!seen.isEmpty());
         for (const qint64 process :
              QList<qint64>{program.processId()} + kiv::test::children(program.processId())) {
             for (const QString &file : {u"cmdline"_s, u"environ"_s})
-                seen += bytesOf(u"/proc/%1/%2"_s.arg(process).arg(file));
+                seen += contentOf(u"/proc/%1/%2"_s.arg(process).arg(file));
         }
         QVERIFY(seen.contains("kiv-sandbox"));
         QVERIFY(!seen.contains(password) && !seen.contains("planted"));
@@ -135,10 +129,7 @@ private Q_SLOTS:
         QVERIFY(second.waitForFinished(20000));
         QCOMPARE(second.exitCode(), 0);
         // The first one has got it, and says that it is no link to a chat.
-        const auto logged = [&] {
-            QFile file(log);
-            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        };
+        const auto logged = [&] { return contentOf(log); };
         QTRY_VERIFY_WITH_TIMEOUT(logged().contains("not followed"), 15000);
         QVERIFY(!logged().contains("nowhere"));
 
