@@ -1,5 +1,7 @@
 #include "store/RailModel.h"
 
+#include <algorithm>
+
 namespace kiv::store {
 
 using namespace Qt::StringLiterals;
@@ -7,6 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString projectLabel = u"project"_s;
+constexpr qsizetype firstProject = 2; ///< below KIV and the label
 
 } // namespace
 
@@ -30,18 +33,45 @@ void RailModel::setEntries(const QList<Project> &projects, const QList<Agent> &s
     for (const Agent &agent : standaloneAgents)
         rows.append({RailRow::Agent, agent.id, {}, agent.name, agent.role, agent.colorHex});
     // A rail that comes as it was leaves its rows in peace, and who presses one.
-    if (rows == m_rows)
+    if (rows == m_ordered)
         return;
     beginResetModel();
+    m_ordered = rows;
     m_rows = std::move(rows);
+    std::stable_partition(m_rows.begin() + firstProject, m_rows.end(), [this](const Row &row) {
+        return !m_project.isEmpty() && row.project == m_project;
+    });
     endResetModel();
 }
 
+/// Moves a project's rows to where they are to begin.
+void RailModel::place(const QString &project, qsizetype at) {
+    const auto first = std::ranges::find(m_rows, project, &Row::project);
+    const qsizetype from = first - m_rows.begin();
+    const qsizetype count = std::ranges::count(m_rows, project, &Row::project);
+    if (count == 0 || from == at)
+        return;
+    const QList<Row> moved = m_rows.sliced(from, count);
+    beginRemoveRows({}, static_cast<int>(from), static_cast<int>(from + count - 1));
+    m_rows.remove(from, count);
+    endRemoveRows();
+    beginInsertRows({}, static_cast<int>(at), static_cast<int>(at + count - 1));
+    for (qsizetype row = 0; row < count; ++row)
+        m_rows.insert(at + row, moved.at(row));
+    endInsertRows();
+}
+
 void RailModel::select(const QString &project, const QString &agent) {
-    m_project = project;
+    const QString before = std::exchange(m_project, project);
     m_agent = agent;
     if (!project.isEmpty())
         m_expanded.insert(project);
+    if (project != before) {
+        if (!before.isEmpty())
+            place(before, std::ranges::find(m_ordered, before, &Row::project) - m_ordered.begin());
+        if (!project.isEmpty())
+            place(project, firstProject);
+    }
     Q_EMIT dataChanged(index(0), index(rowCount() - 1), {SelectedRole, ExpandedRole});
 }
 
@@ -128,6 +158,14 @@ int selectableRow(const QAbstractItemModel &rows, int row, int by) {
 
 RailView::RailView(RailModel *rail, QObject *parent) : QSortFilterProxyModel(parent), m_rail(rail) {
     setSourceModel(rail);
+}
+
+int RailView::selectedRow() const {
+    for (int row = 0; row < rowCount(); ++row) {
+        if (index(row, 0).data(RailModel::SelectedRole).toBool())
+            return row;
+    }
+    return -1;
 }
 
 bool RailView::filterAcceptsRow(int row, const QModelIndex &) const {

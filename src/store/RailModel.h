@@ -10,7 +10,8 @@
 namespace kiv::store {
 
 /// Everything a person can talk to, one row each: KIV, then the projects with their agents below
-/// them, then the agents of no project, with a label row before each section.
+/// them, the current one first, then the agents of no project, with a label row before each
+/// section.
 class RailModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -30,7 +31,8 @@ public:
     explicit RailModel(QObject *parent = nullptr);
 
     void setEntries(const QList<Project> &projects, const QList<Agent> &standaloneAgents);
-    /// Marks the current scope; the selected project and the project of the selected agent open.
+    /// Marks the current scope; the selected project and the project of the selected agent open and
+    /// come before the others, which keep their order.
     void select(const QString &project, const QString &agent);
     void toggleExpanded(const QString &project);
 
@@ -53,8 +55,10 @@ private:
     };
     bool isSelected(const Row &row) const;
     static QString nameOf(const Row &row);
+    void place(const QString &project, qsizetype at);
 
     QList<Row> m_rows;
+    QList<Row> m_ordered; ///< the same with every project in its own place
     QSet<QString> m_expanded;
     QString m_project;
     QString m_agent;
@@ -71,6 +75,8 @@ class RailView : public QSortFilterProxyModel {
     QML_UNCREATABLE("owned by the store")
 public:
     explicit RailView(RailModel *rail, QObject *parent = nullptr);
+    /// The row of the current scope; -1 while the rail has none.
+    Q_INVOKABLE int selectedRow() const;
     /// As selectableRow().
     Q_INVOKABLE int stepped(int row, int by) const { return selectableRow(*this, row, by); }
 

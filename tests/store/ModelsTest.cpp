@@ -150,6 +150,43 @@ private Q_SLOTS:
         choices.setQuery(QString());
         QCOMPARE(choices.rowCount(), 7);
     }
+
+    /// The current project before the others, which keep their order; a rail that comes does, too.
+    void railOrder() {
+        RailModel model;
+        RailView view(&model);
+        const QAbstractItemModelTester modelTester(&model);
+        const QAbstractItemModelTester viewTester(&view);
+        const auto order = [&view] {
+            QStringList ids;
+            for (int row = 2; row < view.rowCount(); ++row)
+                ids.append(view.index(row, 0).data(RailModel::EntryIdRole).toString());
+            return ids.join(u' ');
+        };
+        const auto selected = [&view] {
+            return view.index(view.selectedRow(), 0).data(RailModel::EntryIdRole).toString();
+        };
+        QList<Project> projects{{u"a"_s, {}, {}, {}, {{u"a1"_s, {}, {}, {}}}},
+                                {u"b"_s, {}, {}, {}, {{u"b1"_s, {}, {}, {}}}},
+                                {u"c"_s, {}, {}, {}, {}}};
+        const QList<Agent> standalone{{u"alone"_s, {}, {}, {}}};
+        model.setEntries(projects, standalone);
+        model.select(u"b"_s, u"b1"_s);
+        QCOMPARE(order(), u"b b1 a c agent alone"_s);
+        QCOMPARE(selected(), u"b1"_s);
+        model.select(u"c"_s, {});
+        QCOMPARE(order(), u"c a b b1 agent alone"_s);
+        projects.prepend({u"new"_s, {}, {}, {}, {}});
+        model.setEntries(projects, standalone);
+        QCOMPARE(order(), u"c new a b b1 agent alone"_s);
+        QCOMPARE(selected(), u"c"_s);
+        model.select({}, u"alone"_s);
+        QCOMPARE(order(), u"new a b b1 c agent alone"_s);
+        QCOMPARE(selected(), u"alone"_s);
+        model.select(u"gone"_s, {});
+        QCOMPARE(order(), u"new a b b1 c agent alone"_s);
+        QCOMPARE(view.selectedRow(), -1);
+    }
 };
 
 QTEST_GUILESS_MAIN(ModelsTest)

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void cleanupTestCase();
     void selectsAndCopies();
     void copiesCode();
+    void copyingByKeys();
     void copiesTable();
     void opensLinks_data();
     void opensLinks();
@@ -112,6 +113,25 @@ void BlocksTest::copiesCode() {
     m_gallery->click(u"copyCode"_s);
     QCOMPARE(copied(), u"make  all\n\tcheck"_s);
     QCOMPARE(m_gallery->item(u"copyCode"_s)->property("text"), u"Copied"_s);
+}
+
+/// The tab key leads to no button out of sight.
+void BlocksTest::copyingByKeys() {
+    answer((u"```sh\n"_s + u"make\n"_s.repeated(12) + u"```\n\nand\n\n"_s).repeated(8));
+    QQuickItem *feed = m_gallery->item(u"dockFeed"_s);
+    const double atEnd = feed->property("contentY").toDouble();
+    feed->forceActiveFocus(Qt::TabFocusReason);
+    const QRectF sight(0, 0, feed->width(), feed->height());
+    for (int stop = 0; stop < 3; ++stop) {
+        m_gallery->press(Qt::Key_Tab);
+        const QQuickItem *button = m_gallery->window().activeFocusItem();
+        QCOMPARE(button->objectName(), u"copyCode"_s);
+        QVERIFY(sight.contains(button->mapRectToItem(feed, button->boundingRect())));
+    }
+    // Some have been out of it.
+    QVERIFY(feed->property("contentY").toDouble() != atEnd);
+    m_gallery->press(Qt::Key_Return);
+    QCOMPARE(copied(), u"make\n"_s.repeated(11) + u"make"_s);
 }
 
 void BlocksTest::copiesTable() {

@@ -134,6 +134,10 @@ void WindowTest::railByKeys() {
     QVERIFY(m_gallery->hasFocus(u"navigator"_s));
     // Right opens, Left closes, and neither undoes itself.
     QTRY_VERIFY(m_gallery->item(u"railRow:lantern"_s)->property("selected").toBool());
+    QTRY_VERIFY(m_gallery->middleOf(u"railRow:lantern"_s).y() <
+                m_gallery->middleOf(u"railRow:ferry"_s).y());
+    QVERIFY(m_gallery->item(u"railRow:lantern"_s)->property("ringed").toBool());
+    QVERIFY(m_gallery->hasFocus(u"navigator"_s));
     const auto isOpenAfter = [this](Qt::Key key) {
         m_gallery->press(key);
         return m_gallery->item(u"railRow:lantern"_s)->property("expanded").toBool();

@@ -29,6 +29,8 @@ FocusScope {
     readonly property real column: Math.min(width - 2 * side, 720)
     /// The message whose actions show.
     readonly property string activeMessage: hoveredMessage !== "" ? hoveredMessage : activeFocus ? view.cursor : ""
+    /// What has the keys, in a message or elsewhere.
+    readonly property Item stop: activeFocus ? Window.activeFocusItem : null
     readonly property string hoveredMessage: pointer.hovered ? view.messageAt(pointer.point.position.y + list.contentY) : ""
 
     signal retryRequested(messageId: string)
@@ -75,6 +77,8 @@ FocusScope {
         else
             callToggled(row.callId)
     }
+
+    onStopChanged: if ((stop as T.Control)?.visualFocus) view.showStop(stop)
 
     FeedRows {
         id: feedRows

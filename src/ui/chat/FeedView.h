@@ -67,6 +67,8 @@ public:
     /// view in several steps.
     Q_INVOKABLE void stepCursor(int by);
     Q_INVOKABLE void setCursor(const QString &messageId);
+    /// Brings what the tab key has come to inside a message into sight.
+    Q_INVOKABLE void showStop(QQuickItem *stop);
     /// The message at `y` of the view's own; empty for none.
     Q_INVOKABLE QString messageAt(double y) const;
 

@@ -10,6 +10,8 @@ namespace {
 
 /// How much of the view a step within a long message goes.
 constexpr double stride = 0.8;
+/// Between what has the keys and the view's edge.
+constexpr double stopMargin = 16;
 
 } // namespace
 
@@ -55,6 +57,18 @@ void FeedView::setCursor(const QString &messageId) {
     m_cursor = messageId;
     Q_EMIT cursorChanged();
     polish();
+}
+
+void FeedView::showStop(QQuickItem *stop) {
+    if (!stop || !isAncestorOf(stop))
+        return;
+    const QRectF place = stop->mapRectToItem(this, stop->boundingRect());
+    const double upper = place.top() - stopMargin;
+    const double lower = place.bottom() + stopMargin - m_flickable->height();
+    if (upper >= top() && lower <= top())
+        return;
+    setFollowing(false);
+    moveTo(std::min(upper < top() ? upper : lower, end()));
 }
 
 void FeedView::placeCursor() {

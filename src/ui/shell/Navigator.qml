@@ -32,6 +32,19 @@ ListView {
             row.toggled()
     }
 
+    /// The keys go on from what is selected, wherever it was chosen.
+    function follow() {
+        const row = scope.rail.selectedRow()
+        if (row >= 0)
+            currentIndex = row
+    }
+    /// A project that is entered has come before the others.
+    function followProject() {
+        if (scope.project !== "")
+            positionViewAtBeginning()
+        follow()
+    }
+
     objectName: "navigator"
     model: scope.rail
     topMargin: 12
@@ -61,6 +74,18 @@ ListView {
 
     T.ScrollBar.vertical: ScrollBar {}
 
+    // The rows follow once the scope has changed.
+    Connections {
+        target: list.scope
+
+        function onProjectChanged() {
+            Qt.callLater(list.followProject)
+        }
+        function onAgentChanged() {
+            Qt.callLater(list.follow)
+        }
+    }
+
     delegate: NavigatorRow {
         required property int index
 
@@ -70,8 +95,8 @@ ListView {
         onClicked: {
             if (label)
                 return
-            list.currentIndex = index
             list.scope.pickEntry(kind, projectId, entryId)
+            list.follow()
         }
         onSearchRequested: list.searchRequested("")
         onCreateRequested: list.createRequested(entryId)
