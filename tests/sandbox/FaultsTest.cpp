@@ -115,6 +115,7 @@ private Q_SLOTS:
         QVERIFY(healthy.waitFor("event: ready\n"));
         m_client->post(m_room, {{u"text"_s, u"How was the week?"_s}});
         QVERIFY(healthy.waitForRows(20));
+        QVERIFY(stalled.waitForRows(2));
         QCOMPARE(stalled.rows().size(), 2);
     }
 

@@ -17,6 +17,9 @@
 
 #include <QTest>
 
+#include <limits>
+#include <malloc.h>
+
 using namespace Qt::StringLiterals;
 using namespace kiv;
 
@@ -96,6 +99,13 @@ class GrowthTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Memory stays with the program once it has it: what the system takes to hand it out, page by
+    /// page, does not grow evenly, and is nobody's work here.
+    void initTestCase() {
+        mallopt(M_MMAP_THRESHOLD, std::numeric_limits<int>::max());
+        mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    }
+
     void isLinear_data() {
         QTest::addColumn<Read>("read");
         QTest::addColumn<Input>("input");

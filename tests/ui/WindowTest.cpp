@@ -136,6 +136,7 @@ void WindowTest::railByKeys() {
     QTRY_VERIFY(m_gallery->item(u"railRow:lantern"_s)->property("selected").toBool());
     QTRY_VERIFY(m_gallery->middleOf(u"railRow:lantern"_s).y() <
                 m_gallery->middleOf(u"railRow:ferry"_s).y());
+    QCOMPARE(m_gallery->item(u"navigator"_s)->property("contentY").toDouble(), -12.0);
     QVERIFY(m_gallery->item(u"railRow:lantern"_s)->property("ringed").toBool());
     QVERIFY(m_gallery->hasFocus(u"navigator"_s));
     const auto isOpenAfter = [this](Qt::Key key) {

@@ -13,6 +13,8 @@ ListView {
 
     required property ScopeRoom scope
     property bool offline: false
+    /// The project that was entered last.
+    property string entered: ""
 
     /// Somebody is looked for, perhaps with what is typed already.
     signal searchRequested(typed: string)
@@ -32,17 +34,17 @@ ListView {
             row.toggled()
     }
 
-    /// The keys go on from what is selected, wherever it was chosen.
+    /// The keys go on from what is selected, wherever it was chosen; a project that is entered has come
+    /// before the others.
     function follow() {
+        if (scope.project !== entered && scope.project !== "") {
+            positionViewAtBeginning()
+            contentY = originY - topMargin
+        }
+        entered = scope.project
         const row = scope.rail.selectedRow()
         if (row >= 0)
             currentIndex = row
-    }
-    /// A project that is entered has come before the others.
-    function followProject() {
-        if (scope.project !== "")
-            positionViewAtBeginning()
-        follow()
     }
 
     objectName: "navigator"
@@ -74,16 +76,22 @@ ListView {
 
     T.ScrollBar.vertical: ScrollBar {}
 
-    // The rows follow once the scope has changed.
     Connections {
         target: list.scope
 
         function onProjectChanged() {
-            Qt.callLater(list.followProject)
+            following.restart()
         }
         function onAgentChanged() {
-            Qt.callLater(list.follow)
+            following.restart()
         }
+    }
+    Timer {
+        id: following
+
+        // The rows follow once the scope has changed.
+        interval: 0
+        onTriggered: list.follow()
     }
 
     delegate: NavigatorRow {
