@@ -61,6 +61,7 @@ ListView {
     highlightMoveDuration: 0
     Accessible.role: Accessible.List
     Accessible.name: qsTr("Projects and agents")
+    Component.onCompleted: follow()
     Keys.onUpPressed: currentIndex = scope.rail.stepped(currentIndex, -1)
     Keys.onDownPressed: currentIndex = scope.rail.stepped(currentIndex, 1)
     Keys.onPressed: event => {
