@@ -36,6 +36,21 @@ install_packages() {
     fi
 }
 
+compile() { ninja -C "$build" -j "$(nproc)" "$@" >"$root/build/build.log" 2>&1; }
+
+# g++ now and then writes a precompiled header that it dies of reading, and ccache would hand it out again:
+# makes anew those of the folders in which the compiler crashed. Fails when it did not crash.
+renew_headers() {
+    local log="$root/build/build.log" folder headers=()
+    grep -q 'terminated program cc1plus' "$log" || return 1
+    say "The compiler crashed; once more with new precompiled headers…"
+    while read -r folder; do
+        rm "$build/$folder/cmake_pch.hxx.gch" 2>/dev/null || continue
+        headers+=("$folder/cmake_pch.hxx.gch")
+    done < <(sed -n 's,^FAILED: \(.*\.dir\)/.*,\1,p' "$log" | sort -u)
+    [ "${#headers[@]}" = 0 ] || CCACHE_RECACHE=1 ninja -C "$build" "${headers[@]}" >"$log" 2>&1
+}
+
 # build_targets [TARGET...]: all of them when none is named.
 build_targets() {
     local log="$root/build/build.log"
@@ -54,7 +69,7 @@ build_targets() {
     *'no work to do'*) return 0 ;;
     esac
     say "Building (log in build/build.log)…"
-    if ! ninja -C "$build" -j "$(nproc)" "$@" >"$log" 2>&1; then
+    if ! compile "$@" && ! { renew_headers && compile "$@"; }; then
         grep -E 'error|FAILED' -A 8 "$log" | head -n 60 >&2
         say "The build failed."
         exit 1
