@@ -36,13 +36,17 @@ install_packages() {
     fi
 }
 
-compile() { ninja -C "$build" -j "$(nproc)" "$@" >"$root/build/build.log" 2>&1; }
+# A compiler needs a fifth of what is allowed here, unless it has lost its way.
+compile() (
+    ulimit -v 6000000
+    ninja -C "$build" -j "$(nproc)" "$@" >"$root/build/build.log" 2>&1
+)
 
 # g++ now and then writes a precompiled header that it dies of reading, and ccache would hand it out again:
 # makes anew those of the folders in which the compiler crashed. Fails when it did not crash.
 renew_headers() {
     local log="$root/build/build.log" folder headers=()
-    grep -q 'terminated program cc1plus' "$log" || return 1
+    grep -qE 'terminated program cc1plus|cc1plus: out of memory' "$log" || return 1
     say "The compiler crashed; once more with new precompiled headers…"
     while read -r folder; do
         rm "$build/$folder/cmake_pch.hxx.gch" 2>/dev/null || continue
