@@ -134,7 +134,7 @@ private Q_SLOTS:
             QVERIFY(f.loseLine(kivChat));
         else
             f.store->boot();
-        SOON_COMPARE(f.backend.count(kivStream), again ? 2 : 1);
+        SOON_VERIFY(f.backend.count(kivStream) >= (again ? 2 : 1));
         SOON_COMPARE(f.texts(), QStringList{u"Weekly report"_s});
         SOON_COMPARE(f.backend.count(page), before + 1);
         SOON_VERIFY(!f.store->chat()->historyLoading());

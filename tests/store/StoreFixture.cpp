@@ -142,12 +142,16 @@ bool StoreFixture::reconnect(const QString &chat) {
 
 bool StoreFixture::loseLine(const QString &chat, const QString &next) {
     const QString route = next.isEmpty() ? u"GET "_s + chat + streamEnd : next;
-    const int before = backend.count(route);
+    const QString page = u"GET "_s + chat;
+    const QHash<QString, int> before = backend.counts();
     backend.dropStream(chat + streamEnd);
+    // The network layer may ask for the stream once by itself: the program asks for a page too.
     return QTest::qWaitFor([&] {
-        if (backend.count(route) == before)
+        const bool isAsked =
+            backend.count(page) > before.value(page) && backend.count(route) > before.value(route);
+        if (!isAsked)
             clock.advance(50ms);
-        return backend.count(route) > before;
+        return isAsked;
     });
 }
 
