@@ -114,7 +114,9 @@ void Way::conversation() {
     visit("empty");
     store().chat()->send(u"Tell me a story"_s);
     visit("thinking");
-    require(m_workspace.ask(u"Tell me a story"_s, u"Once there was a ferry."_s, QString()),
+    require(m_workspace.ask(u"Tell me a story"_s,
+                            u"Once there was a ferry.\n\n- [x] It sailed\n- [ ] It came back"_s,
+                            QString()),
             "its hint");
     visit("hint");
     store().chat()->send(u"How was the week?"_s);

@@ -38,6 +38,7 @@ BlockRow {
                 border.width: done ? 0 : 1.5
                 border.color: Tokens.control
                 Accessible.role: Accessible.CheckBox
+                Accessible.name: block.row.part.taskWords(index)
                 Accessible.checked: done
                 Accessible.readOnly: true
 

@@ -1,5 +1,7 @@
 #include "ui/markdown/MarkdownPart.h"
 
+#include "text/MDParser.h"
+
 namespace kiv::ui {
 
 using text::MDBlock;
@@ -16,6 +18,16 @@ QList<bool> MarkdownPart::done() const {
             states.append(item.done);
     }
     return states;
+}
+
+QString MarkdownPart::taskWords(qsizetype index) const {
+    const auto *tasks = std::get_if<MDBlock::Tasks>(&content);
+    QString words;
+    if (tasks && index >= 0 && index < tasks->items.size()) {
+        for (const auto &span : text::MDParser::inlineSpans(tasks->items.at(index).text))
+            words += span.text;
+    }
+    return words;
 }
 
 } // namespace kiv::ui

@@ -39,6 +39,8 @@ public:
     int place() const { return block; }
     /// Which tasks of a task list are done.
     QList<bool> done() const;
+    /// The words of a task, without their mark-up; empty when there is no such task.
+    Q_INVOKABLE QString taskWords(qsizetype index) const;
 
     friend bool operator==(const MarkdownPart &, const MarkdownPart &) = default;
 };
