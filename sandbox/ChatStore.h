@@ -15,6 +15,13 @@ class Database;
 struct ChatKey {
     QString account;
     QString chat; ///< "agent:" or "project:" followed by the id or slug
+
+    static ChatKey ofAgent(const QString &account, const QString &id) {
+        return {account, QStringLiteral("agent:") + id};
+    }
+    static ChatKey ofProject(const QString &account, const QString &slug) {
+        return {account, QStringLiteral("project:") + slug};
+    }
     friend bool operator<(const ChatKey &one, const ChatKey &other) {
         return std::tie(one.account, one.chat) < std::tie(other.account, other.chat);
     }

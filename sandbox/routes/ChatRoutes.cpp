@@ -24,12 +24,12 @@ struct Target {
 Target projectTarget(Services &services, const Call &call) {
     const QString slug = call.segment(1);
     const QString label = services.workspace.projectLabel(call.account, slug);
-    return {{call.account, u"project:"_s + slug}, {call.account, slug, label, {}}, label};
+    return {ChatKey::ofProject(call.account, slug), {call.account, slug, label, {}}, label};
 }
 
 Target agentTarget(Services &services, const Call &call) {
     const AgentRecord agent = services.workspace.agent(call.account, call.segment(1));
-    return {{call.account, u"agent:"_s + agent.id},
+    return {ChatKey::ofAgent(call.account, agent.id),
             scopeOf(call.account, agent),
             {},
             agent.status == u"stopped"_s};

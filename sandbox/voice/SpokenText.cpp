@@ -166,6 +166,11 @@ QString spokenFigures(const QString &text) {
         .simplified();
 }
 
+bool isLaidOut(const QString &answer) {
+    static const QRegularExpression seen = expression(u"^\\s*(```|\\|)|\\]\\(|https?://"_s);
+    return seen.match(answer).hasMatch();
+}
+
 QString spokenText(const QString &answer) {
     const auto [prose, drawing] = partsOf(answer);
     const QString figures = figuresOf(drawing);

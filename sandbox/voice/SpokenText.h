@@ -11,4 +11,7 @@ QString spokenText(const QString &answer);
 /// Signs and abbreviations as words, so that a voice does not stumble over them.
 QString spokenFigures(const QString &text);
 
+/// Whether an answer holds what is looked at rather than listened to: a drawing, a table, a link.
+bool isLaidOut(const QString &answer);
+
 } // namespace kiv::sandbox

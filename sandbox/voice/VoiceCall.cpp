@@ -17,6 +17,7 @@ namespace {
 
 constexpr auto beginPatience = 10s;
 constexpr auto thinking = 400ms;
+constexpr auto layingOut = 400ms; ///< the words are there before what they speak of
 constexpr auto betweenPings = 3s;
 /// The caller's clock ends a call in time; this one is for callers whose clock does not.
 constexpr int graceSeconds = 5;
@@ -120,9 +121,9 @@ void VoiceCall::begin(const QJsonObject &data) {
     listen(m_setting.recogniser.isEmpty() ? turnEar() : wordEar());
     m_pings.start(betweenPings);
     QTimer::singleShot(0, this, &VoiceCall::ping);
-    say(m_call.isResumed
-            ? u"I am back. Please go on."_s
-            : u"Hello, %1 here. What would you like to know?"_s.arg(m_setting.scope.name));
+    say({m_call.isResumed
+             ? u"I am back. Please go on."_s
+             : u"Hello, %1 here. What would you like to know?"_s.arg(m_setting.scope.name)});
 }
 
 void VoiceCall::takeSound(const QByteArray &samples) {
@@ -157,9 +158,12 @@ void VoiceCall::takeQuestion(const QString &text) {
     think();
 }
 
+std::chrono::milliseconds VoiceCall::paced(std::chrono::milliseconds time) const {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(time * m_setting.pace);
+}
+
 void VoiceCall::think() {
-    m_thought.start(
-        std::chrono::duration_cast<std::chrono::milliseconds>(thinking * m_setting.pace));
+    m_thought.start(paced(thinking));
 }
 
 void VoiceCall::listen(std::unique_ptr<Ear> ear) {
@@ -185,32 +189,37 @@ EarHandlers VoiceCall::earHandlers() {
             }};
 }
 
-QString VoiceCall::answerTo(const QString &question) {
+VoiceCall::Spoken VoiceCall::answerTo(const QString &question) {
     if (question == wordless)
-        return unheard;
+        return {unheard};
     const QString recalled = m_memory.recall(question);
     if (!recalled.isEmpty())
-        return recalled;
+        return {recalled};
     try {
         const Question asked{question, m_setting.scope, {}};
-        return spokenText(
-            m_setting.database.run([&](Sql &sql) { return composeAnswer(sql, asked); }).content);
+        const Answer answer =
+            m_setting.database.run([&](Sql &sql) { return composeAnswer(sql, asked); });
+        const QString text = spokenText(answer.content);
+        return isLaidOut(answer.content) ? Spoken{text, answer} : Spoken{text};
     } catch (const std::exception &error) {
         qWarning("An answer failed: %s", error.what());
-        return u"Something went wrong while I looked that up."_s;
+        return {u"Something went wrong while I looked that up."_s};
     }
 }
 
-void VoiceCall::say(const QString &text) {
+void VoiceCall::say(const Spoken &answer) {
     const int turn = ++m_turn;
     m_playback.stop();
-    m_speaker.speak(text, [this, text, turn](const QByteArray &samples) {
+    m_speaker.speak(answer.text, [this, answer, turn](const QByteArray &samples) {
         m_question.clear();
-        m_saying = text;
-        m_sayingLine = m_setting.calls.addLine(m_call.id, u"agent"_s, second(), text);
+        m_saying = answer.text;
+        m_sayingLine = m_setting.calls.addLine(m_call.id, u"agent"_s, second(), m_saying);
         m_socket->send({{u"type"_s, u"agent_response"_s},
                         {u"agent_response_event"_s,
-                         QJsonObject{{u"agent_response"_s, text}, {u"event_id"_s, turn}}}});
+                         QJsonObject{{u"agent_response"_s, m_saying}, {u"event_id"_s, turn}}}});
+        if (answer.laidOut)
+            QTimer::singleShot(paced(layingOut), this,
+                               [this, laidOut = *answer.laidOut] { m_setting.post(laidOut); });
         m_playback.start(samples);
     });
 }

@@ -26,6 +26,8 @@ struct CallSetting {
     QString models;     ///< the folder of what it needs
     double pace = 1;    ///< scales the pause before an answer
     std::optional<int> breakAfterMs;
+    /// Puts an answer into the chat with who answers.
+    std::function<void(const Answer &)> post;
 };
 
 /// One conversation over one socket: greets, listens, answers aloud, and writes down what both
@@ -46,14 +48,20 @@ private:
     void takeSound(const QByteArray &samples);
     void takeWords(const QString &text);
     void takeQuestion(const QString &text);
+    std::chrono::milliseconds paced(std::chrono::milliseconds time) const;
     void think();
     void listen(std::unique_ptr<Ear> ear);
     std::unique_ptr<Ear> wordEar();
     std::unique_ptr<Ear> turnEar();
     EarHandlers earHandlers();
 
-    QString answerTo(const QString &question);
-    void say(const QString &text);
+    /// What is said, and what is laid out beside it if anything is.
+    struct Spoken {
+        QString text;
+        std::optional<Answer> laidOut = {};
+    };
+    Spoken answerTo(const QString &question);
+    void say(const Spoken &answer);
     void interrupt();
     void ping();
     void ended(bool goodbye);

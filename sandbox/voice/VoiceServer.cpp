@@ -137,6 +137,17 @@ void VoiceServer::takeSocket() {
     }
 }
 
+/// Called from an event loop, out of which nothing may be thrown.
+void VoiceServer::post(const ChatKey &key, const Answer &answer) {
+    try {
+        const ChatMessage row =
+            m_services.chats.append(key, u"assistant"_s, answer.content, answer.metadata);
+        m_services.hub.publish(key, rowEvent(row.rowObject({})));
+    } catch (const std::exception &error) {
+        qWarning("What a call has laid out cannot be stored: %s", error.what());
+    }
+}
+
 void VoiceServer::hold(const OpenCall &call, std::unique_ptr<QWebSocket> socket) {
     Faults &faults = m_services.faults;
     auto wire = std::make_unique<CallSocket>(
@@ -152,7 +163,10 @@ void VoiceServer::hold(const OpenCall &call, std::unique_ptr<QWebSocket> socket)
         .recogniser = deaf ? QString() : recogniserIn(m_services.options),
         .models = m_services.options.shareDir + u"/speech"_s,
         .pace = m_services.options.answerPace,
-        .breakAfterMs = drop ? std::optional(drop->value) : std::nullopt};
+        .breakAfterMs = drop ? std::optional(drop->value) : std::nullopt,
+        .post = [this, key = ChatKey::ofAgent(call.account, call.agent)](const Answer &answer) {
+            post(key, answer);
+        }};
     auto held =
         std::make_unique<VoiceCall>(call, setting, std::move(wire), [this](VoiceCall *over) {
             // A call tells of its end from within itself.

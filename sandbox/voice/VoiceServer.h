@@ -12,6 +12,8 @@
 
 namespace kiv::sandbox {
 
+struct Answer;
+struct ChatKey;
 struct Services;
 class VoiceCall;
 
@@ -38,6 +40,7 @@ public:
 private:
     void accept();
     void takeSocket();
+    void post(const ChatKey &key, const Answer &answer);
     void hold(const OpenCall &call, std::unique_ptr<QWebSocket> socket);
 
     Services &m_services;

@@ -1,6 +1,7 @@
 // What is said in a call, and what stays of it.
 
 #include "sandbox/CallTest.h"
+#include "sandbox/Stream.h"
 
 #include <QtTest>
 
@@ -90,6 +91,34 @@ private Q_SLOTS:
         QVERIFY2(answers[19].contains(u" процентов"_s), qPrintable(answers[19]));
         answers.removeDuplicates();
         QVERIFY(answers.size() > 15);
+    }
+
+    /// What is to be looked at is in the chat, there as soon as it is spoken of.
+    void drawingsGoToTheChat_data() {
+        QTest::addColumn<QString>("question");
+        QTest::addColumn<QString>("part"); // of the row; empty when there is to be none
+        QTest::newRow("drawing") << u"Who is overloaded?"_s << u"```view"_s;
+        QTest::newRow("table") << u"Show me a table"_s << u"|"_s;
+        QTest::newRow("link") << u"Link to the dashboard"_s << u"](/dashboard"_s;
+        QTest::newRow("words") << u"Good day to you"_s << QString();
+    }
+    void drawingsGoToTheChat() {
+        QFETCH(QString, question);
+        QFETCH(QString, part);
+        Stream chat(m_voice->client(), m_voice->client().kivChat() + u"/stream"_s);
+        Caller caller(m_voice->sandbox().url());
+        caller.begin(m_voice->mint(u"KIV"_s)[u"signed_url"_s].toString());
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, question}});
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        caller.send({{u"type"_s, u"user_message"_s}, {u"text"_s, u"The retro"_s}});
+        QVERIFY(!caller.next(u"agent_response"_s).isEmpty());
+        QVERIFY(chat.waitForRows(part.isEmpty() ? 1 : 2));
+        const QList<QJsonObject> rows = chat.rows();
+        QVERIFY(rows.last()[u"content"_s].toString().contains(u"retro"_s, Qt::CaseInsensitive));
+        QCOMPARE(rows.size(), part.isEmpty() ? 1 : 2);
+        QCOMPARE(rows.first()[u"role"_s], u"assistant"_s);
+        QVERIFY(rows.first()[u"content"_s].toString().contains(part));
     }
 
     void callerWhoSpeaksIsHeardAndInterrupts() {
