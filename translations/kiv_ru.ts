@@ -2772,6 +2772,10 @@
         <translation>На удержании</translation>
     </message>
     <message>
+        <source>It is in the conversation that the call was placed from.</source>
+        <translation>Это в том разговоре, из которого начат звонок.</translation>
+    </message>
+    <message>
         <source>Was on hold</source>
         <translation>Было на удержании</translation>
     </message>

@@ -52,6 +52,7 @@ void CallRoom::startLiveCall() {
     m_callDraft = QString();
     m_callEndingSoon = false;
     m_callTranscript.clear();
+    m_rowsMeanwhile.clear();
     m_callPhase = CallPhase::Connecting;
     m_call = true;
     m_callShown = true;

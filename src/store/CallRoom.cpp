@@ -186,6 +186,37 @@ void CallRoom::callSay(const QString &text) {
     m_callDraft = QString();
 }
 
+void CallRoom::takeRow(const Msg &row, bool isNew) {
+    if (!m_call || m_callPhase != CallPhase::Active || !row.serverID ||
+        m_callee.chat != m_store.chat()->connected())
+        return;
+    if (isNew)
+        m_rowsMeanwhile.insert(*row.serverID);
+    if (!m_rowsMeanwhile.contains(*row.serverID) || row.art.isEmpty())
+        return;
+    m_callTranscript.draw(*row.serverID, row.title, row.art, m_callSec);
+    m_store.canvas()->drawSpoken(row, m_callTranscript.lastQuestion());
+}
+
+QString CallRoom::messageOf(const QString &action) const {
+    const MessageModel *messages = m_store.chat()->msgs();
+    if (m_callee.chat != m_store.chat()->connected())
+        return {};
+    const qsizetype row = messages->rowOfServerID(action.toLongLong());
+    return row < 0 ? QString() : messages->messages().at(row).id.toString(QUuid::WithoutBraces);
+}
+
+void CallRoom::showDrawing(const QString &action) {
+    const QString message = messageOf(action);
+    if (message.isEmpty()) {
+        showCallHint(tr("It is in the conversation that the call was placed from."));
+        return;
+    }
+    leaveCallScreen();
+    m_store.layout()->closePages();
+    m_store.canvas()->showMessageCanvas(message);
+}
+
 void CallRoom::callShare() {
     const QString project = m_call ? m_callee.project : m_store.scope()->project();
     const QUrl &base = m_store.net().baseUrl();

@@ -100,6 +100,10 @@ public:
     Q_INVOKABLE void openTyping() { m_callTyping = true; }
     Q_INVOKABLE void closeTyping() { m_callTyping = false; }
     Q_INVOKABLE void showCall() { m_callShown = m_call.value(); }
+    /// Shows what a line of the transcript stands for on the canvas, and the window around it.
+    Q_INVOKABLE void showDrawing(const QString &action);
+    /// The message of that line while its conversation is shown; empty while another one is.
+    Q_INVOKABLE QString messageOf(const QString &action) const;
     /// Back to the window; the call goes on.
     Q_INVOKABLE void leaveCallScreen() { m_callShown = false; }
     Q_INVOKABLE void dismissHint() { m_callHint = QString(); }
@@ -122,6 +126,9 @@ public:
     /// The conversation with its calls at their places; `hasOlder` when it goes back further.
     QList<Msg> withCalls(const net::ChatTarget &target, const QList<Msg> &messages, bool hasOlder,
                          const std::optional<QDateTime> &since) const;
+    /// A row of the shown conversation has come (`isNew`) or grown: what came during a call that
+    /// was placed from here is drawn for it.
+    void takeRow(const Msg &row, bool isNew);
     /// Puts the past calls with an agent into its conversation.
     void attachSharedVoiceHistory(const net::ChatTarget &target);
 
@@ -224,6 +231,7 @@ private:
     bool m_wasActive = false;
     QDateTime m_startedAt;
     Clock::Milliseconds m_began{0};
+    QSet<qint64> m_rowsMeanwhile; ///< rows of the conversation that came during the call
     QUuid m_holdLine;
     QUuid m_lostLine;
 

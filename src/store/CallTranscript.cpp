@@ -1,6 +1,7 @@
 #include "store/CallTranscript.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace kiv::store {
 
@@ -44,6 +45,18 @@ void CallTranscript::settle(const QUuid &event, const QString &text) {
         change(found - m_lines.begin(), text, {});
 }
 
+void CallTranscript::draw(qint64 row, const QString &title, const QString &art, int at) {
+    const QString action = QString::number(row);
+    const auto found = std::ranges::find(m_lines, action, &CallLine::action);
+    if (found == m_lines.end()) {
+        append(
+            {.kind = CallLineKind::Event, .text = title, .action = action, .art = art, .at = at});
+        return;
+    }
+    found->art = art;
+    change(found - m_lines.begin(), title, {});
+}
+
 void CallTranscript::clear() {
     if (m_lines.isEmpty())
         return;
@@ -51,6 +64,12 @@ void CallTranscript::clear() {
     m_lines.clear();
     endResetModel();
     Q_EMIT countChanged();
+}
+
+QString CallTranscript::lastQuestion() const {
+    const auto found =
+        std::find_if(m_lines.crbegin(), m_lines.crend(), std::mem_fn(&CallLine::isOwner));
+    return found == m_lines.crend() ? QString() : found->text;
 }
 
 void CallTranscript::append(CallLine line) {
@@ -69,7 +88,7 @@ void CallTranscript::change(qsizetype row, const QString &text, const QString &s
     m_lines[row].text = text;
     m_lines[row].state = state;
     const QModelIndex changed = index(static_cast<int>(row));
-    Q_EMIT dataChanged(changed, changed, {TextRole, StateRole});
+    Q_EMIT dataChanged(changed, changed, {TextRole, StateRole, ArtRole});
 }
 
 int CallTranscript::rowCount(const QModelIndex &parent) const {
@@ -96,6 +115,8 @@ QVariant CallTranscript::data(const QModelIndex &index, int role) const {
         return line.state;
     case ActionRole:
         return line.action.value_or(QString());
+    case ArtRole:
+        return line.art;
     case AtRole:
         return line.at;
     default:
@@ -106,7 +127,7 @@ QVariant CallTranscript::data(const QModelIndex &index, int role) const {
 QHash<int, QByteArray> CallTranscript::roleNames() const {
     return {{LineIdRole, "lineId"}, {KindRole, "kind"}, {WhoRole, "who"},
             {OwnerRole, "owner"},   {TextRole, "text"}, {StateRole, "state"},
-            {ActionRole, "action"}, {AtRole, "at"}};
+            {ActionRole, "action"}, {ArtRole, "art"},   {AtRole, "at"}};
 }
 
 } // namespace kiv::store

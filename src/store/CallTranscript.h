@@ -19,7 +19,8 @@ struct CallLine {
     /// "partial" while a sentence is still being heard, "typed" for one that was written until the
     /// service has it, of an event "running" until it is over; else empty.
     QString state;
-    std::optional<QString> action; ///< of an event: what can be done about it
+    std::optional<QString> action; ///< of an event: the stored row whose drawing can be shown
+    QString art;                   ///< of an event: the scene that was drawn
     int at = 0;                    ///< whole seconds from the start of the call
 
     bool isOwner() const { return who == QLatin1String("user"); }
@@ -43,6 +44,7 @@ public:
         TextRole,
         StateRole,
         ActionRole, ///< empty for none
+        ArtRole,    ///< empty for none
         AtRole,     ///< whole seconds from the start
     };
 
@@ -56,7 +58,11 @@ public:
     /// Something that happens; `state` as in CallLine. Gives the line, to be settled later.
     QUuid note(const QString &text, const QString &state, int at);
     void settle(const QUuid &event, const QString &text);
+    /// What a row of the conversation draws; a row that grows changes its line.
+    void draw(qint64 row, const QString &title, const QString &art, int at);
     void clear();
+    /// What the owner said last; empty for nothing yet.
+    QString lastQuestion() const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

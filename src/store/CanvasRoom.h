@@ -127,6 +127,8 @@ public:
     /// The scene that is drawn stays in sight while its chat is read anew.
     void keepScene();
     void scheduleScenario(int gen, const Msg &message);
+    /// Draws the answer to a question that was spoken, unless one that was typed is to be answered.
+    void drawSpoken(const Msg &answer, const QString &question);
     /// `answer` is the newest answer, which it was restored from.
     void applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer);
     /// Signed out: canvas and history go.

@@ -117,6 +117,14 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
         runScenario(answer, LinkOpening::Open);
 }
 
+/// From here on it is the answer of the turn: what it grows by is drawn as for any other.
+void CanvasRoom::drawSpoken(const Msg &answer, const QString &question) {
+    if (m_awaitingAnswer || m_turn.answer == answer.id)
+        return;
+    m_turn = {question, canvas::CanvasIntents::classify(question), {}, {}, answer.id};
+    runScenario(answer, LinkOpening::Leave);
+}
+
 /// Whether the scene on the canvas was made from this message.
 bool CanvasRoom::isDrawn(const Msg &message) const {
     return m_state.value() == CanvasState::Scene &&

@@ -383,6 +383,7 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
         m_canStop = isStoppable();
     }
     m_store.canvas()->scheduleScenario(gen, answer);
+    m_store.call()->takeRow(answer, shown < 0);
     if (isAnswer && !answer.serverID) {
         m_isAnswered = true;
         Q_EMIT answerEnded(answer.id);

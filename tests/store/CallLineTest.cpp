@@ -83,6 +83,55 @@ private Q_SLOTS:
         QCOMPARE(beacon.value(u"ctx"_s).toObject().value(u"ping_ms"_s), 37);
     }
 
+    /// Rows of the conversation that come meanwhile, once there is something to draw in them.
+    void whatIsDrawn() {
+        CallFixture f;
+        QVERIFY(f.signIn());
+        f.row(20, u"Before"_s);
+        SOON_COMPARE(f.texts().last(), u"Before"_s);
+        QVERIFY(f.connect());
+        f.clock.advance(4s);
+        f.row(20, u"Before\n\n"_s + test::reportBlock);
+        f.row(21, u"No drawing"_s);
+        f.row(22, u"Here it is."_s);
+        SOON_COMPARE(f.texts().last(), u"Here it is."_s);
+        QCOMPARE(f.lines(), QStringList());
+        f.say(u"user"_s, u"How was the week?"_s);
+        f.row(22, u"Here it is.\n\n"_s + test::reportBlock);
+        SOON_COMPARE(f.lines(), (QStringList{u"How was the week?"_s, u"Week 47"_s}));
+        QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 47"_s);
+        QCOMPARE(f.store->canvas()->query(), u"How was the week?"_s);
+        QString grown = test::reportBlock;
+        f.row(22, u"Here it is.\n\n"_s + grown.replace(u"Week 47"_s, u"Week 48"_s));
+        SOON_COMPARE(f.lines(), (QStringList{u"How was the week?"_s, u"Week 48"_s}));
+        f.clock.advance(2s);
+        QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 48"_s);
+        QCOMPARE(f.store->canvas()->history()->count(), 1);
+        f.store->canvas()->clearCanvas();
+        const CallLine line = f.call()->callTranscript()->lines().last();
+        QVERIFY(line.kind == CallLineKind::Event && line.art == u"report"_s && line.at == 4);
+
+        // It can be shown wherever the person is, as long as it is of the shown conversation.
+        f.store->layout()->openAccount();
+        f.call()->showDrawing(*line.action);
+        QVERIFY(!f.call()->callShown() && f.call()->call());
+        QVERIFY(f.store->layout()->isFeed());
+        QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 48"_s);
+        QCOMPARE(f.store->canvas()->sourceMessageId(), f.call()->messageOf(*line.action));
+        f.store->door()->open(*ChatLink::parse(u"kiv://chat/agent/scout"_s));
+        f.call()->showCall();
+        f.call()->showDrawing(*line.action);
+        QVERIFY(f.call()->callShown());
+        QVERIFY(!f.call()->callHint().isEmpty());
+        QVERIFY(f.streaming(u"api/v2/custom-agents/scout/chat"_s, 1));
+        f.row(22, u"Of Scout\n\n"_s + test::reportBlock);
+        SOON_VERIFY(f.texts().last().startsWith(u"Of Scout"_s));
+        QCOMPARE(f.lines().size(), 2);
+        f.call()->hangupCall();
+        QVERIFY(f.connect());
+        QCOMPARE(f.lines(), QStringList());
+    }
+
     void muteAndHold() {
         CallFixture f;
         QVERIFY(f.signIn());

@@ -1,4 +1,5 @@
 #include "ui/CallWindow.h"
+#include "ui/SceneAnswers.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -16,6 +17,7 @@ class CallWordsTest : public CallWindow {
 private Q_SLOTS:
     void typing();
     void transcriptGrows();
+    void drawings();
     void copyAndShare();
 };
 
@@ -71,6 +73,39 @@ void CallWordsTest::transcriptGrows() {
     m_workspace->say(u"user"_s, u"Go on"_s);
     QTRY_VERIFY(atEnd());
     QCOMPARE(room().callTranscript()->count(), store::CallTranscript::mostLines);
+}
+
+/// What is drawn meanwhile stands among the words, and leads to the window.
+void CallWordsTest::drawings() {
+    talk();
+    m_workspace->say(u"ai"_s, u"Here is the load for the coming week."_s);
+    m_workspace->row(90, answerNamed(u"workload-plain"_s).text);
+    QTRY_VERIFY(m_gallery->find(u"drawnInCall"_s));
+    m_workspace->clock.advance(2s);
+    QTRY_COMPARE(heard(u"drawnInCall"_s), u"Load for the coming week, on the canvas"_s);
+    m_workspace->say(u"ai"_s, u"Glasshouse is over its capacity."_s);
+    m_gallery->save(u"call-drawing"_s);
+    for (int line = 0; line < 20; ++line)
+        m_workspace->say(u"user"_s, u"Line %1 "_s.arg(line).repeated(12));
+    // Out of sight, until the keys come to it.
+    const auto inSight = [this] {
+        const QQuickItem *list = m_gallery->item(u"transcriptList"_s);
+        const QQuickItem *card = m_gallery->item(u"drawnInCall"_s);
+        return QRectF(0, 0, list->width(), list->height())
+            .contains(card->mapRectToItem(list, {0, 0, card->width(), card->height()}));
+    };
+    QTRY_VERIFY(!inSight());
+    m_gallery->item(u"transcriptList"_s)->forceActiveFocus(Qt::TabFocusReason);
+    m_gallery->press(Qt::Key_Tab);
+    QVERIFY(m_gallery->hasFocus(u"drawnInCall"_s));
+    QVERIFY(inSight());
+    m_workspace->say(u"ai"_s, u"Who reads is left in peace."_s);
+    QTest::qWait(100);
+    QVERIFY(inSight());
+    m_gallery->press(Qt::Key_Return);
+    QVERIFY(!room().callShown());
+    QVERIFY(room().call());
+    QCOMPARE(m_workspace->store->canvas()->art(), u"workload"_s);
 }
 
 void CallWordsTest::copyAndShare() {

@@ -1,9 +1,10 @@
 import QtQuick
 import Kiv.Call
+import Kiv.Chat
 import Kiv.Store
 
-// One line of a running call: something said, or something that happened.
-Item {
+// One line of a running call: something said, something that happened, or something drawn.
+FocusScope {
     id: line
 
     required property int index
@@ -11,11 +12,13 @@ Item {
     required property bool owner
     required property string text
     required property string state
+    required property string action
+    required property string art
     required property int at
-    required property CallRoom call
-    required property ScopeRoom scope
+    required property AppStore store
+    readonly property CallRoom call: store.call
 
-    implicitHeight: speech.visible ? speech.implicitHeight : event.implicitHeight
+    implicitHeight: speech.visible ? speech.implicitHeight : event.visible ? event.implicitHeight : card.implicitHeight
 
     SpokenLine {
         id: speech
@@ -30,14 +33,27 @@ Item {
         words: line.text
         seconds: line.at
         growing: line.state === "partial"
-        person: line.scope
+        person: line.store.scope
     }
     SpokenEvent {
         id: event
 
         width: parent.width
-        visible: !speech.visible
+        visible: !speech.visible && !card.visible
         words: line.text
         seconds: line.at
+    }
+    CanvasCard {
+        id: card
+
+        objectName: "drawnInCall"
+        x: 40
+        width: parent.width - x
+        visible: line.art !== ""
+        title: line.text
+        art: line.art
+        // Looked up anew whenever the canvas changes.
+        shown: line.store.canvas.sourceMessageId !== "" && line.store.canvas.sourceMessageId === line.call.messageOf(line.action)
+        onClicked: line.call.showDrawing(line.action)
     }
 }

@@ -22,6 +22,12 @@ Flickable {
         following = end - contentY <= Tokens.followDistance
     }
 
+    // Brings what the keys have come to into sight.
+    function reveal(top: real, extent: real) {
+        contentY = Math.max(Math.min(contentY, top - 12), top + extent + 12 - height)
+        following = end - contentY <= Tokens.followDistance
+    }
+
     objectName: "transcriptList"
     contentWidth: width
     // Few lines sit at the lower edge.
@@ -67,8 +73,8 @@ Flickable {
             delegate: TranscriptLine {
                 objectName: "transcriptLine:" + index
                 width: column.width
-                call: view.store.call
-                scope: view.store.scope
+                store: view.store
+                onActiveFocusChanged: if (activeFocus) view.reveal(column.y + y, height)
             }
         }
     }
