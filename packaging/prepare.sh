@@ -46,13 +46,13 @@ compile() (
 # makes anew those of the folders in which the compiler crashed. Fails when it did not crash.
 renew_headers() {
     local log="$root/build/build.log" folder headers=()
-    grep -qE 'terminated program cc1plus|cc1plus: out of memory' "$log" || return 1
+    grep -qE 'terminated program|internal compiler error|out of memory|memory exhausted' "$log" || return 1
     say "The compiler crashed; once more with new precompiled headers…"
     while read -r folder; do
         rm "$build/$folder/cmake_pch.hxx.gch" 2>/dev/null || continue
         headers+=("$folder/cmake_pch.hxx.gch")
     done < <(sed -n 's,^FAILED: \(.*\.dir\)/.*,\1,p' "$log" | sort -u)
-    [ "${#headers[@]}" = 0 ] || CCACHE_RECACHE=1 ninja -C "$build" "${headers[@]}" >"$log" 2>&1
+    [ "${#headers[@]}" = 0 ] || CCACHE_RECACHE=1 compile "${headers[@]}"
 }
 
 # build_targets [TARGET...]: all of them when none is named.

@@ -2772,8 +2772,8 @@
         <translation>На удержании</translation>
     </message>
     <message>
-        <source>It is in the conversation that the call was placed from.</source>
-        <translation>Это в том разговоре, из которого начат звонок.</translation>
+        <source>It is not in the conversation that is shown now.</source>
+        <translation>В показанном сейчас разговоре этого нет.</translation>
     </message>
     <message>
         <source>Was on hold</source>

@@ -22,6 +22,7 @@ const QString protocol = u"convai"_s;
 const QString method = u"GET"_s;
 const QString socketPath = u"/voice/socket"_s;
 constexpr auto handshakePatience = 10s;
+constexpr auto untilAnswered = 200ms;
 constexpr qsizetype mostConnections = 64;
 
 QString recogniserIn(const Options &options) {
@@ -137,8 +138,13 @@ void VoiceServer::takeSocket() {
     }
 }
 
-/// Called from an event loop, out of which nothing may be thrown.
+/// Not before an answer to what was typed there is whole. Called from an event loop, out of which
+/// nothing may be thrown.
 void VoiceServer::post(const ChatKey &key, const Answer &answer) {
+    if (m_services.answerer.isAnswering(key)) {
+        QTimer::singleShot(untilAnswered, this, [this, key, answer] { post(key, answer); });
+        return;
+    }
     try {
         const ChatMessage row =
             m_services.chats.append(key, u"assistant"_s, answer.content, answer.metadata);

@@ -186,22 +186,40 @@ void CallRoom::callSay(const QString &text) {
     m_callDraft = QString();
 }
 
+/// A call from a project room is with KIV, whose rows come into its own conversation.
+bool CallRoom::isCalledFromHere() const {
+    return m_callee.chat && m_callee.chat->isAgent() &&
+           m_callee.chat == m_store.chat()->connected();
+}
+
+bool CallRoom::isUnasked(const Msg &row) const {
+    const QList<Msg> &messages = m_store.chat()->msgs()->messages();
+    const qsizetype above = m_store.chat()->msgs()->rowOf(row.id) - 1;
+    const bool isBelowTyped =
+        above >= 0 && messages.at(above).who == Who::You && !messages.at(above).fromCall;
+    return !m_store.canvas()->awaitingAnswer() && !isBelowTyped;
+}
+
 void CallRoom::takeRow(const Msg &row, bool isNew) {
-    if (!m_call || m_callPhase != CallPhase::Active || !row.serverID ||
-        m_callee.chat != m_store.chat()->connected())
+    if (!m_call || m_callPhase != CallPhase::Active || !row.serverID || !isCalledFromHere())
         return;
-    if (isNew)
+    if (isNew && isUnasked(row))
         m_rowsMeanwhile.insert(*row.serverID);
-    if (!m_rowsMeanwhile.contains(*row.serverID) || row.art.isEmpty())
-        return;
-    m_callTranscript.draw(*row.serverID, row.title, row.art, m_callSec);
-    m_store.canvas()->drawSpoken(row, m_callTranscript.lastQuestion());
+    if (m_rowsMeanwhile.contains(*row.serverID) &&
+        m_callTranscript.draw(*row.serverID, row.title, row.art, m_callSec))
+        m_store.canvas()->adoptAnswer(row.id, spokenQuestion(row).value_or(QString()));
+}
+
+std::optional<QString> CallRoom::spokenQuestion(const Msg &row) const {
+    const auto drawing =
+        row.serverID && isCalledFromHere() ? m_callTranscript.drawing(*row.serverID) : std::nullopt;
+    return drawing ? std::optional(drawing->question) : std::nullopt;
 }
 
 QString CallRoom::messageOf(const QString &action) const {
-    const MessageModel *messages = m_store.chat()->msgs();
-    if (m_callee.chat != m_store.chat()->connected())
+    if (!isCalledFromHere())
         return {};
+    const MessageModel *messages = m_store.chat()->msgs();
     const qsizetype row = messages->rowOfServerID(action.toLongLong());
     return row < 0 ? QString() : messages->messages().at(row).id.toString(QUuid::WithoutBraces);
 }
@@ -209,7 +227,7 @@ QString CallRoom::messageOf(const QString &action) const {
 void CallRoom::showDrawing(const QString &action) {
     const QString message = messageOf(action);
     if (message.isEmpty()) {
-        showCallHint(tr("It is in the conversation that the call was placed from."));
+        showCallHint(tr("It is not in the conversation that is shown now."));
         return;
     }
     leaveCallScreen();

@@ -126,9 +126,11 @@ public:
     /// The conversation with its calls at their places; `hasOlder` when it goes back further.
     QList<Msg> withCalls(const net::ChatTarget &target, const QList<Msg> &messages, bool hasOlder,
                          const std::optional<QDateTime> &since) const;
-    /// A row of the shown conversation has come (`isNew`) or grown: what came during a call that
-    /// was placed from here is drawn for it.
+    /// A row of the shown conversation has come (`isNew`) or grown. One that came during a call
+    /// with this agent, and that nobody typed a question for, answers what was said last.
     void takeRow(const Msg &row, bool isNew);
+    /// The question that a row of the shown conversation answered in the call; nothing for others.
+    std::optional<QString> spokenQuestion(const Msg &row) const;
     /// Puts the past calls with an agent into its conversation.
     void attachSharedVoiceHistory(const net::ChatTarget &target);
 
@@ -192,6 +194,8 @@ private:
     void onEngineGone();
     void applyMute();
     void applyMicrophone();
+    bool isCalledFromHere() const;
+    bool isUnasked(const Msg &row) const;
     void showLevel();
     QString leaveLine();
     void hangUp(Ending ending);
@@ -231,7 +235,7 @@ private:
     bool m_wasActive = false;
     QDateTime m_startedAt;
     Clock::Milliseconds m_began{0};
-    QSet<qint64> m_rowsMeanwhile; ///< rows of the conversation that came during the call
+    QSet<qint64> m_rowsMeanwhile; ///< that came during the call without being asked for by text
     QUuid m_holdLine;
     QUuid m_lostLine;
 

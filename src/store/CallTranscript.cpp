@@ -1,7 +1,6 @@
 #include "store/CallTranscript.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace kiv::store {
 
@@ -45,16 +44,29 @@ void CallTranscript::settle(const QUuid &event, const QString &text) {
         change(found - m_lines.begin(), text, {});
 }
 
-void CallTranscript::draw(qint64 row, const QString &title, const QString &art, int at) {
+bool CallTranscript::draw(qint64 row, const QString &title, const QString &art, int at) {
     const QString action = QString::number(row);
     const auto found = std::ranges::find(m_lines, action, &CallLine::action);
-    if (found == m_lines.end()) {
-        append(
-            {.kind = CallLineKind::Event, .text = title, .action = action, .art = art, .at = at});
-        return;
+    const bool isNew = found == m_lines.end() && !art.isEmpty();
+    if (isNew) {
+        append({.kind = CallLineKind::Event,
+                .text = title,
+                .action = action,
+                .art = art,
+                .question = lastQuestion(),
+                .at = at});
+    } else if (found != m_lines.end() && art.isEmpty()) {
+        remove(found - m_lines.begin());
+    } else if (found != m_lines.end() && (found->art != art || found->text != title)) {
+        found->art = art;
+        change(found - m_lines.begin(), title, {});
     }
-    found->art = art;
-    change(found - m_lines.begin(), title, {});
+    return isNew;
+}
+
+std::optional<CallLine> CallTranscript::drawing(qint64 row) const {
+    const auto found = std::ranges::find(m_lines, QString::number(row), &CallLine::action);
+    return found == m_lines.end() ? std::nullopt : std::optional(*found);
 }
 
 void CallTranscript::clear() {
@@ -66,21 +78,27 @@ void CallTranscript::clear() {
     Q_EMIT countChanged();
 }
 
+/// Empty for nothing yet.
 QString CallTranscript::lastQuestion() const {
-    const auto found =
-        std::find_if(m_lines.crbegin(), m_lines.crend(), std::mem_fn(&CallLine::isOwner));
+    const auto found = std::find_if(m_lines.crbegin(), m_lines.crend(), [](const CallLine &line) {
+        return line.isOwner() && !line.isPartial();
+    });
     return found == m_lines.crend() ? QString() : found->text;
 }
 
 void CallTranscript::append(CallLine line) {
-    if (m_lines.size() == mostLines) {
-        beginRemoveRows({}, 0, 0);
-        m_lines.removeFirst();
-        endRemoveRows();
-    }
+    if (m_lines.size() == mostLines)
+        remove(0);
     beginInsertRows({}, count(), count());
     m_lines.append(std::move(line));
     endInsertRows();
+    Q_EMIT countChanged();
+}
+
+void CallTranscript::remove(qsizetype row) {
+    beginRemoveRows({}, static_cast<int>(row), static_cast<int>(row));
+    m_lines.removeAt(row);
+    endRemoveRows();
     Q_EMIT countChanged();
 }
 

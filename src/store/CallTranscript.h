@@ -21,6 +21,7 @@ struct CallLine {
     QString state;
     std::optional<QString> action; ///< of an event: the stored row whose drawing can be shown
     QString art;                   ///< of an event: the scene that was drawn
+    QString question;              ///< of an event: what the drawing answers
     int at = 0;                    ///< whole seconds from the start of the call
 
     bool isOwner() const { return who == QLatin1String("user"); }
@@ -58,12 +59,12 @@ public:
     /// Something that happens; `state` as in CallLine. Gives the line, to be settled later.
     QUuid note(const QString &text, const QString &state, int at);
     void settle(const QUuid &event, const QString &text);
-    /// What a row of the conversation draws; a row that grows changes its line.
-    void draw(qint64 row, const QString &title, const QString &art, int at);
+    /// What a row of the conversation draws, as the answer to what the owner said last. A row that
+    /// grows changes its line, which goes when there is no `art` any more. True when one was added.
+    bool draw(qint64 row, const QString &title, const QString &art, int at);
+    /// Nothing for a row that is not drawn here.
+    std::optional<CallLine> drawing(qint64 row) const;
     void clear();
-    /// What the owner said last; empty for nothing yet.
-    QString lastQuestion() const;
-
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -72,7 +73,9 @@ Q_SIGNALS:
     void countChanged();
 
 private:
+    QString lastQuestion() const;
     void append(CallLine line);
+    void remove(qsizetype row);
     void change(qsizetype row, const QString &text, const QString &state);
 
     QList<CallLine> m_lines;

@@ -79,21 +79,26 @@ void CanvasRoom::reopen(const HistoryEntry &entry, Record record) {
     }
 }
 
+/// Empty when nothing was asked by text.
+QString CanvasRoom::questionAbove(qsizetype row) const {
+    const QList<Msg> &messages = m_store.chat()->msgs()->messages();
+    while (--row >= 0) {
+        if (messages.at(row).who == Who::You)
+            return messages.at(row).text;
+    }
+    return {};
+}
+
 void CanvasRoom::showMessageCanvas(const QString &messageId) {
     const MessageModel *messages = m_store.chat()->msgs();
     const qsizetype row = messages->rowOf(QUuid::fromString(messageId));
     if (row < 0 || !messages->messages().at(row).spec)
         return;
     const Msg message = messages->messages().at(row);
-    m_lastQuery = QString();
+    m_lastQuery = m_store.call()->spokenQuestion(message).value_or(questionAbove(row));
     m_lastIntent.reset();
-    for (qsizetype before = row - 1; before >= 0; --before) {
-        if (messages->messages().at(before).who == Who::You) {
-            m_lastQuery = messages->messages().at(before).text;
-            m_lastIntent = canvas::CanvasIntents::classify(m_lastQuery);
-            break;
-        }
-    }
+    if (!m_lastQuery.value().isEmpty())
+        m_lastIntent = canvas::CanvasIntents::classify(m_lastQuery);
     m_drawnSpecKey.reset();
     if (drawScenario(*message.spec, message.chips, Entrance::Still, Record::None))
         nameSource(message);

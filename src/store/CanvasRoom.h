@@ -127,8 +127,9 @@ public:
     /// The scene that is drawn stays in sight while its chat is read anew.
     void keepScene();
     void scheduleScenario(int gen, const Msg &message);
-    /// Draws the answer to a question that was spoken, unless one that was typed is to be answered.
-    void drawSpoken(const Msg &answer, const QString &question);
+    /// A message answers a question that was spoken: it is the answer of the turn, unless that of
+    /// a question that was typed is awaited.
+    void adoptAnswer(const QUuid &answer, const QString &question);
     /// `answer` is the newest answer, which it was restored from.
     void applyRestoredCanvas(const canvas::RestoredCanvas &canvas, const Msg &answer);
     /// Signed out: canvas and history go.
@@ -174,6 +175,7 @@ private:
     };
 
     bool mayDrawEarly(const Msg &message) const;
+    QString questionAbove(qsizetype row) const;
     bool isDrawn(const Msg &message) const;
     bool hasNewDrawing(const Msg &answer) const;
     QCoro::Task<void> settle(int gen, QUuid message, Cancel cancel);

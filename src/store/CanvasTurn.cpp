@@ -108,7 +108,7 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
     m_store.chat()->answerSettled(answer.id);
     m_awaitingAnswer = false;
     const bool isDrawnBefore =
-        m_turn.answer == answer.id || m_earlyDrawnFor.contains(*answer.serverID);
+        m_scenarioDone.contains(*answer.serverID) || m_earlyDrawnFor.contains(*answer.serverID);
     m_turn.answer = answer.id;
     m_scenarioDone.insert(*answer.serverID);
     if (isDrawnBefore)
@@ -117,12 +117,9 @@ QCoro::Task<void> CanvasRoom::settle(int gen, QUuid message, Cancel cancel) {
         runScenario(answer, LinkOpening::Open);
 }
 
-/// From here on it is the answer of the turn: what it grows by is drawn as for any other.
-void CanvasRoom::drawSpoken(const Msg &answer, const QString &question) {
-    if (m_awaitingAnswer || m_turn.answer == answer.id)
-        return;
-    m_turn = {question, canvas::CanvasIntents::classify(question), {}, {}, answer.id};
-    runScenario(answer, LinkOpening::Leave);
+void CanvasRoom::adoptAnswer(const QUuid &answer, const QString &question) {
+    if (!m_awaitingAnswer)
+        m_turn = {question, canvas::CanvasIntents::classify(question), {}, {}, answer};
 }
 
 /// Whether the scene on the canvas was made from this message.

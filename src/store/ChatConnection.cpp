@@ -377,13 +377,13 @@ void ChatRoom::onLiveInsert(int gen, const net::ChatRow &row) {
     }
     const Msg answer = m_msgs.messages().at(at);
     m_liveWaiting = false;
+    m_store.call()->takeRow(answer, shown < 0);
     const bool isAnswer = m_store.canvas()->isAnswer(answer);
     if (isAnswer && answer.serverID) {
         m_msgs.setGrowing(answer.id);
         m_canStop = isStoppable();
     }
     m_store.canvas()->scheduleScenario(gen, answer);
-    m_store.call()->takeRow(answer, shown < 0);
     if (isAnswer && !answer.serverID) {
         m_isAnswered = true;
         Q_EMIT answerEnded(answer.id);

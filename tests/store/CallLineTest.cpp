@@ -89,7 +89,10 @@ private Q_SLOTS:
         QVERIFY(f.signIn());
         f.row(20, u"Before"_s);
         SOON_COMPARE(f.texts().last(), u"Before"_s);
-        QVERIFY(f.connect());
+        QVERIFY(f.dial());
+        f.row(19, u"Too early\n\n"_s + test::reportBlock);
+        SOON_VERIFY(f.texts().last().startsWith(u"Too early"_s));
+        f.connected();
         f.clock.advance(4s);
         f.row(20, u"Before\n\n"_s + test::reportBlock);
         f.row(21, u"No drawing"_s);
@@ -97,13 +100,15 @@ private Q_SLOTS:
         SOON_COMPARE(f.texts().last(), u"Here it is."_s);
         QCOMPARE(f.lines(), QStringList());
         f.say(u"user"_s, u"How was the week?"_s);
+        f.say(u"user"_s, u"And wh"_s, u"partial"_s);
         f.row(22, u"Here it is.\n\n"_s + test::reportBlock);
-        SOON_COMPARE(f.lines(), (QStringList{u"How was the week?"_s, u"Week 47"_s}));
+        const QStringList said{u"How was the week?"_s, u"And wh / partial"_s};
+        SOON_COMPARE(f.lines(), said + QStringList{u"Week 47"_s});
         QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 47"_s);
         QCOMPARE(f.store->canvas()->query(), u"How was the week?"_s);
         QString grown = test::reportBlock;
         f.row(22, u"Here it is.\n\n"_s + grown.replace(u"Week 47"_s, u"Week 48"_s));
-        SOON_COMPARE(f.lines(), (QStringList{u"How was the week?"_s, u"Week 48"_s}));
+        SOON_COMPARE(f.lines(), said + QStringList{u"Week 48"_s});
         f.clock.advance(2s);
         QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 48"_s);
         QCOMPARE(f.store->canvas()->history()->count(), 1);
@@ -118,6 +123,7 @@ private Q_SLOTS:
         QVERIFY(f.store->layout()->isFeed());
         QCOMPARE(f.store->canvas()->canvasTitle(), u"Week 48"_s);
         QCOMPARE(f.store->canvas()->sourceMessageId(), f.call()->messageOf(*line.action));
+        QCOMPARE(f.store->canvas()->query(), u"How was the week?"_s);
         f.store->door()->open(*ChatLink::parse(u"kiv://chat/agent/scout"_s));
         f.call()->showCall();
         f.call()->showDrawing(*line.action);
@@ -126,10 +132,46 @@ private Q_SLOTS:
         QVERIFY(f.streaming(u"api/v2/custom-agents/scout/chat"_s, 1));
         f.row(22, u"Of Scout\n\n"_s + test::reportBlock);
         SOON_VERIFY(f.texts().last().startsWith(u"Of Scout"_s));
-        QCOMPARE(f.lines().size(), 2);
+        QCOMPARE(f.lines().size(), 3);
         f.call()->hangupCall();
         QVERIFY(f.connect());
         QCOMPARE(f.lines(), QStringList());
+    }
+
+    /// What was asked by text is answered in the conversation, and stays as it is when stopped.
+    void whatIsTypedMeanwhile() {
+        CallFixture f;
+        QVERIFY(f.signIn());
+        QVERIFY(f.connect());
+        f.say(u"user"_s, u"How was the week?"_s);
+        f.backend.answer(test::kivPost,
+                         R"({"message":)" + test::rowJson(7, u"user"_s, u"And now?"_s) + "}");
+        f.store->chat()->send(u"And now?"_s);
+        SOON_VERIFY(f.msgs().rowOfServerID(7) >= 0);
+        f.row(8, u"Let me see."_s);
+        SOON_COMPARE(f.texts().last(), u"Let me see."_s);
+        f.store->chat()->stopLive();
+        f.row(8, test::reportBlock);
+        SOON_COMPARE(f.texts().last(), test::reportBlock);
+        f.clock.advance(2s);
+        QCOMPARE(f.lines(), QStringList{u"How was the week?"_s});
+        QCOMPARE(f.store->canvas()->state(), CanvasState::Empty);
+        // A drawing that turns out to be none leaves nothing.
+        f.row(9, u"- one: 1\n- two: 2\n- three: 3"_s);
+        SOON_COMPARE(f.lines().size(), 2);
+        f.row(9, u"Nothing of that."_s);
+        SOON_COMPARE(f.lines(), QStringList{u"How was the week?"_s});
+        // What becomes one while a typed question waits leaves that question to its answer.
+        f.backend.answer(test::kivPost,
+                         R"({"message":)" + test::rowJson(10, u"user"_s, u"And then?"_s) + "}");
+        f.store->chat()->send(u"And then?"_s);
+        SOON_VERIFY(f.msgs().rowOfServerID(10) >= 0);
+        f.row(9, test::reportBlock);
+        SOON_COMPARE(f.lines().size(), 2);
+        QVERIFY(f.store->canvas()->awaitingAnswer());
+        f.row(11, u"Then this.\n\n"_s + test::reportBlock);
+        SOON_COMPARE(f.store->canvas()->art(), u"report"_s);
+        QCOMPARE(f.store->canvas()->query(), u"And then?"_s);
     }
 
     void muteAndHold() {

@@ -102,6 +102,8 @@ void CallWordsTest::drawings() {
     m_workspace->say(u"ai"_s, u"Who reads is left in peace."_s);
     QTest::qWait(100);
     QVERIFY(inSight());
+    m_workspace->store->canvas()->clearCanvas();
+    QTRY_COMPARE(heard(u"drawnInCall"_s), u"Show Load for the coming week on the canvas"_s);
     m_gallery->press(Qt::Key_Return);
     QVERIFY(!room().callShown());
     QVERIFY(room().call());

@@ -1,10 +1,13 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kiv.Call
 import Kiv.Chat
+import Kiv.Controls
 import Kiv.Store
 
 // One line of a running call: something said, something that happened, or something drawn.
-FocusScope {
+Item {
     id: line
 
     required property int index
@@ -17,8 +20,10 @@ FocusScope {
     required property int at
     required property AppStore store
     readonly property CallRoom call: store.call
+    /// The keys have come to what can be pressed in it.
+    readonly property bool byKey: (drawing.made as CanvasCard)?.visualFocus ?? false
 
-    implicitHeight: speech.visible ? speech.implicitHeight : event.visible ? event.implicitHeight : card.implicitHeight
+    implicitHeight: speech.visible ? speech.implicitHeight : event.visible ? event.implicitHeight : drawing.implicitHeight
 
     SpokenLine {
         id: speech
@@ -39,21 +44,24 @@ FocusScope {
         id: event
 
         width: parent.width
-        visible: !speech.visible && !card.visible
+        visible: !speech.visible && !drawing.visible
         words: line.text
         seconds: line.at
     }
-    CanvasCard {
-        id: card
+    LatePlace {
+        id: drawing
 
-        objectName: "drawnInCall"
         x: 40
         width: parent.width - x
-        visible: line.art !== ""
-        title: line.text
-        art: line.art
-        // Looked up anew whenever the canvas changes.
-        shown: line.store.canvas.sourceMessageId !== "" && line.store.canvas.sourceMessageId === line.call.messageOf(line.action)
-        onClicked: line.call.showDrawing(line.action)
+        wanted: line.art !== ""
+        content: CanvasCard {
+            objectName: "drawnInCall"
+            width: drawing.width
+            title: line.text
+            art: line.art
+            // Looked up anew whenever the canvas changes.
+            shown: line.store.canvas.sourceMessageId !== "" && line.store.canvas.sourceMessageId === line.call.messageOf(line.action)
+            onClicked: line.call.showDrawing(line.action)
+        }
     }
 }

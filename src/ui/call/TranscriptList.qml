@@ -74,7 +74,7 @@ Flickable {
                 objectName: "transcriptLine:" + index
                 width: column.width
                 store: view.store
-                onActiveFocusChanged: if (activeFocus) view.reveal(column.y + y, height)
+                onByKeyChanged: if (byKey) view.reveal(column.y + y, height)
             }
         }
     }
