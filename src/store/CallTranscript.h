@@ -65,6 +65,7 @@ public:
     /// Nothing for a row that is not drawn here.
     std::optional<CallLine> drawing(qint64 row) const;
     void clear();
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
